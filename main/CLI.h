@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <iosfwd>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "desktop/ClaudeApp.h"
+#include "store/ProfileStore.h"
+
+namespace selvane {
+
+/// The drawing that only the windows' module can do.
+class Artwork {
+public:
+    virtual ~Artwork() = default;
+    virtual void renderIcon(const std::filesystem::path& iconset) = 0;
+    virtual void renderDMGBackground(const std::filesystem::path& folder) = 0;
+};
+
+namespace CLI {
+
+/// What a command works with. `arguments[0]` is the command word.
+struct Call {
+    const std::vector<std::string>& arguments;
+    ProfileStore& store;
+    const ClaudeApp& claude;
+    Artwork& artwork;
+    std::ostream& out;
+};
+
+struct Command {
+    std::string_view word;
+    std::string_view syntax; ///< what follows the word
+    void (*run)(const Call& call);
+};
+
+/// All command words; they match exactly.
+std::span<const Command> commands();
+bool isCommand(std::string_view word);
+
+/// Runs one command: 0, or 1 after writing "Errore: " and the reason to `err`.
+int run(const Call& call, std::ostream& err);
+
+} // namespace CLI
+} // namespace selvane

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include <exception>
+#include <ostream>
+
+#include "cli/Arguments.h"
+#include "cli/Commands.h"
+#include "model/LauncherError.h"
+
+namespace selvane::CLI {
+
+void launch(const Call& call) {
+    const Profile target = profile(call);
+    ProfileStore& store = call.store;
+    if (const auto open = store.instance(target)) {
+        if (store.runs(*open, target)) {
+            call.claude.activate(*open);
+            return;
+        }
+        // The data folder stays busy until the helper processes have ended too.
+        const auto isFree = [&] { return !store.desktopDataInUse(store.desktopDataDir(target)); };
+        if (!call.claude.quit({*open}, ClaudeApp::QuitKind::polite, ClaudeApp::kQuitTimeout, isFree))
+            throw LauncherError("Claude non si è chiuso");
+    }
+    call.claude.launch(target, store);
+}
+
+void desktopStatus(const Call& call) {
+    const ProfileStore& store = call.store;
+    call.out << "cartella normale: " << field(store.desktopLiveOwner())
+             << (store.needsDesktopRestore() ? " (da ripristinare)" : "") << '\n';
+    std::exception_ptr failure; // a damaged record doesn't hide the others
+    for (const Profile& profile : store.loadAll()) {
+        try {
+            const bool hasData = store.hasDesktopData(profile);
+            call.out << field(profile.id) << "\taccount=" << field(profile.accountOwner()) << "\tdati="
+                     << (hasData ? field(store.desktopDataDir(profile).string()) : "nessuno (login al primo avvio)")
+                     << '\n';
+        } catch (const LauncherError&) {
+            failure = std::current_exception();
+        }
+    }
+    for (const ClaudeApp::Instance& instance : store.claudeInstances()) {
+        call.out << "aperto pid=" << instance.pid() << "\tdati=" << field(instance.dataDir)
+                 << "\tconfig=" << field(instance.config.value_or("~/.claude")) << '\n';
+    }
+    if (failure)
+        std::rethrow_exception(failure);
+}
+
+void restoreDesktop(const Call& call) {
+    call.store.restoreDesktopData();
+    call.out << "dati Desktop al loro posto\n";
+}
+
+void processes(const Call& call) {
+    const ProfileStore& store = call.store;
+    for (const ProcInfo& process : call.claude.allProcesses({store.liveDesktopDir(), store.desktopStore()}))
+        call.out << process.pid << '\t' << field(process.path) << '\n';
+}
+
+} // namespace selvane::CLI

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+
+namespace selvane {
+
+/// What a backup holds: a set of bits.
+struct BackupScope {
+    std::uint32_t rawValue = 0;
+
+    constexpr bool contains(BackupScope other) const { return (rawValue & other.rawValue) == other.rawValue; }
+    bool operator==(const BackupScope&) const = default;
+
+    static const BackupScope principal; ///< the built-in profile's items
+    static const BackupScope profiles;  ///< the profiles root
+    static const BackupScope all;
+};
+
+inline constexpr BackupScope BackupScope::principal{1};
+inline constexpr BackupScope BackupScope::profiles{2};
+inline constexpr BackupScope BackupScope::all{3};
+
+struct BackupResult {
+    std::filesystem::path archive;
+    std::int64_t size = 0;     ///< bytes
+    bool skippedFiles = false; ///< some files couldn't be read
+
+    bool operator==(const BackupResult&) const = default;
+};
+
+} // namespace selvane

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <filesystem>
+#include <set>
+#include <string>
+#include <string_view>
+
+#include "model/Component.h"
+#include "model/ProfileMeta.h"
+
+namespace selvane {
+
+/// One profile: a Claude Code configuration folder with its metadata.
+struct Profile {
+    static constexpr std::string_view kDefaultId = "default";
+
+    std::string id; ///< name of its folder in the profiles root, or "default" for the built-in profile
+    ProfileMeta meta;
+    std::filesystem::path configDir;
+
+    /// Whether it can be the name of a profile's folder, and so of a folder for its account: one visible name,
+    /// no path.
+    static bool isPossibleId(std::string_view id);
+
+    bool isDefault() const { return id == kDefaultId; }
+    /// Profiles with the same owner share one Claude Desktop data folder.
+    std::string accountOwner() const;
+    /// `none` for a component without an entry, whatever its default mode.
+    ShareMode mode(Component component) const;
+    std::set<std::string> excluded(Component component) const;
+    std::filesystem::path url(Component component) const; ///< where the component lies
+
+    bool operator==(const Profile&) const = default;
+};
+
+} // namespace selvane

@@ -1,0 +1,206 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "model/ProfileMeta.h"
+
+#include <cstdio>
+
+#include "model/ByteText.h"
+#include "platform/Json.h"
+
+namespace selvane {
+namespace {
+
+/// Thrown inside this file by a record that can't be used, and turned into "nothing" at its edge.
+struct InvalidRecord {};
+
+std::string iso8601(Timestamp time) {
+    const auto day = std::chrono::floor<std::chrono::days>(time);
+    const std::chrono::year_month_day date(day);
+    const std::chrono::hh_mm_ss clock(time - day);
+    char text[40];
+    std::snprintf(text, sizeof text, "%04d-%02u-%02uT%02d:%02d:%02dZ", static_cast<int>(date.year()),
+                  static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()),
+                  static_cast<int>(clock.hours().count()), static_cast<int>(clock.minutes().count()),
+                  static_cast<int>(clock.seconds().count()));
+    return text;
+}
+
+/// Reads fixed-width fields of a date from left to right.
+class DateReader {
+public:
+    explicit DateReader(std::string_view text) : m_rest(text) {}
+
+    int number(std::size_t width) {
+        if (m_rest.size() < width)
+            throw InvalidRecord{};
+        int value = 0;
+        for (const char digit : m_rest.substr(0, width)) {
+            if (digit < '0' || digit > '9')
+                throw InvalidRecord{};
+            value = value * 10 + (digit - '0');
+        }
+        m_rest.remove_prefix(width);
+        return value;
+    }
+
+    char oneOf(std::string_view characters) {
+        if (m_rest.empty() || characters.find(m_rest.front()) == std::string_view::npos)
+            throw InvalidRecord{};
+        const char found = m_rest.front();
+        m_rest.remove_prefix(1);
+        return found;
+    }
+
+    bool atEnd() const { return m_rest.empty(); }
+
+private:
+    std::string_view m_rest;
+};
+
+std::chrono::seconds zoneOffset(DateReader& reader) {
+    const char sign = reader.oneOf("Z+-");
+    if (sign == 'Z')
+        return {};
+    const std::chrono::hours hours(reader.number(2));
+    reader.oneOf(":");
+    const std::chrono::minutes minutes(reader.number(2));
+    return sign == '+' ? hours + minutes : -(hours + minutes);
+}
+
+Timestamp timestamp(std::string_view text) {
+    using namespace std::chrono;
+    DateReader reader(text);
+    const year dateYear(reader.number(4));
+    reader.oneOf("-");
+    const month dateMonth(static_cast<unsigned>(reader.number(2)));
+    reader.oneOf("-");
+    const day dateDay(static_cast<unsigned>(reader.number(2)));
+    reader.oneOf("T");
+    const int hour = reader.number(2);
+    reader.oneOf(":");
+    const int minute = reader.number(2);
+    reader.oneOf(":");
+    const int second = reader.number(2);
+    const seconds offset = zoneOffset(reader);
+    const year_month_day date(dateYear, dateMonth, dateDay);
+    if (!reader.atEnd() || !date.ok() || hour > 23 || minute > 59 || second > 60)
+        throw InvalidRecord{};
+    return sys_days(date) + hours(hour) + minutes(minute) + seconds(second) - offset;
+}
+
+/// The value of a key that may be missing or null.
+const Json* optionalValue(const Json& object, std::string_view key) {
+    const Json* value = json::find(object, key);
+    return value == nullptr || value->is_null() ? nullptr : value;
+}
+
+std::string requireText(const Json& value) {
+    if (!value.is_string())
+        throw InvalidRecord{};
+    return bytesFromText(value.get_ref<const std::string&>());
+}
+
+std::optional<std::string> optionalText(const Json& object, std::string_view key) {
+    const Json* value = optionalValue(object, key);
+    return value == nullptr ? std::nullopt : std::optional(requireText(*value));
+}
+
+std::optional<Timestamp> optionalDate(const Json& object, std::string_view key) {
+    const Json* value = optionalValue(object, key);
+    return value == nullptr ? std::nullopt : std::optional(timestamp(requireText(*value)));
+}
+
+const Json& requireObject(const Json& value) {
+    if (!value.is_object())
+        throw InvalidRecord{};
+    return value;
+}
+
+std::map<std::string, ShareMode> modes(const Json& value) {
+    std::map<std::string, ShareMode> result;
+    for (const auto& [key, mode] : requireObject(value).items()) {
+        const auto known = shareMode(requireText(mode));
+        if (!known)
+            throw InvalidRecord{};
+        result[key] = *known;
+    }
+    return result;
+}
+
+std::map<std::string, std::vector<std::string>> exclusions(const Json& value) {
+    std::map<std::string, std::vector<std::string>> result;
+    for (const auto& [key, names] : requireObject(value).items()) {
+        if (!names.is_array())
+            throw InvalidRecord{};
+        auto& list = result[key];
+        list.clear();
+        for (const Json& name : names)
+            list.push_back(requireText(name));
+    }
+    return result;
+}
+
+ProfileMeta metaFrom(const Json& object) {
+    ProfileMeta meta;
+    const auto name = optionalText(requireObject(object), "name");
+    if (!name)
+        throw InvalidRecord{};
+    meta.name = *name;
+    meta.summary = optionalText(object, "summary").value_or(meta.summary);
+    meta.symbol = optionalText(object, "symbol").value_or(meta.symbol);
+    meta.source = optionalText(object, "source");
+    if (const Json* value = optionalValue(object, "modes"))
+        meta.modes = modes(*value);
+    if (const Json* value = optionalValue(object, "excluded"))
+        meta.excluded = exclusions(*value);
+    meta.account = optionalText(object, "account");
+    meta.created = optionalDate(object, "created").value_or(meta.created);
+    meta.lastLaunched = optionalDate(object, "lastLaunched");
+    return meta;
+}
+
+} // namespace
+
+Timestamp currentTimestamp() {
+    return std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+}
+
+std::string encoded(const ProfileMeta& meta) {
+    Json excluded = Json::object();
+    for (const auto& [component, names] : meta.excluded) {
+        Json& list = excluded[component] = Json::array();
+        for (const auto& name : names)
+            list.push_back(textFromBytes(name));
+    }
+    Json modes = Json::object();
+    for (const auto& [component, mode] : meta.modes)
+        modes[component] = rawValue(mode);
+
+    Json object = Json::object(); // keys in alphabetical order
+    if (meta.account)
+        object["account"] = textFromBytes(*meta.account);
+    object["created"] = iso8601(meta.created);
+    object["excluded"] = std::move(excluded);
+    if (meta.lastLaunched)
+        object["lastLaunched"] = iso8601(*meta.lastLaunched);
+    object["modes"] = std::move(modes);
+    object["name"] = textFromBytes(meta.name);
+    if (meta.source)
+        object["source"] = textFromBytes(*meta.source);
+    object["summary"] = textFromBytes(meta.summary);
+    object["symbol"] = textFromBytes(meta.symbol);
+    return json::serialized(object);
+}
+
+std::optional<ProfileMeta> decodedProfileMeta(std::string_view text) {
+    try {
+        return metaFrom(json::parse(text, {}));
+    } catch (const JsonError&) {
+        return std::nullopt;
+    } catch (const InvalidRecord&) {
+        return std::nullopt;
+    }
+}
+
+} // namespace selvane

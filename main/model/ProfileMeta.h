@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <chrono>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "model/ShareMode.h"
+
+namespace selvane {
+
+using Timestamp = std::chrono::sys_seconds; ///< UTC, whole seconds
+
+Timestamp currentTimestamp();
+
+/// The metadata record of one profile, as kept in its `.launcher.json`.
+struct ProfileMeta {
+    std::string name;
+    std::string summary;
+    std::string symbol = "person.crop.circle"; ///< name of an SF Symbol
+    std::optional<std::string> source;         ///< id of the profile the components were taken from
+    std::map<std::string, ShareMode> modes;    ///< by the component's raw value
+    /// By the component's raw value: names of items deliberately not taken from the source. Names are bytes.
+    std::map<std::string, std::vector<std::string>> excluded;
+    std::optional<std::string> account; ///< id of the profile whose account this one uses; none: its own
+    Timestamp created = currentTimestamp();
+    std::optional<Timestamp> lastLaunched;
+
+    bool operator==(const ProfileMeta&) const = default;
+};
+
+/// Pretty-printed with sorted keys and dates like 2025-03-01T09:30:00Z.
+std::string encoded(const ProfileMeta& meta);
+
+/// Reads a record. Keys other than "name" may be missing or null, unknown ones are ignored; nothing when the
+/// text is no JSON object, has no name, or holds a known key of the wrong type or with an invalid value.
+std::optional<ProfileMeta> decodedProfileMeta(std::string_view text);
+
+} // namespace selvane

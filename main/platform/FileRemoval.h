@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <filesystem>
+
+namespace selvane::files {
+
+/// `FileManager::removeTree`. Errors name the path below `named` (what the user calls `path`).
+void removeTree(const std::filesystem::path& path, const std::filesystem::path& named);
+
+} // namespace selvane::files

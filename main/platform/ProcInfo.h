@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace selvane {
+
+/// One process of the machine, as the kernel keeps it at the moment of reading.
+struct ProcInfo {
+    std::int32_t pid = 0;
+    std::int32_t ppid = 0;       ///< 0 when it couldn't be read
+    std::uint64_t startTime = 0; ///< tells a process from a later one with the same pid; 0 when unknown
+    std::string path;            ///< absolute path of the executable, also when it was replaced since
+    std::vector<std::string> args;
+    std::map<std::string, std::string> env;
+
+    /// Nothing when there is no such process or its executable can't be told (another user's process).
+    static std::optional<ProcInfo> read(std::int32_t pid);
+    /// Every readable process, in the order of the kernel's list.
+    static std::vector<ProcInfo> all();
+
+    bool operator==(const ProcInfo&) const = default;
+};
+
+} // namespace selvane

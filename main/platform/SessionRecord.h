@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace selvane {
+
+/// The fields of a session record that the program reads, absent where missing or of another type.
+struct SessionRecord {
+    std::string sessionId;
+    std::optional<std::string> title;
+    std::optional<std::string> cwd;
+    std::optional<double> lastActivityAt; ///< milliseconds since 1970
+    bool isArchived = false;
+    std::optional<std::string> cliSessionId;
+    std::vector<std::string> priorCliSessionIds; ///< empty unless all elements are texts
+};
+
+/// Reads session records quickly; one reader serves many files and reuses its memory.
+class SessionRecordReader {
+public:
+    SessionRecordReader();
+    ~SessionRecordReader();
+    SessionRecordReader(const SessionRecordReader&) = delete;
+    SessionRecordReader& operator=(const SessionRecordReader&) = delete;
+
+    /// Nothing when the file can't be read, is no JSON object, or has no text under "sessionId".
+    std::optional<SessionRecord> read(const std::string& file);
+
+private:
+    void* m_state;
+};
+
+} // namespace selvane

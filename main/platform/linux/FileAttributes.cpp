@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include <cerrno>
+#include <string>
+#include <string_view>
+#include <sys/stat.h>
+#include <sys/xattr.h>
+
+#include "platform/FileCopy.h"
+
+namespace selvane::files {
+namespace {
+
+constexpr const char* kAccessList = "system.posix_acl_access";
+constexpr const char* kDefaultAccessList = "system.posix_acl_default";
+
+bool isCopied(std::string_view name) {
+    return name.starts_with("user.") || name == kAccessList || name == kDefaultAccessList;
+}
+
+/// Refused by the file system or its mount, as opposed to broken.
+bool isUnsupported(int error) {
+    return error == ENOTSUP || error == EPERM;
+}
+
+/// Reads what a call of the form (buffer, size) gives; nothing, and errno, on failure.
+template <typename Read>
+std::optional<std::string> readGrowing(Read read) {
+    std::string bytes(256, '\0');
+    while (true) {
+        ssize_t size = read(bytes.data(), bytes.size());
+        if (size >= 0) {
+            bytes.resize(static_cast<std::size_t>(size));
+            return bytes;
+        }
+        if (errno != ERANGE || (size = read(nullptr, 0)) < 0)
+            return std::nullopt;
+        bytes.resize(static_cast<std::size_t>(size));
+    }
+}
+
+/// 0 or the error; an attribute that is gone by now counts as copied.
+int copyAttribute(int from, int to, const char* name) {
+    const auto value =
+        readGrowing([&](char* buffer, std::size_t size) { return ::fgetxattr(from, name, buffer, size); });
+    if (!value)
+        return errno == ENODATA ? 0 : errno;
+    return ::fsetxattr(to, name, value->data(), value->size(), 0) == 0 ? 0 : errno;
+}
+
+} // namespace
+
+std::optional<mode_t> copyAttributes(int from, int to, mode_t mode) {
+    const ssize_t needed = ::flistxattr(from, nullptr, 0);
+    if (needed == 0 || (needed < 0 && isUnsupported(errno)))
+        return mode;
+    const auto names =
+        readGrowing([&](char* buffer, std::size_t size) { return ::flistxattr(from, buffer, size); });
+    if (!names)
+        return std::nullopt;
+    for (std::size_t at = 0; at < names->size();) {
+        const char* name = names->data() + at;
+        at += std::string_view(name).size() + 1;
+        const int error = isCopied(name) ? copyAttribute(from, to, name) : 0;
+        if (error == 0)
+            continue;
+        if (!isUnsupported(error)) {
+            errno = error;
+            return std::nullopt;
+        }
+        // With an access list the group's bits say what its entries get at most, without it what the group
+        // gets: those are others.
+        if (std::string_view(name) == kAccessList)
+            mode &= ~static_cast<mode_t>(S_IRWXG);
+    }
+    return mode;
+}
+
+void dropInheritedAccess(int file) {
+    // No failure matters: there is none, or there can be none.
+    static_cast<void>(::fremovexattr(file, kAccessList));
+    static_cast<void>(::fremovexattr(file, kDefaultAccessList));
+}
+
+} // namespace selvane::files

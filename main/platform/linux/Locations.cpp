@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/Locations.h"
+
+namespace selvane {
+
+std::filesystem::path applicationDataFolder(const Environment& environment, const std::string& name,
+                                            const std::function<bool()>& isInstalled) {
+    const std::filesystem::path home = homeFolder(environment);
+    const auto configured = environment.find("XDG_CONFIG_HOME");
+    // The base-directory rules make a relative value as good as none.
+    const bool usable = configured != environment.end() && configured->second.starts_with('/');
+    const auto folder = (usable ? std::filesystem::path(configured->second) : home / ".config") / name;
+    std::error_code ignored;
+    if (std::filesystem::exists(folder, ignored) || isInstalled())
+        return folder;
+    return home / "Library/Application Support" / name;
+}
+
+std::string backupRestoreAdvice() {
+    return "\nSu Linux:\n"
+           "- i login di Claude Code (.credentials.json) sono nell'archivio: conservalo al sicuro;\n"
+           "- al passo 3, nel terminale: unzip \"<questo archivio>.zip\" -d ~\n"
+           "- i percorsi che iniziano con \"/\" stavano fuori dalla cartella home: unzip li estrae sotto ~.\n";
+}
+
+} // namespace selvane

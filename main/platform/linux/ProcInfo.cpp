@@ -1,0 +1,176 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/ProcInfo.h"
+
+#include <fcntl.h>
+#include <limits.h>
+#include <unistd.h>
+
+#include <array>
+#include <charconv>
+#include <string_view>
+
+#include "platform/Descriptor.h"
+#include "platform/linux/ProcStat.h"
+
+namespace selvane {
+namespace {
+
+constexpr std::string_view kDeletedMark = " (deleted)";
+constexpr std::size_t kFirstBufferSize = 16384;
+
+template <typename Number>
+std::optional<Number> parseNumber(std::string_view text) {
+    Number number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc() || end != text.data() + text.size())
+        return std::nullopt;
+    return number;
+}
+
+/// Calls `use` for each part of `bytes` that a NUL ends; the last one may lack it.
+template <typename Use>
+void forEachTerminated(std::string_view bytes, Use use) {
+    while (!bytes.empty()) {
+        const std::size_t end = bytes.find('\0');
+        use(bytes.substr(0, end));
+        bytes.remove_prefix(end == std::string_view::npos ? bytes.size() : end + 1);
+    }
+}
+
+std::vector<std::string> splitArguments(std::string_view bytes) {
+    std::vector<std::string> arguments;
+    forEachTerminated(bytes, [&](std::string_view argument) { arguments.emplace_back(argument); });
+    return arguments;
+}
+
+std::map<std::string, std::string> splitEnvironment(std::string_view bytes) {
+    std::map<std::string, std::string> environment;
+    forEachTerminated(bytes, [&](std::string_view variable) {
+        const std::size_t sign = variable.find('=');
+        if (sign != std::string_view::npos)
+            environment.insert_or_assign(std::string(variable.substr(0, sign)),
+                                         std::string(variable.substr(sign + 1)));
+    });
+    return environment;
+}
+
+/// Reads processes one after the other, with one buffer for all of them.
+class ProcReader {
+public:
+    ProcReader() : m_table(::open("/proc", O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {}
+
+    /// Names in the process table, those that are no process included.
+    template <typename Use>
+    void forEachName(Use use) const {
+        files::forEachEntry(m_table.get(), [&](const char* name, unsigned char) { use(name); });
+    }
+
+    /// Opened once, the folder stands for this very process: its files are gone when a later process gets
+    /// the same pid.
+    bool open(const char* pid) {
+        m_process = files::Descriptor(::openat(m_table.get(), pid, O_PATH | O_DIRECTORY | O_CLOEXEC));
+        return static_cast<bool>(m_process);
+    }
+
+    std::optional<ProcStat> stat() { return ProcStat::parse(contents("stat")); }
+
+    std::optional<ProcInfo> info(std::int32_t pid) {
+        std::optional<std::string> path = executable();
+        if (!path)
+            return std::nullopt;
+        ProcInfo info;
+        info.pid = pid;
+        info.path = std::move(*path);
+        if (const std::optional<ProcStat> status = stat()) {
+            info.ppid = status->ppid;
+            info.startTime = status->startTime;
+        }
+        info.args = splitArguments(contents("cmdline"));
+        info.env = splitEnvironment(contents("environ"));
+        return info;
+    }
+
+private:
+    std::optional<std::string> executable() const {
+        std::array<char, PATH_MAX> target; // the kernel gives no longer one
+        const ssize_t size = ::readlinkat(m_process.get(), "exe", target.data(), target.size());
+        if (size <= 0 || target[0] != '/')
+            return std::nullopt;
+        std::string_view path(target.data(), static_cast<std::size_t>(size));
+        // The application was upgraded while it runs.
+        if (path.ends_with(kDeletedMark))
+            path.remove_suffix(kDeletedMark.size());
+        return std::string(path);
+    }
+
+    /// Valid until the next call; empty when it can't be read.
+    std::string_view contents(const char* name) {
+        const files::Descriptor file(::openat(m_process.get(), name, O_RDONLY | O_CLOEXEC));
+        if (!file)
+            return {};
+        std::size_t filled = 0;
+        for (;;) {
+            if (filled == m_buffer.size())
+                m_buffer.resize(m_buffer.size() * 2);
+            const ssize_t count = ::read(file.get(), m_buffer.data() + filled, m_buffer.size() - filled);
+            if (count <= 0)
+                return {m_buffer.data(), filled};
+            filled += static_cast<std::size_t>(count);
+        }
+    }
+
+    files::Descriptor m_table;
+    files::Descriptor m_process;
+    std::vector<char> m_buffer = std::vector<char>(kFirstBufferSize);
+};
+
+} // namespace
+
+std::optional<ProcStat> ProcStat::parse(std::string_view line) {
+    // The command name may itself hold spaces and parentheses; what follows it never does.
+    const std::size_t nameEnd = line.rfind(')');
+    if (nameEnd == std::string_view::npos)
+        return std::nullopt;
+    constexpr std::size_t kState = 3, kParent = 4, kStartTime = 22; // as the kernel counts the fields
+    std::array<std::string_view, kStartTime + 1> fields;
+    std::size_t position = nameEnd + 1;
+    for (std::size_t field = kState; field <= kStartTime; ++field) {
+        if (position >= line.size() || line[position] != ' ')
+            return std::nullopt;
+        const std::size_t end = line.find_first_of(" \n", position + 1);
+        fields[field] = line.substr(position + 1, end - position - 1);
+        position = end;
+    }
+    const auto parent = parseNumber<std::int32_t>(fields[kParent]);
+    const auto startTime = parseNumber<std::uint64_t>(fields[kStartTime]);
+    if (fields[kState].size() != 1 || !parent || !startTime)
+        return std::nullopt;
+    return ProcStat{fields[kState].front(), *parent, *startTime};
+}
+
+std::optional<ProcStat> ProcStat::read(std::int32_t pid) {
+    ProcReader reader;
+    return reader.open(std::to_string(pid).c_str()) ? reader.stat() : std::nullopt;
+}
+
+std::optional<ProcInfo> ProcInfo::read(std::int32_t pid) {
+    ProcReader reader;
+    return reader.open(std::to_string(pid).c_str()) ? reader.info(pid) : std::nullopt;
+}
+
+std::vector<ProcInfo> ProcInfo::all() {
+    std::vector<ProcInfo> processes;
+    ProcReader reader;
+    reader.forEachName([&](const char* name) {
+        const auto pid = parseNumber<std::int32_t>(name);
+        if (!pid || !reader.open(name))
+            return;
+        if (std::optional<ProcInfo> process = reader.info(*pid))
+            processes.push_back(std::move(*process));
+    });
+    return processes;
+}
+
+} // namespace selvane

@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace selvane {
+
+/// What the status line of a process tells, whoever owns it.
+struct ProcStat {
+    char state = 0;
+    std::int32_t ppid = 0;
+    std::uint64_t startTime = 0;
+
+    bool isEnded() const { return state == 'Z' || state == 'X'; } ///< only its exit status is left
+
+    /// Nothing when the line is not complete.
+    static std::optional<ProcStat> parse(std::string_view line);
+    /// Nothing when there is no such process.
+    static std::optional<ProcStat> read(std::int32_t pid);
+};
+
+} // namespace selvane

@@ -1,0 +1,169 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "store/ProfileStore.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <random>
+#include <cstdio>
+#include <functional>
+#include <system_error>
+
+#include "model/LauncherError.h"
+#include "platform/Locations.h"
+#include "platform/Text.h"
+#include "store/ZipList.h"
+
+namespace selvane {
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path kZip = "/usr/bin/zip";
+constexpr int kZipSkippedFiles = 18;
+constexpr std::string_view kReadmeName = "LEGGIMI-backup.txt";
+
+std::string backupReadme(const std::vector<std::string>& paths) {
+    std::string text = "Backup di Claude creato da Selvane il " + text::longDate(std::chrono::system_clock::now()) +
+                       ".\n\nContiene (percorsi relativi alla cartella home):\n";
+    for (std::size_t i = 0; i < paths.size(); ++i) {
+        text += i == 0 ? "" : "\n";
+        text += (paths[i].starts_with('/') ? "  " : "  ~/") + paths[i];
+    }
+    text += "\n\nNon contiene cache, macchine virtuali e binari di Claude Code: Claude li riscarica da solo.\n"
+            "I login restano nel Portachiavi di questo Mac: su un altro Mac servirà rifare l'accesso.\n"
+            "\nPer ripristinare:\n"
+            "1. chiudi Claude (e Selvane);\n"
+            "2. sposta nel Cestino le cartelle elencate sopra, se esistono;\n"
+            "3. nel Terminale: ditto -x -k \"<questo archivio>.zip\" ~\n";
+    return text + backupRestoreAdvice();
+}
+
+/// A folder of our own in the system's temporary folder, gone with this object.
+class TemporaryFolder {
+public:
+    TemporaryFolder() : m_path(fs::temp_directory_path() / ("selvane-backup-" + uuid())) {
+        m_files.createFolder(m_path);
+    }
+    ~TemporaryFolder() {
+        try {
+            m_files.removeTree(m_path);
+        } catch (const fs::filesystem_error&) { // the system clears that place anyway
+        }
+    }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+    const fs::path& path() const { return m_path; }
+
+private:
+    static std::string uuid() {
+        std::random_device random;
+        std::array<unsigned, 4> words{};
+        std::generate(words.begin(), words.end(), std::ref(random));
+        words[1] = (words[1] & 0xFFFF0FFFU) | 0x4000U; // version 4
+        words[2] = (words[2] & 0x3FFFFFFFU) | 0x80000000U;
+        char text[40];
+        std::snprintf(text, sizeof text, "%08X-%04X-%04X-%04X-%04X%08X", words[0], words[1] >> 16,
+                      words[1] & 0xFFFFU, words[2] >> 16, words[2] & 0xFFFFU, words[3]);
+        return text;
+    }
+
+    FileManager m_files;
+    fs::path m_path;
+};
+
+/// A folder would go to the Trash as a whole, and so would what is to be saved.
+void requireUsable(const fs::path& target, const std::vector<fs::path>& sources) {
+    if (fs::is_directory(target))
+        throw LauncherError(text::singleLine(target.string()) + " è una cartella: indica il file dell'archivio");
+    if (std::find(sources.begin(), sources.end(), target) != sources.end())
+        throw LauncherError("L'archivio non può sostituire ciò che salva: " + text::singleLine(target.string()));
+    if (!fs::is_directory(target.parent_path()))
+        throw fs::filesystem_error("archive folder", target.parent_path(),
+                                   std::make_error_code(std::errc::no_such_file_or_directory));
+}
+
+int runZip(const std::vector<std::string>& arguments, const fs::path& folder) {
+    return process::run(kZip, arguments, folder);
+}
+
+void requireSuccess(int status) {
+    if (status != 0)
+        throw LauncherError("Backup non riuscito (zip: errore " + std::to_string(status) + ")");
+}
+
+void addReadme(const fs::path& archive, const std::vector<std::string>& paths) {
+    const TemporaryFolder folder;
+    const fs::path readme = folder.path() / kReadmeName;
+    FileManager().write(readme, backupReadme(paths));
+    requireSuccess(runZip({"-j", "-q", archive.string(), readme.string()}, folder.path()));
+}
+
+} // namespace
+
+std::vector<fs::path> ProfileStore::backupSources(BackupScope scope) const {
+    std::vector<fs::path> sources;
+    if (scope.contains(BackupScope::principal))
+        sources = {m_defaultDir, m_defaultGlobalJSON, liveDesktopDir()};
+    if (scope.contains(BackupScope::profiles))
+        sources.push_back(m_root);
+    std::erase_if(sources, [this](const fs::path& source) { return !m_files.exists(source); });
+    return sources;
+}
+
+/// Those of the sources, and of the folders in them, that hold data of Claude Desktop.
+std::vector<fs::path> ProfileStore::desktopFolders(const std::vector<fs::path>& in) const {
+    std::vector<fs::path> folders;
+    for (const fs::path& source : in) {
+        if (source == liveDesktopDir())
+            folders.push_back(source);
+        if (source != m_root)
+            continue;
+        for (const std::string& account : m_files.entriesIfReadable(desktopStore())) {
+            if (Profile::isPossibleId(account) && m_files.isFolder(desktopStore() / account))
+                folders.push_back(desktopStore() / account);
+        }
+    }
+    return folders;
+}
+
+BackupResult ProfileStore::backup(BackupScope scope, const fs::path& archive) {
+    const fs::path target = ClaudeApp::normalized(archive.string());
+    const std::vector<fs::path> sources = backupSources(scope);
+    if (sources.empty())
+        throw LauncherError("Non c'è niente da salvare");
+    requireUsable(target, sources);
+    const std::vector<fs::path> dataFolders = desktopFolders(sources);
+    const auto inUse = [this](const fs::path& folder) { return desktopDataInUse(folder); };
+    if (std::any_of(dataFolders.begin(), dataFolders.end(), inUse))
+        throw LauncherError("Per un backup affidabile Claude va chiuso: chiudilo e riprova.");
+
+    BackupResult result{.archive = target};
+    const fs::path partial = target.string() + ".partial";
+    if (m_files.exists(partial))
+        m_files.removeFile(partial);
+    try {
+        const ZipList list = zipList(sources, dataFolders, m_home);
+        const int status = runZip(zipArguments(list, partial), m_home);
+        result.skippedFiles = status == kZipSkippedFiles;
+        requireSuccess(result.skippedFiles ? 0 : status);
+        addReadme(partial, list.paths);
+        m_files.setMode(partial, 0600);
+        result.size = static_cast<std::int64_t>(fs::file_size(partial));
+        if (m_files.exists(target))
+            m_files.moveToTrash(target);
+        m_files.move(partial, target);
+    } catch (...) {
+        try {
+            m_files.removeTree(partial);
+        } catch (const fs::filesystem_error&) { // the first error is the one to tell
+        }
+        throw;
+    }
+    return result;
+}
+
+} // namespace selvane

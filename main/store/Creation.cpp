@@ -1,0 +1,132 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "store/ProfileStore.h"
+
+#include <algorithm>
+
+#include "model/LauncherError.h"
+#include "platform/Text.h"
+#include "store/Slug.h"
+
+namespace selvane {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string checkedName(const std::string& name) {
+    const std::string trimmed(text::trimmed(name));
+    if (trimmed.empty())
+        throw LauncherError("Il nome del profilo è obbligatorio");
+    if (!text::isUtf8(trimmed))
+        throw LauncherError("Il nome del profilo non è testo UTF-8 valido");
+    // A line break would end up in the note that Claude Code reads as a rule.
+    if (text::singleLine(trimmed) != trimmed)
+        throw LauncherError("Il nome del profilo non può contenere caratteri di controllo");
+    return trimmed;
+}
+
+} // namespace
+
+std::string ProfileStore::uniqueSlug(const std::string& name) const {
+    const std::string base = slug(name);
+    std::string candidate = base;
+    for (int number = 2; m_files.exists(m_root / candidate); ++number)
+        candidate = base + "-" + std::to_string(number);
+    return candidate;
+}
+
+/// Makes the folder of a new profile, under the first free id even when another Selvane makes one too.
+Profile ProfileStore::createFolder(const NewProfile& request, const std::string& name) {
+    Profile profile;
+    profile.meta.name = name;
+    profile.meta.summary = request.summary;
+    profile.meta.symbol = request.symbol;
+    if (request.from)
+        profile.meta.source = request.from->id;
+    profile.meta.account = request.account;
+
+    m_files.createFolders(m_root);
+    while (profile.configDir.empty()) {
+        profile.id = uniqueSlug(name);
+        try {
+            m_files.createFolder(m_root / profile.id);
+            profile.configDir = m_root / profile.id;
+        } catch (const fs::filesystem_error& error) {
+            if (error.code() != std::errc::file_exists)
+                throw;
+        }
+    }
+    return profile;
+}
+
+Profile ProfileStore::create(const NewProfile& request) {
+    const std::string name = checkedName(request.name);
+    if (request.account && !Profile::isPossibleId(*request.account))
+        throw LauncherError("Account non valido: " + text::singleLine(*request.account));
+    Profile profile = createFolder(request, name);
+    try {
+        fill(profile, request);
+        saveMeta(profile);
+        writeProfileNote(profile);
+    } catch (...) {
+        try {
+            m_files.removeTree(profile.configDir);
+        } catch (const fs::filesystem_error&) { // the first error is the one to tell
+        }
+        throw;
+    }
+    if (request.account) {
+        if (const auto account = this->profile(*request.account))
+            seedDesktopData(profile, *account);
+    }
+    return profile;
+}
+
+void ProfileStore::fill(Profile& profile, const NewProfile& request) {
+    for (const Component component : kComponents) {
+        const std::string key(rawValue(component));
+        const auto chosen = request.modes.find(component);
+        ShareMode mode = ShareMode::none;
+        if (request.from)
+            mode = chosen == request.modes.end() ? defaultMode(component) : chosen->second;
+        profile.meta.modes[key] = mode;
+
+        const auto selected = request.selection.find(component);
+        if (isCollection(component) && selected != request.selection.end() && request.from) {
+            auto& excluded = profile.meta.excluded[key];
+            for (const std::string& item : itemNames(component, *request.from)) {
+                if (!selected->second.contains(item))
+                    excluded.push_back(item);
+            }
+            std::sort(excluded.begin(), excluded.end());
+        }
+
+        if (isCollection(component))
+            m_files.createFolders(profile.url(component));
+        if (request.from && mode != ShareMode::none)
+            apply(component, mode, profile, *request.from);
+    }
+}
+
+void ProfileStore::apply(Component component, ShareMode mode, const Profile& to, const Profile& from) {
+    switch (component) {
+    case Component::claudeMd:
+        return applyClaudeMd(mode, to, from);
+    case Component::settings:
+        return importSettings(to, from);
+    case Component::plugins:
+        return importPlugins(to, from);
+    case Component::mcp:
+        return importMCP(to, from);
+    default:
+        break;
+    }
+    const std::set<std::string> excluded = to.excluded(component);
+    for (const ComponentItem& item : items(component, from)) {
+        if (!excluded.contains(item.name))
+            addItem(item, to, component, mode == ShareMode::shared);
+    }
+}
+
+} // namespace selvane

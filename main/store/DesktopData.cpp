@@ -1,0 +1,169 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "store/ProfileStore.h"
+
+#include <array>
+
+#include "model/LauncherError.h"
+#include "platform/Text.h"
+
+namespace selvane {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view kLiveMarkerName = ".live";
+constexpr std::string_view kNoteName = "LEGGIMI.txt";
+constexpr std::string_view kNote =
+    "Cartelle dati di Claude Desktop degli account dei profili (login, preferenze, sessioni del tab Code).\n"
+    "Il profilo Principale usa la normale ~/Library/Application Support/Claude.\n"
+    "NON cancellare: qui ci sono gli account dei profili.\n";
+constexpr std::array<std::string_view, 3> kSeededItems = {"claude_desktop_config.json",
+                                                         "extensions-blocklist.json", "claude-code"};
+
+} // namespace
+
+fs::path ProfileStore::desktopStore() const { return m_root / ".desktop-data"; }
+
+/// The folder of an account's own in the store. Records can be edited by hand: what is no plain name must not
+/// lead out of the store.
+fs::path ProfileStore::desktopFolder(const std::string& owner) const {
+    if (!Profile::isPossibleId(owner))
+        throw LauncherError("Account non valido: " + text::singleLine(owner));
+    return desktopStore() / owner;
+}
+
+std::string ProfileStore::desktopLiveOwner() const {
+    const auto content = m_files.readIfPossible(desktopStore() / kLiveMarkerName);
+    const std::string owner(text::trimmed(content.value_or("")));
+    return owner.empty() ? std::string(Profile::kDefaultId) : owner;
+}
+
+fs::path ProfileStore::desktopDataDir(const Profile& profile) const {
+    const std::string owner = profile.accountOwner();
+    const fs::path folder = desktopFolder(owner);
+    return owner == desktopLiveOwner() ? liveDesktopDir() : folder;
+}
+
+bool ProfileStore::hasDesktopData(const Profile& profile) const {
+    return m_files.exists(desktopDataDir(profile));
+}
+
+bool ProfileStore::desktopDataInUse(const fs::path& folder) const {
+    return !m_testMode && !m_claude.processes(folder, liveDesktopDir()).empty();
+}
+
+std::vector<ClaudeApp::Instance> ProfileStore::claudeInstances() const {
+    return m_testMode ? std::vector<ClaudeApp::Instance>{} : m_claude.instances(liveDesktopDir());
+}
+
+std::optional<ClaudeApp::Instance> ProfileStore::instance(const Profile& usingAccountOf) const {
+    const std::string folder = ClaudeApp::normalized(desktopDataDir(usingAccountOf).string());
+    for (const ClaudeApp::Instance& candidate : claudeInstances()) {
+        if (candidate.dataDir == folder)
+            return candidate;
+    }
+    return std::nullopt;
+}
+
+bool ProfileStore::runs(const ClaudeApp::Instance& instance, const Profile& profile) const {
+    // A copy started by hand has no configuration folder of its own: it uses the built-in profile's.
+    const std::string config = instance.config.value_or(ClaudeApp::normalized(m_defaultDir.string()));
+    return config == ClaudeApp::normalized(profile.configDir.string());
+}
+
+std::set<std::string> ProfileStore::runningProfileIDs() const {
+    std::set<std::string> ids;
+    const std::vector<ClaudeApp::Instance> instances = claudeInstances();
+    if (instances.empty())
+        return ids;
+    for (const Profile& profile : loadAll()) {
+        if (!Profile::isPossibleId(profile.accountOwner()))
+            continue;
+        const std::string folder = ClaudeApp::normalized(desktopDataDir(profile).string());
+        for (const ClaudeApp::Instance& candidate : instances) {
+            if (candidate.dataDir == folder && runs(candidate, profile))
+                ids.insert(profile.id);
+        }
+    }
+    return ids;
+}
+
+bool ProfileStore::needsDesktopRestore() const {
+    if (desktopLiveOwner() != Profile::kDefaultId)
+        return true;
+    return !m_files.exists(liveDesktopDir()) &&
+           m_files.exists(desktopStore() / std::string(Profile::kDefaultId));
+}
+
+void ProfileStore::makeDesktopStore() {
+    const fs::path store = desktopStore();
+    if (!m_files.exists(store)) {
+        m_files.createFolders(store);
+        m_files.setMode(store, 0700); // it will hold logins
+    }
+    if (m_files.readIfPossible(store / kNoteName) != kNote)
+        m_files.write(store / kNoteName, kNote);
+}
+
+void ProfileStore::restoreDesktopData() {
+    const std::string owner = desktopLiveOwner();
+    desktopFolder(owner); // a marker that names no account stops here, before anything is touched
+    makeDesktopStore();
+    if (!needsDesktopRestore())
+        return;
+    if (!m_testMode && !m_claude.allProcesses({liveDesktopDir(), desktopStore()}).empty())
+        throw LauncherError(
+            "Per passare alle istanze separate Claude va chiuso una volta: chiudilo e riprova.");
+    swapLiveData(owner);
+    if (m_files.exists(desktopStore() / kLiveMarkerName))
+        m_files.removeFile(desktopStore() / kLiveMarkerName);
+}
+
+/// Parks the account that sits in the normal folder and brings the built-in profile's back there.
+void ProfileStore::swapLiveData(const std::string& owner) {
+    const fs::path& normal = liveDesktopDir();
+    const fs::path parked = desktopFolder(owner);
+    if (!m_files.exists(normal) && m_files.exists(parked)) {
+        m_files.createFolders(normal.parent_path());
+        m_files.move(parked, normal);
+    }
+    if (owner == Profile::kDefaultId)
+        return;
+    if (m_files.exists(parked))
+        throw LauncherError("Esiste già " + parked.string() +
+                            ": i dati Desktop sono in uno stato inatteso, controlla a mano");
+    if (m_files.exists(normal))
+        m_files.move(normal, parked);
+    const fs::path builtIn = desktopFolder(std::string(Profile::kDefaultId));
+    if (!m_files.exists(builtIn))
+        return;
+    try {
+        m_files.createFolders(normal.parent_path());
+        m_files.move(builtIn, normal);
+    } catch (const fs::filesystem_error&) {
+        if (m_files.exists(parked))
+            m_files.move(parked, normal);
+        throw;
+    }
+}
+
+void ProfileStore::seedDesktopData(const Profile& profile, const Profile& source) {
+    const fs::path folder = desktopFolder(profile.id);
+    const fs::path origin = desktopDataDir(source);
+    if (m_files.exists(folder) || !m_files.exists(origin))
+        return;
+    makeDesktopStore();
+    m_files.createFolders(folder);
+    m_files.setMode(folder, 0700);
+    for (const std::string_view name : kSeededItems) {
+        try {
+            if (m_files.exists(origin / name))
+                m_files.copy(origin / name, folder / name);
+        } catch (const fs::filesystem_error&) { // a convenience: Claude Desktop makes these anew
+        }
+    }
+}
+
+} // namespace selvane

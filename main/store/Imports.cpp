@@ -1,0 +1,124 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "store/ProfileStore.h"
+
+
+#include "model/ByteText.h"
+#include "platform/Json.h"
+
+namespace selvane {
+namespace {
+
+namespace fs = std::filesystem;
+
+void replaceAll(std::string& text, const std::string& from, const std::string& to) {
+    for (std::size_t at = text.find(from); at != text.npos; at = text.find(from, at + to.size()))
+        text.replace(at, from.size(), to);
+}
+
+/// A text as it stands between the quotes of a JSON string.
+std::string jsonEscaped(const std::string& bytes, bool asciiOnly) {
+    const std::string quoted = Json(textFromBytes(bytes)).dump(-1, ' ', asciiOnly);
+    return quoted.substr(1, quoted.size() - 2);
+}
+
+/// The spellings that a path can have inside a JSON file.
+std::vector<std::string> jsonSpellings(const fs::path& path) {
+    std::vector<std::string> spellings = {path.string()};
+    for (const bool asciiOnly : {false, true}) {
+        std::string spelling = jsonEscaped(path.string(), asciiOnly);
+        if (spelling != spellings.front())
+            spellings.push_back(std::move(spelling));
+    }
+    return spellings;
+}
+
+const Json* serversIn(const Json& globalState) {
+    const Json* servers = json::find(globalState, "mcpServers");
+    return servers != nullptr && servers->is_object() ? servers : nullptr;
+}
+
+bool isTrue(const Json& object, std::string_view key) {
+    const Json* value = json::find(object, key);
+    return value != nullptr && value->is_boolean() && value->get<bool>();
+}
+
+} // namespace
+
+/// Makes the paths in a settings file that lead into the source's folder lead into the profile's.
+void ProfileStore::rewritePaths(const fs::path& file, const Profile& from, const Profile& to) {
+    const auto before = m_files.readIfPossible(file);
+    if (!before)
+        return;
+    const std::string target = jsonEscaped(to.configDir.string(), false);
+    std::string text = *before;
+    for (const std::string& source : jsonSpellings(from.configDir)) {
+        for (const std::string end : {"/", "\""})
+            replaceAll(text, source + end, target + end);
+    }
+    if (from.isDefault())
+        replaceAll(text, "~/.claude/", target + "/");
+    if (text != *before)
+        m_files.write(file, text);
+}
+
+void ProfileStore::importSettings(const Profile& to, const Profile& from) {
+    const std::string_view name = "settings.json";
+    const fs::path origin = from.configDir / name;
+    if (!m_files.existsFollowingLinks(origin))
+        return;
+    m_files.replaceTrashing(to.configDir / name, [&](const fs::path& temporary) {
+        m_files.copy(m_files.resolved(origin), temporary, Privacy::ownerOnly);
+        rewritePaths(temporary, from, to);
+    });
+}
+
+void ProfileStore::importPlugins(const Profile& to, const Profile& from) {
+    const fs::path origin = from.url(Component::plugins);
+    if (!m_files.existsFollowingLinks(origin))
+        return;
+    m_files.replaceTrashing(to.url(Component::plugins), [&](const fs::path& temporary) {
+        m_files.copy(m_files.resolved(origin), temporary);
+        for (const std::string& name : m_files.entries(temporary)) {
+            // A link leads to a file that isn't the profile's.
+            if (name.ends_with(".json") && m_files.isRegularFile(temporary / name))
+                rewritePaths(temporary / name, from, to);
+        }
+    });
+}
+
+void ProfileStore::importMCP(const Profile& to, const Profile& from) {
+    const fs::path origin = globalJSON(from);
+    if (!m_files.existsFollowingLinks(origin))
+        return;
+    const Json source = json::parse(m_files.read(origin), origin);
+    const Json* servers = serversIn(source);
+    // Otherwise Claude Code would greet a user it knows with its first steps.
+    const bool onboarded = isTrue(source, "hasCompletedOnboarding");
+
+    const fs::path file = globalJSON(to);
+    const bool isNew = !m_files.exists(file);
+    Json state = isNew ? Json::object() : json::parse(m_files.read(file), file);
+    if (!state.is_object())
+        throw JsonError(file.string() + ": non è un oggetto JSON");
+    const Json* own = serversIn(state);
+    const bool losesServers = own != nullptr && !own->empty() && servers != nullptr && *own != *servers;
+
+    Json changed = state;
+    if (servers != nullptr)
+        json::set(changed, "mcpServers", *servers);
+    if (isNew && onboarded)
+        json::set(changed, "hasCompletedOnboarding", true);
+    if (changed == state)
+        return;
+    const auto writeTo = [&](const fs::path& path) {
+        m_files.write(path, json::serialized(changed), Privacy::ownerOnly);
+    };
+    if (losesServers)
+        m_files.replaceTrashing(file, writeTo);
+    else
+        writeTo(file);
+}
+
+} // namespace selvane

@@ -1,0 +1,139 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "store/ProfileStore.h"
+
+#include "platform/Locations.h"
+#include "platform/Text.h"
+
+namespace selvane {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view kDefaultName = "Principale";
+constexpr std::string_view kDefaultSummary = "La configurazione standard di Claude (~/.claude)";
+constexpr std::string_view kDefaultSymbol = "house";
+constexpr std::string_view kDefaultMetaFileName = "default.json";
+constexpr std::string_view kActiveFileName = ".active";
+
+/// Absolute, in the one spelling that links and logins are tied to. ".." stays: behind a link, leaving it out
+/// would name another folder.
+fs::path spelled(const fs::path& path) {
+    fs::path result;
+    for (const fs::path& part : fs::absolute(path)) {
+        if (!part.empty() && part != ".")
+            result /= part;
+    }
+    return result;
+}
+
+fs::path location(const Environment& environment, const std::string& variable, const fs::path& standard) {
+    const auto entry = environment.find(variable);
+    return spelled(entry == environment.end() || entry->second.empty() ? standard : fs::path(entry->second));
+}
+
+} // namespace
+
+ProfileStore::ProfileStore(const Environment& environment, const ClaudeApp& claude)
+    : m_claude(claude), m_environment(environment), m_home(spelled(homeFolder(environment))),
+      m_root(location(environment, "CLAUDE_LAUNCHER_ROOT", m_home / ".claude-profiles")),
+      m_defaultDir(location(environment, "CLAUDE_LAUNCHER_DEFAULT_DIR", m_home / ".claude")),
+      m_defaultGlobalJSON(location(environment, "CLAUDE_LAUNCHER_DEFAULT_JSON", m_home / ".claude.json")),
+      m_testMode(environment.contains("CLAUDE_LAUNCHER_DESKTOP_DIR")) {
+    try {
+        m_files.createFolders(m_root);
+    } catch (const fs::filesystem_error&) { // what needs the root says so itself
+    }
+}
+
+const fs::path& ProfileStore::liveDesktopDir() const {
+    std::call_once(m_liveDesktopDirOnce, [this] {
+        const auto entry = m_environment.find("CLAUDE_LAUNCHER_DESKTOP_DIR");
+        if (entry != m_environment.end() && !entry->second.empty()) {
+            m_liveDesktopDir = spelled(entry->second);
+            return;
+        }
+        const auto isInstalled = [this] { return m_claude.application().has_value(); };
+        m_liveDesktopDir = spelled(applicationDataFolder(m_environment, "Claude", isInstalled));
+    });
+    return m_liveDesktopDir;
+}
+
+fs::path ProfileStore::globalJSON(const Profile& profile) const {
+    return profile.isDefault() ? m_defaultGlobalJSON : profile.configDir / ".claude.json";
+}
+
+Profile ProfileStore::loadDefault() const {
+    ProfileMeta meta;
+    meta.name = kDefaultName;
+    meta.summary = kDefaultSummary;
+    meta.symbol = kDefaultSymbol;
+    if (const auto text = m_files.readIfPossible(m_root / kDefaultMetaFileName))
+        meta = decodedProfileMeta(*text).value_or(meta);
+    return {std::string(Profile::kDefaultId), meta, m_defaultDir};
+}
+
+std::optional<Profile> ProfileStore::loadProfile(const std::string& id) const {
+    if (!Profile::isPossibleId(id))
+        return std::nullopt;
+    const fs::path folder = m_root / id;
+    const auto text = m_files.readIfPossible(folder / kMetaFileName);
+    if (!text)
+        return std::nullopt;
+    auto meta = decodedProfileMeta(*text);
+    return meta ? std::optional(Profile{id, std::move(*meta), folder}) : std::nullopt;
+}
+
+std::vector<Profile> ProfileStore::loadAll() const {
+    std::vector<Profile> found;
+    for (const std::string& name : m_files.entriesIfReadable(m_root)) {
+        if (auto profile = loadProfile(name))
+            found.push_back(std::move(*profile));
+    }
+    std::vector<std::string_view> names;
+    for (const Profile& profile : found)
+        names.push_back(profile.meta.name);
+
+    std::vector<Profile> result = {loadDefault()};
+    for (const std::size_t position : text::sortedOrder(names))
+        result.push_back(std::move(found[position]));
+    return result;
+}
+
+std::optional<Profile> ProfileStore::profile(std::string_view id) const {
+    return id == Profile::kDefaultId ? loadDefault() : loadProfile(std::string(id));
+}
+
+std::optional<Profile> ProfileStore::sourceOf(const Profile& profile) const {
+    // A record edited by hand can name the profile itself, which can't inherit from itself.
+    if (!profile.meta.source || *profile.meta.source == profile.id)
+        return std::nullopt;
+    return this->profile(*profile.meta.source);
+}
+
+void ProfileStore::saveMeta(const Profile& profile) {
+    const fs::path file = profile.isDefault() ? m_root / kDefaultMetaFileName : profile.configDir / kMetaFileName;
+    m_files.write(file, encoded(profile.meta));
+}
+
+void ProfileStore::markLaunched(const Profile& profile) {
+    try {
+        // Read again: the record may have been edited since the launch began.
+        Profile current = this->profile(profile.id).value_or(profile);
+        current.meta.lastLaunched = currentTimestamp();
+        saveMeta(current);
+    } catch (const std::exception&) { // a launch never fails because of its record
+    }
+    try {
+        m_files.write(m_root / kActiveFileName, profile.id);
+    } catch (const std::exception&) { // likewise
+    }
+}
+
+std::optional<std::string> ProfileStore::activeID() const {
+    const auto content = m_files.readIfPossible(m_root / kActiveFileName);
+    return content ? std::optional(std::string(text::trimmed(*content))) : std::nullopt;
+}
+
+} // namespace selvane

@@ -1,0 +1,164 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <mutex>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "desktop/ClaudeApp.h"
+#include "model/Backup.h"
+#include "model/CodeSession.h"
+#include "model/ComponentItem.h"
+#include "model/Profile.h"
+#include "model/SyncReport.h"
+#include "platform/FileManager.h"
+#include "platform/Process.h"
+#include "store/TranscriptIndex.h"
+
+namespace selvane {
+
+/// What a new profile is made from.
+struct NewProfile {
+    std::string name; ///< trimmed before use; must not be blank
+    std::string summary;
+    std::string symbol = ProfileMeta{}.symbol;
+    std::optional<Profile> from;                           ///< the source of its components
+    std::map<Component, ShareMode> modes;                  ///< the default mode for those missing
+    std::map<Component, std::set<std::string>> selection;  ///< items to take; all for those missing
+    std::optional<std::string> account;                    ///< id of the profile whose account it uses
+};
+
+/// The profiles on disk. It keeps no cache: every query reads the file system again.
+///
+/// Operations throw `LauncherError` for what is the program's own business and pass file-system and JSON
+/// errors on; what a failed operation had already finished stays. Listings never fail: what can't be read is
+/// left out. Paths are absolute and always spelled the same way.
+class ProfileStore {
+public:
+    static constexpr std::string_view kMetaFileName = ".launcher.json";
+    static constexpr std::string_view kProfileNoteName = "selvane-profile.md";
+
+    /// Creates the profiles root when it is missing (a failure is ignored).
+    ProfileStore(const Environment& environment, const ClaudeApp& claude);
+
+    // Locations (ProfileStore.cpp)
+    const std::filesystem::path& home() const { return m_home; }
+    const std::filesystem::path& root() const { return m_root; }
+    const std::filesystem::path& defaultDir() const { return m_defaultDir; }
+    const std::filesystem::path& defaultGlobalJSON() const { return m_defaultGlobalJSON; }
+    /// The data folder that Claude Desktop uses when it is started without saying otherwise.
+    const std::filesystem::path& liveDesktopDir() const;
+    /// Against a substitute data folder: processes are never looked at, Claude Desktop counts as not running.
+    bool testMode() const { return m_testMode; }
+    std::filesystem::path globalJSON(const Profile& profile) const;
+
+    // Loading and saving (ProfileStore.cpp)
+    std::vector<Profile> loadAll() const; ///< the built-in profile, then the others by name
+    std::optional<Profile> profile(std::string_view id) const;
+    void saveMeta(const Profile& profile);
+    void markLaunched(const Profile& profile); ///< never fails
+    std::optional<std::string> activeID() const; ///< may name a profile that is gone
+    bool exists(const std::filesystem::path& path) const { return m_files.exists(path); }
+
+    // Creation and deletion (Creation.cpp, Imports.cpp, Deletion.cpp)
+    /// A failure removes what was made of the profile; only that of seeding its account leaves it in place.
+    Profile create(const NewProfile& request);
+    void importSettings(const Profile& to, const Profile& from);
+    void importPlugins(const Profile& to, const Profile& from);
+    void importMCP(const Profile& to, const Profile& from);
+    /// To the Trash, with its own desktop data. Refused while others depend on it or its account is open.
+    void deleteProfile(const Profile& profile);
+
+    // Items, links and share modes (Items.cpp, Links.cpp, ClaudeMd.cpp)
+    std::vector<ComponentItem> items(Component component, const Profile& profile) const;
+    bool isLinked(const ComponentItem& item, const Profile& to, Component component) const;
+    /// Never overwrites: fails when anything of that name is there.
+    void addItem(const ComponentItem& item, const Profile& to, Component component, bool link);
+    SyncReport sync(const Profile& profile);
+    Profile setMode(ShareMode mode, Component component, const Profile& profile);
+    void makeOwn(const ComponentItem& item, const Profile& profile);
+    Profile remove(const ComponentItem& item, const Profile& from, Component component);
+    Profile importItems(const std::set<std::string>& names, const Profile& source, const Profile& into,
+                        Component component, bool link);
+
+    // Generated files (ProfileNote.cpp, TerminalHelper.cpp)
+    void writeProfileNote(const Profile& profile); ///< leaves an up-to-date note untouched
+    std::filesystem::path installTerminalHelper();
+
+    // Desktop data folders (DesktopData.cpp). An account that is no plain name throws.
+    std::filesystem::path desktopStore() const;
+    std::string desktopLiveOwner() const; ///< as recorded, which may be no valid account
+    std::filesystem::path desktopDataDir(const Profile& profile) const;
+    bool hasDesktopData(const Profile& profile) const;
+    bool desktopDataInUse(const std::filesystem::path& folder) const;
+    std::vector<ClaudeApp::Instance> claudeInstances() const;
+    std::optional<ClaudeApp::Instance> instance(const Profile& usingAccountOf) const;
+    bool runs(const ClaudeApp::Instance& instance, const Profile& profile) const;
+    std::set<std::string> runningProfileIDs() const;
+    bool needsDesktopRestore() const;
+    void restoreDesktopData();
+    void seedDesktopData(const Profile& profile, const Profile& source);
+
+    // Code sessions (Sessions.cpp)
+    std::vector<CodeSession> codeSessions(const Profile& profile) const; ///< newest activity first
+    TranscriptIndex transcripts(const Profile& profile) const;
+    int pendingSessionCount(const Profile& profile) const;
+    ImportCount importSessions(const std::vector<CodeSession>& sessions, const Profile& source,
+                               const Profile& target);
+    int flushPendingSessions(const Profile& profile); ///< how many were placed
+
+    // Backup (Backup.cpp)
+    std::vector<std::filesystem::path> backupSources(BackupScope scope) const;
+    /// Replaces `archive` (the old one goes to the Trash) only when the new one is complete.
+    BackupResult backup(BackupScope scope, const std::filesystem::path& archive);
+
+private:
+    Profile loadDefault() const;
+    std::optional<Profile> loadProfile(const std::string& id) const;
+    std::optional<Profile> sourceOf(const Profile& profile) const;
+
+    std::string uniqueSlug(const std::string& name) const;
+    Profile createFolder(const NewProfile& request, const std::string& name);
+    void fill(Profile& profile, const NewProfile& request);
+    void apply(Component component, ShareMode mode, const Profile& to, const Profile& from);
+    void rewritePaths(const std::filesystem::path& file, const Profile& from, const Profile& to);
+
+    void applyClaudeMd(ShareMode mode, const Profile& to, const Profile& from);
+    void changeClaudeMd(ShareMode mode, const Profile& profile, const Profile& source);
+
+    std::vector<std::string> itemNames(Component component, const Profile& profile) const;
+    std::filesystem::path freePlace(const std::string& name, const Profile& in, Component component);
+    void setCollectionMode(ShareMode mode, Component component, Profile& profile, const Profile& source);
+    void copyMissing(Component component, const Profile& to, const Profile& from);
+    std::string profileNote(const Profile& profile) const;
+
+    std::filesystem::path desktopFolder(const std::string& owner) const;
+    void makeDesktopStore();
+    void swapLiveData(const std::string& owner);
+
+    std::vector<std::filesystem::path> sessionFolders(const std::filesystem::path& dataDir) const;
+    void copyTranscripts(const CodeSession& session, const TranscriptIndex& from, const Profile& target);
+
+    std::vector<std::filesystem::path> desktopFolders(const std::vector<std::filesystem::path>& in) const;
+
+    FileManager m_files;
+    const ClaudeApp& m_claude;
+    Environment m_environment;
+    std::filesystem::path m_home;
+    std::filesystem::path m_root;
+    std::filesystem::path m_defaultDir;
+    std::filesystem::path m_defaultGlobalJSON;
+    bool m_testMode;
+    // Found out when first asked for: it can mean looking for the installed application.
+    mutable std::once_flag m_liveDesktopDirOnce;
+    mutable std::filesystem::path m_liveDesktopDir;
+};
+
+} // namespace selvane

@@ -1,0 +1,190 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "store/ProfileStore.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+#include "platform/Json.h"
+#include "platform/SessionRecord.h"
+
+namespace selvane {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view kSessionsFolder = "claude-code-sessions";
+constexpr std::string_view kQueueFolder = ".pending-sessions";
+
+/// They describe connections and tools of the account that a record leaves.
+constexpr std::array<std::string_view, 6> kAccountBoundKeys = {
+    "remoteMcpServersConfig", "enabledMcpTools",          "toolSurfaceSnapshot",
+    "promptAppendSnapshot",   "remoteControlAutoEligible", "steeredByRemoteClient"};
+
+bool isHidden(const std::string& name) { return name.starts_with('.'); }
+
+fs::file_time_type modDate(const fs::path& path) {
+    std::error_code failure;
+    const auto time = fs::last_write_time(path, failure);
+    return failure ? fs::file_time_type::min() : time;
+}
+
+std::optional<CodeSession> parseSession(const fs::path& file, SessionRecordReader& reader) {
+    auto record = reader.read(file.string());
+    if (!record || record->isArchived)
+        return std::nullopt;
+    CodeSession session{.id = std::move(record->sessionId),
+                        .title = record->title.value_or("Senza titolo"),
+                        .cwd = record->cwd.value_or(""),
+                        .lastActivity = std::nullopt,
+                        .cliSessionIDs = {},
+                        .file = file};
+    if (record->lastActivityAt)
+        session.lastActivity = *record->lastActivityAt / 1000.0;
+    if (record->cliSessionId)
+        session.cliSessionIDs.push_back(std::move(*record->cliSessionId));
+    std::move(record->priorCliSessionIds.begin(), record->priorCliSessionIds.end(),
+              std::back_inserter(session.cliSessionIDs));
+    return session;
+}
+
+/// The bytes of a record for another account. Only an object has keys to lose.
+std::string withoutAccount(const fs::path& file, const std::string& bytes) {
+    Json record = json::parse(bytes, file);
+    if (!record.is_object())
+        return bytes;
+    for (const std::string_view key : kAccountBoundKeys)
+        json::remove(record, key);
+    return json::serialized(record);
+}
+
+} // namespace
+
+/// The folders that hold session records, the one changed last first.
+std::vector<fs::path> ProfileStore::sessionFolders(const fs::path& dataDir) const {
+    std::vector<std::pair<fs::file_time_type, fs::path>> dated;
+    const fs::path top = dataDir / kSessionsFolder;
+    for (const std::string& account : m_files.entriesIfReadable(top)) {
+        if (isHidden(account))
+            continue;
+        for (const std::string& organisation : m_files.entriesIfReadable(top / account)) {
+            const fs::path folder = top / account / organisation;
+            if (!isHidden(organisation) && m_files.isFolder(folder))
+                dated.emplace_back(modDate(folder), folder);
+        }
+    }
+    std::stable_sort(dated.begin(), dated.end(),
+                     [](const auto& a, const auto& b) { return a.first > b.first; });
+    std::vector<fs::path> folders;
+    for (auto& [date, folder] : dated)
+        folders.push_back(std::move(folder));
+    return folders;
+}
+
+std::vector<CodeSession> ProfileStore::codeSessions(const Profile& profile) const {
+    std::vector<CodeSession> sessions;
+    SessionRecordReader reader;
+    for (const fs::path& folder : sessionFolders(desktopDataDir(profile))) {
+        for (const std::string& name : m_files.entriesIfReadable(folder)) {
+            if (!name.starts_with("local_") || !name.ends_with(".json"))
+                continue;
+            if (auto session = parseSession(folder / name, reader))
+                sessions.push_back(std::move(*session));
+        }
+    }
+    const auto activity = [](const CodeSession& session) {
+        return session.lastActivity.value_or(-std::numeric_limits<double>::infinity());
+    };
+    std::stable_sort(sessions.begin(), sessions.end(), [&](const CodeSession& a, const CodeSession& b) {
+        return activity(a) > activity(b);
+    });
+    return sessions;
+}
+
+TranscriptIndex ProfileStore::transcripts(const Profile& profile) const {
+    return TranscriptIndex(profile.configDir);
+}
+
+int ProfileStore::pendingSessionCount(const Profile& profile) const {
+    const auto queued = m_files.entriesIfReadable(profile.configDir / kQueueFolder);
+    return static_cast<int>(queued.size() -
+                            static_cast<std::size_t>(std::count_if(queued.begin(), queued.end(), isHidden)));
+}
+
+/// Existing transcripts of the target are never overwritten.
+void ProfileStore::copyTranscripts(const CodeSession& session, const TranscriptIndex& from,
+                                   const Profile& target) {
+    for (const std::string& id : session.cliSessionIDs) {
+        const auto folder = from.transcriptFolder(id);
+        if (!folder)
+            continue;
+        const fs::path place = target.configDir / "projects" / folder->filename();
+        m_files.createFolders(place);
+        for (const std::string& name : {id + ".jsonl", id}) {
+            if (m_files.exists(*folder / name) && !m_files.exists(place / name))
+                m_files.copy(*folder / name, place / name);
+        }
+    }
+}
+
+ImportCount ProfileStore::importSessions(const std::vector<CodeSession>& sessions, const Profile& source,
+                                         const Profile& target) {
+    const bool sameAccount = source.accountOwner() == target.accountOwner();
+    const bool sameConfiguration = source.configDir == target.configDir;
+    const fs::path data = desktopDataDir(target);
+    const std::vector<fs::path> folders = sessionFolders(data);
+    const bool canPlace = !folders.empty() && !desktopDataInUse(data);
+    const fs::path destination = canPlace ? folders.front() : target.configDir / kQueueFolder;
+    const TranscriptIndex index = transcripts(source);
+
+    ImportCount count;
+    for (const CodeSession& session : sessions) {
+        if (!sameConfiguration)
+            copyTranscripts(session, index, target);
+        if (sameAccount) { // the record already lies where both look for it
+            ++count.copied;
+            continue;
+        }
+        const std::string bytes = withoutAccount(session.file, m_files.read(session.file));
+        const fs::path place = destination / session.file.filename();
+        if (!canPlace)
+            m_files.createFolders(destination);
+        if (!canPlace || !m_files.exists(place)) {
+            m_files.write(place, bytes, Privacy::ownerOnly);
+            m_files.setMode(place, 0600);
+        }
+        ++(canPlace ? count.copied : count.pending);
+    }
+    return count;
+}
+
+int ProfileStore::flushPendingSessions(const Profile& profile) {
+    const fs::path queue = profile.configDir / kQueueFolder;
+    const std::vector<std::string> queued = m_files.entriesIfReadable(queue);
+    if (queued.empty())
+        return 0;
+    const fs::path data = desktopDataDir(profile);
+    if (desktopDataInUse(data))
+        return 0;
+    const std::vector<fs::path> folders = sessionFolders(data);
+    if (folders.empty())
+        return 0;
+    int placed = 0;
+    for (const std::string& name : queued) {
+        const fs::path place = folders.front() / name;
+        // A hidden entry is what an interrupted write left behind, or a record that is there already.
+        if (isHidden(name) || m_files.exists(place)) {
+            m_files.removeTree(queue / name);
+            continue;
+        }
+        m_files.move(queue / name, place);
+        ++placed;
+    }
+    std::error_code ignored;
+    fs::remove(queue, ignored);
+    return placed;
+}
+
+} // namespace selvane

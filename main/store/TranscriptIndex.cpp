@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "store/TranscriptIndex.h"
+
+#include <algorithm>
+
+#include "platform/FileManager.h"
+
+namespace selvane {
+
+TranscriptIndex::TranscriptIndex(const std::filesystem::path& configDir) {
+    constexpr std::string_view kExtension = ".jsonl";
+    const FileManager files;
+    const std::filesystem::path projects = configDir / "projects";
+    for (const std::string& project : files.entriesIfReadable(projects)) {
+        for (const std::string& name : files.entriesIfReadable(projects / project)) {
+            if (name.ends_with(kExtension))
+                m_folderOfSession.emplace(name.substr(0, name.size() - kExtension.size()), m_folders.size());
+        }
+        m_folders.push_back(projects / project);
+    }
+}
+
+std::optional<std::filesystem::path> TranscriptIndex::transcriptFolder(const std::string& cliSessionID) const {
+    const auto entry = m_folderOfSession.find(cliSessionID);
+    return entry == m_folderOfSession.end() ? std::nullopt : std::optional(m_folders[entry->second]);
+}
+
+bool TranscriptIndex::hasTranscript(const CodeSession& session) const {
+    return std::any_of(session.cliSessionIDs.begin(), session.cliSessionIDs.end(),
+                       [this](const std::string& id) { return m_folderOfSession.contains(id); });
+}
+
+} // namespace selvane

@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "store/ZipList.h"
+
+#include <array>
+#include <string_view>
+
+namespace selvane {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// What Claude Desktop downloads again by itself.
+constexpr std::array<std::string_view, 6> kBackupExcludedDesktopPaths = {
+    "vm_bundles/*", "claude-code/*", "claude-code-vm/*", "Crashpad/*", "*Cache/*", "*CacheStorage/*"};
+
+/// zip takes names with these characters in a pattern for wildcards.
+std::string patternFor(const std::string& name) {
+    std::string pattern;
+    for (const char c : name) {
+        if (std::string_view("*?[]\\").find(c) != std::string_view::npos)
+            pattern += '\\';
+        pattern += c;
+    }
+    return pattern;
+}
+
+/// zip drops the "./" from the names it stores, and doesn't take the rest for an option.
+std::string asArgument(const std::string& path) {
+    return path.starts_with('-') || path.starts_with('@') ? "./" + path : path;
+}
+
+} // namespace
+
+std::string relativeToHome(const fs::path& path, const fs::path& home) {
+    const std::string text = path.string();
+    const std::string prefix = home.string() + "/";
+    return text.starts_with(prefix) ? text.substr(prefix.size()) : text;
+}
+
+ZipList zipList(const std::vector<fs::path>& sources, const std::vector<fs::path>& desktopFolders,
+                const fs::path& home) {
+    ZipList list;
+    for (const fs::path& source : sources) {
+        std::string path = relativeToHome(source, home);
+        // A configuration folder that is itself a link: its content is what the user wants to keep.
+        std::error_code ignored;
+        if (fs::is_symlink(source, ignored) && fs::is_directory(source, ignored))
+            path += '/';
+        list.paths.push_back(std::move(path));
+    }
+    for (const fs::path& folder : desktopFolders) {
+        const std::string path = patternFor(relativeToHome(folder, home));
+        for (const std::string_view excluded : kBackupExcludedDesktopPaths)
+            list.patterns.push_back(path + "/" + std::string(excluded));
+    }
+    return list;
+}
+
+std::vector<std::string> zipArguments(const ZipList& list, const fs::path& archive) {
+    std::vector<std::string> arguments = {"-r", "-y", "-q", archive.string()};
+    for (const std::string& path : list.paths)
+        arguments.push_back(asArgument(path));
+    if (!list.patterns.empty()) {
+        arguments.emplace_back("-x");
+        arguments.insert(arguments.end(), list.patterns.begin(), list.patterns.end());
+    }
+    return arguments;
+}
+
+} // namespace selvane
