@@ -1,0 +1,412 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/FileManager.h"
+
+#include <array>
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <sys/wait.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+
+#include "platform/ErrorText.h"
+#include "support/TemporaryFolder.h"
+
+namespace selvane {
+namespace {
+
+namespace fs = std::filesystem;
+using Names = std::vector<std::string>;
+using test::TemporaryFolder;
+
+const FileManager kFiles;
+
+struct stat statusOf(const fs::path& path) {
+    struct stat status = {};
+    EXPECT_EQ(::lstat(path.c_str(), &status), 0) << path;
+    return status;
+}
+
+mode_t modeOf(const fs::path& path) {
+    return statusOf(path).st_mode & 07777;
+}
+
+void makeFile(const fs::path& file, const std::string& text, mode_t mode) {
+    kFiles.write(file, text);
+    kFiles.setMode(file, mode);
+}
+
+void setTime(const fs::path& path, time_t seconds, long nanoseconds) {
+    const std::array<timespec, 2> times = {timespec{seconds, 0}, timespec{seconds, nanoseconds}};
+    EXPECT_EQ(::utimensat(AT_FDCWD, path.c_str(), times.data(), AT_SYMLINK_NOFOLLOW), 0);
+}
+
+void makeSocket(const fs::path& path) {
+    sockaddr_un address = {};
+    address.sun_family = AF_UNIX;
+    path.native().copy(address.sun_path, sizeof address.sun_path - 1);
+    const int number = ::socket(AF_UNIX, SOCK_STREAM, 0);
+    EXPECT_EQ(::bind(number, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+    ::close(number);
+}
+
+/// Kind, mode, time and content of everything at and below a path.
+std::map<std::string, std::string> picture(const fs::path& top) {
+    std::map<std::string, std::string> result;
+    const auto add = [&](const fs::path& path) {
+        const struct stat status = statusOf(path);
+        std::string text = std::to_string(status.st_mode) + " " + std::to_string(status.st_mtim.tv_sec) +
+                           "." + std::to_string(status.st_mtim.tv_nsec) + " ";
+        text += kFiles.linkTarget(path).value_or(fs::path()).native();
+        result[path.lexically_relative(top)] = text + kFiles.readIfPossible(path).value_or("");
+    };
+    add(top);
+    for (const auto& entry : fs::recursive_directory_iterator(top))
+        add(entry);
+    return result;
+}
+
+/// The code that `operation` fails with.
+template <typename Operation>
+int failure(Operation operation) {
+    try {
+        operation();
+    } catch (const fs::filesystem_error& error) {
+        return error.code().value();
+    }
+    return 0;
+}
+
+/// Whether `check` holds for a user without privileges.
+template <typename Check>
+bool holdsUnprivileged(const TemporaryFolder& folder, Check check) {
+    constexpr uid_t kNobody = 65534;
+    if (::geteuid() != 0)
+        return check();
+    for (const auto& entry : fs::recursive_directory_iterator(folder.path()))
+        EXPECT_EQ(::lchown(entry.path().c_str(), kNobody, kNobody), 0);
+    EXPECT_EQ(::lchown(folder.path().c_str(), kNobody, kNobody), 0);
+    const pid_t child = ::fork();
+    if (child == 0)
+        ::_exit(::setgid(kNobody) == 0 && ::setuid(kNobody) == 0 && check() ? 0 : 1);
+    int status = -1;
+    EXPECT_EQ(::waitpid(child, &status, 0), child);
+    return status == 0;
+}
+
+/// A folder with everything a folder can hold.
+void makeTree(const fs::path& top) {
+    kFiles.createFolder(top);
+    makeFile(top / "script", "#!/bin/sh\n", 0750);
+    makeFile(top / "secret", std::string(300'000, 's'), 0400);
+    makeFile(top / "caff\xE8", "name that is no UTF-8", 0644);
+    makeFile(top / std::string(250, 'n'), "", 0604);
+    kFiles.createLink("nowhere/at all", top / "dangling");
+    setTime(top / "dangling", 1'000'000'000, 5);
+    EXPECT_EQ(::mkfifo((top / "fifo").c_str(), 0620), 0);
+    makeSocket(top / "socket");
+    kFiles.createFolders(top / "closed/inner");
+    makeFile(top / "closed/inner/file", "x", 0600);
+    setTime(top / "closed/inner/file", 1'200'000'000, 123'456'789);
+    kFiles.setMode(top / "closed/inner", 0500);
+    kFiles.setMode(top / "closed", 0555);
+    setTime(top / "closed", 1'100'000'000, 0);
+    setTime(top, 1'300'000'000, 1);
+}
+
+TEST(FileManager, CopyKeepsKindsModesTimesAndContent) {
+    const TemporaryFolder folder;
+    makeTree(folder / "tree");
+    EXPECT_TRUE(holdsUnprivileged(folder, [&] {
+        const auto before = picture(folder / "tree");
+        kFiles.copy(folder / "tree", folder / "copy/");
+        return before.size() == 11 && picture(folder / "copy") == before;
+    }));
+    EXPECT_EQ(kFiles.entries(folder.path()).size(), 2U) << "a temporary is left";
+}
+
+TEST(FileManager, CopyKeepsAttributesAndAccessLists) {
+    const TemporaryFolder folder;
+    makeFile(folder / "file", "x", 0640);
+    const std::string name = folder / "file";
+    if (::setxattr(name.c_str(), "user.colour", "green", 5, 0) != 0)
+        GTEST_SKIP() << "this file system keeps no attributes";
+    // Version 2; the user may read and write, another user read, the group nothing, the mask is read.
+    const unsigned char list[] = {2, 0,  0,   0,   1,   0,   6,    0, 255, 255,  255,  255,  2,    0,    4,
+                                  0, 57, 5,   0,   0,   4,   0,    0, 0,   0xFF, 0xFF, 0xFF, 0xFF, 0x10, 0,
+                                  4, 0,  255, 255, 255, 255, 0x20, 0, 0,   0,    255,  255,  255,  255};
+    const bool hasList = ::setxattr(name.c_str(), "system.posix_acl_access", list, sizeof list, 0) == 0;
+    kFiles.copy(folder / "file", folder / "copy");
+    kFiles.write(folder / "file", "replaced");
+    for (const char* file : {"file", "copy"}) {
+        std::array<char, 64> value = {};
+        const std::string path = folder / file;
+        EXPECT_EQ(::getxattr(path.c_str(), "user.colour", value.data(), value.size()), 5);
+        EXPECT_EQ(::getxattr(path.c_str(), "system.posix_acl_access", value.data(), value.size()),
+                  hasList ? static_cast<ssize_t>(sizeof list) : -1);
+        EXPECT_EQ(modeOf(path), 0640U);
+    }
+}
+
+TEST(FileManager, CopyGivesNobodyElseAccessThroughTheFolder) {
+    const TemporaryFolder folder;
+    makeFile(folder / "file", "x", 0640);
+    kFiles.createFolder(folder / "shared");
+    const unsigned char list[] = {2, 0,  0,   0,   1,   0,   7,  0, 255, 255, 255, 255, 2,   0,  7,
+                                  0, 57, 5,   0,   0,   4,   0,  0, 0,   255, 255, 255, 255, 16, 0,
+                                  7, 0,  255, 255, 255, 255, 32, 0, 0,   0,   255, 255, 255, 255};
+    const std::string shared = folder / "shared";
+    if (::setxattr(shared.c_str(), "system.posix_acl_default", list, sizeof list, 0) != 0)
+        GTEST_SKIP() << "this file system keeps no access lists";
+    kFiles.copy(folder / "file", folder / "shared/copy");
+    EXPECT_EQ(::getxattr((shared + "/copy").c_str(), "system.posix_acl_access", nullptr, 0), -1);
+    EXPECT_EQ(modeOf(folder / "shared/copy"), 0640U);
+}
+
+TEST(FileManager, CopyTakesHolesAndFilesOfUnknownSize) {
+    const TemporaryFolder folder;
+    makeFile(folder / "image", "start", 0600);
+    fs::resize_file(folder / "image", 50'000'000);
+    kFiles.copy(folder / "image", folder / "copy");
+    EXPECT_EQ(fs::file_size(folder / "copy"), 50'000'000U);
+    EXPECT_LT(statusOf(folder / "copy").st_blocks, 1000);
+    EXPECT_EQ(kFiles.read(folder / "copy"), kFiles.read(folder / "image"));
+    kFiles.copy("/proc/version", folder / "version");
+    EXPECT_EQ(kFiles.read(folder / "version"), kFiles.read("/proc/version"));
+    EXPECT_FALSE(kFiles.read(folder / "version").empty());
+}
+
+TEST(FileManager, CopyForTheOwnerOnlyNarrowsTheMode) {
+    const TemporaryFolder folder;
+    makeFile(folder / "file", "x", 0754);
+    kFiles.copy(folder / "file", folder / "private", Privacy::ownerOnly);
+    EXPECT_EQ(modeOf(folder / "private"), 0700U);
+}
+
+TEST(FileManager, CopyAndMoveRefuseWithoutATrace) {
+    const TemporaryFolder folder;
+    kFiles.createFolders(folder / "tree/inner");
+    kFiles.createLink("nowhere", folder / "taken");
+    kFiles.createLink("tree", folder / "way in");
+    const auto before = picture(folder.path());
+    EXPECT_EQ(failure([&] { kFiles.copy(folder / "tree", folder / "taken"); }), EEXIST);
+    EXPECT_EQ(failure([&] { kFiles.move(folder / "tree", folder / "taken"); }), EEXIST);
+    EXPECT_EQ(failure([&] { kFiles.copy(folder / "missing", folder / "new"); }), ENOENT);
+    EXPECT_EQ(failure([&] { kFiles.move(folder / "missing", folder / "new"); }), ENOENT);
+    for (const char* inside : {"tree/new", "tree/inner/new", "way in/inner/new"}) {
+        EXPECT_EQ(failure([&] { kFiles.copy(folder / "tree", folder / inside); }), EINVAL) << inside;
+        EXPECT_EQ(failure([&] { kFiles.move(folder / "tree", folder / inside); }), EINVAL) << inside;
+    }
+    EXPECT_EQ(picture(folder.path()), before);
+}
+
+TEST(FileManager, CopyThatFailsInsideNamesTheCulpritAndLeavesNothing) {
+    const TemporaryFolder folder;
+    kFiles.createFolders(folder / "tree/a/b");
+    makeFile(folder / "tree/a/b/unreadable", "x", 0000);
+    kFiles.createFolder(folder / "target");
+    EXPECT_TRUE(holdsUnprivileged(folder, [&] {
+        try {
+            kFiles.copy(folder / "tree", folder / "target/copy");
+        } catch (const fs::filesystem_error& error) {
+            return error.path1() == folder / "tree/a/b/unreadable" &&
+                   describe(error) == error.path1().string() + ": permesso negato" &&
+                   kFiles.entries(folder / "target").empty();
+        }
+        return false;
+    }));
+}
+
+/// Deeper than files may be open and than a path may be long; with a file in the last folder.
+constexpr int kDepth = 2000;
+constexpr const char* kLevel = "level";
+
+void makeDeepTree(const fs::path& top) {
+    kFiles.createFolder(top);
+    int folder = ::open(top.c_str(), O_RDONLY);
+    for (int i = 0; i < kDepth; ++i) {
+        EXPECT_EQ(::mkdirat(folder, kLevel, 0755), 0);
+        const int next = ::openat(folder, kLevel, O_RDONLY);
+        ::close(folder);
+        folder = next;
+    }
+    ::close(::openat(folder, "file", O_WRONLY | O_CREAT, 0644));
+    ::close(folder);
+}
+
+bool isDeepTree(const fs::path& top) {
+    int folder = ::open(top.c_str(), O_RDONLY);
+    for (int i = 0; i < kDepth; ++i) {
+        const int next = ::openat(folder, kLevel, O_RDONLY);
+        ::close(folder);
+        folder = next;
+    }
+    const bool result = ::faccessat(folder, "file", F_OK, 0) == 0;
+    ::close(folder);
+    return result;
+}
+
+TEST(FileManager, CopiesAndRemovesAnyDepthWithFewOpenFiles) {
+    const TemporaryFolder folder;
+    makeDeepTree(folder / "deep");
+    rlimit before = {};
+    ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &before), 0);
+    const rlimit few = {64, before.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &few), 0);
+    EXPECT_NO_THROW(kFiles.copy(folder / "deep", folder / "copy"));
+    EXPECT_TRUE(isDeepTree(folder / "copy"));
+    EXPECT_NO_THROW(kFiles.removeTree(folder / "deep"));
+    EXPECT_NO_THROW(kFiles.removeTree(folder / "copy"));
+    ::setrlimit(RLIMIT_NOFILE, &before);
+    EXPECT_EQ(kFiles.entries(folder.path()), Names());
+}
+
+TEST(FileManager, RemoveTreeOpensFoldersButFollowsNoLink) {
+    const TemporaryFolder folder;
+    makeTree(folder / "tree");
+    makeFile(folder / "own", "x", 0600);
+    kFiles.createFolder(folder / "other");
+    kFiles.createLink(folder / "other", folder / "tree/link");
+    makeFile(folder / "other/kept", "x", 0600);
+    kFiles.createFolders(folder / "tree/dark/inner");
+    kFiles.setMode(folder / "tree/dark", 0000);
+    EXPECT_TRUE(holdsUnprivileged(folder, [&] {
+        for (const char* name : {"tree", "own", "missing", "own/missing"})
+            kFiles.removeTree(folder / name);
+        return true;
+    }));
+    EXPECT_EQ(kFiles.entries(folder.path()), Names{"other"});
+    EXPECT_EQ(kFiles.entries(folder / "other"), Names{"kept"});
+}
+
+TEST(FileManager, WriteKeepsTheModeAndReplacesALink) {
+    const TemporaryFolder folder;
+    const mode_t mask = ::umask(027);
+    makeFile(folder / "open", "old", 0664);
+    kFiles.write(folder / "open", "new");
+    EXPECT_EQ(modeOf(folder / "open"), 0664U);
+    kFiles.write(folder / "open", "newer", Privacy::ownerOnly);
+    EXPECT_EQ(modeOf(folder / "open"), 0600U);
+    kFiles.createLink("open", folder / "link");
+    kFiles.write(folder / "link", "own");
+    EXPECT_EQ(modeOf(folder / "link"), 0640U);
+    EXPECT_TRUE(kFiles.isRegularFile(folder / "link"));
+    EXPECT_EQ(kFiles.read(folder / "open"), "newer");
+    const std::string longest(255, 'n');
+    kFiles.write(folder / longest, std::string("a\0b", 3), Privacy::ownerOnly);
+    EXPECT_EQ(modeOf(folder / longest), 0600U);
+    EXPECT_EQ(kFiles.read(folder / longest), std::string("a\0b", 3));
+    ::umask(mask);
+    EXPECT_EQ(kFiles.entries(folder.path()).size(), 3U);
+}
+
+TEST(FileManager, WriteThatFailsLeavesEverythingAsItWas) {
+    const TemporaryFolder folder;
+    kFiles.createFolder(folder / "folder");
+    makeFile(folder / "folder/file", "old", 0600);
+    kFiles.setMode(folder / "folder", 0555);
+    EXPECT_TRUE(holdsUnprivileged(folder, [&] {
+        return failure([&] { kFiles.write(folder / "folder/file", "new"); }) == EACCES &&
+               failure([&] { kFiles.write(folder / "folder", "new"); }) == EISDIR &&
+               failure([&] { kFiles.write(folder / "folder/file/x", "new"); }) == ENOTDIR &&
+               failure([&] { kFiles.write(folder / "missing/x", "new"); }) == ENOENT;
+    }));
+    EXPECT_EQ(kFiles.entries(folder.path()), Names{"folder"});
+    EXPECT_EQ(kFiles.read(folder / "folder/file"), "old");
+}
+
+TEST(FileManager, ReadsRegularFilesOnly) {
+    const TemporaryFolder folder;
+    makeFile(folder / "file", std::string(4096, 'x'), 0600);
+    kFiles.createLink("file", folder / "link");
+    ASSERT_EQ(::mkfifo((folder / "fifo").c_str(), 0600), 0);
+    EXPECT_EQ(kFiles.read(folder / "link"), std::string(4096, 'x'));
+    EXPECT_EQ(failure([&] { kFiles.read(folder / "fifo"); }), EINVAL);
+    EXPECT_EQ(failure([&] { kFiles.read(folder.path()); }), EISDIR);
+    EXPECT_EQ(kFiles.readIfPossible(folder / "missing"), std::nullopt);
+    EXPECT_EQ(kFiles.entriesIfReadable(folder / "fifo"), Names());
+}
+
+TEST(FileManager, ReplaceLinkPutsAFolderInItsPlace) {
+    const TemporaryFolder folder;
+    kFiles.createFolder(folder / "target");
+    kFiles.createLink("target", folder / "link");
+    EXPECT_THROW(kFiles.replaceLink(folder / "link",
+                                    [](const fs::path& temporary) {
+                                        kFiles.createFolders(temporary / "half");
+                                        throw std::runtime_error("stopped");
+                                    }),
+                 std::runtime_error);
+    EXPECT_EQ(kFiles.linkTarget(folder / "link"), "target");
+    const auto make = [](const fs::path& temporary) { kFiles.createFolders(temporary / "whole"); };
+    kFiles.replaceLink(folder / "link", make);
+    EXPECT_TRUE(kFiles.isFolder(folder / "link/whole"));
+    EXPECT_EQ(failure([&] { kFiles.replaceLink(folder / "link", make); }), EEXIST);
+    EXPECT_EQ(failure([&] { kFiles.replaceLink(folder / "missing", make); }), ENOENT);
+    EXPECT_EQ(kFiles.entries(folder.path()).size(), 2U);
+    EXPECT_EQ(kFiles.entries(folder / "target"), Names());
+}
+
+TEST(FileManager, ReplaceLinkGivesBackWhatIsNoLinkAnyMore) {
+    const TemporaryFolder folder;
+    kFiles.createLink("target", folder / "link");
+    const auto meanwhile = [&](const fs::path& temporary) {
+        kFiles.createFolder(temporary);
+        kFiles.removeFile(folder / "link");
+        kFiles.write(folder / "link", "the user's");
+    };
+    EXPECT_EQ(failure([&] { kFiles.replaceLink(folder / "link", meanwhile); }), EEXIST);
+    EXPECT_EQ(kFiles.read(folder / "link"), "the user's");
+    EXPECT_EQ(kFiles.entries(folder.path()), Names{"link"});
+}
+
+TEST(FileManager, ReplaceTrashingNeedsACompleteSuccessor) {
+    const TemporaryFolder folder;
+    makeFile(folder / "file", "old", 0600);
+    EXPECT_THROW(kFiles.replaceTrashing(folder / "file",
+                                        [](const fs::path& temporary) {
+                                            kFiles.write(temporary, "half");
+                                            throw std::runtime_error("stopped");
+                                        }),
+                 std::runtime_error);
+    EXPECT_EQ(kFiles.read(folder / "file"), "old");
+    kFiles.replaceTrashing(folder / "other",
+                           [](const fs::path& temporary) { kFiles.write(temporary, "new"); });
+    EXPECT_EQ(kFiles.read(folder / "other"), "new");
+    EXPECT_EQ(kFiles.entries(folder.path()).size(), 2U);
+}
+
+TEST(FileManager, MovesAcrossFileSystems) {
+    const TemporaryFolder folder;
+    struct stat memory = {};
+    if (::stat("/dev/shm", &memory) != 0 || memory.st_dev == statusOf(folder.path()).st_dev)
+        GTEST_SKIP() << "there is one file system only";
+    const fs::path origin = fs::path("/dev/shm") / folder.path().filename();
+    makeTree(origin);
+    const auto before = picture(origin);
+    kFiles.move(origin, folder / "moved");
+    EXPECT_EQ(picture(folder / "moved"), before);
+    EXPECT_FALSE(kFiles.exists(origin));
+    EXPECT_EQ(kFiles.entries(folder.path()), Names{"moved"});
+}
+
+TEST(ErrorText, NamesPathsAndReasonOnOneLine) {
+    const auto text = [](int code, const fs::path& first, const fs::path& second) {
+        return describe(
+            fs::filesystem_error("x", first, second, std::error_code(code, std::system_category())));
+    };
+    EXPECT_EQ(text(ENOSPC, "/a\nb", ""), "/a\xEF\xBF\xBD"
+                                         "b: spazio sul disco esaurito");
+    EXPECT_EQ(text(EXDEV, "/a", "/b"), "/a, /b: si trova su un altro disco");
+    EXPECT_EQ(text(EINVAL, "/a", "/a/b"), "/a, /a/b: una cartella non può stare dentro se stessa");
+    EXPECT_EQ(text(EMLINK, "/a", ""), "/a: " + std::system_category().message(EMLINK));
+    EXPECT_EQ(describe(std::runtime_error("testo")), "testo");
+}
+
+} // namespace
+} // namespace selvane

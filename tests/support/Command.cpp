@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "support/Command.h"
+
+#include <cstdio>
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "support/Home.h"
+
+namespace selvane::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kNobody = "65534";
+constexpr unsigned kTimeLimit = 60; ///< seconds
+
+std::vector<char*> pointers(std::vector<std::string>& words) {
+    std::vector<char*> result;
+    for (std::string& word : words)
+        result.push_back(word.data());
+    result.push_back(nullptr);
+    return result;
+}
+
+void redirect(int stream, const fs::path& file) {
+    const int descriptor = open(file.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0666);
+    dup2(descriptor, stream);
+    close(descriptor);
+}
+
+} // namespace
+
+CommandHome::CommandHome() : environment{{"PATH", "/usr/local/bin:/usr/bin:/bin"}} {
+    // Reports of the sanitizers must not be taken for a clean end.
+    environment["ASAN_OPTIONS"] = "exitcode=99";
+    environment["UBSAN_OPTIONS"] = "exitcode=99:halt_on_error=1";
+}
+
+Outcome CommandHome::runProgram(const std::vector<std::string>& words) const {
+    const TemporaryFolder streams;
+    std::vector<std::string> arguments = words;
+    std::vector<std::string> variables = {"HOME=" + path().string()};
+    for (const auto& [name, value] : environment)
+        variables.push_back(name + "=" + value);
+    const pid_t child = fork();
+    if (child == 0) {
+        redirect(STDOUT_FILENO, streams / "out");
+        redirect(STDERR_FILENO, streams / "err");
+        alarm(kTimeLimit); // survives the exec
+        execve(arguments[0].c_str(), pointers(arguments).data(), pointers(variables).data());
+        _exit(127);
+    }
+    int state = 0;
+    waitpid(child, &state, 0);
+    const int status = WIFEXITED(state) ? WEXITSTATUS(state) : 128 + WTERMSIG(state);
+    return {status, readFile(streams / "out"), readFile(streams / "err")};
+}
+
+Outcome CommandHome::run(const std::vector<std::string>& arguments) const {
+    std::vector<std::string> words = {SELVANE_EXECUTABLE};
+    words.insert(words.end(), arguments.begin(), arguments.end());
+    return runProgram(words);
+}
+
+Outcome CommandHome::runUnprivileged(const std::vector<std::string>& arguments) const {
+    if (geteuid() != 0)
+        return run(arguments);
+    // The build tree can lie where another user has no way in.
+    const TemporaryFolder programs;
+    fs::permissions(programs.path(), fs::perms(0755));
+    const fs::path built = SELVANE_EXECUTABLE;
+    for (const std::string name : {"selvane", "libselvane-services.so"})
+        fs::copy_file(built.parent_path() / name, programs / name);
+    for (const auto& entry : fs::recursive_directory_iterator(path()))
+        EXPECT_EQ(lchown(entry.path().c_str(), 65534, 65534), 0);
+    EXPECT_EQ(lchown(path().c_str(), 65534, 65534), 0);
+
+    std::vector<std::string> words = {"/usr/bin/setpriv", "--reuid", kNobody, "--regid", kNobody,
+                                      "--clear-groups", (programs / "selvane").string()};
+    words.insert(words.end(), arguments.begin(), arguments.end());
+    return runProgram(words);
+}
+
+std::string CommandHome::output(const std::vector<std::string>& arguments) const {
+    const Outcome outcome = run(arguments);
+    EXPECT_EQ(outcome.status, 0) << outcome.err;
+    EXPECT_EQ(outcome.err, "");
+    return outcome.out;
+}
+
+} // namespace selvane::test

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cerrno>
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+#include <system_error>
+
+namespace selvane::test {
+
+/// A new empty folder, removed at the end with everything in it. Its path holds no symbolic link.
+class TemporaryFolder {
+public:
+    TemporaryFolder() {
+        namespace fs = std::filesystem;
+        std::string name = fs::canonical(fs::temp_directory_path()) / "selvane-test-XXXXXX";
+        if (::mkdtemp(name.data()) == nullptr)
+            throw std::system_error(errno, std::generic_category(), name);
+        m_path = name;
+    }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+    ~TemporaryFolder() {
+        std::error_code ignored; // what can't be removed is no fault of what was tested
+        makeWritable(m_path);
+        std::filesystem::remove_all(m_path, ignored);
+    }
+
+    const std::filesystem::path& path() const { return m_path; }
+    std::filesystem::path operator/(const std::filesystem::path& path) const { return m_path / path; }
+
+private:
+    /// Each folder before it is listed: only then can the ones inside be reached.
+    static void makeWritable(const std::filesystem::path& folder) {
+        namespace fs = std::filesystem;
+        std::error_code ignored;
+        fs::permissions(folder, fs::perms::owner_all, fs::perm_options::add, ignored);
+        for (const fs::directory_entry& entry : fs::directory_iterator(folder, ignored)) {
+            if (!entry.is_symlink(ignored) && entry.is_directory(ignored))
+                makeWritable(entry.path());
+        }
+    }
+
+    std::filesystem::path m_path;
+};
+
+} // namespace selvane::test
