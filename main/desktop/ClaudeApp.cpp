@@ -79,7 +79,7 @@ fs::path prepared(const Profile& profile, ProfileStore& store) {
         throw LauncherError("L'account di «" + profile.meta.name + "» è già aperto in Claude: chiudilo prima.");
     store.sync(profile);
     store.flushPendingSessions(profile);
-    FileManager().createFolders(dataDir);
+    FileManager().createFolders(dataDir, Privacy::ownerOnly);
     return dataDir;
 }
 

@@ -13,7 +13,7 @@
 namespace selvane::files {
 
 /// Copies what is at `from` to `to`, where nothing may be, as `FileManager::copy` says; what was made before
-/// a failure stays. A folder can't be copied to a place inside itself. Errors name the path at or below
+/// a failure stays. Errors name the path at or below
 /// `from`, or at or below `named`, which is what the user calls `to`.
 void copyTree(const std::filesystem::path& from, const std::filesystem::path& to,
               const std::filesystem::path& named, Privacy privacy);

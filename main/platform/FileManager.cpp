@@ -138,8 +138,14 @@ void FileManager::setMode(const std::filesystem::path& file, mode_t mode) const 
         fail("set mode", file, errno);
 }
 
-void FileManager::createFolders(const std::filesystem::path& folder) const {
-    std::filesystem::create_directories(folder);
+void FileManager::createFolders(const std::filesystem::path& folder, Privacy privacy) const {
+    if (privacy == Privacy::inherited) {
+        std::filesystem::create_directories(folder);
+        return;
+    }
+    std::filesystem::create_directories(folder.parent_path());
+    if (::mkdir(folder.c_str(), S_IRWXU) != 0 && (errno != EEXIST || !std::filesystem::is_directory(folder)))
+        fail("create folder", folder, errno);
 }
 
 void FileManager::createFolder(const std::filesystem::path& folder) const {
@@ -155,6 +161,14 @@ void FileManager::createLink(const std::filesystem::path& target, const std::fil
 void FileManager::removeFile(const std::filesystem::path& file) const {
     if (::unlink(file.c_str()) != 0)
         fail("remove", file, errno);
+}
+
+bool FileManager::removeLink(const std::filesystem::path& link) const {
+    const auto status = statusOf(link);
+    if (!status || !S_ISLNK(status->st_mode))
+        return false;
+    removeFile(link);
+    return true;
 }
 
 void FileManager::removeTree(const std::filesystem::path& path) const {

@@ -57,7 +57,8 @@ public:
                Privacy privacy = Privacy::inherited) const;
     void setMode(const std::filesystem::path& file, mode_t mode) const;
 
-    void createFolders(const std::filesystem::path& folder) const; ///< with all parents; fine when it exists
+    /// With all parents; fine when it exists, and then left as it is.
+    void createFolders(const std::filesystem::path& folder, Privacy privacy = Privacy::inherited) const;
     void createFolder(const std::filesystem::path& folder) const;  ///< fails when anything is there
     /// Makes a symbolic link whose text is `target`. Fails when anything is at `link`.
     void createLink(const std::filesystem::path& target, const std::filesystem::path& link) const;
@@ -80,6 +81,8 @@ public:
 
     /// Removes a file or link (not a folder).
     void removeFile(const std::filesystem::path& file) const;
+    /// Removes a symbolic link. False, with nothing done, when anything else or nothing is there.
+    bool removeLink(const std::filesystem::path& link) const;
     /// Removes everything at `path`, folders without write permission included; fine when nothing is there.
     void removeTree(const std::filesystem::path& path) const;
     /// Moves to the user's Trash. Fails, with the original untouched, where the Trash can't take it.

@@ -70,6 +70,23 @@ private:
     bool m_isPlaced = false;
 };
 
+/// Lets `make` build the temporary. What fails about it fails, for the user, about `target`.
+void build(const Temporary& temporary, const std::filesystem::path& target,
+           const std::function<void(const std::filesystem::path& temporary)>& make) {
+    const auto named = [&](const std::filesystem::path& path) -> std::filesystem::path {
+        const std::string& name = temporary.path().native();
+        if (!path.native().starts_with(name))
+            return path;
+        return target.native() + path.native().substr(name.size());
+    };
+    try {
+        make(temporary.path());
+    } catch (const std::filesystem::filesystem_error& error) {
+        throw std::filesystem::filesystem_error("create", named(error.path1()), named(error.path2()),
+                                                error.code());
+    }
+}
+
 bool isAnything(const std::filesystem::path& path, struct stat& status) {
     return ::lstat(path.c_str(), &status) == 0;
 }
@@ -103,11 +120,23 @@ void inherit(int file, const std::filesystem::path& old, mode_t mode, Privacy pr
         fail("write", old, errno);
 }
 
+/// A folder that is copied to a place inside itself would grow while it is copied.
+void requireOutside(const char* operation, const std::filesystem::path& from,
+                    const std::filesystem::path& to) {
+    const std::filesystem::path origin = std::filesystem::canonical(from);
+    std::filesystem::path folder = to.parent_path();
+    folder = std::filesystem::canonical(folder.empty() ? "." : folder);
+    if (std::mismatch(origin.begin(), origin.end(), folder.begin(), folder.end()).first == origin.end())
+        fail(operation, from, to, EINVAL);
+}
+
 void copyBeside(const std::filesystem::path& from, const std::filesystem::path& to,
                 const Temporary& temporary, Privacy privacy) {
     struct stat status = {};
     if (isAnything(to, status))
         fail("copy", to, EEXIST);
+    if (isAnything(from, status) && S_ISDIR(status.st_mode))
+        requireOutside("copy", from, to);
     files::copyTree(from, temporary.path(), to, privacy);
 }
 
@@ -159,6 +188,10 @@ void FileManager::move(const std::filesystem::path& from, const std::filesystem:
     int error = files::renameExclusively(origin, target);
     if (error == 0)
         return;
+    if (error == EINVAL && isFolder(origin))
+        requireOutside("move", origin, target);
+    if (error == EINVAL)
+        fail("move", target, error); // no name for this file system
     if (error != EXDEV)
         fail("move", origin, target, error);
     Temporary copied(target);
@@ -185,7 +218,7 @@ void FileManager::replaceTrashing(
     const std::function<void(const std::filesystem::path& temporary)>& make) const {
     const std::filesystem::path target = withoutEndingSlash(path);
     Temporary temporary(target);
-    make(temporary.path());
+    build(temporary, target, make);
     if (exists(target))
         moveToTrash(target);
     temporary.place(target);
@@ -197,7 +230,7 @@ void FileManager::replaceLink(const std::filesystem::path& link,
     if (!isLink(place))
         fail("replace link", place, exists(place) ? EEXIST : ENOENT);
     Temporary temporary(place);
-    make(temporary.path());
+    build(temporary, place, make);
     // Renaming alone can't put a folder in the place of a link.
     const int error = files::exchangeNames(temporary.path(), place);
     if (error == ENOTSUP) {

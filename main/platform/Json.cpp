@@ -143,8 +143,11 @@ std::vector<WrittenNumber> takeOutNumbers(std::string_view text, std::string& co
             if (written.empty())
                 copy = text;
             written.push_back({index, number});
-            std::fill_n(copy.begin() + static_cast<std::ptrdiff_t>(position), number.size(), ' ');
-            copy[position] = '0';
+            // The sign stays: without it "1-2e3" would read as one number.
+            const std::size_t sign = number.front() == '-' ? 1 : 0;
+            std::fill_n(copy.begin() + static_cast<std::ptrdiff_t>(position + sign), number.size() - sign,
+                        ' ');
+            copy[position + sign] = '0';
         }
         ++index;
     });

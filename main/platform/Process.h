@@ -24,7 +24,7 @@ namespace process {
 /// its exit status, or 128 plus the signal that ended it. It ends with this process. Throws
 /// `std::filesystem::filesystem_error` naming the executable when it can't be started.
 int run(const std::filesystem::path& executable, const std::vector<std::string>& arguments,
-        const std::filesystem::path& folder);
+        const Environment& environment, const std::filesystem::path& folder);
 
 /// Starts a program that outlives this process: a session of its own, standard streams to the null device,
 /// no other file of ours open. Throws `std::filesystem::filesystem_error` when it can't be started, and

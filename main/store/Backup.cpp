@@ -86,8 +86,11 @@ void requireUsable(const fs::path& target, const std::vector<fs::path>& sources)
                                    std::make_error_code(std::errc::no_such_file_or_directory));
 }
 
-int runZip(const std::vector<std::string>& arguments, const fs::path& folder) {
-    return process::run(kZip, arguments, folder);
+int runZip(const std::vector<std::string>& arguments, Environment environment, const fs::path& folder) {
+    // zip takes further options from these, "-m" for example, which deletes what it has stored.
+    environment.erase("ZIP");
+    environment.erase("ZIPOPT");
+    return process::run(kZip, arguments, environment, folder);
 }
 
 void requireSuccess(int status) {
@@ -95,11 +98,12 @@ void requireSuccess(int status) {
         throw LauncherError("Backup non riuscito (zip: errore " + std::to_string(status) + ")");
 }
 
-void addReadme(const fs::path& archive, const std::vector<std::string>& paths) {
+void addReadme(const fs::path& archive, const std::vector<std::string>& paths,
+               const Environment& environment) {
     const TemporaryFolder folder;
     const fs::path readme = folder.path() / kReadmeName;
     FileManager().write(readme, backupReadme(paths));
-    requireSuccess(runZip({"-j", "-q", archive.string(), readme.string()}, folder.path()));
+    requireSuccess(runZip({"-j", "-q", archive.string(), readme.string()}, environment, folder.path()));
 }
 
 } // namespace
@@ -147,10 +151,10 @@ BackupResult ProfileStore::backup(BackupScope scope, const fs::path& archive) {
         m_files.removeFile(partial);
     try {
         const ZipList list = zipList(sources, dataFolders, m_home);
-        const int status = runZip(zipArguments(list, partial), m_home);
+        const int status = runZip(zipArguments(list, partial), m_environment, m_home);
         result.skippedFiles = status == kZipSkippedFiles;
         requireSuccess(result.skippedFiles ? 0 : status);
-        addReadme(partial, list.paths);
+        addReadme(partial, list.paths, m_environment);
         m_files.setMode(partial, 0600);
         result.size = static_cast<std::int64_t>(fs::file_size(partial));
         if (m_files.exists(target))

@@ -99,10 +99,7 @@ bool ProfileStore::needsDesktopRestore() const {
 
 void ProfileStore::makeDesktopStore() {
     const fs::path store = desktopStore();
-    if (!m_files.exists(store)) {
-        m_files.createFolders(store);
-        m_files.setMode(store, 0700); // it will hold logins
-    }
+    m_files.createFolders(store, Privacy::ownerOnly); // it will hold logins
     if (m_files.readIfPossible(store / kNoteName) != kNote)
         m_files.write(store / kNoteName, kNote);
 }
@@ -155,8 +152,7 @@ void ProfileStore::seedDesktopData(const Profile& profile, const Profile& source
     if (m_files.exists(folder) || !m_files.exists(origin))
         return;
     makeDesktopStore();
-    m_files.createFolders(folder);
-    m_files.setMode(folder, 0700);
+    m_files.createFolders(folder, Privacy::ownerOnly);
     for (const std::string_view name : kSeededItems) {
         try {
             if (m_files.exists(origin / name))

@@ -41,10 +41,8 @@ SyncReport ProfileStore::sync(const Profile& profile) {
             continue;
         const std::vector<ComponentItem> own = items(component, profile);
         for (const ComponentItem& item : own) {
-            if (item.isBroken && isLinked(item, *source, component)) {
-                m_files.removeFile(item.url);
+            if (item.isBroken && isLinked(item, *source, component) && m_files.removeLink(item.url))
                 report.removed.push_back(reportLine(component, item.name));
-            }
         }
         // Names just removed count as present: none is dropped and made again in one run.
         const auto present = namesOf(own);
@@ -94,7 +92,7 @@ void ProfileStore::setCollectionMode(ShareMode mode, Component component, Profil
         if (!isLinked(item, source, component))
             continue;
         if (mode == ShareMode::none)
-            m_files.removeFile(item.url);
+            m_files.removeLink(item.url);
         else if (!item.isBroken) // a link that leads nowhere has nothing to copy, and may lead there again
             makeOwn(item, profile);
     }
@@ -105,7 +103,6 @@ void ProfileStore::setCollectionMode(ShareMode mode, Component component, Profil
 }
 
 void ProfileStore::makeOwn(const ComponentItem& item, const Profile&) {
-    // Another program may have put a file of its own there since the item was listed.
     if (!m_files.linkTarget(item.url))
         return;
     const fs::path origin = m_files.resolved(item.url);
@@ -123,11 +120,11 @@ void ProfileStore::copyMissing(Component component, const Profile& to, const Pro
 
 Profile ProfileStore::remove(const ComponentItem& item, const Profile& from, Component component) {
     Profile changed = from;
-    if (!m_files.linkTarget(item.url)) {
+    // Looked at again: since it was listed, another program may have put a file in the place of the link.
+    if (!m_files.removeLink(item.url)) {
         m_files.moveToTrash(item.url);
         return changed;
     }
-    m_files.removeFile(item.url);
     const auto source = sourceOf(from);
     if (source && isLinked(item, *source, component)) {
         auto& excluded = changed.meta.excluded[std::string(rawValue(component))];

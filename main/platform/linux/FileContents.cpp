@@ -13,7 +13,7 @@
 namespace selvane::files {
 namespace {
 
-constexpr std::size_t kBufferSize = 128 * 1024;
+constexpr std::size_t kBufferSize = 131072;
 constexpr off_t kRangeSize = 1 << 30;
 constexpr off_t kBlockSize = 512; // the unit of st_blocks
 constexpr off_t kToTheEnd = std::numeric_limits<off_t>::max();

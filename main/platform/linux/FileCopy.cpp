@@ -3,7 +3,6 @@
 
 #include "platform/FileCopy.h"
 
-#include <algorithm>
 #include <array>
 #include <climits>
 #include <string>
@@ -31,15 +30,6 @@ mode_t copiedMode(const struct stat& status) {
 
 unsigned char entryType(const struct stat& status) {
     return static_cast<unsigned char>(IFTODT(status.st_mode));
-}
-
-/// A folder that is copied to a place inside itself would grow while it is copied.
-void requireOutside(const std::filesystem::path& from, const std::filesystem::path& to) {
-    const std::filesystem::path origin = std::filesystem::canonical(from);
-    std::filesystem::path folder = to.parent_path();
-    folder = std::filesystem::canonical(folder.empty() ? "." : folder);
-    if (std::mismatch(origin.begin(), origin.end(), folder.begin(), folder.end()).first == origin.end())
-        fail("copy", from, to, EINVAL);
 }
 
 /// Copies one tree, without recursion and with few open files whatever its depth. The files of a folder are
@@ -96,7 +86,6 @@ void TreeCopy::run(const std::filesystem::path& to) {
         copyEntry(top, type);
         return;
     }
-    requireOutside(m_from, m_named);
     enterFolder(top);
     while (!m_levels.empty()) {
         Level& level = m_levels.back();

@@ -79,7 +79,7 @@ std::vector<std::string> environmentBlock(const Environment& environment, const 
         result.push_back(pidVariable + "=" + std::string(kPidTextSize, '\0'));
     for (const auto& [name, value] : environment) {
         if (name != pidVariable)
-            result.push_back(name + "=" + value);
+            result.emplace_back(name).append("=").append(value);
     }
     return result;
 }
@@ -132,9 +132,10 @@ void keepExitStatus() {
 } // namespace
 
 int run(const std::filesystem::path& executable, const std::vector<std::string>& arguments,
-        const std::filesystem::path& folder) {
+        const Environment& environment, const std::filesystem::path& folder) {
     const Texts words(commandLine(executable, arguments));
-    const Plan plan = {executable.c_str(), folder.c_str(), words.data(), environ, nullptr};
+    const Texts variables(environmentBlock(environment, {}));
+    const Plan plan = {executable.c_str(), folder.c_str(), words.data(), variables.data(), nullptr};
     Pipe pipe = makePipe(executable);
     keepExitStatus();
     const pid_t self = ::getpid();

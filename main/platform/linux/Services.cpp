@@ -17,7 +17,9 @@ using TableFunction = const Services* (*)();
 
 [[noreturn]] void fail(const std::filesystem::path& module) {
     const char* const reason = dlerror();
-    throw LauncherError("Modulo «" + module.filename().string() + "» non trovato in " +
+    std::error_code error;
+    const char* const fault = std::filesystem::exists(module, error) ? "non utilizzabile" : "non trovato";
+    throw LauncherError("Modulo «" + module.filename().string() + "» " + fault + " in " +
                         module.parent_path().string() + " (" + (reason != nullptr ? reason : "") + ")");
 }
 

@@ -51,7 +51,8 @@ struct Services {
 
     void* (*newSessionReader)();
     void (*deleteSessionReader)(void* reader);
-    /// Whether the file is a readable JSON object; its known fields go to the sink.
+    /// Whether the file is a readable JSON object with a text under "sessionId"; if so, its known fields go
+    /// to the sink.
     bool (*readSession)(void* reader, const char* file, const SessionRecordSink& sink);
 };
 
