@@ -40,9 +40,13 @@ const Command* commandNamed(std::string_view word) {
 
 } // namespace
 
-std::span<const Command> commands() { return kCommands; }
+std::span<const Command> commands() {
+    return kCommands;
+}
 
-bool isCommand(std::string_view word) { return commandNamed(word) != nullptr; }
+bool isCommand(std::string_view word) {
+    return commandNamed(word) != nullptr;
+}
 
 int run(const Call& call, std::ostream& err) {
     try {

@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include <cerrno>
-#include <cstring>
+#include <csignal>
 #include <fcntl.h>
+#include <filesystem>
 #include <sstream>
 #include <string>
 #include <unistd.h>
@@ -53,7 +54,9 @@ int runCommand(const std::vector<std::string>& arguments, WindowsModule& windows
     std::ostringstream err;
     int status = CLI::run({arguments, store, claude, windows, out}, err);
     if (!writeAll(STDOUT_FILENO, out.str())) {
-        err << "Errore: uscita standard: " << std::strerror(errno) << '\n';
+        const std::error_code reason(errno, std::generic_category());
+        err << "Errore: " << describe(std::filesystem::filesystem_error("write", "uscita standard", reason))
+            << '\n';
         status = 1;
     }
     writeAll(STDERR_FILENO, err.str());
@@ -64,6 +67,7 @@ int runCommand(const std::vector<std::string>& arguments, WindowsModule& windows
 
 int main(int argc, char** argv) {
     occupyStandardStreams();
+    std::signal(SIGXFSZ, SIG_IGN); // a file that may grow no more is an error like any other
     const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
     WindowsModule windows;
     try {

@@ -20,18 +20,14 @@ using RenderFunction = bool (*)(const char* folder, void (*fail)(void* context, 
 } // namespace
 
 void* WindowsModule::function(const char* name) {
-    const auto missing = [] {
-        const char* reason = dlerror();
-        return LauncherError("Il modulo delle finestre non è installato (" +
-                             std::string(reason == nullptr ? "" : reason) + ")");
-    };
+    const std::filesystem::path file = modulePath("libselvane-windows.so");
+    if (!std::filesystem::exists(file))
+        throw LauncherError("Il modulo delle finestre non è installato: " + file.string());
     if (m_module == nullptr)
-        m_module = dlopen(modulePath("libselvane-windows.so").c_str(), RTLD_NOW);
-    if (m_module == nullptr)
-        throw missing();
-    void* found = dlsym(m_module, name);
+        m_module = dlopen(file.c_str(), RTLD_NOW);
+    void* found = m_module == nullptr ? nullptr : dlsym(m_module, name);
     if (found == nullptr)
-        throw missing();
+        throw LauncherError("Il modulo delle finestre non è utilizzabile: " + std::string(dlerror()));
     return found;
 }
 
@@ -49,7 +45,9 @@ void WindowsModule::render(const char* name, const std::filesystem::path& folder
         throw LauncherError(reason);
 }
 
-void WindowsModule::renderIcon(const std::filesystem::path& iconset) { render("selvane_render_icon", iconset); }
+void WindowsModule::renderIcon(const std::filesystem::path& iconset) {
+    render("selvane_render_icon", iconset);
+}
 
 void WindowsModule::renderDMGBackground(const std::filesystem::path& folder) {
     render("selvane_render_dmg_background", folder);

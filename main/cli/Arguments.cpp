@@ -57,8 +57,12 @@ void requireArguments(const Call& call, std::size_t least) {
     }
 }
 
-void throwUsage(std::string_view usage) { throw LauncherError("Uso: " + std::string(usage)); }
+void throwUsage(std::string_view usage) {
+    throw LauncherError("Uso: " + std::string(usage));
+}
 
-std::string field(std::string_view text) { return text::singleLine(text); }
+std::string field(std::string_view text) {
+    return text::singleLine(text);
+}
 
 } // namespace selvane::CLI

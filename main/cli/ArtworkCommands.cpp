@@ -15,7 +15,11 @@ const std::string& folderArgument(const Call& call) {
 
 } // namespace
 
-void renderIcon(const Call& call) { call.artwork.renderIcon(folderArgument(call)); }
-void renderDMGBackground(const Call& call) { call.artwork.renderDMGBackground(folderArgument(call)); }
+void renderIcon(const Call& call) {
+    call.artwork.renderIcon(folderArgument(call));
+}
+void renderDMGBackground(const Call& call) {
+    call.artwork.renderDMGBackground(folderArgument(call));
+}
 
 } // namespace selvane::CLI

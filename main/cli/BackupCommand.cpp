@@ -11,7 +11,7 @@
 namespace selvane::CLI {
 
 void backup(const Call& call) {
-    requireArguments(call, 2);
+    requireArguments(call, call.arguments.size() > 1 && call.arguments[1].empty() ? 3 : 2);
     BackupScope scope = BackupScope::all;
     for (std::size_t i = 2; i < call.arguments.size(); ++i) {
         const std::string& option = call.arguments[i];

@@ -18,6 +18,7 @@ void launch(const Call& call) {
             call.claude.activate(*open);
             return;
         }
+        call.claude.requireApplication(); // or nothing could take the place of what is closed
         // The data folder stays busy until the helper processes have ended too.
         const auto isFree = [&] { return !store.desktopDataInUse(store.desktopDataDir(target)); };
         if (!call.claude.quit({*open}, ClaudeApp::QuitKind::polite, ClaudeApp::kQuitTimeout, isFree))
@@ -35,7 +36,8 @@ void desktopStatus(const Call& call) {
         try {
             const bool hasData = store.hasDesktopData(profile);
             call.out << field(profile.id) << "\taccount=" << field(profile.accountOwner()) << "\tdati="
-                     << (hasData ? field(store.desktopDataDir(profile).string()) : "nessuno (login al primo avvio)")
+                     << (hasData ? field(store.desktopDataDir(profile).string())
+                                 : "nessuno (login al primo avvio)")
                      << '\n';
         } catch (const LauncherError&) {
             failure = std::current_exception();

@@ -51,7 +51,8 @@ NewProfile newProfile(const Call& call) {
 
 void list(const Call& call) {
     for (const Profile& profile : call.store.loadAll()) {
-        call.out << field(profile.id) << '\t' << field(profile.meta.name) << '\t' << field(profile.configDir.string())
+        call.out << field(profile.id) << '\t' << field(profile.meta.name) << '\t'
+                 << field(profile.configDir.string())
                  << "\tsource=" << field(profile.meta.source.value_or("-")) << '\t'
                  << (profile.isDefault() ? "" : modesOf(profile)) << '\n';
     }
@@ -62,7 +63,9 @@ void create(const Call& call) {
     call.out << call.store.create(newProfile(call)).id << '\n';
 }
 
-void path(const Call& call) { call.out << profile(call).configDir.string() << '\n'; }
+void path(const Call& call) {
+    call.out << profile(call).configDir.string() << '\n';
+}
 
 void sync(const Call& call) {
     const SyncReport report = call.store.sync(profile(call));
@@ -96,6 +99,8 @@ void setMode(const Call& call) {
     call.store.setMode(mode, component, changed);
 }
 
-void installHelper(const Call& call) { call.out << call.store.installTerminalHelper().string() << '\n'; }
+void installHelper(const Call& call) {
+    call.out << call.store.installTerminalHelper().string() << '\n';
+}
 
 } // namespace selvane::CLI

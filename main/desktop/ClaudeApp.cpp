@@ -8,6 +8,7 @@
 #include <unordered_map>
 
 #include "model/LauncherError.h"
+#include "platform/Locations.h"
 #include "store/ProfileStore.h"
 
 namespace selvane {
@@ -41,6 +42,9 @@ bool descendsFrom(const std::vector<std::int32_t>& roots, const ProcInfo& proces
 ClaudeApp::Instance instanceOf(const RunningApplication& app, const fs::path& defaultDataDir) {
     ClaudeApp::Instance instance{app, defaultDataDir.string(), std::nullopt};
     if (const auto process = ProcInfo::read(app.pid)) {
+        // A copy that was started with another home has its normal folder there.
+        if (process->env.contains("HOME"))
+            instance.dataDir = applicationDataFolder(process->env, "Claude", [] { return true; }).string();
         const auto argument =
             std::find_if(process->args.begin(), process->args.end(), [](const std::string& candidate) {
                 return candidate.starts_with(ClaudeApp::kDataDirSwitch);
@@ -76,7 +80,8 @@ fs::path prepared(const Profile& profile, ProfileStore& store) {
     store.restoreDesktopData();
     const fs::path dataDir = store.desktopDataDir(profile);
     if (store.desktopDataInUse(dataDir))
-        throw LauncherError("L'account di «" + profile.meta.name + "» è già aperto in Claude: chiudilo prima.");
+        throw LauncherError("L'account di «" + profile.meta.name +
+                            "» è già aperto in Claude: chiudilo prima.");
     store.sync(profile);
     store.flushPendingSessions(profile);
     FileManager().createFolders(dataDir, Privacy::ownerOnly);
@@ -92,9 +97,8 @@ std::vector<ProcInfo> processesOf(const std::string& dataDir, const std::vector<
         map.emplace(process.pid, &process);
     std::vector<ProcInfo> result;
     for (const ProcInfo& process : all) {
-        const bool names = std::any_of(process.args.begin(), process.args.end(), [&](const std::string& arg) {
-            return namesFolder(arg, dataDir);
-        });
+        const bool names = std::any_of(process.args.begin(), process.args.end(),
+                                       [&](const std::string& arg) { return namesFolder(arg, dataDir); });
         if (process.path.starts_with(dataDir + "/") || names || descendsFrom(roots, process, map))
             result.push_back(process);
     }
@@ -114,14 +118,30 @@ std::string ClaudeApp::normalized(const std::string& path) {
     return result;
 }
 
-std::optional<Application> ClaudeApp::application() const { return m_workspace.application(); }
+std::optional<Application> ClaudeApp::application() const {
+    return m_workspace.application();
+}
 
-std::vector<RunningApplication> ClaudeApp::running() const { return m_workspace.running(); }
+Application ClaudeApp::requireApplication() const {
+    auto installed = application();
+    if (!installed)
+        throw LauncherError("Claude.app non trovata. Installala in /Applications.");
+    return std::move(*installed);
+}
+
+std::vector<RunningApplication> ClaudeApp::running() const {
+    return m_workspace.running();
+}
 
 std::vector<ClaudeApp::Instance> ClaudeApp::instances(const fs::path& defaultDataDir) const {
     std::vector<Instance> result;
-    for (const RunningApplication& app : running())
-        result.push_back(instanceOf(app, defaultDataDir));
+    for (const RunningApplication& app : running()) {
+        Instance instance = instanceOf(app, defaultDataDir);
+        // One that ended while it was read shows neither arguments nor environment, and would be taken for a
+        // copy with the normal folder.
+        if (!m_workspace.isTerminated(app))
+            result.push_back(std::move(instance));
+    }
     return result;
 }
 
@@ -160,7 +180,9 @@ std::vector<ProcInfo> ClaudeApp::allProcesses(const std::vector<fs::path>& dataD
     return result;
 }
 
-void ClaudeApp::activate(const Instance& instance) const { m_workspace.activate(instance.app); }
+void ClaudeApp::activate(const Instance& instance) const {
+    m_workspace.activate(instance.app);
+}
 
 bool ClaudeApp::quit(const std::vector<Instance>& instances, QuitKind kind, std::chrono::milliseconds timeout,
                      const std::function<bool()>& until) const {
@@ -170,11 +192,14 @@ bool ClaudeApp::quit(const std::vector<Instance>& instances, QuitKind kind, std:
         else
             m_workspace.terminate(instance.app);
     }
+    if (instances.empty())
+        return until();
     const auto deadline = m_clock.now() + (kind == QuitKind::forced ? kForcedQuitTimeout : timeout);
     const auto haveEnded = [&] {
-        return std::all_of(instances.begin(), instances.end(), [&](const Instance& instance) {
-                   return m_workspace.isTerminated(instance.app);
-               }) && until();
+        return std::all_of(
+                   instances.begin(), instances.end(),
+                   [&](const Instance& instance) { return m_workspace.isTerminated(instance.app); }) &&
+               until();
     };
     while (!haveEnded()) {
         if (m_clock.now() >= deadline)
@@ -185,11 +210,9 @@ bool ClaudeApp::quit(const std::vector<Instance>& instances, QuitKind kind, std:
 }
 
 void ClaudeApp::launch(const Profile& profile, ProfileStore& store) const {
-    const auto installed = application();
-    if (!installed)
-        throw LauncherError("Claude.app non trovata. Installala in /Applications.");
+    const Application installed = requireApplication();
     const fs::path dataDir = prepared(profile, store);
-    m_workspace.open(*installed, configuration(profile, dataDir, store.liveDesktopDir()));
+    m_workspace.open(installed, configuration(profile, dataDir, store.liveDesktopDir()));
     store.markLaunched(profile);
 }
 

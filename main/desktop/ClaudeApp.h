@@ -53,6 +53,7 @@ public:
     static std::string normalized(const std::string& path);
 
     std::optional<Application> application() const; ///< nothing when not installed
+    Application requireApplication() const;         ///< throws when not installed
     std::vector<RunningApplication> running() const;
     /// One per main process. Without a data-folder argument a copy uses `defaultDataDir`.
     std::vector<Instance> instances(const std::filesystem::path& defaultDataDir) const;

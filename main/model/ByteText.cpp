@@ -17,7 +17,9 @@ struct Character {
     std::size_t size = 0; ///< 0 for a byte that begins no valid sequence
 };
 
-std::uint8_t byteAt(std::string_view text, std::size_t at) { return static_cast<std::uint8_t>(text[at]); }
+std::uint8_t byteAt(std::string_view text, std::size_t at) {
+    return static_cast<std::uint8_t>(text[at]);
+}
 
 Character characterAt(std::string_view text, std::size_t at) {
     const std::uint8_t lead = byteAt(text, at);
@@ -38,7 +40,9 @@ Character characterAt(std::string_view text, std::size_t at) {
     return overlong || surrogate || codePoint > 0x10FFFF ? Character{} : Character{codePoint, size};
 }
 
-bool isPrivate(std::uint32_t codePoint) { return codePoint >= kPrivateFirst && codePoint <= kPrivateLast; }
+bool isPrivate(std::uint32_t codePoint) {
+    return codePoint >= kPrivateFirst && codePoint <= kPrivateLast;
+}
 
 void appendPrivate(std::string& text, std::uint8_t byte) {
     const std::uint32_t codePoint = kPrivateBase + byte;

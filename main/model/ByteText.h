@@ -9,8 +9,8 @@
 namespace selvane {
 
 /// JSON texts are UTF-8, names of files are bytes. These two turn any bytes into UTF-8 and back without loss:
-/// valid UTF-8 stays as it is, a byte that isn't part of it becomes a character of the private range U+EF80 to
-/// U+EFFF (and so do the bytes of a character that already lies there).
+/// valid UTF-8 stays as it is, a byte that isn't part of it becomes a character of the private range U+EF80
+/// to U+EFFF (and so do the bytes of a character that already lies there).
 std::string textFromBytes(std::string_view bytes);
 std::string bytesFromText(std::string_view text);
 

@@ -14,10 +14,10 @@ namespace selvane {
 struct CodeSession {
     std::string id;
     std::string title;
-    std::string cwd;                           ///< working folder; empty when unknown
-    std::optional<double> lastActivity;        ///< seconds since 1970
-    std::vector<std::string> cliSessionIDs;    ///< the Claude Code sessions whose transcripts belong to it
-    std::filesystem::path file;                ///< its record
+    std::string cwd;                        ///< working folder; empty when unknown
+    std::optional<double> lastActivity;     ///< seconds since 1970
+    std::vector<std::string> cliSessionIDs; ///< the Claude Code sessions whose transcripts belong to it
+    std::filesystem::path file;             ///< its record
 
     bool operator==(const CodeSession&) const = default;
 };

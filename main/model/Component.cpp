@@ -35,16 +35,30 @@ constexpr std::array<Traits, kComponents.size()> kTraits = {{
     {"mcp", "Server MCP", "server.rack", false, separate, kImportModes},
 }};
 
-const Traits& traits(Component component) { return kTraits.at(static_cast<std::size_t>(component)); }
+const Traits& traits(Component component) {
+    return kTraits.at(static_cast<std::size_t>(component));
+}
 
 } // namespace
 
-std::string_view rawValue(Component component) { return traits(component).rawValue; }
-std::string_view title(Component component) { return traits(component).title; }
-std::string_view symbol(Component component) { return traits(component).symbol; }
-bool isCollection(Component component) { return traits(component).isCollection; }
-ShareMode defaultMode(Component component) { return traits(component).defaultMode; }
-std::span<const ShareMode> allowedModes(Component component) { return traits(component).allowedModes; }
+std::string_view rawValue(Component component) {
+    return traits(component).rawValue;
+}
+std::string_view title(Component component) {
+    return traits(component).title;
+}
+std::string_view symbol(Component component) {
+    return traits(component).symbol;
+}
+bool isCollection(Component component) {
+    return traits(component).isCollection;
+}
+ShareMode defaultMode(Component component) {
+    return traits(component).defaultMode;
+}
+std::span<const ShareMode> allowedModes(Component component) {
+    return traits(component).allowedModes;
+}
 
 bool allows(Component component, ShareMode mode) {
     const auto modes = allowedModes(component);

@@ -15,9 +15,9 @@ namespace selvane {
 /// One shareable part of a Claude Code configuration folder, in the order of every list and every loop.
 enum class Component { skills, agents, commands, outputStyles, rules, claudeMd, settings, plugins, mcp };
 
-inline constexpr std::array kComponents = {
-    Component::skills,   Component::agents,   Component::commands, Component::outputStyles, Component::rules,
-    Component::claudeMd, Component::settings, Component::plugins,  Component::mcp};
+inline constexpr std::array kComponents = {Component::skills,       Component::agents,  Component::commands,
+                                           Component::outputStyles, Component::rules,   Component::claudeMd,
+                                           Component::settings,     Component::plugins, Component::mcp};
 
 /// The name inside the configuration folder, which is also that on disk and on the command line.
 std::string_view rawValue(Component component);

@@ -27,6 +27,8 @@ std::set<std::string> Profile::excluded(Component component) const {
     return {entry->second.begin(), entry->second.end()};
 }
 
-std::filesystem::path Profile::url(Component component) const { return configDir / rawValue(component); }
+std::filesystem::path Profile::url(Component component) const {
+    return configDir / rawValue(component);
+}
 
 } // namespace selvane

@@ -21,8 +21,8 @@ struct Profile {
     ProfileMeta meta;
     std::filesystem::path configDir;
 
-    /// Whether it can be the name of a profile's folder, and so of a folder for its account: one visible name,
-    /// no path.
+    /// Whether it can be the name of a profile's folder, and so of a folder for its account: one visible
+    /// name, no path.
     static bool isPossibleId(std::string_view id);
 
     bool isDefault() const { return id == kDefaultId; }

@@ -65,6 +65,8 @@ std::chrono::seconds zoneOffset(DateReader& reader) {
     const std::chrono::hours hours(reader.number(2));
     reader.oneOf(":");
     const std::chrono::minutes minutes(reader.number(2));
+    if (hours.count() > 23 || minutes.count() > 59)
+        throw InvalidRecord{};
     return sign == '+' ? hours + minutes : -(hours + minutes);
 }
 
@@ -86,7 +88,11 @@ Timestamp timestamp(std::string_view text) {
     const year_month_day date(dateYear, dateMonth, dateDay);
     if (!reader.atEnd() || !date.ok() || hour > 23 || minute > 59 || second > 60)
         throw InvalidRecord{};
-    return sys_days(date) + hours(hour) + minutes(minute) + seconds(second) - offset;
+    const Timestamp time = sys_days(date) + hours(hour) + minutes(minute) + seconds(second) - offset;
+    // What could not be written again in four digits would make the record unreadable.
+    if (time < Timestamp(sys_days(year(0) / 1 / 1)) || time >= Timestamp(sys_days(year(10000) / 1 / 1)))
+        throw InvalidRecord{};
+    return time;
 }
 
 /// The value of a key that may be missing or null.

@@ -22,13 +22,21 @@ constexpr std::array<Texts, kShareModes.size()> kTexts = {{
     {"none", "Vuoto", "Parte vuoto"},
 }};
 
-const Texts& texts(ShareMode mode) { return kTexts.at(static_cast<std::size_t>(mode)); }
+const Texts& texts(ShareMode mode) {
+    return kTexts.at(static_cast<std::size_t>(mode));
+}
 
 } // namespace
 
-std::string_view rawValue(ShareMode mode) { return texts(mode).rawValue; }
-std::string_view label(ShareMode mode) { return texts(mode).label; }
-std::string_view help(ShareMode mode) { return texts(mode).help; }
+std::string_view rawValue(ShareMode mode) {
+    return texts(mode).rawValue;
+}
+std::string_view label(ShareMode mode) {
+    return texts(mode).label;
+}
+std::string_view help(ShareMode mode) {
+    return texts(mode).help;
+}
 
 std::optional<ShareMode> shareMode(std::string_view raw) {
     const auto* found = std::find_if(kShareModes.begin(), kShareModes.end(),

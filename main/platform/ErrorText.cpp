@@ -47,19 +47,16 @@ constexpr Reason kReasons[] = {
     {EXDEV, "si trova su un altro disco"},
 };
 
-std::string reason(const std::error_code& code, bool hasTwoPaths) {
+} // namespace
+
+std::string describe(const std::error_code& code) {
     if (code.category() != std::generic_category() && code.category() != std::system_category())
         return code.message();
-    // Only a copy or move has two paths, and this is the one invalid pair.
-    if (hasTwoPaths && code.value() == EINVAL)
-        return "una cartella non può stare dentro se stessa";
     const auto* found = std::find_if(std::begin(kReasons), std::end(kReasons), [&](const Reason& candidate) {
         return candidate.error == code.value();
     });
     return found == std::end(kReasons) ? code.message() : std::string(found->text);
 }
-
-} // namespace
 
 std::string describe(const std::exception& error) {
     const auto* failure = dynamic_cast<const std::filesystem::filesystem_error*>(&error);
@@ -71,7 +68,10 @@ std::string describe(const std::exception& error) {
         paths += ", " + text::singleLine(failure->path2().native());
     if (!paths.empty())
         paths += ": ";
-    return paths + reason(failure->code(), hasTwoPaths);
+    // Only a copy or move has two paths, and this is the one invalid pair.
+    if (hasTwoPaths && failure->code() == std::errc::invalid_argument)
+        return paths + "una cartella non può stare dentro se stessa";
+    return paths + describe(failure->code());
 }
 
 } // namespace selvane

@@ -3,6 +3,7 @@
 
 #include "platform/FileManager.h"
 
+#include <algorithm>
 #include <array>
 #include <climits>
 #include <cstdio>
@@ -65,6 +66,15 @@ bool FileManager::exists(const std::filesystem::path& path) const {
 bool FileManager::existsFollowingLinks(const std::filesystem::path& path) const {
     struct stat status = {};
     return ::stat(path.c_str(), &status) == 0;
+}
+
+bool FileManager::isPresent(const std::filesystem::path& path) const {
+    struct stat status = {};
+    if (::stat(path.c_str(), &status) == 0)
+        return true;
+    if (errno != ENOENT && errno != ENOTDIR && errno != ELOOP)
+        fail("look up", path, errno);
+    return false;
 }
 
 bool FileManager::isFolder(const std::filesystem::path& path) const {
@@ -136,6 +146,11 @@ std::optional<std::string> FileManager::readIfPossible(const std::filesystem::pa
 void FileManager::setMode(const std::filesystem::path& file, mode_t mode) const {
     if (::chmod(file.c_str(), mode) != 0)
         fail("set mode", file, errno);
+}
+
+std::optional<mode_t> FileManager::mode(const std::filesystem::path& path) const {
+    const auto status = statusOf(path);
+    return status ? std::optional<mode_t>(status->st_mode & ALLPERMS) : std::nullopt;
 }
 
 void FileManager::createFolders(const std::filesystem::path& folder, Privacy privacy) const {

@@ -33,6 +33,8 @@ public:
     bool exists(const std::filesystem::path& path) const;
     /// Whether something is there once links are followed; false on any error.
     bool existsFollowingLinks(const std::filesystem::path& path) const;
+    /// The same, but throws when it can't be told, for example for want of permission.
+    bool isPresent(const std::filesystem::path& path) const;
     bool isFolder(const std::filesystem::path& path) const;      ///< a real folder, not a link to one
     bool isRegularFile(const std::filesystem::path& path) const; ///< a real file, not a link to one
 
@@ -56,10 +58,12 @@ public:
     void write(const std::filesystem::path& file, std::string_view bytes,
                Privacy privacy = Privacy::inherited) const;
     void setMode(const std::filesystem::path& file, mode_t mode) const;
+    /// The permission bits of what is at `path`, a link not followed; nothing when that fails.
+    std::optional<mode_t> mode(const std::filesystem::path& path) const;
 
     /// With all parents; fine when it exists, and then left as it is.
     void createFolders(const std::filesystem::path& folder, Privacy privacy = Privacy::inherited) const;
-    void createFolder(const std::filesystem::path& folder) const;  ///< fails when anything is there
+    void createFolder(const std::filesystem::path& folder) const; ///< fails when anything is there
     /// Makes a symbolic link whose text is `target`. Fails when anything is at `link`.
     void createLink(const std::filesystem::path& target, const std::filesystem::path& link) const;
 
@@ -71,8 +75,8 @@ public:
     /// Moves to another name, also across file systems. Fails when anything is at `to`.
     void move(const std::filesystem::path& from, const std::filesystem::path& to) const;
 
-    /// Puts what `make` builds at the path it is given in the place of `path`, when it is complete. What stood
-    /// at `path` goes to the Trash; without anything there it is a plain creation.
+    /// Puts what `make` builds at the path it is given in the place of `path`, when it is complete. What
+    /// stood at `path` goes to the Trash; without anything there it is a plain creation.
     void replaceTrashing(const std::filesystem::path& path,
                          const std::function<void(const std::filesystem::path& temporary)>& make) const;
     /// The same for a symbolic link at `link`, which is dropped. Fails when there is no link any more.
@@ -85,7 +89,8 @@ public:
     bool removeLink(const std::filesystem::path& link) const;
     /// Removes everything at `path`, folders without write permission included; fine when nothing is there.
     void removeTree(const std::filesystem::path& path) const;
-    /// Moves to the user's Trash. Fails, with the original untouched, where the Trash can't take it.
+    /// Moves to the user's Trash. Throws `LauncherError`, with the original untouched, where the Trash can't
+    /// take it.
     void moveToTrash(const std::filesystem::path& path) const;
 };
 

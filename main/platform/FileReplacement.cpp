@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
+#include <algorithm>
 #include <array>
+#include <cstdio>
 #include <string>
 #include <sys/random.h>
 #include <sys/stat.h>

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "platform/JsonNumbers.h"
+#include "platform/JsonSurrogates.h"
 
 namespace selvane::json {
 
@@ -227,9 +228,11 @@ Json parse(std::string_view text, const std::filesystem::path& file) {
         text.remove_prefix(kByteOrderMark.size());
     std::string copy;
     const std::vector<WrittenNumber> written = takeOutNumbers(text, copy);
-    const std::string_view readable = written.empty() ? text : std::string_view(copy);
+    if (written.empty())
+        copy = text;
+    json::replaceLoneSurrogates(copy.data(), copy.size());
     Builder builder(written);
-    if (!Json::sax_parse(readable.begin(), readable.end(), &builder)) {
+    if (!Json::sax_parse(copy.begin(), copy.end(), &builder)) {
         if (const auto position = builder.errorPosition())
             failAt(*position > 0 ? *position - 1 : 0, text, file);
         throw JsonError(file.string() + ": JSON annidato troppo in profondità");

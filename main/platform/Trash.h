@@ -7,8 +7,8 @@
 
 namespace selvane {
 
-/// Moves `path` (a link itself, not what it points to) to the user's Trash. Throws
-/// `std::filesystem::filesystem_error` with the original untouched where the Trash can't take it.
+/// Moves `path` (a link itself, not what it points to) to the user's Trash. Throws `LauncherError`, with the
+/// original untouched, where the Trash can't take it.
 void moveToTrash(const std::filesystem::path& path);
 
 } // namespace selvane

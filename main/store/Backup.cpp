@@ -6,10 +6,11 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
-#include <random>
 #include <cstdio>
 #include <functional>
+#include <random>
 #include <system_error>
+#include <unistd.h>
 
 #include "model/LauncherError.h"
 #include "platform/Locations.h"
@@ -26,25 +27,27 @@ constexpr int kZipSkippedFiles = 18;
 constexpr std::string_view kReadmeName = "LEGGIMI-backup.txt";
 
 std::string backupReadme(const std::vector<std::string>& paths) {
-    std::string text = "Backup di Claude creato da Selvane il " + text::longDate(std::chrono::system_clock::now()) +
+    std::string text = "Backup di Claude creato da Selvane il " +
+                       text::longDate(std::chrono::system_clock::now()) +
                        ".\n\nContiene (percorsi relativi alla cartella home):\n";
     for (std::size_t i = 0; i < paths.size(); ++i) {
         text += i == 0 ? "" : "\n";
         text += (paths[i].starts_with('/') ? "  " : "  ~/") + paths[i];
     }
-    text += "\n\nNon contiene cache, macchine virtuali e binari di Claude Code: Claude li riscarica da solo.\n"
-            "I login restano nel Portachiavi di questo Mac: su un altro Mac servirà rifare l'accesso.\n"
-            "\nPer ripristinare:\n"
-            "1. chiudi Claude (e Selvane);\n"
-            "2. sposta nel Cestino le cartelle elencate sopra, se esistono;\n"
-            "3. nel Terminale: ditto -x -k \"<questo archivio>.zip\" ~\n";
+    text +=
+        "\n\nNon contiene cache, macchine virtuali e binari di Claude Code: Claude li riscarica da solo.\n"
+        "I login restano nel Portachiavi di questo Mac: su un altro Mac servirà rifare l'accesso.\n"
+        "\nPer ripristinare:\n"
+        "1. chiudi Claude (e Selvane);\n"
+        "2. sposta nel Cestino le cartelle elencate sopra, se esistono;\n"
+        "3. nel Terminale: ditto -x -k \"<questo archivio>.zip\" ~\n";
     return text + backupRestoreAdvice();
 }
 
 /// A folder of our own in the system's temporary folder, gone with this object.
 class TemporaryFolder {
 public:
-    TemporaryFolder() : m_path(fs::temp_directory_path() / ("selvane-backup-" + uuid())) {
+    explicit TemporaryFolder(const fs::path& in) : m_path(in / ("selvane-backup-" + uuid())) {
         m_files.createFolder(m_path);
     }
     ~TemporaryFolder() {
@@ -78,12 +81,25 @@ private:
 /// A folder would go to the Trash as a whole, and so would what is to be saved.
 void requireUsable(const fs::path& target, const std::vector<fs::path>& sources) {
     if (fs::is_directory(target))
-        throw LauncherError(text::singleLine(target.string()) + " è una cartella: indica il file dell'archivio");
+        throw LauncherError(text::singleLine(target.string()) +
+                            " è una cartella: indica il file dell'archivio");
     if (std::find(sources.begin(), sources.end(), target) != sources.end())
-        throw LauncherError("L'archivio non può sostituire ciò che salva: " + text::singleLine(target.string()));
-    if (!fs::is_directory(target.parent_path()))
-        throw fs::filesystem_error("archive folder", target.parent_path(),
-                                   std::make_error_code(std::errc::no_such_file_or_directory));
+        throw LauncherError("L'archivio non può sostituire ciò che salva: " +
+                            text::singleLine(target.string()));
+    const fs::path folder = target.parent_path();
+    if (access(folder.c_str(), W_OK | X_OK) != 0)
+        throw fs::filesystem_error("archive folder", folder, std::error_code(errno, std::generic_category()));
+}
+
+/// zip passes over a folder that it can't read without a word.
+bool hasUnreadableFolder(const fs::path& source) {
+    std::error_code failure;
+    if (!fs::is_directory(source))
+        return false;
+    fs::recursive_directory_iterator entry(source, failure);
+    while (!failure && entry != fs::recursive_directory_iterator())
+        entry.increment(failure);
+    return failure == std::errc::permission_denied;
 }
 
 int runZip(const std::vector<std::string>& arguments, Environment environment, const fs::path& folder) {
@@ -98,12 +114,9 @@ void requireSuccess(int status) {
         throw LauncherError("Backup non riuscito (zip: errore " + std::to_string(status) + ")");
 }
 
-void addReadme(const fs::path& archive, const std::vector<std::string>& paths,
-               const Environment& environment) {
-    const TemporaryFolder folder;
-    const fs::path readme = folder.path() / kReadmeName;
-    FileManager().write(readme, backupReadme(paths));
-    requireSuccess(runZip({"-j", "-q", archive.string(), readme.string()}, environment, folder.path()));
+fs::path temporaryFolder(const Environment& environment) {
+    const auto configured = environment.find("TMPDIR");
+    return configured == environment.end() || configured->second.empty() ? "/tmp" : configured->second;
 }
 
 } // namespace
@@ -120,17 +133,16 @@ std::vector<fs::path> ProfileStore::backupSources(BackupScope scope) const {
 
 /// Those of the sources, and of the folders in them, that hold data of Claude Desktop.
 std::vector<fs::path> ProfileStore::desktopFolders(const std::vector<fs::path>& in) const {
-    std::vector<fs::path> folders;
-    for (const fs::path& source : in) {
-        if (source == liveDesktopDir())
-            folders.push_back(source);
-        if (source != m_root)
-            continue;
-        for (const std::string& account : m_files.entriesIfReadable(desktopStore())) {
-            if (Profile::isPossibleId(account) && m_files.isFolder(desktopStore() / account))
-                folders.push_back(desktopStore() / account);
-        }
+    std::vector<fs::path> folders = {liveDesktopDir()};
+    for (const std::string& account : m_files.entriesIfReadable(desktopStore())) {
+        if (Profile::isPossibleId(account) && m_files.isFolder(desktopStore() / account))
+            folders.push_back(desktopStore() / account);
     }
+    std::erase_if(folders, [&](const fs::path& folder) {
+        return std::none_of(in.begin(), in.end(), [&](const fs::path& source) {
+            return folder == source || folder.string().starts_with(source.string() + "/");
+        });
+    });
     return folders;
 }
 
@@ -145,16 +157,22 @@ BackupResult ProfileStore::backup(BackupScope scope, const fs::path& archive) {
     if (std::any_of(dataFolders.begin(), dataFolders.end(), inUse))
         throw LauncherError("Per un backup affidabile Claude va chiuso: chiudilo e riprova.");
 
+    const TemporaryFolder readmeFolder(temporaryFolder(m_environment));
+    const fs::path readme = readmeFolder.path() / kReadmeName;
+    const ZipList list = zipList(sources, dataFolders, m_home);
+    m_files.write(readme, backupReadme(list.paths));
+
     BackupResult result{.archive = target};
     const fs::path partial = target.string() + ".partial";
     if (m_files.exists(partial))
         m_files.removeFile(partial);
     try {
-        const ZipList list = zipList(sources, dataFolders, m_home);
         const int status = runZip(zipArguments(list, partial), m_environment, m_home);
-        result.skippedFiles = status == kZipSkippedFiles;
-        requireSuccess(result.skippedFiles ? 0 : status);
-        addReadme(partial, list.paths, m_environment);
+        requireSuccess(status == kZipSkippedFiles ? 0 : status);
+        result.skippedFiles =
+            status == kZipSkippedFiles || std::any_of(sources.begin(), sources.end(), hasUnreadableFolder);
+        requireSuccess(
+            runZip({"-j", "-q", partial.string(), readme.string()}, m_environment, readmeFolder.path()));
         m_files.setMode(partial, 0600);
         result.size = static_cast<std::int64_t>(fs::file_size(partial));
         if (m_files.exists(target))

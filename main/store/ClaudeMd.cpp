@@ -26,7 +26,16 @@ std::string extendTemplate(const Profile& source, std::string_view own) {
 struct Span {
     std::size_t begin = 0;
     std::size_t size = 0;
+
+    std::size_t end() const { return begin + size; }
 };
+
+/// A text that what follows it begins a new line after.
+std::string asLines(std::string text, bool isFollowed) {
+    if (isFollowed && !text.empty() && !text.ends_with('\n'))
+        text += '\n';
+    return text;
+}
 
 /// Where the header of `extendTemplate` stands in a text. It is found also when the source was renamed since,
 /// or when an editor has trimmed the line ends behind it.
@@ -55,7 +64,7 @@ void ProfileStore::applyClaudeMd(ShareMode mode, const Profile& to, const Profil
     const fs::path origin = from.url(Component::claudeMd);
     if (mode == ShareMode::shared)
         m_files.createLink(origin, own);
-    else if (mode == ShareMode::separate && m_files.existsFollowingLinks(origin))
+    else if (mode == ShareMode::separate && m_files.isPresent(origin))
         m_files.copy(m_files.resolved(origin), own);
     else if (mode == ShareMode::extend)
         m_files.write(own, extendTemplate(from, ""));
@@ -64,19 +73,27 @@ void ProfileStore::applyClaudeMd(ShareMode mode, const Profile& to, const Profil
 void ProfileStore::changeClaudeMd(ShareMode mode, const Profile& profile, const Profile& source) {
     const fs::path own = profile.url(Component::claudeMd);
     const fs::path origin = source.url(Component::claudeMd);
-    const std::string ownText = m_files.isRegularFile(own) ? m_files.read(own) : std::string();
+    const bool isFile = m_files.isRegularFile(own);
+    // What can't be read counts as empty: the file itself goes to the Trash whole.
+    const std::string ownText = isFile ? m_files.readIfPossible(own).value_or("") : std::string();
     const auto header = headerIn(ownText, source);
     const auto writeOwn = [&](const std::string& text) {
-        m_files.replaceTrashing(own, [&](const fs::path& temporary) { m_files.write(temporary, text); });
+        m_files.replaceTrashing(own, [&](const fs::path& temporary) {
+            m_files.write(temporary, text);
+            if (isFile)
+                m_files.setMode(temporary, m_files.mode(own).value_or(0600));
+        });
     };
 
     switch (mode) {
     case ShareMode::shared:
-        m_files.replaceTrashing(own, [&](const fs::path& temporary) { m_files.createLink(origin, temporary); });
+        m_files.replaceTrashing(own,
+                                [&](const fs::path& temporary) { m_files.createLink(origin, temporary); });
         break;
     case ShareMode::extend:
         // Only a header at the very top is ours to take off; the rest is the profile's own part.
-        writeOwn(extendTemplate(source, header && header->begin == 0 ? ownText.substr(header->size) : ownText));
+        writeOwn(
+            extendTemplate(source, header && header->begin == 0 ? ownText.substr(header->size) : ownText));
         break;
     case ShareMode::separate: {
         // Unreadable rules of the source count as none; without any, a profile that had none stays without.
@@ -84,10 +101,11 @@ void ProfileStore::changeClaudeMd(ShareMode mode, const Profile& profile, const 
         if (!m_files.exists(own) && !sourceText)
             break;
         std::string text = ownText;
-        if (!m_files.isRegularFile(own))
+        if (!isFile)
             text = sourceText.value_or("");
         else if (header)
-            text.replace(header->begin, header->size, sourceText.value_or(""));
+            text.replace(header->begin, header->size,
+                         asLines(sourceText.value_or(""), header->end() < text.size()));
         writeOwn(text);
         break;
     }

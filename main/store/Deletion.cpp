@@ -28,7 +28,8 @@ void ProfileStore::deleteProfile(const Profile& profile) {
     const std::filesystem::path data = desktopFolder(profile.id);
     if (m_files.exists(data)) {
         if (desktopDataInUse(data))
-            throw LauncherError("L'account di \"" + profile.meta.name + "\" è aperto in Claude: chiudilo prima");
+            throw LauncherError("L'account di \"" + profile.meta.name +
+                                "\" è aperto in Claude: chiudilo prima");
         m_files.moveToTrash(data);
     }
     m_files.moveToTrash(profile.configDir);

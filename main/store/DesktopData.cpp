@@ -20,11 +20,13 @@ constexpr std::string_view kNote =
     "Il profilo Principale usa la normale ~/Library/Application Support/Claude.\n"
     "NON cancellare: qui ci sono gli account dei profili.\n";
 constexpr std::array<std::string_view, 3> kSeededItems = {"claude_desktop_config.json",
-                                                         "extensions-blocklist.json", "claude-code"};
+                                                          "extensions-blocklist.json", "claude-code"};
 
 } // namespace
 
-fs::path ProfileStore::desktopStore() const { return m_root / ".desktop-data"; }
+fs::path ProfileStore::desktopStore() const {
+    return m_root / ".desktop-data";
+}
 
 /// The folder of an account's own in the store. Records can be edited by hand: what is no plain name must not
 /// lead out of the store.
@@ -140,8 +142,11 @@ void ProfileStore::swapLiveData(const std::string& owner) {
         m_files.createFolders(normal.parent_path());
         m_files.move(builtIn, normal);
     } catch (const fs::filesystem_error&) {
-        if (m_files.exists(parked))
-            m_files.move(parked, normal);
+        try {
+            if (m_files.exists(parked))
+                m_files.move(parked, normal);
+        } catch (const fs::filesystem_error&) { // the first error is the one to tell
+        }
         throw;
     }
 }

@@ -3,6 +3,7 @@
 
 #include "store/ProfileStore.h"
 
+#include <algorithm>
 
 #include "model/ByteText.h"
 #include "platform/Json.h"
@@ -12,9 +13,22 @@ namespace {
 
 namespace fs = std::filesystem;
 
-void replaceAll(std::string& text, const std::string& from, const std::string& to) {
-    for (std::size_t at = text.find(from); at != text.npos; at = text.find(from, at + to.size()))
-        text.replace(at, from.size(), to);
+struct Replacement {
+    std::string from;
+    std::string to;
+};
+
+/// In one pass: what was put in is not looked at again, also where it begins like what is replaced.
+std::string replaced(std::string_view text, const std::vector<Replacement>& replacements) {
+    std::string result;
+    while (!text.empty()) {
+        const auto found =
+            std::find_if(replacements.begin(), replacements.end(),
+                         [&](const Replacement& candidate) { return text.starts_with(candidate.from); });
+        result += found == replacements.end() ? text.substr(0, 1) : std::string_view(found->to);
+        text.remove_prefix(found == replacements.end() ? 1 : found->from.size());
+    }
+    return result;
 }
 
 /// A text as it stands between the quotes of a JSON string.
@@ -39,6 +53,17 @@ const Json* serversIn(const Json& globalState) {
     return servers != nullptr && servers->is_object() ? servers : nullptr;
 }
 
+/// Whether every entry of `some` stands in `all` as well.
+bool isContained(const Json* some, const Json& all) {
+    if (some == nullptr)
+        return true;
+    const auto entries = some->items();
+    return std::all_of(entries.begin(), entries.end(), [&](const auto& entry) {
+        const Json* same = json::find(all, entry.key());
+        return same != nullptr && *same == entry.value();
+    });
+}
+
 bool isTrue(const Json& object, std::string_view key) {
     const Json* value = json::find(object, key);
     return value != nullptr && value->is_boolean() && value->get<bool>();
@@ -52,21 +77,22 @@ void ProfileStore::rewritePaths(const fs::path& file, const Profile& from, const
     if (!before)
         return;
     const std::string target = jsonEscaped(to.configDir.string(), false);
-    std::string text = *before;
+    std::vector<Replacement> replacements;
     for (const std::string& source : jsonSpellings(from.configDir)) {
         for (const std::string end : {"/", "\""})
-            replaceAll(text, source + end, target + end);
+            replacements.push_back({source + end, target + end});
     }
     if (from.isDefault())
-        replaceAll(text, "~/.claude/", target + "/");
-    if (text != *before)
-        m_files.write(file, text);
+        replacements.push_back({"~/.claude/", target + "/"});
+    const std::string after = replaced(*before, replacements);
+    if (after != *before)
+        m_files.write(file, after);
 }
 
 void ProfileStore::importSettings(const Profile& to, const Profile& from) {
     const std::string_view name = "settings.json";
     const fs::path origin = from.configDir / name;
-    if (!m_files.existsFollowingLinks(origin))
+    if (!m_files.isPresent(origin))
         return;
     m_files.replaceTrashing(to.configDir / name, [&](const fs::path& temporary) {
         m_files.copy(m_files.resolved(origin), temporary, Privacy::ownerOnly);
@@ -76,7 +102,7 @@ void ProfileStore::importSettings(const Profile& to, const Profile& from) {
 
 void ProfileStore::importPlugins(const Profile& to, const Profile& from) {
     const fs::path origin = from.url(Component::plugins);
-    if (!m_files.existsFollowingLinks(origin))
+    if (!m_files.isPresent(origin))
         return;
     m_files.replaceTrashing(to.url(Component::plugins), [&](const fs::path& temporary) {
         m_files.copy(m_files.resolved(origin), temporary);
@@ -90,7 +116,7 @@ void ProfileStore::importPlugins(const Profile& to, const Profile& from) {
 
 void ProfileStore::importMCP(const Profile& to, const Profile& from) {
     const fs::path origin = globalJSON(from);
-    if (!m_files.existsFollowingLinks(origin))
+    if (!m_files.isPresent(origin))
         return;
     const Json source = json::parse(m_files.read(origin), origin);
     const Json* servers = serversIn(source);
@@ -102,8 +128,7 @@ void ProfileStore::importMCP(const Profile& to, const Profile& from) {
     Json state = isNew ? Json::object() : json::parse(m_files.read(file), file);
     if (!state.is_object())
         throw JsonError(file.string() + ": non è un oggetto JSON");
-    const Json* own = serversIn(state);
-    const bool losesServers = own != nullptr && !own->empty() && servers != nullptr && *own != *servers;
+    const bool losesServers = servers != nullptr && !isContained(serversIn(state), *servers);
 
     Json changed = state;
     if (servers != nullptr)

@@ -41,9 +41,18 @@ bool ProfileStore::isLinked(const ComponentItem& item, const Profile& to, Compon
     return item.linkTarget && item.linkTarget->starts_with(to.url(component).string() + "/");
 }
 
+/// A folder linked as a whole is another profile's: what is done in it would be done there.
+void ProfileStore::requireOwnFolder(Component component, const Profile& profile) const {
+    if (m_files.linkTarget(profile.url(component)))
+        throw LauncherError("La cartella \"" + std::string(rawValue(component)) + "\" di " +
+                            profile.meta.name +
+                            " è un collegamento: gli elementi si cambiano nella cartella a cui porta");
+}
+
 /// Where a new item of that name belongs, its folder made; throws when something is there already.
 fs::path ProfileStore::freePlace(const std::string& name, const Profile& in, Component component) {
     const fs::path folder = in.url(component);
+    requireOwnFolder(component, in);
     m_files.createFolders(folder);
     fs::path place = folder / name;
     if (m_files.exists(place))

@@ -48,9 +48,11 @@ SyncReport ProfileStore::sync(const Profile& profile) {
         const auto present = namesOf(own);
         const auto excluded = profile.excluded(component);
         for (const std::string& name : itemNames(component, *source)) {
-            if (present.contains(name) || excluded.contains(name))
+            const std::filesystem::path origin = source->url(component) / name;
+            // One that leads nowhere itself would be dropped again by the next run.
+            if (present.contains(name) || excluded.contains(name) || !m_files.existsFollowingLinks(origin))
                 continue;
-            m_files.createLink(source->url(component) / name, freePlace(name, profile, component));
+            m_files.createLink(origin, freePlace(name, profile, component));
             report.added.push_back(reportLine(component, name));
         }
     }
@@ -113,12 +115,13 @@ void ProfileStore::copyMissing(Component component, const Profile& to, const Pro
     const auto present = namesOf(items(component, to));
     const auto excluded = to.excluded(component);
     for (const ComponentItem& item : items(component, from)) {
-        if (!present.contains(item.name) && !excluded.contains(item.name))
+        if (!present.contains(item.name) && !excluded.contains(item.name) && !item.isBroken)
             addItem(item, to, component, false);
     }
 }
 
 Profile ProfileStore::remove(const ComponentItem& item, const Profile& from, Component component) {
+    requireOwnFolder(component, from);
     Profile changed = from;
     // Looked at again: since it was listed, another program may have put a file in the place of the link.
     if (!m_files.removeLink(item.url)) {
@@ -138,14 +141,17 @@ Profile ProfileStore::remove(const ComponentItem& item, const Profile& from, Com
 
 Profile ProfileStore::importItems(const std::set<std::string>& names, const Profile& source,
                                   const Profile& into, Component component, bool link) {
+    std::set<std::string> imported;
     for (const ComponentItem& item : items(component, source)) {
-        if (names.contains(item.name))
-            addItem(item, into, component, link);
+        if (!names.contains(item.name))
+            continue;
+        addItem(item, into, component, link);
+        imported.insert(item.name);
     }
     Profile changed = into;
     const auto excluded = changed.meta.excluded.find(std::string(rawValue(component)));
     if (excluded != changed.meta.excluded.end())
-        std::erase_if(excluded->second, [&](const std::string& name) { return names.contains(name); });
+        std::erase_if(excluded->second, [&](const std::string& name) { return imported.contains(name); });
     saveMeta(changed);
     return changed;
 }

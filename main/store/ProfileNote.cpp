@@ -3,7 +3,6 @@
 
 #include "store/ProfileStore.h"
 
-
 #include "platform/Text.h"
 
 namespace selvane {
@@ -33,7 +32,8 @@ std::string sharedItemsLine(const std::string& components, const Profile& source
     const std::string name = "\"" + text::singleLine(source.meta.name) + "\"";
     return "- Items in " + components + " that are symlinks into `" + source.configDir.string() +
            "` are shared with the profile " + name +
-           ": editing them changes that profile too. New items created here stay in this profile only. To share "
+           ": editing them changes that profile too. New items created here stay in this profile only. To "
+           "share "
            "a new item with every profile linked to " +
            name + ", it must be installed in " + name + "; Selvane links it here at the next launch.\n";
 }
@@ -49,14 +49,16 @@ std::string ProfileStore::profileNote(const Profile& profile) const {
     note += "This session runs in the Selvane profile " + name +
             ". Its user configuration directory (CLAUDE_CONFIG_DIR) is `" + dir + "` (" +
             profile.configDir.string() + "), not `~/.claude`.\n";
-    note += "- Install user-level skills, agents, commands, output styles and rules in `" + dir + "/skills`, `" +
-            dir + "/agents`, `" + dir + "/commands`, `" + dir + "/output-styles` and `" + dir +
+    note += "- Install user-level skills, agents, commands, output styles and rules in `" + dir +
+            "/skills`, `" + dir + "/agents`, `" + dir + "/commands`, `" + dir + "/output-styles` and `" +
+            dir +
             "/rules`. Plugins and marketplaces installed with `claude plugin …` from this session also go to "
             "this profile, so look for them under `" +
             dir + "/plugins` and `" + dir + "/settings.json`.\n";
-    note += "- `~/.claude` is the Main profile. Don't write there (it's outside this session's configuration) "
-            "unless the user explicitly asks to change the Main profile; in that case suggest running the "
-            "command from a terminal outside Claude.\n";
+    note +=
+        "- `~/.claude` is the Main profile. Don't write there (it's outside this session's configuration) "
+        "unless the user explicitly asks to change the Main profile; in that case suggest running the "
+        "command from a terminal outside Claude.\n";
     const std::string components = sharedComponents(profile);
     const auto source = sourceOf(profile);
     if (source && !components.empty())
@@ -68,6 +70,8 @@ void ProfileStore::writeProfileNote(const Profile& profile) {
     if (profile.isDefault())
         return;
     const fs::path folder = profile.url(Component::rules);
+    if (m_files.linkTarget(folder))
+        return; // a folder linked as a whole is another profile's
     m_files.createFolders(folder);
     const fs::path file = folder / kProfileNoteName;
     const std::string text = profileNote(profile);

@@ -17,11 +17,13 @@ constexpr std::string_view kDefaultSymbol = "house";
 constexpr std::string_view kDefaultMetaFileName = "default.json";
 constexpr std::string_view kActiveFileName = ".active";
 
-/// Absolute, in the one spelling that links and logins are tied to. ".." stays: behind a link, leaving it out
-/// would name another folder.
+/// Absolute, in the one spelling that links and logins are tied to.
 fs::path spelled(const fs::path& path) {
     fs::path result;
     for (const fs::path& part : fs::absolute(path)) {
+        // Behind a link, ".." leads elsewhere than the text says: only the file system knows where.
+        if (part == "..")
+            return fs::weakly_canonical(fs::absolute(path));
         if (!part.empty() && part != ".")
             result /= part;
     }
@@ -113,7 +115,8 @@ std::optional<Profile> ProfileStore::sourceOf(const Profile& profile) const {
 }
 
 void ProfileStore::saveMeta(const Profile& profile) {
-    const fs::path file = profile.isDefault() ? m_root / kDefaultMetaFileName : profile.configDir / kMetaFileName;
+    const fs::path file =
+        profile.isDefault() ? m_root / kDefaultMetaFileName : profile.configDir / kMetaFileName;
     m_files.write(file, encoded(profile.meta));
 }
 

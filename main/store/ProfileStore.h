@@ -29,10 +29,10 @@ struct NewProfile {
     std::string name; ///< trimmed before use; must not be blank
     std::string summary;
     std::string symbol = ProfileMeta{}.symbol;
-    std::optional<Profile> from;                           ///< the source of its components
-    std::map<Component, ShareMode> modes;                  ///< the default mode for those missing
-    std::map<Component, std::set<std::string>> selection;  ///< items to take; all for those missing
-    std::optional<std::string> account;                    ///< id of the profile whose account it uses
+    std::optional<Profile> from;                          ///< the source of its components
+    std::map<Component, ShareMode> modes;                 ///< the default mode for those missing
+    std::map<Component, std::set<std::string>> selection; ///< items to take; all for those missing
+    std::optional<std::string> account;                   ///< id of the profile whose account it uses
 };
 
 /// The profiles on disk. It keeps no cache: every query reads the file system again.
@@ -63,7 +63,7 @@ public:
     std::vector<Profile> loadAll() const; ///< the built-in profile, then the others by name
     std::optional<Profile> profile(std::string_view id) const;
     void saveMeta(const Profile& profile);
-    void markLaunched(const Profile& profile); ///< never fails
+    void markLaunched(const Profile& profile);   ///< never fails
     std::optional<std::string> activeID() const; ///< may name a profile that is gone
     bool exists(const std::filesystem::path& path) const { return m_files.exists(path); }
 
@@ -134,6 +134,7 @@ private:
     void changeClaudeMd(ShareMode mode, const Profile& profile, const Profile& source);
 
     std::vector<std::string> itemNames(Component component, const Profile& profile) const;
+    void requireOwnFolder(Component component, const Profile& profile) const;
     std::filesystem::path freePlace(const std::string& name, const Profile& in, Component component);
     void setCollectionMode(ShareMode mode, Component component, Profile& profile, const Profile& source);
     void copyMissing(Component component, const Profile& to, const Profile& from);

@@ -20,10 +20,12 @@ constexpr std::string_view kQueueFolder = ".pending-sessions";
 
 /// They describe connections and tools of the account that a record leaves.
 constexpr std::array<std::string_view, 6> kAccountBoundKeys = {
-    "remoteMcpServersConfig", "enabledMcpTools",          "toolSurfaceSnapshot",
+    "remoteMcpServersConfig", "enabledMcpTools",           "toolSurfaceSnapshot",
     "promptAppendSnapshot",   "remoteControlAutoEligible", "steeredByRemoteClient"};
 
-bool isHidden(const std::string& name) { return name.starts_with('.'); }
+bool isHidden(const std::string& name) {
+    return name.starts_with('.');
+}
 
 fs::file_time_type modDate(const fs::path& path) {
     std::error_code failure;
@@ -97,9 +99,8 @@ std::vector<CodeSession> ProfileStore::codeSessions(const Profile& profile) cons
     const auto activity = [](const CodeSession& session) {
         return session.lastActivity.value_or(-std::numeric_limits<double>::infinity());
     };
-    std::stable_sort(sessions.begin(), sessions.end(), [&](const CodeSession& a, const CodeSession& b) {
-        return activity(a) > activity(b);
-    });
+    std::stable_sort(sessions.begin(), sessions.end(),
+                     [&](const CodeSession& a, const CodeSession& b) { return activity(a) > activity(b); });
     return sessions;
 }
 
@@ -174,11 +175,12 @@ int ProfileStore::flushPendingSessions(const Profile& profile) {
     int placed = 0;
     for (const std::string& name : queued) {
         const fs::path place = folders.front() / name;
-        // A hidden entry is what an interrupted write left behind, or a record that is there already.
-        if (isHidden(name) || m_files.exists(place)) {
-            m_files.removeTree(queue / name);
+        const bool isLeftover = name.starts_with(FileManager::kTemporaryPrefix);
+        const bool isPlaced = !isHidden(name) && m_files.exists(place);
+        if ((isLeftover || isPlaced) && m_files.isRegularFile(queue / name))
+            m_files.removeFile(queue / name);
+        if (isHidden(name) || isPlaced)
             continue;
-        }
         m_files.move(queue / name, place);
         ++placed;
     }

@@ -39,7 +39,8 @@ std::filesystem::path ProfileStore::installTerminalHelper() {
     const std::filesystem::path folder = m_root / "bin";
     m_files.createFolders(folder);
     const std::filesystem::path script = folder / "claude-profile";
-    m_files.write(script, std::string(kScriptBegin) + shellEscaped(m_root.string()) + std::string(kScriptEnd));
+    m_files.write(script,
+                  std::string(kScriptBegin) + shellEscaped(m_root.string()) + std::string(kScriptEnd));
     m_files.setMode(script, 0755);
     return script;
 }

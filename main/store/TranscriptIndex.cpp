@@ -22,7 +22,8 @@ TranscriptIndex::TranscriptIndex(const std::filesystem::path& configDir) {
     }
 }
 
-std::optional<std::filesystem::path> TranscriptIndex::transcriptFolder(const std::string& cliSessionID) const {
+std::optional<std::filesystem::path>
+TranscriptIndex::transcriptFolder(const std::string& cliSessionID) const {
     const auto entry = m_folderOfSession.find(cliSessionID);
     return entry == m_folderOfSession.end() ? std::nullopt : std::optional(m_folders[entry->second]);
 }

@@ -13,7 +13,8 @@
 
 namespace selvane {
 
-/// Where the transcripts of one configuration folder lie, read once: looking a session up costs no file access.
+/// Where the transcripts of one configuration folder lie, read once: looking a session up costs no file
+/// access.
 class TranscriptIndex {
 public:
     /// Reads `configDir`/projects; what can't be read counts as empty.

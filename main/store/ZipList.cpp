@@ -31,6 +31,21 @@ std::string asArgument(const std::string& path) {
     return path.starts_with('-') || path.starts_with('@') ? "./" + path : path;
 }
 
+/// A source that is itself a link: what the user wants to keep is what it leads to.
+void addTarget(const fs::path& link, const fs::path& home, ZipList& list) {
+    std::error_code failure;
+    const fs::path target = fs::canonical(link, failure);
+    if (failure)
+        return;
+    if (fs::is_directory(target)) {
+        // With a slash behind its name, zip goes through the link. It would then take the name itself twice.
+        list.paths.back() += '/';
+        list.patterns.push_back(patternFor(list.paths.back()));
+    } else {
+        list.paths.push_back(relativeToHome(target, home));
+    }
+}
+
 } // namespace
 
 std::string relativeToHome(const fs::path& path, const fs::path& home) {
@@ -43,12 +58,10 @@ ZipList zipList(const std::vector<fs::path>& sources, const std::vector<fs::path
                 const fs::path& home) {
     ZipList list;
     for (const fs::path& source : sources) {
-        std::string path = relativeToHome(source, home);
-        // A configuration folder that is itself a link: its content is what the user wants to keep.
-        std::error_code ignored;
-        if (fs::is_symlink(source, ignored) && fs::is_directory(source, ignored))
-            path += '/';
-        list.paths.push_back(std::move(path));
+        list.paths.push_back(relativeToHome(source, home));
+        std::error_code failure;
+        if (fs::is_symlink(source, failure))
+            addTarget(source, home, list);
     }
     for (const fs::path& folder : desktopFolders) {
         const std::string path = patternFor(relativeToHome(folder, home));

@@ -1,2 +1,143 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
+
+#include "desktop/ClaudeApp.h"
+
+#include <gtest/gtest.h>
+
+#include "support/Home.h"
+#include "support/RunningProcess.h"
+
+namespace selvane {
+namespace {
+
+namespace fs = std::filesystem;
+using namespace std::chrono_literals;
+using namespace test;
+using enum ClaudeApp::QuitKind;
+using Texts = std::vector<std::string>;
+using Pids = std::vector<std::int32_t>;
+
+ProcInfo process(std::int32_t pid, std::int32_t ppid, const std::string& path, const Texts& args = {}) {
+    ProcInfo result;
+    result.pid = pid;
+    result.ppid = ppid;
+    result.path = path;
+    result.args = args;
+    return result;
+}
+
+Pids pidsOf(const std::vector<ProcInfo>& processes) {
+    Pids pids;
+    for (const ProcInfo& each : processes)
+        pids.push_back(each.pid);
+    return pids;
+}
+
+TEST(ClaudeApp, processesOf_Rules_TellWhoBelongs) {
+    const std::vector<ProcInfo> all = {process(99, 30, "/bin/late"),
+                                       process(1, 0, "/sbin/init"),
+                                       process(10, 1, "/opt/claude"),
+                                       process(30, 10, "/bin/child"),
+                                       process(40, 1, "/a/b/bin/tool"),
+                                       process(41, 1, "/a/bc/tool"),
+                                       process(50, 1, "/bin/x", {"--log=/a/b/log"}),
+                                       process(51, 1, "/bin/x", {"y", "--something=/a/b"}),
+                                       process(52, 1, "/bin/x", {"/a/bc", "/a/b", "=/a/b ", "=/x/a/b"}),
+                                       process(60, 61, "/bin/loop"),
+                                       process(61, 60, "/bin/loop")};
+    EXPECT_EQ(pidsOf(processesOf("/a/b", {10}, all)), (Pids{99, 10, 30, 40, 50, 51}));
+    std::vector<ProcInfo> chain;
+    for (std::int32_t generation = 0; generation <= 33; ++generation)
+        chain.push_back(process(generation, generation - 1, "/bin/x"));
+    EXPECT_EQ(processesOf("/a/b", {0}, chain), std::vector<ProcInfo>(chain.begin(), chain.begin() + 32))
+        << "31 ancestors";
+}
+
+TEST(ClaudeApp, quit_EachOutcome_TakesItsTime) {
+    const struct {
+        ClaudeApp::QuitKind kind;
+        int copies;
+        int ignored; ///< polite requests
+        bool until;
+        bool result;
+        std::chrono::milliseconds took;
+    } cases[] = {{polite, 0, 0, true, true, 0ms},    {polite, 2, 0, true, true, 0ms},
+                 {polite, 2, 1, true, false, 750ms}, {polite, 2, 0, false, false, 750ms},
+                 {forced, 2, 9, true, true, 0ms},    {forced, 1, 0, false, false, 3s}};
+    for (const auto& [kind, copies, ignored, until, result, took] : cases) {
+        Home home;
+        home.workspace.terminationsIgnored = ignored;
+        std::vector<ClaudeApp::Instance> instances;
+        for (std::int32_t pid = 7; pid < 7 + copies; ++pid) {
+            home.workspace.apps.push_back({pid, 1});
+            instances.push_back({{pid, 1}, "", {}});
+        }
+        EXPECT_EQ(home.claude.quit(instances, kind, 600ms,
+                                   [&, answer = until] {
+                                       EXPECT_TRUE(home.workspace.apps.empty())
+                                           << "asked only when all have ended";
+                                       return answer;
+                                   }),
+                  result);
+        EXPECT_EQ(home.clock.time.time_since_epoch(), took) << copies;
+        const auto& asked = kind == polite ? home.workspace.terminated : home.workspace.forced;
+        EXPECT_EQ(asked.size(), instances.size());
+        EXPECT_EQ(home.workspace.terminated.size() + home.workspace.forced.size(), instances.size());
+    }
+}
+
+TEST(ClaudeApp, launch_EachKindOfProfile_PassesWhatItNeeds) {
+    Home home;
+    const Profile own = home.make("Lavoro"), guest = home.store.create(request("Ospite", {}, "default"));
+    const fs::path data = home.store.desktopStore() / "lavoro";
+    writeTree(home.path, {{".claude/skills/uno", ""},
+                          {".claude-profiles/.desktop-data/default/Cookies", "mine"},
+                          {".claude-profiles/.desktop-data/.live", "lavoro"},
+                          {".config/Claude/claude-code-sessions/a/b", "/"},
+                          {".claude-profiles/lavoro/.pending-sessions/local_1.json", "{}"}});
+    home.workspace.whenOpening = [&] { // what is prepared is ready by then
+        EXPECT_TRUE(fs::is_symlink(own.configDir / "skills/uno"));
+        EXPECT_EQ(readFile(data / "claude-code-sessions/a/b/local_1.json"), "{}")
+            << "in its account's own folder again";
+        EXPECT_EQ(treeOf(home.store.liveDesktopDir()), (Tree{{"Cookies", "mine"}}));
+    };
+    for (const Profile& profile : {own, guest, home.builtIn()}) {
+        home.claude.launch(profile, home.store);
+        const OpenConfiguration& opening = home.workspace.openings.back();
+        EXPECT_EQ(opening.arguments, profile == own ? Texts{"--user-data-dir=" + data.string()} : Texts{})
+            << profile.id;
+        EXPECT_EQ(opening.environment, profile.isDefault()
+                                           ? Environment{}
+                                           : (Environment{{"CLAUDE_CONFIG_DIR", profile.configDir}}))
+            << profile.id;
+        for (const char* withheld : {"CLAUDE_CONFIG_DIR", "CLAUDE_LAUNCHER_ROOT"})
+            EXPECT_TRUE(opening.withholds(withheld)) << withheld;
+        EXPECT_FALSE(opening.withholds("XDG_CURRENT_DESKTOP"));
+        EXPECT_EQ(home.store.activeID(), profile.id);
+        EXPECT_TRUE(home.store.profile(profile.id)->meta.lastLaunched);
+    }
+}
+
+TEST(ClaudeApp, launch_NotPossible_IsNotRecorded) {
+    Home home(Home::Processes::seen);
+    const Profile profile = home.make("Lavoro");
+    writeFile(home / ".claude/skills/uno.md", "");
+    home.store.restoreDesktopData(); // makes the store of accounts
+    const Tree before = treeOf(home.path);
+    const auto refusal = [&] { return messageOf([&] { home.claude.launch(profile, home.store); }); };
+    home.workspace.installed.reset();
+    EXPECT_EQ(refusal(), "Claude.app non trovata. Installala in /Applications.");
+    home.workspace = {};
+    {
+        const RunningProcess copy({"--user-data-dir=" + home.store.desktopDataDir(profile).string()}, {});
+        EXPECT_EQ(refusal(), "L'account di «Lavoro» è già aperto in Claude: chiudilo prima.");
+    }
+    EXPECT_EQ(treeOf(home.path), before) << "refused before anything is written";
+    home.workspace.refusesToOpen = true;
+    EXPECT_EQ(refusal(), "refused");
+    EXPECT_FALSE(home.store.activeID() || home.store.profile("lavoro")->meta.lastLaunched);
+}
+
+} // namespace
+} // namespace selvane

@@ -4,8 +4,10 @@
 #include "platform/FileManager.h"
 
 #include <array>
+#include <cstdint>
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <map>
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
@@ -92,8 +94,11 @@ bool holdsUnprivileged(const TemporaryFolder& folder, Check check) {
         EXPECT_EQ(::lchown(entry.path().c_str(), kNobody, kNobody), 0);
     EXPECT_EQ(::lchown(folder.path().c_str(), kNobody, kNobody), 0);
     const pid_t child = ::fork();
-    if (child == 0)
-        ::_exit(::setgid(kNobody) == 0 && ::setuid(kNobody) == 0 && check() ? 0 : 1);
+    if (child == 0) {
+        // An exception must end the child, which would go on with the other tests.
+        const auto holds = [&]() noexcept { return check(); };
+        ::_exit(::setgid(kNobody) == 0 && ::setuid(kNobody) == 0 && holds() ? 0 : 1);
+    }
     int status = -1;
     EXPECT_EQ(::waitpid(child, &status, 0), child);
     return status == 0;
@@ -130,17 +135,28 @@ TEST(FileManager, CopyKeepsKindsModesTimesAndContent) {
     EXPECT_EQ(kFiles.entries(folder.path()).size(), 2U) << "a temporary is left";
 }
 
+/// An access list as the kernel takes it: for the owner, another user and, as the mask, all but the owner.
+struct AccessList {
+    AccessList(std::uint16_t owner, std::uint16_t others)
+        : entries{{{1, owner, ~0U}, {2, others, 1337}, {4, 0, ~0U}, {16, others, ~0U}, {32, 0, ~0U}}} {}
+
+    struct Entry {
+        std::uint16_t tag;
+        std::uint16_t permissions;
+        std::uint32_t id;
+    };
+    std::uint32_t version = 2;
+    std::array<Entry, 5> entries;
+};
+
 TEST(FileManager, CopyKeepsAttributesAndAccessLists) {
     const TemporaryFolder folder;
     makeFile(folder / "file", "x", 0640);
     const std::string name = folder / "file";
     if (::setxattr(name.c_str(), "user.colour", "green", 5, 0) != 0)
         GTEST_SKIP() << "this file system keeps no attributes";
-    // Version 2; the user may read and write, another user read, the group nothing, the mask is read.
-    const unsigned char list[] = {2, 0,  0,   0,   1,   0,   6,    0, 255, 255,  255,  255,  2,    0,    4,
-                                  0, 57, 5,   0,   0,   4,   0,    0, 0,   0xFF, 0xFF, 0xFF, 0xFF, 0x10, 0,
-                                  4, 0,  255, 255, 255, 255, 0x20, 0, 0,   0,    255,  255,  255,  255};
-    const bool hasList = ::setxattr(name.c_str(), "system.posix_acl_access", list, sizeof list, 0) == 0;
+    const AccessList list(6, 4);
+    const bool hasList = ::setxattr(name.c_str(), "system.posix_acl_access", &list, sizeof list, 0) == 0;
     kFiles.copy(folder / "file", folder / "copy");
     kFiles.write(folder / "file", "replaced");
     for (const char* file : {"file", "copy"}) {
@@ -157,11 +173,9 @@ TEST(FileManager, CopyGivesNobodyElseAccessThroughTheFolder) {
     const TemporaryFolder folder;
     makeFile(folder / "file", "x", 0640);
     kFiles.createFolder(folder / "shared");
-    const unsigned char list[] = {2, 0,  0,   0,   1,   0,   7,  0, 255, 255, 255, 255, 2,   0,  7,
-                                  0, 57, 5,   0,   0,   4,   0,  0, 0,   255, 255, 255, 255, 16, 0,
-                                  7, 0,  255, 255, 255, 255, 32, 0, 0,   0,   255, 255, 255, 255};
+    const AccessList list(7, 7);
     const std::string shared = folder / "shared";
-    if (::setxattr(shared.c_str(), "system.posix_acl_default", list, sizeof list, 0) != 0)
+    if (::setxattr(shared.c_str(), "system.posix_acl_default", &list, sizeof list, 0) != 0)
         GTEST_SKIP() << "this file system keeps no access lists";
     kFiles.copy(folder / "file", folder / "shared/copy");
     EXPECT_EQ(::getxattr((shared + "/copy").c_str(), "system.posix_acl_access", nullptr, 0), -1);
@@ -171,9 +185,9 @@ TEST(FileManager, CopyGivesNobodyElseAccessThroughTheFolder) {
 TEST(FileManager, CopyTakesHolesAndFilesOfUnknownSize) {
     const TemporaryFolder folder;
     makeFile(folder / "image", "start", 0600);
-    fs::resize_file(folder / "image", 50'000'000);
+    fs::resize_file(folder / "image", 5'000'000);
     kFiles.copy(folder / "image", folder / "copy");
-    EXPECT_EQ(fs::file_size(folder / "copy"), 50'000'000U);
+    EXPECT_EQ(fs::file_size(folder / "copy"), 5'000'000U);
     EXPECT_LT(statusOf(folder / "copy").st_blocks, 1000);
     EXPECT_EQ(kFiles.read(folder / "copy"), kFiles.read(folder / "image"));
     kFiles.copy("/proc/version", folder / "version");
@@ -223,8 +237,8 @@ TEST(FileManager, CopyThatFailsInsideNamesTheCulpritAndLeavesNothing) {
 }
 
 /// Deeper than files may be open and than a path may be long; with a file in the last folder.
-constexpr int kDepth = 2000;
-constexpr const char* kLevel = "level";
+constexpr int kDepth = 100;
+constexpr const char* kLevel = "a folder whose name makes paths longer than one may be";
 
 void makeDeepTree(const fs::path& top) {
     kFiles.createFolder(top);
@@ -256,7 +270,7 @@ TEST(FileManager, CopiesAndRemovesAnyDepthWithFewOpenFiles) {
     makeDeepTree(folder / "deep");
     rlimit before = {};
     ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &before), 0);
-    const rlimit few = {64, before.rlim_max};
+    const rlimit few = {48, before.rlim_max};
     ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &few), 0);
     EXPECT_NO_THROW(kFiles.copy(folder / "deep", folder / "copy"));
     EXPECT_TRUE(isDeepTree(folder / "copy"));
@@ -368,12 +382,16 @@ TEST(FileManager, ReplaceLinkGivesBackWhatIsNoLinkAnyMore) {
 TEST(FileManager, ReplaceTrashingNeedsACompleteSuccessor) {
     const TemporaryFolder folder;
     makeFile(folder / "file", "old", 0600);
-    EXPECT_THROW(kFiles.replaceTrashing(folder / "file",
-                                        [](const fs::path& temporary) {
-                                            kFiles.write(temporary, "half");
-                                            throw std::runtime_error("stopped");
-                                        }),
-                 std::runtime_error);
+    const auto incomplete = [](const fs::path& temporary) {
+        kFiles.write(temporary, "half");
+        kFiles.createFolder(temporary / "inside");
+    };
+    try {
+        kFiles.replaceTrashing(folder / "file", incomplete);
+        FAIL() << "no error";
+    } catch (const fs::filesystem_error& error) {
+        EXPECT_EQ(error.path1(), folder / "file/inside");
+    }
     EXPECT_EQ(kFiles.read(folder / "file"), "old");
     kFiles.replaceTrashing(folder / "other",
                            [](const fs::path& temporary) { kFiles.write(temporary, "new"); });

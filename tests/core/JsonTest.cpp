@@ -73,6 +73,7 @@ TEST(JsonTest, namesThePlaceOfAnError) {
         {"[01]", "riga 1, colonna 3"},
         {"[1.5.5]", "riga 1, colonna 5"},
         {"[1.5e]", "riga 1, colonna 5"},
+        {"[1-2e3]", "riga 1, colonna 4"},
         {"[1,]", "riga 1, colonna 4"},
         {"{} {}", "riga 1, colonna 4"},
         {"[1.0]\n\0x"s, "riga 2, colonna 1"},
@@ -97,6 +98,11 @@ TEST(JsonTest, largeObjectsTakeLinearTime) {
         text += "  \"" + std::to_string(i) + "\": 1e9,\n";
     text += "  \"last\": 0\n}\n";
     EXPECT_TRUE(roundTrip(text) == text);
+}
+
+TEST(JsonTest, halvesOfPairsBecomeReplacementCharacters) {
+    EXPECT_EQ(roundTrip(R"(["cut \ud83d", "\uDE00\ud83d\ude00\ud83d\n", "\\ud83d", "\u00e8"])"),
+              "[\n  \"cut \uFFFD\",\n  \"\uFFFD\U0001F600\uFFFD\\n\",\n  \"\\\\ud83d\",\n  \"è\"\n]\n");
 }
 
 TEST(JsonTest, findsTheLastOfRepeatedKeys) {

@@ -25,12 +25,23 @@ using test::TemporaryFolder;
 const FileManager kFiles;
 
 int runShell(const std::string& script, const fs::path& folder) {
-    return process::run("/bin/sh", {"-c", script}, folder);
+    return process::run("/bin/sh", {"-c", script}, currentEnvironment(), folder);
 }
 
 void startShell(const std::string& script, const fs::path& folder, const Environment& environment = {},
                 const std::string& pidVariable = {}) {
     process::startDetached("/bin/sh", {"-c", script}, environment, folder, pidVariable);
+}
+
+/// Runs `body` in a child. An exception aborts it: it must not go on with the other tests.
+template <typename Body>
+pid_t forkInto(Body body) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        [&]() noexcept { body(); }();
+        ::_exit(0);
+    }
+    return child;
 }
 
 /// The path that an operation fails for.
@@ -62,7 +73,7 @@ TEST(Process, RunGivesTheStatusAndMakesPrivateFiles) {
     ASSERT_EQ(::stat((folder / "made").c_str(), &status), 0);
     EXPECT_EQ(status.st_mode & 07777, 0600U);
     EXPECT_EQ(runShell("kill -9 $$", folder.path()), 128 + SIGKILL);
-    EXPECT_EQ(culprit([&] { process::run("/no such", {}, folder.path()); }), "/no such");
+    EXPECT_EQ(culprit([&] { process::run("/no such", {}, {}, folder.path()); }), "/no such");
     EXPECT_EQ(culprit([&] { runShell("", folder / "missing"); }), folder / "missing");
 }
 
@@ -78,23 +89,25 @@ TEST(Process, RunFreesTheChildOfWhatItsParentsIgnore) {
     ::pthread_sigmask(SIG_UNBLOCK, &blocked, nullptr);
 }
 
+/// The signal that ends a process which some child of ours has started and left; 0 when it exits.
+int endingSignal(pid_t orphan) {
+    int status = 0;
+    EXPECT_EQ(::waitpid(orphan, &status, 0), orphan);
+    return WIFSIGNALED(status) ? WTERMSIG(status) : 0;
+}
+
 TEST(Process, RunEndsWithItsParent) {
     const TemporaryFolder folder;
     ASSERT_EQ(::mkfifo((folder / "pid").c_str(), 0600), 0);
     ::prctl(PR_SET_CHILD_SUBREAPER, 1);
-    const pid_t parent = ::fork();
-    if (parent == 0)
-        ::_exit(runShell("echo $$ > pid; exec sleep 60", folder.path()));
+    const pid_t parent = forkInto([&] { runShell("echo $$ > pid; exec sleep 10", folder.path()); });
     const int fifo = ::open((folder / "pid").c_str(), O_RDONLY);
     char text[16] = {};
     ASSERT_GT(::read(fifo, text, sizeof text - 1), 0);
     ::close(fifo);
     ::kill(parent, SIGKILL);
-    int status = 0;
-    EXPECT_EQ(::waitpid(parent, nullptr, 0), parent);
-    const pid_t child = std::stoi(text);
-    EXPECT_EQ(::waitpid(child, &status, 0), child);
-    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGTERM);
+    EXPECT_EQ(endingSignal(parent), SIGKILL);
+    EXPECT_EQ(endingSignal(std::stoi(text)), SIGTERM);
     ::prctl(PR_SET_CHILD_SUBREAPER, 0);
 }
 
@@ -116,9 +129,12 @@ TEST(Process, DetachedProgramGetsItsOwnWorld) {
 
 TEST(Process, DetachedProgramLivesOn) {
     const TemporaryFolder folder;
-    startShell("echo $$ > pid; exec sleep 60", folder.path(), {{"PATH", "/usr/bin:/bin"}});
+    ::prctl(PR_SET_CHILD_SUBREAPER, 1);
+    startShell("echo $$ > pid; exec sleep 10", folder.path(), {{"PATH", "/usr/bin:/bin"}});
     const pid_t pid = std::stoi(kFiles.read(folder / "pid"));
-    EXPECT_EQ(::kill(pid, SIGTERM), 0);
+    ::kill(pid, SIGTERM);
+    EXPECT_EQ(endingSignal(pid), SIGTERM);
+    ::prctl(PR_SET_CHILD_SUBREAPER, 0);
 }
 
 TEST(Process, DetachedProgramThatFailsAtOnceIsAnError) {
@@ -136,18 +152,11 @@ TEST(Process, DetachedProgramThatFailsAtOnceIsAnError) {
 
 TEST(Process, StartsWithClosedStandardStreams) {
     const TemporaryFolder folder;
-    const pid_t child = ::fork();
-    if (child == 0) {
+    const pid_t child = forkInto([&] {
         for (int stream = 0; stream <= 2; ++stream)
             ::close(stream);
-        try {
-            startShell("echo $(readlink /proc/$$/fd/[012]) > files", folder.path(),
-                       {{"PATH", "/usr/bin:/bin"}});
-        } catch (const std::exception&) {
-            ::_exit(1);
-        }
-        ::_exit(0);
-    }
+        startShell("echo $(readlink /proc/$$/fd/[012]) > files", folder.path(), {{"PATH", "/usr/bin:/bin"}});
+    });
     int status = -1;
     ::waitpid(child, &status, 0);
     EXPECT_EQ(status, 0);

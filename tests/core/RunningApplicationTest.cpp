@@ -7,14 +7,16 @@
 #include <nlohmann/json.hpp>
 
 #include <stdlib.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <chrono>
 #include <fstream>
+#include <functional>
+#include <optional>
 #include <thread>
 
 #include "platform/ProcInfo.h"
+#include "support/TemporaryFolder.h"
 
 namespace selvane {
 namespace {
@@ -47,10 +49,7 @@ private:
 class RunningApplicationTest : public testing::Test {
 protected:
     void SetUp() override {
-        std::string pattern = (fs::temp_directory_path() / "selvane-XXXXXX").string();
-        ASSERT_NE(::mkdtemp(pattern.data()), nullptr);
-        m_root = fs::canonical(pattern);
-        m_name = "stand-in-" + m_root.extension().string() + m_root.filename().string().substr(8);
+        m_name = "stand-in-" + m_root.filename().string();
         m_identity = {{"example.selvane." + m_name}, m_name};
         m_environment = {{"HOME", m_root}, {"PATH", (m_root / "bin").string() + ":/usr/bin:/bin"}};
         m_executable = m_root / "app" / m_name;
@@ -62,7 +61,6 @@ protected:
         for (const ProcInfo& process : processes())
             workspace()->forceTerminate({process.pid, process.startTime});
         EXPECT_TRUE(eventually([this] { return processes().empty(); }));
-        fs::remove_all(m_root);
     }
 
     static void install(const fs::path& executable) {
@@ -104,7 +102,8 @@ protected:
 
     static constexpr std::size_t kProcessCount = 5; ///< main, zygote, renderer, utility, Node
 
-    fs::path m_root;
+    test::TemporaryFolder m_folder;
+    const fs::path m_root = m_folder.path();
     std::string m_name;
     fs::path m_executable;
     ApplicationIdentity m_identity;
@@ -180,6 +179,7 @@ TEST_F(RunningApplicationTest, IsRecognisedAfterItsExecutableWasReplaced) {
     const std::vector<RunningApplication> running = workspace()->running();
     ASSERT_EQ(running.size(), 1U);
     EXPECT_EQ(told["pid"], running[0].pid);
+    EXPECT_EQ(ProcInfo::read(running[0].pid)->path, m_executable);
 }
 
 TEST_F(RunningApplicationTest, IsRecognisedBehindAWrapper) {

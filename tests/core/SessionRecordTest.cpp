@@ -79,6 +79,12 @@ TEST_F(SessionRecordTest, numbersBeyondTheMachineDropNoRecord) {
     EXPECT_FALSE(infinite->lastActivityAt);
 }
 
+TEST_F(SessionRecordTest, titleCutInsideAnEmojiDropsNoRecord) {
+    const auto record = read(R"({"sessionId": "s", "title": "a\ud83d", "n": 12345678901234567890123})");
+    ASSERT_TRUE(record);
+    EXPECT_EQ(record->title, "a\uFFFD");
+}
+
 TEST_F(SessionRecordTest, refusesWhatIsNoRecord) {
     const std::string deep =
         R"({"sessionId": "s", "a": )" + std::string(5000, '[') + std::string(5000, ']') + '}';

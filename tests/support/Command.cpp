@@ -35,7 +35,18 @@ void redirect(int stream, const fs::path& file) {
 
 } // namespace
 
-CommandHome::CommandHome() : environment{{"PATH", "/usr/local/bin:/usr/bin:/bin"}} {
+std::ostream& operator<<(std::ostream& out, const Outcome& outcome) {
+    return out << "status " << outcome.status << "\n" << outcome.out << "--\n" << outcome.err;
+}
+
+Outcome failure(const std::string& message) {
+    return {1, "", "Errore: " + message + "\n"};
+}
+
+CommandHome::CommandHome() {
+    environment["HOME"] = path().string();
+    environment["PATH"] = (*this / "bin").string();
+    environment["XDG_DATA_DIRS"] = (*this / "share").string();
     // Reports of the sanitizers must not be taken for a clean end.
     environment["ASAN_OPTIONS"] = "exitcode=99";
     environment["UBSAN_OPTIONS"] = "exitcode=99:halt_on_error=1";
@@ -44,7 +55,7 @@ CommandHome::CommandHome() : environment{{"PATH", "/usr/local/bin:/usr/bin:/bin"
 Outcome CommandHome::runProgram(const std::vector<std::string>& words) const {
     const TemporaryFolder streams;
     std::vector<std::string> arguments = words;
-    std::vector<std::string> variables = {"HOME=" + path().string()};
+    std::vector<std::string> variables;
     for (const auto& [name, value] : environment)
         variables.push_back(name + "=" + value);
     const pid_t child = fork();
@@ -80,10 +91,19 @@ Outcome CommandHome::runUnprivileged(const std::vector<std::string>& arguments) 
         EXPECT_EQ(lchown(entry.path().c_str(), 65534, 65534), 0);
     EXPECT_EQ(lchown(path().c_str(), 65534, 65534), 0);
 
-    std::vector<std::string> words = {"/usr/bin/setpriv", "--reuid", kNobody, "--regid", kNobody,
-                                      "--clear-groups", (programs / "selvane").string()};
+    std::vector<std::string> words = {"/usr/bin/setpriv",
+                                      "--reuid",
+                                      kNobody,
+                                      "--regid",
+                                      kNobody,
+                                      "--clear-groups",
+                                      (programs / "selvane").string()};
     words.insert(words.end(), arguments.begin(), arguments.end());
     return runProgram(words);
+}
+
+Outcome CommandHome::shell(const std::string& script) const {
+    return runProgram({"/bin/sh", "-c", "selvane='" SELVANE_EXECUTABLE "'\n" + script});
 }
 
 std::string CommandHome::output(const std::vector<std::string>& arguments) const {

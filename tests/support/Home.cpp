@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <sstream>
+#include <stdexcept>
 
 namespace selvane::test {
 namespace {
@@ -20,11 +21,27 @@ Environment homeEnvironment(const fs::path& home, Home::Processes processes) {
     return environment;
 }
 
+fs::path trashFolder() {
+    return fs::path(std::getenv("HOME")) / ".local/share/Trash";
+}
+
 } // namespace
 
 void writeFile(const fs::path& file, const std::string& content) {
     fs::create_directories(file.parent_path());
     std::ofstream(file, std::ios::binary) << content;
+}
+
+void writeTree(const fs::path& folder, const Tree& tree) {
+    for (const auto& [name, what] : tree) {
+        fs::create_directories((folder / name).parent_path());
+        if (what == "/")
+            fs::create_directories(folder / name);
+        else if (what.starts_with("-> "))
+            fs::create_symlink(what.substr(3), folder / name);
+        else
+            writeFile(folder / name, what);
+    }
 }
 
 std::string readFile(const fs::path& file) {
@@ -33,8 +50,10 @@ std::string readFile(const fs::path& file) {
     return content.str();
 }
 
-std::map<std::string, std::string> treeOf(const fs::path& folder) {
-    std::map<std::string, std::string> tree;
+Tree treeOf(const fs::path& folder) {
+    Tree tree;
+    if (!fs::exists(folder))
+        return tree;
     for (const auto& entry : fs::recursive_directory_iterator(folder)) {
         const std::string name = entry.path().lexically_relative(folder).string();
         if (entry.is_symlink())
@@ -46,7 +65,10 @@ std::map<std::string, std::string> treeOf(const fs::path& folder) {
 }
 
 void FakeWorkspace::open(const Application&, const OpenConfiguration& configuration) {
-    openings.push_back({configuration.arguments, configuration.environment});
+    if (refusesToOpen)
+        throw std::runtime_error("refused");
+    whenOpening();
+    openings.push_back(configuration);
 }
 
 void FakeWorkspace::terminate(const RunningApplication& app) {
@@ -69,25 +91,40 @@ void FakeClock::sleep(std::chrono::milliseconds duration) {
     ++sleeps;
 }
 
-Home::Home(Processes processes) : store(homeEnvironment(folder.path(), processes), claude) {}
-
-Profile Home::make(const std::string& name, const std::map<Component, ShareMode>& modes) {
-    return store.create({.name = name, .summary = {}, .from = builtIn(), .modes = modes, .selection = {},
-                         .account = std::nullopt});
+NewProfile request(const std::string& name, const std::optional<Profile>& from,
+                   const std::optional<std::string>& account) {
+    NewProfile profile;
+    profile.name = name;
+    profile.from = from;
+    profile.account = account;
+    return profile;
 }
 
-std::vector<std::string> trashed(const std::string& name) {
-    std::vector<std::string> texts;
-    const fs::path files = fs::path(std::getenv("HOME")) / ".local/share/Trash/files";
-    if (!fs::exists(files))
-        return texts;
-    for (const auto& entry : fs::directory_iterator(files)) {
-        // A second file of a name gets a number in the Trash.
-        if (entry.path().filename().string().starts_with(name))
-            texts.push_back(entry.is_symlink() ? "-> " + fs::read_symlink(entry.path()).string()
-                                               : readFile(entry.path()));
+Home::Home(Processes processes, const std::string& name)
+    : path(folder / name), store(homeEnvironment(path, processes), claude) {
+    fs::create_directories(path);
+    fs::remove_all(trashFolder());
+}
+
+Profile Home::make(const std::string& name, const std::map<Component, ShareMode>& modes) {
+    NewProfile profile = request(name, builtIn());
+    profile.modes = modes;
+    return store.create(profile);
+}
+
+std::string messageOf(const std::function<void()>& operation) {
+    try {
+        operation();
+    } catch (const std::exception& error) {
+        return error.what();
     }
-    return texts;
+    return "";
+}
+
+Tree takeTrash() {
+    Tree tree = treeOf(trashFolder() / "files");
+    fs::remove_all(trashFolder());
+    return tree;
 }
 
 } // namespace selvane::test

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -16,22 +17,23 @@
 
 namespace selvane::test {
 
+/// The entries below a folder with what they are: "text" of a file, "-> target" of a link, "/" of a folder.
+using Tree = std::map<std::string, std::string>;
+
 void writeFile(const std::filesystem::path& file, const std::string& content); ///< makes its folders too
-std::string readFile(const std::filesystem::path& file);                      ///< "" when it isn't there
-/// Every entry below a folder with what it is: "text" of a file, "-> target" of a link, "/" of a folder.
-std::map<std::string, std::string> treeOf(const std::filesystem::path& folder);
+void writeTree(const std::filesystem::path& folder, const Tree& tree);         ///< adds it to what is there
+std::string readFile(const std::filesystem::path& file);                       ///< "" when it isn't there
+Tree treeOf(const std::filesystem::path& folder);                              ///< empty when it isn't there
 
 /// A desktop that runs nothing but what a test says, and records what it is asked to do.
 struct FakeWorkspace final : Workspace {
-    std::optional<Application> installed = Application{.executable = "/opt/claude/claude-desktop"};
+    std::optional<Application> installed = Application{"/opt/claude/claude-desktop", {}, {}, {}, {}};
     std::vector<RunningApplication> apps;
+    bool refusesToOpen = false;
+    std::function<void()> whenOpening = [] {};
     int terminationsIgnored = 0; ///< polite requests that do nothing
 
-    struct Opening {
-        std::vector<std::string> arguments;
-        Environment environment;
-    };
-    std::vector<Opening> openings;
+    std::vector<OpenConfiguration> openings;
     std::vector<std::int32_t> terminated;
     std::vector<std::int32_t> forced;
     std::vector<std::int32_t> activated;
@@ -54,24 +56,32 @@ struct FakeClock final : Clock {
     void sleep(std::chrono::milliseconds duration) override;
 };
 
-/// A home folder of its own with a store on it. In test mode unless told otherwise.
+/// What a new profile takes from `from` in the standard modes.
+NewProfile request(const std::string& name, const std::optional<Profile>& from = {},
+                   const std::optional<std::string>& account = {});
+
+/// A home folder of its own with a store on it, and an empty Trash. In test mode unless told otherwise.
 struct Home {
     enum class Processes { ignored, seen };
-    explicit Home(Processes processes = Processes::ignored);
+    explicit Home(Processes processes = Processes::ignored, const std::string& name = "home");
 
     TemporaryFolder folder;
+    std::filesystem::path path;
     FakeWorkspace workspace;
     FakeClock clock;
     ClaudeApp claude{workspace, clock};
     ProfileStore store;
 
-    std::filesystem::path operator/(const std::filesystem::path& path) const { return folder / path; }
+    std::filesystem::path operator/(const std::filesystem::path& below) const { return path / below; }
     Profile builtIn() const { return *store.profile(Profile::kDefaultId); }
     /// A new profile that takes everything from the built-in one.
     Profile make(const std::string& name, const std::map<Component, ShareMode>& modes = {});
 };
 
-/// The texts of everything of that name in the Trash.
-std::vector<std::string> trashed(const std::string& name);
+/// The message of the error that an operation throws, "" when it throws none.
+std::string messageOf(const std::function<void()>& operation);
+
+/// What has been moved to the Trash since the last call, or since the newest home was made.
+Tree takeTrash();
 
 } // namespace selvane::test

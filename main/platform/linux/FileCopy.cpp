@@ -24,8 +24,10 @@ struct Item {
 /// The bits a copy takes over. What runs as its owner does so for that owner only.
 mode_t copiedMode(const struct stat& status) {
     const mode_t mode = status.st_mode & ALLPERMS;
-    const bool actsAsOther = S_ISREG(status.st_mode) && status.st_uid != ::geteuid();
-    return actsAsOther ? mode & ~static_cast<mode_t>(S_ISUID | S_ISGID) : mode;
+    constexpr mode_t kActsAsOwner = S_ISUID | S_ISGID;
+    const bool isForeign =
+        S_ISREG(status.st_mode) && (mode & kActsAsOwner) != 0 && status.st_uid != ::geteuid();
+    return isForeign ? mode & ~kActsAsOwner : mode;
 }
 
 unsigned char entryType(const struct stat& status) {

@@ -5,7 +5,9 @@
 
 #include <string>
 
-#include "platform/Descriptor.h"
+#include "model/LauncherError.h"
+#include "platform/ErrorText.h"
+#include "platform/Text.h"
 #include "platform/linux/Services.h"
 
 namespace selvane {
@@ -16,7 +18,8 @@ void moveToTrash(const std::filesystem::path& path) {
         static_cast<std::string*>(context)->append(bytes, count);
     };
     if (const int error = services().trash(path.c_str(), append, &message); error != 0)
-        files::fail(message.c_str(), path, error);
+        throw LauncherError(text::singleLine(path.string()) + ": non può essere spostato nel Cestino (" +
+                            describe(std::error_code(error, std::generic_category())) + ")");
 }
 
 } // namespace selvane

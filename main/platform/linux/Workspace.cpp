@@ -23,9 +23,16 @@ namespace fs = std::filesystem;
 constexpr const char* kEntryVariable = "GIO_LAUNCHED_DESKTOP_FILE";
 constexpr const char* kEntryPidVariable = "GIO_LAUNCHED_DESKTOP_FILE_PID";
 
+/// A process that is ending loses its executable, its arguments and its environment before it shows as ended.
+bool hasExecutable(std::int32_t pid) {
+    char first = 0;
+    const std::string link = "/proc/" + std::to_string(pid) + "/exe";
+    return ::readlink(link.c_str(), &first, 1) >= 0 || errno != ENOENT;
+}
+
 bool isAlive(const RunningApplication& app) {
     const std::optional<ProcStat> stat = ProcStat::read(app.pid);
-    return stat && !stat->isEnded() && stat->startTime == app.startTime;
+    return stat && !stat->isEnded() && stat->startTime == app.startTime && hasExecutable(app.pid);
 }
 
 /// Never reaches another process: the descriptor stands for the one whose start time is compared after it

@@ -15,6 +15,7 @@
 
 #include "platform/Descriptor.h"
 #include "platform/JsonNumbers.h"
+#include "platform/JsonSurrogates.h"
 #include "platform/linux/services/Functions.h"
 
 namespace selvane::module {
@@ -173,8 +174,11 @@ private:
     bool parse(char* bytes, std::size_t size, const SessionRecordSink& sink) {
         simdjson::dom::element document;
         auto error = m_parser.parse(bytes, size, false).get(document);
-        if (error != simdjson::SUCCESS && replaceLargeNumbers(bytes, size))
-            error = m_parser.parse(bytes, size, false).get(document);
+        if (error != simdjson::SUCCESS) {
+            const bool hadLargeNumbers = replaceLargeNumbers(bytes, size);
+            if (json::replaceLoneSurrogates(bytes, size) || hadLargeNumbers)
+                error = m_parser.parse(bytes, size, false).get(document);
+        }
         simdjson::dom::object record;
         if (error != simdjson::SUCCESS || document.get(record) != simdjson::SUCCESS)
             return false;

@@ -1,0 +1,233 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include <algorithm>
+#include <chrono>
+#include <functional>
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <stdexcept>
+#include <thread>
+
+#include "platform/Json.h"
+#include "platform/ProcInfo.h"
+#include "support/Command.h"
+#include "support/Home.h"
+
+namespace selvane::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A home with the stand-in installed as Claude Desktop. All its processes end with the test.
+class CommandLaunch : public testing::Test {
+protected:
+    CommandLaunch() {
+        writeFile(home / ".claude/settings.json", "{}");
+        installAs("claude-desktop");
+        writeEntry(program.string() + " --password-store=basic %U");
+    }
+    ~CommandLaunch() override {
+        while (!pids().empty()) {
+            for (const std::int32_t pid : pids())
+                kill(pid, SIGKILL);
+        }
+    }
+
+    void installAs(const std::string& name) {
+        program = home / "app/claude" / name;
+        fs::create_directories(program.parent_path());
+        fs::copy_file(SELVANE_STAND_IN, program);
+    }
+    void writeEntry(const std::string& command) const {
+        writeFile(home / ".local/share/applications/com.anthropic.Claude.desktop",
+                  "[Desktop Entry]\nType=Application\nName=Claude\nExec=" + command + "\n");
+    }
+
+    std::vector<std::int32_t> pids() const {
+        std::vector<std::int32_t> result;
+        for (const ProcInfo& process : ProcInfo::all()) {
+            if (process.path.starts_with(home.path().string() + "/"))
+                result.push_back(process.pid);
+        }
+        return result;
+    }
+    void waitUntil(const std::function<bool()>& holds) const {
+        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+        while (!holds()) {
+            if (std::chrono::steady_clock::now() > deadline)
+                throw std::runtime_error("took too long"); // the destructor still ends what runs
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        }
+    }
+    /// Launches a profile; tells how Claude Desktop was started in that data folder.
+    Json launch(const std::string& id, const fs::path& data) const {
+        EXPECT_EQ(home.run({"launch", id}), Outcome{}) << id;
+        Json report;
+        waitUntil([&] {
+            const std::string text = readFile(data / "stand-in.json");
+            report = text.empty() ? Json::object() : json::parse(text, data);
+            return !text.empty() && ProcInfo::read(report["pid"]).has_value();
+        });
+        return report;
+    }
+    void quit(const Json& report) const {
+        kill(report["pid"], SIGTERM);
+        waitUntil([&] { return !ProcInfo::read(report["pid"]); });
+    }
+    /// The lines of a command's output that concern this home: others may have Claude Desktop open too.
+    std::string lines(const std::string& command, const std::string& beginning = "") const {
+        std::istringstream output(home.output({command}));
+        std::string result;
+        for (std::string line; std::getline(output, line);) {
+            if (line.starts_with(beginning) && line.find(home.path()) != std::string::npos)
+                result += line + "\n";
+        }
+        return result;
+    }
+    std::string openLine(const Json& report, const fs::path& data, const std::string& config) const {
+        return "aperto pid=" + report["pid"].dump() + "\tdati=" + data.string() + "\tconfig=" + config + "\n";
+    }
+    fs::path profile(const std::string& id) const { return home / ".claude-profiles" / id; }
+
+    CommandHome home;
+    fs::path program;
+    const fs::path normalData = home / ".config/Claude";
+    const fs::path lavoroData = home / ".claude-profiles/.desktop-data/lavoro";
+};
+
+TEST_F(CommandLaunch, EachProfileGetsItsFoldersAndNothingOfOurs) {
+    home.environment["CLAUDE_CONFIG_DIR"] = "/altrove";
+    home.environment["CLAUDE_LAUNCHER_DEFAULT_JSON"] = (home / "stato.json").string();
+    home.environment["XDG_CURRENT_DESKTOP"] = "GNOME";
+    home.output({"create", "Lavoro", "--from", "default"});
+    writeFile(home / ".claude/skills/nuova", "");
+    for (const std::string id : {"default", "lavoro"}) {
+        const fs::path data = id == "default" ? normalData : lavoroData;
+        const Json report = launch(id, data);
+        Json arguments = {"--password-store=basic"};
+        if (id == "lavoro")
+            arguments.push_back("--user-data-dir=" + data.string());
+        EXPECT_EQ(report["arguments"], arguments);
+        EXPECT_EQ(report["claudeConfigDir"], id == "default" ? Json() : Json(profile(id).string()));
+        EXPECT_EQ(report["launcherVariables"], Json::array());
+        EXPECT_EQ(report["environment"]["XDG_CURRENT_DESKTOP"], "GNOME");
+        EXPECT_EQ(report["streamsAreNull"], true);
+        EXPECT_EQ(report["isSessionLeader"], true);
+        EXPECT_EQ(readFile(home / ".claude-profiles/.active"), id);
+    }
+    EXPECT_TRUE(fs::is_symlink(profile("lavoro") / "skills/nuova"));
+}
+
+TEST_F(CommandLaunch, AnOpenAccountIsActivatedTakenOverAndGuarded) {
+    home.output({"create", "Lavoro"});
+    home.output({"create", "Ospite", "--account", "default"});
+    const Json builtIn = launch("default", normalData);
+    const auto before = pids();
+    EXPECT_EQ(home.run({"launch", "default"}), Outcome{});
+    EXPECT_EQ(pids(), before);
+
+    quit(launch("lavoro", lavoroData));
+    const Json lavoro = launch("lavoro", lavoroData);
+    const Json guest = launch("ospite", normalData);
+    EXPECT_NE(guest["pid"], builtIn["pid"]);
+    EXPECT_FALSE(ProcInfo::read(builtIn["pid"]));
+    EXPECT_EQ(guest["claudeConfigDir"], profile("ospite").string());
+    const std::string lavoroLine = openLine(lavoro, lavoroData, profile("lavoro"));
+    const std::string guestLine = openLine(guest, normalData, profile("ospite"));
+    const std::string open = lines("desktop-status", "aperto");
+    EXPECT_TRUE(open == lavoroLine + guestLine || open == guestLine + lavoroLine) << open;
+    EXPECT_TRUE(home.output({"desktop-status"}).starts_with("cartella normale: default\n"));
+    EXPECT_EQ(lines("desktop-status", "ospite"),
+              "ospite\taccount=default\tdati=" + normalData.string() + "\n");
+
+    std::string expected;
+    for (const std::int32_t pid : pids())
+        expected += std::to_string(pid) + "\t" + program.string() + "\n";
+    EXPECT_EQ(lines("processes"), expected);
+
+    const Outcome refused = failure("Per un backup affidabile Claude va chiuso: chiudilo e riprova.");
+    for (const std::string scope : {"--solo-principale", "--solo-profili"})
+        EXPECT_EQ(home.run({"backup", home / "b.zip", scope}), refused);
+    quit(guest);
+    EXPECT_EQ(home.run({"backup", home / "b.zip"}), refused);
+    EXPECT_FALSE(fs::exists(home / "b.zip"));
+    EXPECT_EQ(home.run({"backup", home / "b.zip", "--solo-principale"}).status, 0);
+    quit(lavoro);
+    waitUntil([&] { return pids().empty(); });
+}
+
+TEST_F(CommandLaunch, SessionsForAnOpenAccountWaitForItsNextLaunch) {
+    home.output({"create", "Lavoro"});
+    home.environment["STAND_IN_OPTIONS"] = "--stand-in-session=Ricerca";
+    quit(launch("default", normalData));
+    home.environment.erase("STAND_IN_OPTIONS");
+    const std::string session = home.output({"sessions", "default"});
+    EXPECT_NE(session.find("\tRicerca\t" + home.path().string() + "\tsolo voce\n"), std::string::npos)
+        << session;
+
+    const Json open = launch("lavoro", lavoroData);
+    EXPECT_EQ(home.output({"import-sessions", "default", "lavoro"}),
+              "copiate 0, in attesa del prossimo avvio 1\n");
+    EXPECT_EQ(home.output({"sessions", "lavoro"}), "");
+    quit(open);
+    launch("lavoro", lavoroData);
+    EXPECT_EQ(home.output({"sessions", "lavoro"}), session);
+    EXPECT_FALSE(fs::exists(profile("lavoro") / ".pending-sessions"));
+}
+
+TEST_F(CommandLaunch, WrappersInASharedFolderAreSeenThrough) {
+    home.output({"create", "Ospite", "--account", "default"});
+    const struct {
+        std::string executable;
+        std::string start;
+        bool hasEntry;
+    } cases[] = {{"claude-desktop", "", false}, {"electron", "exec ", true}};
+    for (const auto& [executable, start, hasEntry] : cases) {
+        SCOPED_TRACE(executable);
+        fs::remove_all(home / "app");
+        fs::remove_all(home / ".local/share/applications");
+        installAs(executable);
+        writeFile(home / "bin/claude-desktop",
+                  "#!/bin/sh\n" + start + program.string() + " --proprio \"$@\"\n");
+        fs::permissions(home / "bin/claude-desktop", fs::perms(0755));
+        if (hasEntry)
+            writeEntry("claude-desktop %U");
+        const Json builtIn = launch("default", normalData);
+        EXPECT_EQ(builtIn["arguments"], Json::array({"--proprio"}));
+        EXPECT_EQ(lines("desktop-status", "aperto"), openLine(builtIn, normalData, "~/.claude"));
+        const Json guest = launch("ospite", normalData);
+        EXPECT_EQ(lines("desktop-status", "aperto"), openLine(guest, normalData, profile("ospite")));
+        quit(guest);
+        waitUntil([&] { return pids().empty(); });
+    }
+}
+
+TEST_F(CommandLaunch, ACopyThatStaysOpenIsLeftAlone) {
+    home.output({"create", "Ospite", "--account", "default"});
+    home.environment["STAND_IN_OPTIONS"] = "--stand-in-refuse-quit";
+    const Json builtIn = launch("default", normalData);
+    const auto before = pids();
+    EXPECT_EQ(home.run({"launch", "ospite"}), failure("Claude non si è chiuso"));
+    EXPECT_EQ(pids(), before);
+    EXPECT_EQ(readFile(home / ".claude-profiles/.active"), "default");
+}
+
+TEST_F(CommandLaunch, AProgramThatCannotStartIsNamed) {
+    writeFile(program, "non è un programma");
+    EXPECT_EQ(home.run({"launch", "default"}), failure(program.string() + ": non è un programma eseguibile"));
+    EXPECT_FALSE(fs::exists(home / ".claude-profiles/.active"));
+}
+
+TEST_F(CommandLaunch, WithoutTheProgramAnOpenCopyStaysOpen) {
+    home.output({"create", "Ospite", "--account", "default"});
+    launch("default", normalData);
+    const auto before = pids();
+    fs::remove(program);
+    EXPECT_EQ(home.run({"launch", "ospite"}),
+              failure("Claude.app non trovata. Installala in /Applications."));
+    EXPECT_EQ(pids(), before);
+}
+
+} // namespace
+} // namespace selvane::test

@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include <gtest/gtest.h>
+
+#include "support/Command.h"
+#include "support/Home.h"
+
+namespace selvane::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Changes the permissions of a file or folder as long as it lives.
+class Closed {
+public:
+    Closed(fs::path path, fs::perms perms)
+        : m_path(std::move(path)), m_before(fs::status(m_path).permissions()) {
+        fs::permissions(m_path, perms);
+    }
+    Closed(const Closed&) = delete;
+    Closed& operator=(const Closed&) = delete;
+    ~Closed() { fs::permissions(m_path, m_before); }
+
+private:
+    fs::path m_path;
+    fs::perms m_before;
+};
+
+TEST(CommandUnprivileged, WhatCannotBeReadIsLeftOutOrNamed) {
+    CommandHome home;
+    home.environment["CLAUDE_LAUNCHER_DESKTOP_DIR"] = (home / "dati").string();
+    const fs::path secret = home / ".claude/skills/pdf/segreto";
+    const fs::path records = home / "dati/claude-code-sessions/a/o";
+    const fs::path state = home / ".claude.json";
+    writeFile(secret, "x");
+    writeFile(state, "{}");
+    writeFile(records / "local_1.json", R"({"sessionId": "s1"})");
+    home.output({"create", "Lavoro", "--from", "default"});
+    const auto denied = [](const fs::path& path) { return failure(path.string() + ": permesso negato"); };
+    const struct {
+        fs::path closed;
+        std::vector<std::string> arguments;
+        Outcome outcome;
+    } cases[] = {
+        {home / ".claude/skills", {"items", "default"}, {}},
+        {records, {"sessions", "default"}, {}},
+        {records / "local_1.json", {"sessions", "default"}, {}},
+        {secret, {"create", "A", "--from", "default", "--mode", "skills=separate"}, denied(secret)},
+        {secret, {"set-mode", "lavoro", "skills=separate"}, denied(secret)},
+        {state, {"create", "A", "--from", "default"}, denied(state)},
+    };
+    const auto before = treeOf(home.path());
+    for (const auto& [path, arguments, outcome] : cases) {
+        const Closed closed(path, fs::perms::none);
+        EXPECT_EQ(home.runUnprivileged(arguments), outcome) << path;
+        EXPECT_EQ(treeOf(home.path()), before);
+    }
+    // zip itself passes over a folder in silence.
+    for (const fs::path& path : {secret, secret.parent_path()}) {
+        const Closed closed(path, fs::perms::none);
+        const Outcome outcome = home.runUnprivileged({"backup", home / "b.zip"});
+        EXPECT_TRUE(outcome.out.ends_with("\talcuni file non leggibili sono stati saltati\n")) << outcome;
+    }
+}
+
+TEST(CommandUnprivileged, RefusedWritesLoseNothing) {
+    CommandHome home;
+    home.environment["CLAUDE_LAUNCHER_DESKTOP_DIR"] = (home / "dati").string();
+    writeFile(home / ".claude/skills/pdf/SKILL.md", "x");
+    writeFile(home / "b.zip", "precedente");
+    home.output({"create", "Lavoro", "--from", "default"});
+    writeFile(home / ".claude/skills/nuova", "");
+    const fs::path root = home / ".claude-profiles";
+    const fs::path profile = root / "lavoro";
+    const fs::path skills = profile / "skills";
+    const struct {
+        fs::path readOnly;
+        std::vector<std::string> arguments;
+        fs::path named;
+    } cases[] = {
+        {root, {"create", "A"}, root / "a"},
+        {root, {"install-helper"}, root / "bin"},
+        {root, {"restore-desktop"}, root / ".desktop-data"},
+        {skills, {"set-mode", "lavoro", "skills=separate"}, skills / "pdf"},
+        {skills, {"set-mode", "lavoro", "skills=none"}, skills / "pdf"},
+        {skills, {"sync", "lavoro"}, skills / "nuova"},
+        {profile, {"set-mode", "lavoro", "CLAUDE.md=shared"}, profile / "CLAUDE.md"},
+        {home.path(), {"set-mode", "lavoro", "CLAUDE.md=none"}, profile / "CLAUDE.md"}, // has no Trash
+        {home.path(), {"backup", home / "b.zip"}, {}},
+    };
+    const auto before = treeOf(home.path());
+    for (const auto& [readOnly, arguments, named] : cases) {
+        SCOPED_TRACE(arguments.back());
+        const Closed closed(readOnly, fs::perms(0500));
+        const Outcome outcome = home.runUnprivileged(arguments);
+        EXPECT_EQ(outcome.status, 1);
+        EXPECT_TRUE(outcome.err.starts_with("Errore: " + named.string())) << outcome;
+        EXPECT_EQ(treeOf(home.path()), before);
+    }
+}
+
+} // namespace
+} // namespace selvane::test

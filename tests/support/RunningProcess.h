@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <array>
+#include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
+#include <string>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+#include "platform/Process.h"
+
+namespace selvane::test {
+
+/// A real process with these arguments and this environment, which does nothing for as long as this object
+/// lives.
+class RunningProcess {
+public:
+    RunningProcess(const std::vector<std::string>& arguments, const Environment& environment) {
+        std::vector<std::string> texts = {"sh", "-c", "read line", "sh"};
+        texts.insert(texts.end(), arguments.begin(), arguments.end());
+        std::vector<std::string> variables;
+        for (const auto& [name, value] : environment)
+            variables.push_back(name + "=" + value);
+        std::array<int, 2> input = {}, started = {};
+        if (pipe2(input.data(), O_CLOEXEC) != 0 || pipe2(started.data(), O_CLOEXEC) != 0)
+            std::abort();
+        m_input = input[1];
+        m_pid = fork();
+        if (m_pid == 0) {
+            dup2(input[0], STDIN_FILENO);
+            execve("/bin/sh", pointers(texts).data(), pointers(variables).data());
+            _exit(127);
+        }
+        close(input[0]);
+        close(started[1]);
+        char none = 0;
+        static_cast<void>(!read(started[0], &none, 1)); // ends when the process runs
+        close(started[0]);
+    }
+    RunningProcess(const RunningProcess&) = delete;
+    RunningProcess& operator=(const RunningProcess&) = delete;
+    ~RunningProcess() {
+        kill(m_pid, SIGKILL);
+        waitpid(m_pid, nullptr, 0);
+        close(m_input);
+    }
+
+    pid_t pid() const { return m_pid; }
+
+private:
+    static std::vector<char*> pointers(std::vector<std::string>& texts) {
+        std::vector<char*> result;
+        for (std::string& text : texts)
+            result.push_back(text.data());
+        result.push_back(nullptr);
+        return result;
+    }
+
+    pid_t m_pid = 0;
+    int m_input = -1;
+};
+
+} // namespace selvane::test
