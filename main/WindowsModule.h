@@ -7,8 +7,8 @@
 
 namespace selvane {
 
-/// The windowed application and the drawing, which live in a loadable module so that the command line needs no
-/// Qt. The module is loaded when it is first needed; every function throws `LauncherError` when it isn't
+/// The windowed application and the drawing, which live in a loadable module so that the command line needs
+/// no Qt. The module is loaded when it is first needed; every function throws `LauncherError` when it isn't
 /// installed or can't be loaded.
 class WindowsModule final : public Artwork {
 public:
