@@ -12,13 +12,13 @@ namespace selvane::CLI {
 
 void backup(const Call& call) {
     requireArguments(call, call.arguments.size() > 1 && call.arguments[1].empty() ? 3 : 2);
-    BackupScope scope = BackupScope::all;
+    BackupScope scope = BackupScope::all();
     for (std::size_t i = 2; i < call.arguments.size(); ++i) {
         const std::string& option = call.arguments[i];
         if (option == "--solo-principale")
-            scope = BackupScope::principal;
+            scope = BackupScope::principal();
         else if (option == "--solo-profili")
-            scope = BackupScope::profiles;
+            scope = BackupScope::profiles();
         else
             throw LauncherError("Opzione sconosciuta: " + field(option));
     }

@@ -4,6 +4,7 @@
 #include "desktop/ClaudeApp.h"
 
 #include <algorithm>
+#include <set>
 #include <unistd.h>
 #include <unordered_map>
 
@@ -166,16 +167,20 @@ std::vector<ProcInfo> ClaudeApp::allProcesses(const std::vector<fs::path>& dataD
     if (const auto installed = application(); installed && !installed->folder.empty())
         prefixes.push_back(installed->folder.string() + "/");
 
-    // A copy started through a wrapper in a shared folder doesn't lie in any of these places.
-    const std::vector<RunningApplication> mains = running();
     std::vector<ProcInfo> result = ProcInfo::all();
+    // Copies started through a wrapper in a shared folder lie in none of these places: what runs the
+    // executable of a main process belongs to it as well.
+    std::set<std::string> executables;
+    for (const RunningApplication& main : running()) {
+        for (const ProcInfo& process : result) {
+            if (process.pid == main.pid)
+                executables.insert(process.path);
+        }
+    }
     std::erase_if(result, [&](const ProcInfo& process) {
-        const bool belongs = std::any_of(prefixes.begin(), prefixes.end(), [&](const std::string& prefix) {
-            return process.path.starts_with(prefix);
-        });
-        return !belongs && std::none_of(mains.begin(), mains.end(), [&](const RunningApplication& main) {
-            return main.pid == process.pid;
-        });
+        return !executables.contains(process.path) &&
+               std::none_of(prefixes.begin(), prefixes.end(),
+                            [&](const std::string& prefix) { return process.path.starts_with(prefix); });
     });
     return result;
 }

@@ -15,14 +15,10 @@ struct BackupScope {
     constexpr bool contains(BackupScope other) const { return (rawValue & other.rawValue) == other.rawValue; }
     bool operator==(const BackupScope&) const = default;
 
-    static const BackupScope principal; ///< the built-in profile's items
-    static const BackupScope profiles;  ///< the profiles root
-    static const BackupScope all;
+    static constexpr BackupScope principal() { return {1}; } ///< the built-in profile's items
+    static constexpr BackupScope profiles() { return {2}; }  ///< the profiles root
+    static constexpr BackupScope all() { return {3}; }
 };
-
-inline constexpr BackupScope BackupScope::principal{1};
-inline constexpr BackupScope BackupScope::profiles{2};
-inline constexpr BackupScope BackupScope::all{3};
 
 struct BackupResult {
     std::filesystem::path archive;

@@ -164,6 +164,12 @@ std::string longDate(std::chrono::system_clock::time_point time) {
     return result;
 }
 
+std::string relativeDate(std::chrono::seconds ago) {
+    std::string result;
+    services().relativeDate(ago.count(), append, &result);
+    return result;
+}
+
 std::string byteCount(std::int64_t bytes) {
     if (bytes <= 0)
         return "Zero KB";

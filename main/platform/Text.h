@@ -32,6 +32,10 @@ std::string singleLine(std::string_view text);
 /// For example "15 novembre 2026 alle ore 09:30", in the local time zone.
 std::string longDate(std::chrono::system_clock::time_point time);
 
+/// How long ago something was, for example "ora", "2 ore fa", "ieri", "3 settimane fa". A time to come counts
+/// as now.
+std::string relativeDate(std::chrono::seconds ago);
+
 /// "Zero KB", "512 byte", "12 KB", "1,2 MB", "3,45 GB": decimal units.
 std::string byteCount(std::int64_t bytes);
 

@@ -123,9 +123,9 @@ fs::path temporaryFolder(const Environment& environment) {
 
 std::vector<fs::path> ProfileStore::backupSources(BackupScope scope) const {
     std::vector<fs::path> sources;
-    if (scope.contains(BackupScope::principal))
+    if (scope.contains(BackupScope::principal()))
         sources = {m_defaultDir, m_defaultGlobalJSON, liveDesktopDir()};
-    if (scope.contains(BackupScope::profiles))
+    if (scope.contains(BackupScope::profiles()))
         sources.push_back(m_root);
     std::erase_if(sources, [this](const fs::path& source) { return !m_files.exists(source); });
     return sources;

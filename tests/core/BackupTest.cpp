@@ -47,7 +47,7 @@ TEST(Backup, backup_All_HoldsEverythingButWhatIsDownloadedAgain) {
                                 {"Partitions/p/Code Cache/js/x", ""},
                                 {"Service Worker/CacheStorage/x", ""}});
     writeTree(home.path, {{"b.zip", "old"}, {"b.zip.partial", "left by a killed backup"}});
-    const BackupResult result = home.store.backup(BackupScope::all, home / "x/../b.zip");
+    const BackupResult result = home.store.backup(BackupScope::all(), home / "x/../b.zip");
     EXPECT_EQ(result, (BackupResult{home / "b.zip", static_cast<std::int64_t>(fs::file_size(home / "b.zip")),
                                     false}));
     EXPECT_EQ(fs::status(result.archive).permissions(), fs::perms::owner_read | fs::perms::owner_write);
@@ -78,7 +78,7 @@ TEST(Backup, backup_SourcesElsewhere_KeepTheirAbsolutePath) {
                         {"CLAUDE_LAUNCHER_DESKTOP_DIR", ""},
                         {"ZIPOPT", "-m"}},
                        home.claude);
-    Tree found = unpacked(store.backup(BackupScope::all, home / "b.zip").archive);
+    Tree found = unpacked(store.backup(BackupScope::all(), home / "b.zip").archive);
     EXPECT_NE(found["LEGGIMI-backup.txt"].find("\n  " + (away / "root").string() + "\n"), std::string::npos);
     found.erase("LEGGIMI-backup.txt");
     EXPECT_EQ(found,
@@ -95,17 +95,17 @@ TEST(Backup, backup_UnreadableFile_IsReportedAndLeftOut) {
     const int socketFile = socket(AF_UNIX, SOCK_STREAM, 0);
     ASSERT_EQ(bind(socketFile, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
     close(socketFile);
-    const BackupResult result = home.store.backup(BackupScope::principal, home / "b.zip");
+    const BackupResult result = home.store.backup(BackupScope::principal(), home / "b.zip");
     EXPECT_TRUE(result.skippedFiles);
     EXPECT_EQ(unpacked(result.archive).at(".claude/a"), "a");
 }
 
 TEST(Backup, backup_NotPossible_LeavesEverythingInPlace) {
     Home home(Home::Processes::seen);
-    const auto refusal = [&](const fs::path& target, BackupScope scope = BackupScope::all) {
+    const auto refusal = [&](const fs::path& target, BackupScope scope = BackupScope::all()) {
         return messageOf([&] { home.store.backup(scope, home / target); });
     };
-    EXPECT_EQ(refusal("b.zip", BackupScope::principal), "Non c'è niente da salvare");
+    EXPECT_EQ(refusal("b.zip", BackupScope::principal()), "Non c'è niente da salvare");
     const fs::path data = home.store.desktopStore() / "lavoro";
     writeTree(home.path, {{".claude.json", "{}"},
                           {"b.zip", "old"},
@@ -119,7 +119,7 @@ TEST(Backup, backup_NotPossible_LeavesEverythingInPlace) {
     const RunningProcess copy({"--user-data-dir=" + data.string()}, {});
     EXPECT_EQ(refusal("b.zip"), "Per un backup affidabile Claude va chiuso: chiudilo e riprova.");
     EXPECT_EQ(treeOf(home.path), before);
-    EXPECT_EQ(refusal("b.zip", BackupScope::principal), "") << "doesn't hold that account";
+    EXPECT_EQ(refusal("b.zip", BackupScope::principal()), "") << "doesn't hold that account";
 }
 
 } // namespace

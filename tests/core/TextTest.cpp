@@ -112,5 +112,21 @@ TEST(FieldCodesTest, areDroppedFromWords) {
         EXPECT_EQ(withoutFieldCodes(word), expected) << word;
 }
 
+TEST(TextTest, relativeDatesNameTheLargestUnit) {
+    using namespace std::chrono_literals;
+    const std::vector<std::pair<std::chrono::seconds, std::string>> table{{-5s, "ora"},
+                                                                          {59s, "ora"},
+                                                                          {60s, "1 minuto fa"},
+                                                                          {3h - 1s, "2 ore fa"},
+                                                                          {24h, "ieri"},
+                                                                          {48h, "l’altro ieri"},
+                                                                          {72h, "3 giorni fa"},
+                                                                          {7 * 24h, "settimana scorsa"},
+                                                                          {95 * 24h, "3 mesi fa"},
+                                                                          {800 * 24h, "2 anni fa"}};
+    for (const auto& [ago, expected] : table)
+        EXPECT_EQ(text::relativeDate(ago), expected) << ago.count();
+}
+
 } // namespace
 } // namespace selvane

@@ -73,13 +73,16 @@ void FakeWorkspace::open(const Application&, const OpenConfiguration& configurat
 
 void FakeWorkspace::terminate(const RunningApplication& app) {
     terminated.push_back(app.pid);
-    if (terminationsIgnored-- <= 0)
-        std::erase(apps, app);
+    if (terminationsIgnored-- > 0)
+        return;
+    std::erase(apps, app);
+    whenEnded();
 }
 
 void FakeWorkspace::forceTerminate(const RunningApplication& app) {
     forced.push_back(app.pid);
     std::erase(apps, app);
+    whenEnded();
 }
 
 bool FakeWorkspace::isTerminated(const RunningApplication& app) {

@@ -32,6 +32,7 @@ struct FakeWorkspace final : Workspace {
     bool refusesToOpen = false;
     std::function<void()> whenOpening = [] {};
     int terminationsIgnored = 0; ///< polite requests that do nothing
+    std::function<void()> whenEnded = [] {};
 
     std::vector<OpenConfiguration> openings;
     std::vector<std::int32_t> terminated;

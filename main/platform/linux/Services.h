@@ -40,6 +40,8 @@ struct Services {
     void (*fold)(const char* name, std::size_t size, ByteSink sink, void* context);
     /// `text::longDate`; seconds since 1970.
     void (*longDate)(std::int64_t time, ByteSink sink, void* context);
+    /// `text::relativeDate`.
+    void (*relativeDate)(std::int64_t secondsAgo, ByteSink sink, void* context);
 
     /// 0, or an errno value with the system's message in `message`.
     int (*trash)(const char* path, ByteSink message, void* context);

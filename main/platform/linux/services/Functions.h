@@ -11,6 +11,7 @@ namespace selvane::module {
 void sortKey(const char* name, std::size_t size, ByteSink sink, void* context);
 void fold(const char* name, std::size_t size, ByteSink sink, void* context);
 void longDate(std::int64_t time, ByteSink sink, void* context);
+void relativeDate(std::int64_t secondsAgo, ByteSink sink, void* context);
 
 int trash(const char* path, ByteSink message, void* context);
 bool desktopEntry(const char* id, void (*found)(void* context, const DesktopEntryView& entry), void* context);

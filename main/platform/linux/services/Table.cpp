@@ -8,6 +8,7 @@ extern "C" __attribute__((visibility("default"))) const selvane::Services* selva
         .sortKey = selvane::module::sortKey,
         .fold = selvane::module::fold,
         .longDate = selvane::module::longDate,
+        .relativeDate = selvane::module::relativeDate,
         .trash = selvane::module::trash,
         .desktopEntry = selvane::module::desktopEntry,
         .raiseWindow = selvane::module::raiseWindow,

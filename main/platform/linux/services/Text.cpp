@@ -8,6 +8,7 @@
 #include <unicode/coll.h>
 #include <unicode/datefmt.h>
 #include <unicode/normalizer2.h>
+#include <unicode/reldatefmt.h>
 #include <unicode/timezone.h>
 #include <unicode/uchar.h>
 #include <unicode/unistr.h>
@@ -90,6 +91,29 @@ UDate localWallClock(std::int64_t time) {
     return (static_cast<double>(time) + (known ? static_cast<double>(parts.tm_gmtoff) : 0.0)) * 1000.0;
 }
 
+struct Distance {
+    std::int64_t count;
+    URelativeDateTimeUnit unit;
+};
+
+/// In the largest unit of which at least one has passed.
+Distance distanceFor(std::int64_t seconds) {
+    constexpr std::int64_t kMinute = 60;
+    constexpr std::int64_t kHour = 60 * kMinute;
+    constexpr std::int64_t kDay = 24 * kHour;
+    constexpr struct {
+        std::int64_t size;
+        URelativeDateTimeUnit unit;
+    } kUnits[] = {{365 * kDay, UDAT_REL_UNIT_YEAR}, {30 * kDay, UDAT_REL_UNIT_MONTH},
+                  {7 * kDay, UDAT_REL_UNIT_WEEK},   {kDay, UDAT_REL_UNIT_DAY},
+                  {kHour, UDAT_REL_UNIT_HOUR},      {kMinute, UDAT_REL_UNIT_MINUTE}};
+    for (const auto& [size, unit] : kUnits) {
+        if (seconds >= size)
+            return {seconds / size, unit};
+    }
+    return {0, UDAT_REL_UNIT_SECOND};
+}
+
 } // namespace
 
 void sortKey(const char* name, std::size_t size, ByteSink sink, void* context) {
@@ -136,6 +160,20 @@ void longDate(std::int64_t time, ByteSink sink, void* context) {
         format->setTimeZone(*icu::TimeZone::getGMT());
         icu::UnicodeString text;
         deliver(format->format(localWallClock(time), text), sink, context);
+    } catch (...) {
+        return;
+    }
+}
+
+void relativeDate(std::int64_t secondsAgo, ByteSink sink, void* context) {
+    try {
+        UErrorCode status = U_ZERO_ERROR;
+        const icu::RelativeDateTimeFormatter formatter(icu::Locale("it"), status);
+        const Distance distance = distanceFor(secondsAgo);
+        icu::UnicodeString text;
+        formatter.format(static_cast<double>(-distance.count), distance.unit, text, status);
+        if (U_SUCCESS(status))
+            deliver(text, sink, context);
     } catch (...) {
         return;
     }
