@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QUrl>
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+
+namespace selvane {
+
+/// What the windows ask of the desktop besides running Claude Desktop.
+class DesktopBridge : public QObject {
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    virtual void endApplication() = 0;
+    virtual void copyToClipboard(const QString& text) = 0;
+    /// Shows the item selected in the file manager.
+    virtual void reveal(const std::filesystem::path& item) = 0;
+    /// Opens a file with its default application.
+    virtual void open(const std::filesystem::path& file) = 0;
+    /// Asks for a place for a zip archive; `done` gets nothing when the user cancels. Does not block.
+    virtual void askForArchive(const QString& proposedName,
+                               std::function<void(std::optional<std::filesystem::path>)> done) = 0;
+
+signals:
+    /// A copy of Claude Desktop was started or has ended.
+    void claudeCopiesChanged();
+};
+
+} // namespace selvane

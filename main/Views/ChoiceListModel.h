@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QAbstractListModel>
+#include <QQmlEngine>
+
+#include <set>
+#include <string>
+#include <vector>
+
+namespace selvane {
+
+/// A list whose entries are chosen one by one, and which can be narrowed by a search text. Choosing all or
+/// none concerns the entries that the search shows.
+class ChoiceListModel : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("owned by a form")
+
+    Q_PROPERTY(int total READ total NOTIFY entriesChanged)
+    Q_PROPERTY(int chosenCount READ chosenCount NOTIFY chosenChanged)
+    Q_PROPERTY(QString search READ search WRITE setSearch NOTIFY searchChanged)
+
+public:
+    struct Entry {
+        std::string key; ///< a name or an id, which needn't be text
+        QString title;
+        QString detail;
+        bool isChosen = false;
+    };
+    enum Role { TitleRole = Qt::UserRole, DetailRole, IsChosenRole };
+
+    using QAbstractListModel::QAbstractListModel;
+
+    void setEntries(std::vector<Entry> entries);
+    std::set<std::string> chosenKeys() const;
+
+    int total() const { return static_cast<int>(m_entries.size()); }
+    int chosenCount() const;
+    QString search() const { return m_search; }
+    void setSearch(const QString& text);
+
+    Q_INVOKABLE void toggle(int row);
+    Q_INVOKABLE void chooseAll() { chooseShown(true); }
+    Q_INVOKABLE void chooseNone() { chooseShown(false); }
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+signals:
+    void entriesChanged();
+    void chosenChanged();
+    void searchChanged();
+
+private:
+    void chooseShown(bool chosen);
+    void updateShown();
+
+    std::vector<Entry> m_entries;
+    std::vector<std::size_t> m_shown; ///< positions in m_entries
+    QString m_search;
+};
+
+} // namespace selvane

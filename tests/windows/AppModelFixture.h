@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+
+#include <gtest/gtest.h>
+#include <memory>
+
+#include "AppModel.h"
+#include "support/Home.h"
+
+namespace selvane::test {
+
+namespace fs = std::filesystem;
+
+/// Records what the windows ask of the desktop.
+struct FakeBridge final : DesktopBridge {
+    int ends = 0;
+    QString clipboard;
+    std::vector<fs::path> revealed;
+    std::vector<fs::path> opened;
+    QString proposedName;
+    std::optional<fs::path> archive; ///< the answer of the save dialog
+
+    void endApplication() override { ++ends; }
+    void copyToClipboard(const QString& text) override { clipboard = text; }
+    void reveal(const fs::path& item) override { revealed.push_back(item); }
+    void open(const fs::path& file) override { opened.push_back(file); }
+    void askForArchive(const QString& name, std::function<void(std::optional<fs::path>)> done) override {
+        proposedName = name;
+        done(archive);
+    }
+};
+
+class AppModelTest : public testing::Test {
+protected:
+    explicit AppModelTest(Home::Processes processes = Home::Processes::ignored) : home(processes) {}
+
+    AppModel& model() {
+        if (!m_model)
+            m_model = std::make_unique<AppModel>(home.store, home.claude, bridge, preferences);
+        return *m_model;
+    }
+    void waitUntilIdle() {
+        const QDeadlineTimer limit(20'000);
+        while (!model().busyMessage().isEmpty() && !limit.hasExpired())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+        QCoreApplication::processEvents();
+        ASSERT_EQ(model().busyMessage(), "");
+    }
+
+    Home home;
+    FakeBridge bridge;
+    Preferences preferences{QString::fromStdString((home / "preferences.conf").string())};
+
+private:
+    std::unique_ptr<AppModel> m_model;
+};
+
+} // namespace selvane::test

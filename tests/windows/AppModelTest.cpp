@@ -1,0 +1,211 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "windows/AppModelFixture.h"
+
+#include <QDate>
+
+#include "support/RunningProcess.h"
+
+namespace selvane::test {
+namespace {
+
+/// A home in which a profile shares the built-in account, which a real process has open.
+class AppModelLaunch : public AppModelTest {
+protected:
+    AppModelLaunch() : AppModelTest(Home::Processes::seen) {
+        home.store.create(request("Ospite", {}, "default"));
+        home.workspace.whenEnded = [this] { m_copy.reset(); };
+    }
+    void open(const Environment& environment) {
+        const std::string folder = home.store.liveDesktopDir();
+        m_copy = std::make_unique<RunningProcess>(std::vector<std::string>{"--user-data-dir=" + folder},
+                                                  environment);
+        home.workspace.apps = {{m_copy->pid(), 1}};
+    }
+
+private:
+    std::unique_ptr<RunningProcess> m_copy;
+};
+
+TEST_F(AppModelTest, start_StoredSelection_CountsOnlyWhileTheProfileIsThere) {
+    home.make("Lavoro");
+    preferences.setLastSelection("lavoro");
+    EXPECT_EQ(model().selection(), "lavoro");
+    fs::remove_all(home.store.profile("lavoro")->configDir);
+    model().reload();
+    EXPECT_EQ(model().selection(), "default");
+    model().select("");
+    model().reload();
+    EXPECT_EQ(model().selection(), "") << "no selection stays none";
+    EXPECT_EQ(preferences.lastSelection(), "lavoro") << "and is not remembered";
+    preferences.setLastSelection("andato");
+    EXPECT_EQ(AppModel(home.store, home.claude, bridge, preferences).selection(), "default");
+}
+
+TEST_F(AppModelTest, perform_Failure_IsShownAndReloads) {
+    const qint64 revision = model().revision();
+    model().perform([&] { home.store.deleteProfile(home.builtIn()); });
+    EXPECT_EQ(model().errorMessage(), "Il profilo principale non può essere eliminato");
+    EXPECT_EQ(model().revision(), revision + 1);
+    model().clearError();
+    EXPECT_EQ(model().errorMessage(), "");
+}
+
+TEST_F(AppModelTest, actions_TellWhatTheyDid) {
+    writeTree(home.path, {{".claude/skills/uno.md", ""}, {".claude/skills/due.md", ""}});
+    const Profile profile = home.make("Lavoro");
+    model().sync("lavoro");
+    EXPECT_EQ(model().notice(), "Già sincronizzato");
+    fs::rename(home / ".claude/skills/uno.md", home / ".claude/skills/tre.md");
+    writeFile(home / ".claude/skills/quattro.md", "");
+    model().sync("lavoro");
+    EXPECT_EQ(model().notice(), "Aggiunti 2, rimossi 1 collegamenti");
+
+    model().copyTerminalCommand("lavoro");
+    EXPECT_EQ(bridge.clipboard.toStdString(),
+              '"' + (home.store.root() / "bin/claude-profile").string() + "\" lavoro");
+    EXPECT_EQ(model().notice(), "Comando copiato negli appunti");
+
+    model().setAccount("default", "lavoro");
+    EXPECT_EQ(home.store.profile("lavoro")->meta.account, "default");
+    model().setAccount("", "lavoro");
+    EXPECT_FALSE(home.store.profile("lavoro")->meta.account);
+
+    model().open(profile.configDir / "CLAUDE.local.md");
+    EXPECT_TRUE(fs::is_regular_file(profile.configDir / "CLAUDE.local.md"));
+    EXPECT_EQ(bridge.opened, std::vector{profile.configDir / "CLAUDE.local.md"});
+    model().open(profile.configDir / "manca/file.md");
+    EXPECT_TRUE(model().errorMessage().contains("manca")) << model().errorMessage().toStdString();
+    EXPECT_EQ(bridge.opened.size(), 1U);
+}
+
+TEST_F(AppModelTest, create_WithSessions_TellsWhatWaitsAndSelects) {
+    for (const std::string id : {"1", "2", "3"})
+        writeFile(home / (".config/Claude/claude-code-sessions/a/b/local_" + id + ".json"),
+                  R"({"sessionId": ")" + id + "\"}");
+    model().create({request("Lavoro", home.builtIn()), true});
+    EXPECT_EQ(model().notice(), "3 sessioni verranno aggiunte dopo il primo login");
+    EXPECT_EQ(model().selection(), "lavoro");
+    model().create({request("Ospite", home.builtIn(), "default"), true});
+    EXPECT_EQ(model().notice(), "3 sessioni copiate");
+    model().create({request("  "), false});
+    EXPECT_EQ(model().errorMessage(), "Il nome del profilo è obbligatorio");
+    EXPECT_EQ(model().selection(), "ospite");
+
+    const Profile work = *home.store.profile("lavoro");
+    model().importSessions(home.store.codeSessions(home.builtIn()), home.builtIn(), work);
+    EXPECT_EQ(model().notice(), "0 copiate, 3 aggiunte al prossimo avvio di «Lavoro»");
+}
+
+TEST_F(AppModelTest, exportBackup_EachEnd_LeavesNothingBusy) {
+    writeFile(home / ".claude/CLAUDE.md", "x");
+    model().exportBackup(BackupScope::all());
+    EXPECT_EQ(model().busyMessage(), "") << "cancelled";
+    EXPECT_EQ(bridge.proposedName, "Backup Claude " + QDate::currentDate().toString(Qt::ISODate) + ".zip");
+
+    bridge.archive = home / "b.zip";
+    model().exportBackup(BackupScope::all());
+    EXPECT_EQ(model().busyMessage(), "Backup in corso…");
+    waitUntilIdle();
+    EXPECT_TRUE(model().notice().startsWith("Backup creato (")) << model().errorMessage().toStdString();
+    EXPECT_EQ(bridge.revealed, std::vector{home / "b.zip"});
+
+    bridge.archive = home / ".claude";
+    model().exportBackup(BackupScope::all());
+    waitUntilIdle();
+    EXPECT_TRUE(model().errorMessage().contains("è una cartella"));
+}
+
+TEST_F(AppModelLaunch, launch_NothingOpen_StartsAndEndsIfWanted) {
+    model().launch("ospite");
+    EXPECT_EQ(model().busyMessage(), "Avvio di Claude con «Ospite»…");
+    waitUntilIdle();
+    EXPECT_EQ(home.workspace.openings.size(), 1U);
+    EXPECT_EQ(bridge.ends, 1);
+    model().setCloseAfterLaunch(false);
+    home.workspace.installed.reset();
+    model().launch("ospite");
+    waitUntilIdle();
+    EXPECT_EQ(model().errorMessage(), "Claude.app non trovata. Installala in /Applications.");
+    EXPECT_EQ(bridge.ends, 1);
+}
+
+TEST_F(AppModelLaunch, launch_AlreadyOpen_OnlyComesForward) {
+    open({});
+    model().setCloseAfterLaunch(false);
+    model().launch("default");
+    EXPECT_EQ(home.workspace.activated.size(), 1U);
+    EXPECT_EQ(bridge.ends, 0);
+    model().setCloseAfterLaunch(true);
+    model().launch("default");
+    EXPECT_EQ(bridge.ends, 1);
+    EXPECT_TRUE(home.workspace.openings.empty() && home.workspace.terminated.empty());
+}
+
+TEST_F(AppModelLaunch, launch_AccountOpenElsewhere_AsksThenReplacesTheCopy) {
+    open({});
+    EXPECT_EQ(model().running(), std::set<std::string>{"default"});
+    model().launch("ospite");
+    EXPECT_EQ(model().pendingLaunch(), "ospite");
+    EXPECT_EQ(model().property("closeMessage").toString(),
+              "«Principale» usa lo stesso account Claude ed è aperto: per avviare «Ospite» va chiuso. Le "
+              "sessioni in "
+              "corso verranno interrotte.");
+    model().cancelLaunch();
+    EXPECT_EQ(model().pendingLaunch(), "");
+    EXPECT_TRUE(home.workspace.terminated.empty()) << "nothing happens before the answer";
+
+    model().launch("ospite");
+    model().confirmLaunch();
+    EXPECT_EQ(model().pendingLaunch(), "");
+    EXPECT_EQ(model().busyMessage(), "Chiusura di Claude…");
+    waitUntilIdle();
+    EXPECT_EQ(home.workspace.terminated.size(), 1U);
+    EXPECT_EQ(home.workspace.openings.size(), 1U) << model().errorMessage().toStdString();
+}
+
+TEST_F(AppModelLaunch, launch_CopyThatStays_IsOfferedToBeForced) {
+    open({{"CLAUDE_CONFIG_DIR", "/altrove"}});
+    home.workspace.terminationsIgnored = 1;
+    model().launch("ospite");
+    EXPECT_TRUE(
+        model().property("closeMessage").toString().startsWith("Un altro profilo usa lo stesso account"));
+    model().confirmLaunch();
+    waitUntilIdle();
+    EXPECT_EQ(model().offerForceQuit(), "ospite");
+    EXPECT_EQ(model().errorMessage(), "");
+    EXPECT_TRUE(home.workspace.openings.empty());
+    model().forceLaunch();
+    EXPECT_EQ(model().offerForceQuit(), "");
+    waitUntilIdle();
+    EXPECT_EQ(home.workspace.forced.size(), 1U);
+    EXPECT_EQ(home.workspace.openings.size(), 1U);
+}
+
+TEST_F(AppModelLaunch, launch_AccountsToRestore_ClosesEveryCopyFirst) {
+    writeTree(home.path,
+              {{".claude-profiles/.desktop-data/.live", "ospite"}, {".config/Claude/Cookies", "theirs"}});
+    open({});
+    model().launch("default");
+    EXPECT_EQ(model().property("closeMessage").toString(),
+              "Per passare alle istanze separate Claude va chiuso una volta e riaperto con «Principale». Le "
+              "sessioni "
+              "in corso verranno interrotte.");
+    model().confirmLaunch();
+    waitUntilIdle();
+    EXPECT_EQ(readFile(home.store.desktopStore() / "ospite/Cookies"), "theirs")
+        << model().errorMessage().toStdString();
+    EXPECT_EQ(home.workspace.openings.size(), 1U);
+}
+
+TEST_F(AppModelLaunch, running_FollowsTheDesktop) {
+    model();
+    open({});
+    EXPECT_TRUE(model().running().empty());
+    emit bridge.claudeCopiesChanged();
+    EXPECT_EQ(model().running(), std::set<std::string>{"default"});
+}
+
+} // namespace
+} // namespace selvane::test

@@ -1,0 +1,149 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "Views/BackupForm.h"
+#include "Views/ImportForm.h"
+#include "Views/NewProfileForm.h"
+#include "Views/SessionImportForm.h"
+#include "windows/AppModelFixture.h"
+
+namespace selvane::test {
+namespace {
+
+class FormsTest : public AppModelTest {
+protected:
+    template <typename Form>
+    void prepare(Form& form, const QVariantMap& inputs = {}) {
+        form.setProperty("app", QVariant::fromValue(&model()));
+        for (auto input = inputs.begin(); input != inputs.end(); ++input)
+            form.setProperty(input.key().toUtf8(), input.value());
+    }
+    std::vector<std::string> titles(const ChoiceListModel& list) const {
+        std::vector<std::string> result;
+        for (int row = 0; row < list.rowCount(); ++row)
+            result.push_back(list.data(list.index(row), ChoiceListModel::TitleRole).toString().toStdString());
+        return result;
+    }
+    void writeSession(const std::string& id, const std::string& title, const std::string& cwd) {
+        writeFile(home / (".config/Claude/claude-code-sessions/a/b/local_" + id + ".json"),
+                  R"({"sessionId": ")" + id + R"(", "title": ")" + title + R"(", "cwd": ")" + cwd + "\"}");
+    }
+};
+
+TEST_F(FormsTest, newProfile_SetAll_TakesTheNearestModeWhereNeeded) {
+    NewProfileForm form;
+    prepare(form);
+    EXPECT_EQ(form.rowCount(), 0) << "nothing to take without a source";
+    form.setSource("default");
+    const auto modes = [&] {
+        std::string result;
+        for (int row = 0; row < form.rowCount(); ++row)
+            result += form.data(form.index(row), NewProfileForm::ModeRole).toString().toStdString() + " ";
+        return result;
+    };
+    EXPECT_EQ(modes(), "shared shared shared shared shared extend separate separate separate ");
+    form.setAll("separate");
+    EXPECT_EQ(modes(), "separate separate separate separate separate separate separate separate separate ");
+    form.setMode(6, "shared"); // settings can't be
+    form.setMode(0, "none");
+    EXPECT_EQ(modes(), "none separate separate separate separate separate separate separate separate ");
+    form.setAll("shared");
+    EXPECT_EQ(modes(), "shared shared shared shared shared shared separate separate separate ");
+}
+
+TEST_F(FormsTest, newProfile_Create_MakesWhatWasChosen) {
+    const std::string notUtf8 = "due\xE9.md";
+    for (const std::string& name : {std::string("uno.md"), notUtf8, std::string("tre.md")})
+        writeFile(home / ".claude/skills" / name, "x");
+    NewProfileForm form;
+    prepare(form, {{"name", "   "}, {"source", "default"}});
+    EXPECT_FALSE(form.canCreate());
+    form.create();
+    EXPECT_EQ(model().profiles().size(), 1U);
+
+    form.setProperty("name", " Lavoro ");
+    EXPECT_TRUE(form.canCreate());
+    auto* items = form.data(form.index(0), NewProfileForm::ItemsRole).value<ChoiceListModel*>();
+    ASSERT_NE(items, nullptr);
+    EXPECT_EQ(items->chosenCount(), 3);
+    items->chooseNone();
+    items->toggle(0);
+    form.create();
+    const Profile made = *home.store.profile("lavoro");
+    EXPECT_EQ(made.meta.account, "default");
+    EXPECT_EQ(made.meta.symbol, "briefcase");
+    EXPECT_EQ(made.excluded(Component::skills), (std::set<std::string>{"tre.md", "uno.md"}));
+    EXPECT_TRUE(fs::is_symlink(made.configDir / "skills" / notUtf8));
+    EXPECT_EQ(model().selection(), "lavoro");
+
+    form.setSource("");
+    form.setProperty("name", "Vuoto");
+    form.create();
+    EXPECT_FALSE(home.store.profile("vuoto")->meta.source || home.store.profile("vuoto")->meta.account);
+}
+
+TEST_F(FormsTest, import_OffersWhatIsMissingByName) {
+    writeTree(home.path, {{".claude/rules/uno.md", "1"}, {".claude/rules/due.md", "2"}});
+    const Profile target = home.make("Lavoro", {{Component::rules, ShareMode::none}});
+    writeFile(target.configDir / "rules/uno.md", "own");
+    ImportForm form;
+    prepare(form, {{"target", "lavoro"}, {"component", "rules"}});
+    form.begin();
+    EXPECT_EQ(form.source(), "default");
+    EXPECT_EQ(form.heading(), "Regole (rules/) non ancora presenti in «Lavoro»");
+    EXPECT_EQ(titles(*form.items()), std::vector<std::string>{"due.md"});
+    const qint64 revision = model().revision();
+    form.submit();
+    EXPECT_EQ(model().revision(), revision) << "nothing chosen, nothing done";
+    form.items()->toggle(0);
+    form.setProperty("links", false);
+    form.submit();
+    EXPECT_EQ(readFile(target.configDir / "rules/due.md"), "2");
+    EXPECT_FALSE(fs::is_symlink(target.configDir / "rules/due.md"));
+    form.setSource("default");
+    EXPECT_EQ(form.items()->total(), 0);
+}
+
+TEST_F(FormsTest, sessionImport_SearchNarrowsWhatIsChosen) {
+    writeSession("1", "Modulo d'ordine", "/home/a/negozio");
+    writeSession("2", "Sito", "/home/a/Negozio");
+    writeSession("3", "Note", "/home/a/note");
+    home.make("Lavoro");
+    SessionImportForm form;
+    prepare(form, {{"target", "lavoro"}});
+    form.begin();
+    EXPECT_TRUE(form.isLoading());
+    const QDeadlineTimer limit(20'000);
+    while (form.isLoading() && !limit.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+    ChoiceListModel& sessions = *form.sessions();
+    EXPECT_EQ(sessions.total(), 3);
+    sessions.setSearch("negozio");
+    EXPECT_EQ(sessions.rowCount(), 2);
+    sessions.chooseAll();
+    EXPECT_EQ(sessions.chosenCount(), 2);
+    sessions.toggle(1);
+    sessions.setSearch("");
+    EXPECT_EQ(sessions.chosenCount(), 1) << "what was chosen stays chosen when the search ends";
+    form.submit();
+    EXPECT_EQ(model().notice(), "0 copiate, 1 aggiunte al prossimo avvio di «Lavoro»");
+}
+
+TEST_F(FormsTest, backup_SavesWhatIsSwitchedOn) {
+    writeFile(home / ".claude/CLAUDE.md", "x");
+    bridge.archive = home / "b.zip";
+    BackupForm form;
+    prepare(form, {{"savesPrincipal", false}, {"savesProfiles", false}});
+    EXPECT_FALSE(form.canSave());
+    form.submit();
+    EXPECT_EQ(bridge.proposedName, "") << "nobody is asked for a place";
+    form.setProperty("savesProfiles", true);
+    form.submit();
+    waitUntilIdle();
+    EXPECT_TRUE(fs::exists(home / "b.zip")) << model().errorMessage().toStdString();
+    const std::string bytes = readFile(home / "b.zip");
+    EXPECT_EQ(bytes.find("CLAUDE.md"), bytes.npos);
+}
+
+} // namespace
+} // namespace selvane::test
