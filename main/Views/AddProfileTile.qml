@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// The way to a new profile, behind the last tile.
+Pressable {
+    id: tile
+
+    required property bool isCompact
+    readonly property bool isLit: hovered || ringed
+
+    label: qsTr("Nuovo profilo")
+    width: Theme.addTileWidth
+    height: isCompact ? Theme.tileHeightCompact : Theme.tileHeight
+
+    Rectangle {
+        anchors.fill: parent
+        radius: Theme.radiusTile
+        color: tile.isLit ? Theme.surface : Theme.transparent
+        border.width: Theme.hairline
+        border.color: tile.isLit ? Theme.controlBorder : Theme.separator
+    }
+    FocusRing {
+        controlRadius: Theme.radiusTile
+        visible: tile.ringed
+    }
+    Column {
+        anchors.centerIn: parent
+        spacing: Theme.space16
+
+        LeafShape {
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: Theme.addLeaf
+            height: Theme.addLeaf
+            tip: Theme.glyphTip * Theme.addLeaf
+            color: tile.isLit ? Theme.raised : Theme.transparent
+            borderWidth: Theme.leafOutline
+            borderColor: tile.isLit ? Theme.lit : Theme.controlBorder
+
+            PathIcon {
+                anchors.centerIn: parent
+                symbol: "plus"
+                weight: PathIcon.Light
+                size: Theme.addIcon
+                color: tile.isLit ? Theme.lit : Theme.textSoft
+            }
+        }
+        StyledText {
+            look: Theme.confirmLabel
+            text: tile.label
+            color: tile.isLit ? Theme.text : Theme.textSoft
+            Accessible.ignored: true
+        }
+    }
+}

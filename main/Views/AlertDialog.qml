@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// A question or an error. Begins at the confirm button, or at "Annulla" when confirming destroys something.
+ModalLayer {
+    id: alert
+
+    required property string message
+    property string confirmText: qsTr("OK")
+    property string cancelText: qsTr("Annulla") ///< empty: there is nothing to refuse
+    property bool destructive: false
+    property bool isError: false
+
+    z: Theme.alertLayer
+    firstFocus: destructive && cancelText !== "" ? buttons.cancelButton : buttons.confirmButton
+    plateWidth: Theme.alertWidth
+    plateHeight: texts.height + buttons.height + 2 * Theme.space24 + Theme.space20
+
+    Accessible.role: Accessible.AlertMessage
+    Accessible.description: message
+
+    PathIcon {
+        id: sign
+
+        x: Theme.space24
+        y: Theme.space24 + 1
+        visible: alert.isError
+        symbol: "exclamationmark.triangle"
+        size: 22
+        color: Theme.danger
+    }
+    Column {
+        id: texts
+
+        x: alert.isError ? sign.x + sign.width + Theme.space12 : Theme.space24
+        y: Theme.space24
+        width: parent.width - x - Theme.space24
+        spacing: 6
+
+        StyledText {
+            width: parent.width
+            look: Theme.alertTitle
+            text: alert.title
+            wrapMode: Text.Wrap
+        }
+        StyledText {
+            width: parent.width
+            look: Theme.body
+            text: alert.message
+            color: Theme.textSoft
+            wrapMode: Text.Wrap
+        }
+    }
+    DialogButtons {
+        id: buttons
+
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        anchors.margins: Theme.space24
+        confirmText: alert.confirmText
+        cancelText: alert.cancelText
+        destructive: alert.destructive
+        onConfirmed: alert.confirm()
+        onCancelled: alert.cancel()
+    }
+}

@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// Says where an item comes from, in colour and in words.
+Rectangle {
+    id: badge
+
+    enum Kind { Merged, Linked, Own, Broken }
+
+    required property int kind
+    required property string text
+    property bool onHoveredRow: false
+
+    readonly property color label: {
+        switch (badge.kind) {
+        case Badge.Own:
+            return Theme.textSoft
+        case Badge.Broken:
+            return Theme.danger
+        default:
+            return Theme.linked
+        }
+    }
+
+    implicitWidth: caption.implicitWidth + 2 * Theme.space8
+    implicitHeight: Theme.badgeHeight
+    radius: height / 2
+    color: {
+        switch (badge.kind) {
+        case Badge.Merged:
+            return Theme.coolSoft
+        case Badge.Own:
+            return badge.onHoveredRow ? Theme.separator : Theme.raised
+        case Badge.Broken:
+            return Theme.accent2Soft
+        default:
+            return Theme.transparent
+        }
+    }
+    border.width: kind === Badge.Linked ? Theme.hairline : 0
+    border.color: Theme.coolLine
+
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
+
+    StyledText {
+        id: caption
+
+        anchors.centerIn: parent
+        look: Theme.badge
+        text: badge.text
+        color: badge.label
+        Accessible.ignored: true
+    }
+}

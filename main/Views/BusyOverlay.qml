@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// Dims the window and takes all input while there is a message. The light goes from leaf to leaf meanwhile.
+FocusScope {
+    id: overlay
+
+    required property string message
+    property string lastMessage ///< still to be read while it fades
+    property Item previousFocus: null
+    property real light ///< 0: the lower leaf is lit, 1: the upper one
+
+    readonly property bool isBusy: message !== ""
+
+    function mix(amount: real): color {
+        const dark = Theme.separator
+        const lit = Theme.lit
+        return Qt.rgba(dark.r + (lit.r - dark.r) * amount, dark.g + (lit.g - dark.g) * amount,
+                       dark.b + (lit.b - dark.b) * amount, 1)
+    }
+
+    anchors.fill: parent
+    z: Theme.busyLayer
+    opacity: isBusy ? 1 : 0
+    visible: isBusy || opacity > 0
+    enabled: isBusy
+
+    Accessible.role: Accessible.AlertMessage
+    Accessible.name: message
+
+    onMessageChanged: {
+        if (isBusy)
+            lastMessage = message
+    }
+    onIsBusyChanged: {
+        if (isBusy) {
+            previousFocus = Window.activeFocusItem
+            forceActiveFocus(Qt.OtherFocusReason)
+        } else if (previousFocus) {
+            previousFocus.forceActiveFocus(Qt.OtherFocusReason)
+        }
+    }
+    Keys.onPressed: event => event.accepted = true
+
+    Behavior on opacity {
+        NumberAnimation { duration: Theme.busyFade }
+    }
+    SequentialAnimation on light {
+        running: overlay.isBusy && !Theme.reducedMotion
+        loops: Animation.Infinite
+        onStopped: overlay.light = 0
+
+        NumberAnimation { to: 1; duration: Theme.busyCross; easing.type: Easing.InOutSine }
+        NumberAnimation { to: 0; duration: Theme.busyCross; easing.type: Easing.InOutSine }
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.scrim
+    }
+    MouseArea {
+        anchors.fill: parent
+        acceptedButtons: Qt.AllButtons
+        hoverEnabled: true
+        onWheel: wheel => wheel.accepted = true
+    }
+    Rectangle {
+        anchors.centerIn: parent
+        width: Math.min(parent.width - 2 * Theme.sheetMargin,
+                        Math.max(Theme.busyWidth, caption.implicitWidth + 2 * 40))
+        height: 32 + mark.height + Theme.space20 + caption.height + 32
+        radius: Theme.radiusTile
+        color: Theme.surface
+        border.width: Theme.hairline
+        border.color: Theme.separator
+
+        BrandMark {
+            id: mark
+
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: 32
+            size: 56
+            upper: overlay.mix(overlay.light)
+            lower: overlay.mix(1 - overlay.light)
+        }
+        StyledText {
+            id: caption
+
+            anchors.top: mark.bottom
+            anchors.topMargin: Theme.space20
+            x: 40
+            width: parent.width - 2 * x
+            horizontalAlignment: Text.AlignHCenter
+            look: Theme.busyMessage
+            text: overlay.lastMessage
+            wrapMode: Text.Wrap
+            Accessible.ignored: true
+        }
+    }
+}

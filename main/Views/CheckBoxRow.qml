@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// A check box with its text and, below it, a path. In a list the whole row is the target.
+Pressable {
+    id: row
+
+    required property string text
+    required property bool checked
+    property string detail
+    property bool inList: false ///< lights up under the pointer, and its content is set in from the edges
+    property bool fadesUnchecked: false
+
+    signal toggled(bool checked)
+
+    label: text
+    answersReturn: false
+    takesFocusOnClick: true
+    implicitWidth: texts.x + Math.max(caption.implicitWidth, path.implicitWidth)
+    implicitHeight: detail !== "" ? Theme.scaled(52) : inList ? Theme.scaled(40) : Theme.rowTarget
+    opacity: enabled ? 1 : Theme.disabledOpacity
+
+    Accessible.role: Accessible.CheckBox
+    Accessible.checkable: true
+    Accessible.checked: checked
+    Accessible.description: detail
+    Accessible.onToggleAction: row.clicked()
+
+    onClicked: toggled(!checked)
+
+    Rectangle {
+        anchors.fill: parent
+        visible: row.inList && row.hovered
+        color: Theme.raised
+    }
+    Rectangle {
+        id: box
+
+        anchors.verticalCenter: parent.verticalCenter
+        x: row.inList ? Theme.space16 : 0
+        width: 16
+        height: 16
+        radius: Theme.radiusSmall
+        color: row.checked ? Theme.switchedOn : Theme.transparent
+        border.width: row.checked ? 0 : Theme.hairline
+        border.color: Theme.controlBorder
+
+        PathIcon {
+            anchors.centerIn: parent
+            visible: row.checked
+            name: "check"
+            size: 12
+            weight: PathIcon.Bold
+            color: Theme.onFill
+        }
+        FocusRing {
+            controlRadius: box.radius
+            visible: row.ringed
+        }
+    }
+    Column {
+        id: texts
+
+        anchors.verticalCenter: parent.verticalCenter
+        x: box.x + box.width + Theme.space12
+        width: row.width - x - (row.inList ? Theme.space16 : 0)
+
+        StyledText {
+            id: caption
+
+            width: parent.width
+            look: row.detail !== "" ? Theme.menuLabel : Theme.control
+            text: row.text
+            color: row.checked || !row.fadesUnchecked ? Theme.text : Theme.textSoft
+            elide: Text.ElideRight
+        }
+        StyledText {
+            id: path
+
+            width: parent.width
+            visible: row.detail !== ""
+            look: Theme.listPath
+            text: row.detail
+            color: Theme.textFaint
+            elide: Text.ElideMiddle
+        }
+    }
+}

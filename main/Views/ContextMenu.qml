@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// A menu of `MenuEntry` and `MenuDivider`; triggering an entry closes it first. Make one for a view, not
+/// one for each row.
+Popover {
+    id: menu
+
+    default property alias entries: column.data
+
+    /// Focuses the next entry from `start` on, in steps; over the end it goes on at the other one.
+    function focusFrom(start: int, step: int): void {
+        const count = column.children.length
+        for (let i = 0; i < count; ++i) {
+            const entry = column.children[(start + i * step + 2 * count) % count] as MenuEntry
+            if (entry && entry.enabled && entry.visible) {
+                entry.forceActiveFocus(Qt.TabFocusReason)
+                return
+            }
+        }
+    }
+    function move(step: int): void {
+        let at = step > 0 ? -1 : column.children.length
+        for (let i = 0; i < column.children.length; ++i) {
+            if (column.children[i].activeFocus)
+                at = i
+        }
+        focusFrom(at + step, step)
+    }
+
+    Accessible.role: Accessible.PopupMenu
+
+    Keys.onUpPressed: move(-1)
+    Keys.onDownPressed: move(1)
+
+    Column {
+        id: column
+
+        readonly property real widest: {
+            let widest = 0
+            for (let i = 0; i < children.length; ++i)
+                widest = Math.max(widest, children[i].implicitWidth)
+            return widest
+        }
+
+        Component.onCompleted: {
+            for (let i = 0; i < children.length; ++i) {
+                children[i].width = Qt.binding(() => column.widest)
+                const entry = children[i] as MenuEntry
+                if (entry)
+                    entry.picked.connect(menu.close)
+            }
+        }
+    }
+}

@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// One choice out of a list, which may explain its choices. It shows `currentIndex` and asks for another one.
+Pressable {
+    id: dropDown
+
+    enum Size { Small, Medium, Large }
+
+    property list<string> labels
+    property list<string> explanations
+    required property int currentIndex
+    property int size: DropDown.Medium
+    readonly property string currentText: labels[currentIndex] ?? ""
+    property DropDownMenu menu: null ///< made when it is first opened
+
+    signal chosen(int index)
+
+    function open(): void {
+        if (!menu)
+            menu = menuComponent.createObject(dropDown) as DropDownMenu
+        menu.begin(dropDown.currentIndex)
+        menu.openAt(dropDown, 0, dropDown.height + Theme.space4, dropDown.height)
+    }
+
+    answersReturn: false
+    takesFocusOnClick: true
+    implicitWidth: Theme.modeWidth
+    implicitHeight: size === DropDown.Small ? Theme.smallHeight
+                  : size === DropDown.Large ? Theme.sheetControlHeight : Theme.controlHeight
+    opacity: enabled ? 1 : Theme.disabledOpacity
+
+    Accessible.role: Accessible.ComboBox
+    Accessible.name: label !== "" ? label + ": " + currentText : currentText
+
+    onClicked: open()
+    Keys.onUpPressed: open()
+    Keys.onDownPressed: open()
+
+    Rectangle {
+        anchors.fill: parent
+        radius: Theme.radiusControl
+        color: dropDown.hovered ? Theme.raised : Theme.wellFill
+        border.width: Theme.hairline
+        border.color: Theme.controlBorder
+
+        Behavior on color {
+            ColorAnimation { duration: Theme.hover }
+        }
+    }
+    FocusRing {
+        visible: dropDown.ringed
+    }
+    StyledText {
+        anchors.verticalCenter: parent.verticalCenter
+        anchors.left: parent.left
+        anchors.right: caret.left
+        anchors.leftMargin: dropDown.size === DropDown.Small ? 10 : Theme.space12
+        anchors.rightMargin: Theme.space8
+        look: dropDown.size === DropDown.Large ? Theme.field : dropDown.size === DropDown.Small ? Theme.smallControl
+                                                                                               : Theme.control
+        text: dropDown.currentText
+        elide: Text.ElideRight
+    }
+    PathIcon {
+        id: caret
+
+        anchors.verticalCenter: parent.verticalCenter
+        anchors.right: parent.right
+        anchors.rightMargin: dropDown.size === DropDown.Small ? 8 : 10
+        name: "caret-down"
+        size: Theme.iconCaret
+        color: Theme.textSoft
+    }
+    Component {
+        id: menuComponent
+
+        DropDownMenu {
+            labels: dropDown.labels
+            explanations: dropDown.explanations
+            chosenIndex: dropDown.currentIndex
+            narrowest: dropDown.width
+            onChosen: index => dropDown.chosen(index)
+        }
+    }
+}

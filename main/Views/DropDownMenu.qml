@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// The open list of a `DropDown`. Arrows, Home and End move; a letter goes to the next label that begins so.
+Popover {
+    id: menu
+
+    required property list<string> labels
+    required property list<string> explanations
+    required property int chosenIndex
+    required property real narrowest
+
+    signal chosen(int index)
+
+    function begin(index: int): void {
+        list.currentIndex = Math.max(0, index)
+        list.positionViewAtIndex(list.currentIndex, ListView.Contain)
+    }
+    function choose(index: int): void {
+        menu.close()
+        menu.chosen(index)
+    }
+    function findLabel(start: string): bool {
+        for (let i = 1; i <= menu.labels.length; ++i) {
+            const index = (list.currentIndex + i) % menu.labels.length
+            if (menu.labels[index].toLocaleLowerCase().startsWith(start.toLocaleLowerCase())) {
+                list.currentIndex = index
+                return true
+            }
+        }
+        return false
+    }
+
+    Accessible.role: Accessible.PopupMenu
+
+    ListView {
+        id: list
+
+        width: menu.explanations.length > 0 ? Theme.menuWidth - 2 * menu.padding
+                                            : Math.max(menu.narrowest, Theme.modeWidth) - 2 * menu.padding
+        height: Math.min(contentHeight, (menu.parent?.height ?? 0) / 2)
+        model: menu.labels
+        focus: true
+        clip: true
+        boundsBehavior: Flickable.StopAtBounds
+        highlightMoveDuration: 0
+        keyNavigationEnabled: true
+
+        delegate: MenuEntry {
+            required property int index
+            required property string modelData
+
+            width: ListView.view.width
+            text: modelData
+            explanation: menu.explanations[index] ?? ""
+            choosable: true
+            chosen: index === menu.chosenIndex
+            onTriggered: menu.choose(index)
+            onHoveredChanged: {
+                if (hovered)
+                    list.currentIndex = index
+            }
+        }
+
+        Keys.onPressed: event => {
+            if (event.key === Qt.Key_Home)
+                list.currentIndex = 0
+            else if (event.key === Qt.Key_End)
+                list.currentIndex = list.count - 1
+            else if (event.text.trim() === "" || !menu.findLabel(event.text))
+                return
+            event.accepted = true
+        }
+    }
+    ThinScrollBar {
+        flickable: list
+        inset: 2
+    }
+}

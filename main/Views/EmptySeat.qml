@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// The outline of a tile to come. Decoration.
+Rectangle {
+    width: Theme.tileWidth
+    height: Theme.tileHeight
+    radius: Theme.radiusTile
+    color: Theme.transparent
+    border.width: Theme.hairline
+    border.color: Theme.raised
+
+    Accessible.ignored: true
+
+    LeafShape {
+        x: Theme.space16
+        y: Theme.space16
+        width: Theme.tileGlyph
+        height: Theme.tileGlyph
+        tip: Theme.glyphTip * Theme.tileGlyph
+        color: Theme.surface
+    }
+}

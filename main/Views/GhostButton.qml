@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// The quiet button: a label, an icon before it, or an icon alone, which then needs a `label`.
+Pressable {
+    id: button
+
+    enum Size { Small, Medium, Large }
+
+    property string text
+    property string symbol
+    property int size: GhostButton.Medium ///< Large: beside a confirm button
+    property bool bare: false ///< without a border at rest
+
+    readonly property bool iconOnly: text === ""
+    readonly property bool small: size === GhostButton.Small
+    readonly property bool active: hovered || pressed
+    readonly property real padding: small ? 10 : size === GhostButton.Large ? 16 : 12
+
+    label: text
+    implicitHeight: small ? Theme.smallHeight : size === GhostButton.Large ? Theme.sheetControlHeight
+                                                                           : Theme.controlHeight
+    implicitWidth: iconOnly ? implicitHeight : content.implicitWidth + 2 * padding
+    opacity: enabled ? 1 : Theme.disabledOpacity
+
+    Rectangle {
+        anchors.fill: parent
+        radius: Theme.radiusControl
+        color: button.pressed ? Theme.line : button.hovered ? Theme.raised : Qt.alpha(Theme.raised, 0)
+        border.width: Theme.hairline
+        border.color: button.active ? Theme.controlBorder : button.bare ? Qt.alpha(Theme.separator, 0)
+                                                                        : Theme.separator
+
+        Behavior on color {
+            ColorAnimation { duration: Theme.hover }
+        }
+        Behavior on border.color {
+            ColorAnimation { duration: Theme.hover }
+        }
+    }
+    FocusRing {
+        visible: button.ringed
+    }
+    Row {
+        id: content
+
+        anchors.centerIn: parent
+        spacing: button.small ? 6 : Theme.space8
+
+        PathIcon {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: button.symbol !== ""
+            symbol: button.symbol
+            size: button.iconOnly ? Theme.iconAlone : Theme.iconControl
+            color: button.active ? Theme.text : Theme.textSoft
+        }
+        StyledText {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: !button.iconOnly
+            look: button.small ? Theme.smallControl : Theme.control
+            text: button.text
+        }
+    }
+}

@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// Keys as their caps show them. The typeface has no arrows and no ⌘: these are icons.
+Rectangle {
+    id: cap
+
+    required property string keys
+
+    readonly property var icons: ({
+        "←": "arrow-left",
+        "→": "arrow-right",
+        "⌘": "command",
+        "↩": "arrow-elbow-down-left"
+    })
+    /// Runs of text, and each drawn key by itself.
+    readonly property list<string> parts: keys.match(/[←→⌘↩]|[^←→⌘↩]+/g) ?? []
+
+    implicitWidth: Math.max(content.implicitWidth + 2 * 6, Theme.scaled(24))
+    implicitHeight: Theme.keyCapHeight
+    radius: Theme.radiusKeyCap
+    color: Theme.surface
+    border.width: Theme.hairline
+    border.color: Theme.separator
+
+    Accessible.ignored: true
+
+    Row {
+        id: content
+
+        anchors.centerIn: parent
+        spacing: Theme.space4
+
+        Repeater {
+            model: cap.parts
+
+            delegate: Item {
+                id: part
+
+                required property string modelData
+
+                readonly property string icon: cap.icons[modelData] ?? ""
+
+                implicitWidth: icon !== "" ? drawn.width : caption.implicitWidth
+                implicitHeight: Theme.keyCap.lineHeight
+
+                PathIcon {
+                    id: drawn
+
+                    anchors.centerIn: parent
+                    visible: part.icon !== ""
+                    name: part.icon
+                    size: Theme.scaled(12)
+                    weight: PathIcon.Bold
+                    color: Theme.textSoft
+                }
+                StyledText {
+                    id: caption
+
+                    anchors.centerIn: parent
+                    visible: part.icon === ""
+                    look: Theme.keyCap
+                    text: part.modelData
+                    color: Theme.textSoft
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// The prominent button, in the shape of a leaf. A text that ends in an arrow shows it as an icon.
+Pressable {
+    id: button
+
+    enum Size { Medium, Large }
+
+    required property string text
+    property int size: LaunchButton.Large
+    property bool destructive: false
+
+    readonly property bool large: size === LaunchButton.Large
+    readonly property bool hasArrow: text.endsWith("→")
+    readonly property color labelColor: enabled ? Theme.onFill : Theme.textFaint
+    readonly property color fill: {
+        if (!button.enabled)
+            return Theme.raised
+        if (button.pressed)
+            return button.destructive ? Theme.accent2Pressed : Theme.accentPressed
+        if (button.hovered)
+            return button.destructive ? Theme.accent2Hover : Theme.accentHover
+        return button.destructive ? Theme.danger : Theme.lit
+    }
+
+    label: text
+    implicitWidth: content.implicitWidth + 2 * (large ? 20 : 18)
+    implicitHeight: large ? Theme.launchHeight : Theme.sheetControlHeight
+    scale: pressed ? Theme.pressedScale : 1
+
+    Behavior on scale {
+        NumberAnimation { duration: Theme.tilePress; easing.type: Easing.OutQuad }
+    }
+
+    LeafShape {
+        anchors.fill: parent
+        tip: Theme.buttonTip
+        color: button.fill
+
+        Behavior on color {
+            ColorAnimation { duration: Theme.hover }
+        }
+    }
+    LeafShape {
+        anchors.fill: parent
+        anchors.margins: -Theme.ringGap
+        visible: button.ringed
+        tip: Theme.ringTip
+        borderWidth: Theme.thickLine
+        borderColor: Theme.focusRing
+    }
+    Row {
+        id: content
+
+        anchors.centerIn: parent
+        spacing: Theme.space12
+
+        StyledText {
+            anchors.verticalCenter: parent.verticalCenter
+            look: button.large ? Theme.launchLabel : Theme.confirmLabel
+            text: button.hasArrow ? button.text.slice(0, -1).trim() : button.text
+            color: button.labelColor
+        }
+        PathIcon {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: button.hasArrow
+            name: "arrow-right"
+            weight: PathIcon.Bold
+            size: Theme.iconControl
+            color: button.labelColor
+        }
+    }
+}

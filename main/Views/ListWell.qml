@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// A sunken field for rows: what lies in it is cut at its rounded corners.
+Item {
+    id: well
+
+    default property alias content: inside.data
+    property color outside: Theme.surface ///< what the well is sunk into
+
+    Rectangle {
+        id: inside
+
+        anchors.fill: parent
+        color: Theme.wellFill
+        clip: true
+    }
+    RoundedFrame {
+        anchors.fill: parent
+        radius: Theme.radiusCard
+        color: Theme.separator
+        outside: well.outside
+    }
+}

@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// An entry of a menu, which it lights up in while it has the focus; the pointer moves the focus.
+Pressable {
+    id: entry
+
+    required property string text
+    property string symbol
+    property string icon ///< name of an icon, where there is no symbol
+    property string explanation
+    /// In a list of choices a column for the mark of the chosen one is kept free.
+    property bool choosable: false
+    property bool chosen: false
+
+    signal picked ///< before `triggered`, for the menu around it, which closes
+    signal triggered
+
+    readonly property bool hasIcon: symbol !== "" || icon !== ""
+
+    label: text
+    tabStop: false
+    implicitWidth: texts.x + Math.max(caption.implicitWidth, choosable ? 0 : note.implicitWidth) + 10
+    implicitHeight: texts.implicitHeight + 2 * Theme.space8
+    opacity: enabled ? 1 : Theme.disabledOpacity
+
+    Accessible.role: Accessible.MenuItem
+    Accessible.description: explanation
+    Accessible.focusable: true
+    Accessible.checked: chosen
+
+    onClicked: {
+        picked()
+        triggered()
+    }
+    onHoveredChanged: {
+        if (hovered)
+            forceActiveFocus(Qt.MouseFocusReason)
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        visible: entry.activeFocus
+        radius: Theme.radiusControl
+        color: Theme.separator
+    }
+    PathIcon {
+        anchors.verticalCenter: entry.choosable ? undefined : parent.verticalCenter
+        x: 10
+        y: Theme.space8 + 2
+        visible: entry.hasIcon || entry.chosen
+        symbol: entry.symbol
+        name: entry.choosable ? "check" : entry.icon
+        size: entry.choosable ? Theme.iconSmall : Theme.iconControl
+        color: entry.choosable ? Theme.lit : Theme.textSoft
+    }
+    Column {
+        id: texts
+
+        anchors.verticalCenter: parent.verticalCenter
+        x: entry.choosable ? 10 + Theme.iconSmall + 10 : entry.hasIcon ? 10 + Theme.iconControl + 10 : 10
+        width: entry.width - x - 10
+
+        StyledText {
+            id: caption
+
+            width: parent.width
+            look: Theme.menuLabel
+            text: entry.text
+            elide: Text.ElideRight
+        }
+        StyledText {
+            id: note
+
+            width: parent.width
+            visible: entry.explanation !== ""
+            look: Theme.small
+            text: entry.explanation
+            color: Theme.textSoft
+            wrapMode: Text.Wrap
+        }
+    }
+}

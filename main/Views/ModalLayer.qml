@@ -1,0 +1,153 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// A plate over the dimmed window, from its creation to `closed`. Escape cancels, Return confirms, both close
+/// it. The focus stays inside and then returns to where it was.
+FocusScope {
+    id: layer
+
+    default property alias content: plate.data
+    property string title ///< accessible name
+    property bool confirmEnabled: true
+    property bool cancellable: true
+    property Item firstFocus: null ///< else the first control
+    property real plateWidth: Theme.alertWidth
+    property real plateHeight: 0
+    property Item previousFocus: null
+    property bool isOpen: false
+
+    signal confirmed
+    signal cancelled
+    signal closed
+
+    function confirm(): void {
+        if (!layer.isOpen || !layer.confirmEnabled)
+            return
+        layer.close()
+        layer.confirmed()
+    }
+    function cancel(): void {
+        if (!layer.isOpen || !layer.cancellable)
+            return
+        layer.close()
+        layer.cancelled()
+    }
+    function close(): void {
+        layer.isOpen = false
+        if (layer.previousFocus)
+            layer.previousFocus.forceActiveFocus(Qt.OtherFocusReason)
+    }
+    function takeFocus(): void {
+        const first = layer.firstFocus ?? start.nextItemInFocusChain(true)
+        first.forceActiveFocus(Qt.OtherFocusReason)
+    }
+
+    anchors.fill: parent
+    z: Theme.sheetLayer
+    enabled: isOpen
+
+    Accessible.role: Accessible.Dialog
+    Accessible.name: title
+
+    Component.onCompleted: {
+        previousFocus = Window.activeFocusItem
+        isOpen = true
+        takeFocus()
+    }
+    Keys.onEscapePressed: cancel()
+    Keys.onReturnPressed: confirm()
+    Keys.onEnterPressed: confirm()
+
+    states: State {
+        name: "open"
+        when: layer.isOpen
+
+        PropertyChanges {
+            scrim.opacity: 1
+            plate.opacity: 1
+            plate.slide: 0
+        }
+    }
+    transitions: [
+        Transition {
+            to: "open"
+
+            NumberAnimation {
+                properties: "opacity,slide"
+                duration: Theme.sheetIn
+                easing.type: Easing.OutCubic
+            }
+        },
+        Transition {
+            from: "open"
+
+            SequentialAnimation {
+                NumberAnimation {
+                    properties: "opacity,slide"
+                    duration: Theme.sheetOut
+                    easing.type: Easing.InCubic
+                }
+                ScriptAction {
+                    script: layer.closed()
+                }
+            }
+        }
+    ]
+
+    Rectangle {
+        id: scrim
+
+        anchors.fill: parent
+        color: Theme.scrim
+        opacity: 0
+
+        MouseArea {
+            anchors.fill: parent
+            acceptedButtons: Qt.AllButtons
+            hoverEnabled: true
+            onWheel: wheel => wheel.accepted = true
+        }
+    }
+
+    // Tab leads from either end back to the other one.
+    Item {
+        id: start
+
+        activeFocusOnTab: true
+        Accessible.ignored: true
+        onActiveFocusChanged: {
+            if (activeFocus)
+                end.nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+        }
+    }
+    Rectangle {
+        id: plate
+
+        property real slide: Theme.sheetSlide
+
+        x: Math.round((layer.width - width) / 2)
+        y: Math.round((layer.height - height) / 2) + slide
+        width: Math.min(layer.plateWidth, layer.width - 2 * Theme.sheetMargin)
+        height: layer.plateHeight
+        radius: Theme.radiusSheet
+        color: Theme.surface
+        border.width: Theme.hairline
+        border.color: Theme.separator
+        opacity: 0
+    }
+    Item {
+        id: end
+
+        activeFocusOnTab: true
+        Accessible.ignored: true
+        onActiveFocusChanged: {
+            if (activeFocus)
+                start.nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+        }
+    }
+}

@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// One profile in the picker. The picker's keyboard acts on the focused one, which the pointer moves as well.
+Item {
+    id: tile
+
+    required property string name
+    required property string summary
+    required property string symbol
+    required property bool isRunning
+    required property bool hasOwnAccount
+    required property string lastLaunch
+    required property int index
+    required property int count
+    required property bool isFocused
+    required property bool isCompact
+
+    readonly property int position: index + 1
+    readonly property string status: isRunning ? qsTr("Aperto") : lastLaunch
+
+    signal launched
+    signal settingsAsked
+    signal hovered
+
+    width: Theme.tileWidth
+    height: isCompact ? Theme.tileHeightCompact : Theme.tileHeight
+    scale: isFocused ? Theme.focusedScale : 1
+    z: isFocused ? 1 : 0
+
+    Accessible.role: Accessible.Button
+    Accessible.name: name
+    Accessible.description: qsTr("%1, profilo %2 di %3").arg(status).arg(position).arg(count)
+    Accessible.focusable: true
+    Accessible.focused: isFocused
+    Accessible.onPressAction: tile.launched()
+
+    Behavior on scale {
+        NumberAnimation { duration: Theme.tileFocus; easing.type: Easing.OutCubic }
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        radius: Theme.radiusTile
+        color: tile.isFocused ? Theme.raised : Theme.surface
+        border.width: tile.isFocused ? Theme.thickLine : Theme.hairline
+        border.color: tile.isFocused ? Theme.lit : Theme.separator
+
+        Behavior on color {
+            ColorAnimation { duration: Theme.tileFocus }
+        }
+    }
+    MouseArea {
+        id: area
+
+        anchors.fill: parent
+        hoverEnabled: true
+        onEntered: tile.hovered()
+        onClicked: tile.launched()
+    }
+    TileLabel {
+        anchors.fill: parent
+        scale: area.pressed ? Theme.pressedScale : 1
+        name: tile.name
+        summary: tile.summary
+        symbol: tile.symbol
+        status: tile.status
+        position: tile.position
+        isRunning: tile.isRunning
+        wasLaunched: tile.lastLaunch !== qsTr("Mai avviato")
+        hasOwnAccount: tile.hasOwnAccount
+        isFocused: tile.isFocused
+        isCompact: tile.isCompact
+
+        Behavior on scale {
+            NumberAnimation { duration: Theme.tilePress; easing.type: Easing.OutQuad }
+        }
+    }
+    TileGear {
+        anchors { right: parent.right; top: parent.top; margins: Theme.tileGearMargin }
+        help: qsTr("Impostazioni di «%1»").arg(tile.name)
+        isOnFocusedTile: tile.isFocused
+        onClicked: tile.settingsAsked()
+    }
+}

@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// One of a few choices: its text, perhaps a symbol behind it, and an explanation below.
+Pressable {
+    id: row
+
+    required property string text
+    required property bool checked
+    property string detail
+    property string symbol
+
+    signal chosen
+
+    label: text
+    answersReturn: false
+    takesFocusOnClick: true
+    implicitWidth: texts.x + Math.max(heading.implicitWidth, explanation.implicitWidth)
+    implicitHeight: Math.max(Theme.rowTarget, texts.implicitHeight)
+    opacity: enabled ? 1 : Theme.disabledOpacity
+
+    Accessible.role: Accessible.RadioButton
+    Accessible.checkable: true
+    Accessible.checked: checked
+    Accessible.description: detail
+
+    onClicked: chosen()
+
+    Rectangle {
+        id: knob
+
+        y: Math.round((heading.height - height) / 2) + texts.y
+        width: 16
+        height: 16
+        radius: 8
+        color: Theme.transparent
+        border.width: row.checked ? 5 : Theme.hairline
+        border.color: row.checked ? Theme.switchedOn : Theme.controlBorder
+
+        FocusRing {
+            controlRadius: knob.radius
+            visible: row.ringed
+        }
+    }
+    Column {
+        id: texts
+
+        x: knob.width + 10
+        y: row.detail !== "" ? 0 : Math.round((row.height - height) / 2)
+        width: row.width - x
+        spacing: Theme.space4
+
+        Row {
+            id: heading
+
+            spacing: Theme.space8
+
+            StyledText {
+                look: Theme.control
+                text: row.text
+            }
+            PathIcon {
+                anchors.verticalCenter: parent.verticalCenter
+                visible: row.symbol !== ""
+                symbol: row.symbol
+                size: Theme.iconSmall
+                weight: PathIcon.Regular
+                color: Theme.textSoft
+            }
+        }
+        StyledText {
+            id: explanation
+
+            width: parent.width
+            visible: row.detail !== ""
+            look: Theme.small
+            text: row.detail
+            color: Theme.textSoft
+            wrapMode: Text.Wrap
+        }
+    }
+}

@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// A column that scrolls when it is too high. What gets the focus is scrolled into sight.
+FocusScope {
+    id: pane
+
+    default property alias content: column.data
+    property alias spacing: column.spacing
+    property real sideMargin: 0
+    property real topMargin: 0
+    property real bottomMargin: 0
+
+    readonly property bool isScrolled: view.contentY > 0
+    readonly property Item focusItem: Window.activeFocusItem
+
+    function reveal(item: Item): void {
+        let ancestor = item
+        while (ancestor && ancestor !== column)
+            ancestor = ancestor.parent
+        if (!ancestor)
+            return
+        const top = item.mapToItem(view.contentItem, 0, 0).y - Theme.space12
+        const bottom = top + item.height + 2 * Theme.space12
+        if (top < view.contentY || item.height > view.height)
+            view.contentY = Math.max(0, top)
+        else if (bottom > view.contentY + view.height)
+            view.contentY = Math.min(view.contentHeight, bottom) - view.height
+    }
+
+    implicitHeight: column.implicitHeight + topMargin + bottomMargin
+
+    onFocusItemChanged: reveal(focusItem)
+
+    Flickable {
+        id: view
+
+        anchors.fill: parent
+        contentHeight: pane.implicitHeight
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+
+        Column {
+            id: column
+
+            x: pane.sideMargin
+            y: pane.topMargin
+            width: pane.width - 2 * pane.sideMargin
+        }
+    }
+    ThinScrollBar {
+        flickable: view
+    }
+}

@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// A sheet: a title, a body that scrolls when the window is too low for it, and the two buttons.
+ModalLayer {
+    id: sheet
+
+    default property alias body: pane.content
+    required property string confirmText
+    property bool destructive: false
+    property alias spacing: pane.spacing
+
+    readonly property real fixedHeight: header.height + footer.height
+
+    plateWidth: Theme.newProfileWidth
+    plateHeight: Math.min(height - 2 * Theme.sheetMargin, fixedHeight + pane.implicitHeight)
+
+    Item {
+        id: header
+
+        width: parent.width
+        height: Theme.space20 + heading.height + Theme.space12
+
+        StyledText {
+            id: heading
+
+            x: Theme.sheetMargin
+            y: Theme.space20
+            width: parent.width - 2 * Theme.sheetMargin
+            look: Theme.sheetTitle
+            text: sheet.title
+            elide: Text.ElideRight
+            Accessible.role: Accessible.Heading
+        }
+        Rectangle {
+            anchors.bottom: parent.bottom
+            x: Theme.hairline
+            width: parent.width - 2 * Theme.hairline
+            height: Theme.hairline
+            visible: pane.isScrolled
+            color: Theme.separator
+        }
+    }
+    ScrollPane {
+        id: pane
+
+        anchors.top: header.bottom
+        anchors.bottom: footer.top
+        width: parent.width
+        sideMargin: Theme.sheetMargin
+        bottomMargin: Theme.space20
+        spacing: Theme.space16
+    }
+    Item {
+        id: footer
+
+        anchors.bottom: parent.bottom
+        width: parent.width
+        height: Theme.sheetControlHeight + 2 * Theme.space16 + Theme.hairline
+
+        Rectangle {
+            x: Theme.hairline
+            width: parent.width - 2 * Theme.hairline
+            height: Theme.hairline
+            color: Theme.separator
+        }
+        DialogButtons {
+            anchors.right: parent.right
+            anchors.bottom: parent.bottom
+            anchors.rightMargin: Theme.sheetMargin
+            anchors.bottomMargin: Theme.space16
+            confirmText: sheet.confirmText
+            confirmEnabled: sheet.confirmEnabled
+            destructive: sheet.destructive
+            onConfirmed: sheet.confirm()
+            onCancelled: sheet.cancel()
+        }
+    }
+}

@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// Text in one of the theme's styles; plain, so that a profile's name is never read as markup.
+Text {
+    required property TextStyle look
+
+    font: look.font
+    color: Theme.text
+    lineHeight: look.lineHeight
+    lineHeightMode: Text.FixedHeight
+    verticalAlignment: Text.AlignVCenter
+    textFormat: Text.PlainText
+}

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+/// One way to set text: the face, and the height of a line.
+QtObject {
+    required property string family
+    required property real size
+    required property real line
+    property int weight: Font.Normal
+    property bool italic: false
+    property real tracking: 0
+    property int capitalization: Font.MixedCase
+    property real scale: 1
+
+    readonly property real lineHeight: Math.round(line * scale)
+    readonly property font font: Qt.font({
+        family: family,
+        pixelSize: Math.round(size * scale),
+        weight: weight,
+        italic: italic,
+        letterSpacing: tracking * scale,
+        capitalization: capitalization
+    })
+}

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// Where a view stands in its content, to be dragged. A sibling of the view, at its right edge.
+Item {
+    id: bar
+
+    required property Flickable flickable
+    property real inset: 6
+
+    anchors.top: flickable.top
+    anchors.bottom: flickable.bottom
+    anchors.right: flickable.right
+    width: Theme.scrollBarWidth + 2 * inset
+    visible: flickable.visibleArea.heightRatio < 1
+
+    Accessible.ignored: true
+
+    Rectangle {
+        id: handle
+
+        readonly property real room: bar.height - 2 * bar.inset
+
+        x: bar.inset
+        y: bar.inset + bar.flickable.visibleArea.yPosition * room
+        width: Theme.scrollBarWidth
+        height: Math.max(Theme.space24, bar.flickable.visibleArea.heightRatio * room)
+        radius: width / 2
+        color: Theme.controlBorder
+    }
+    MouseArea {
+        property real start
+        property real startY
+
+        anchors.fill: parent
+        preventStealing: true
+        onPressed: mouse => {
+            start = mouse.y
+            startY = bar.flickable.contentY
+        }
+        onPositionChanged: mouse => {
+            const view = bar.flickable
+            const wanted = startY + (mouse.y - start) / handle.room * view.contentHeight
+            view.contentY = Math.max(0, Math.min(view.contentHeight - view.height, wanted))
+        }
+    }
+}

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// The way from a tile to its profile's settings.
+Pressable {
+    id: gear
+
+    required property bool isOnFocusedTile
+
+    label: help
+    tabStop: false // the settings have a key of their own
+    implicitWidth: Theme.tileGear
+    implicitHeight: Theme.tileGear
+
+    Rectangle {
+        anchors.fill: parent
+        radius: width / 2
+        visible: gear.hovered
+        color: Theme.text
+    }
+    PathIcon {
+        anchors.centerIn: parent
+        symbol: "gearshape"
+        weight: gear.hovered ? PathIcon.Fill : PathIcon.Regular
+        size: Theme.iconControl
+        color: gear.hovered ? Theme.onFill : gear.isOnFocusedTile ? Theme.text : Theme.textFaint
+    }
+}

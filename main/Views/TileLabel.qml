@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// What a profile's tile says. Assistive technology hears it from the tile.
+Item {
+    id: label
+
+    required property string name
+    required property string summary
+    required property string symbol
+    required property string status
+    required property int position
+    required property bool isRunning
+    required property bool wasLaunched
+    required property bool hasOwnAccount
+    required property bool isFocused
+    required property bool isCompact
+
+    Accessible.ignored: true
+
+    ProfileGlyph {
+        x: Theme.space16
+        y: Theme.space16
+        symbol: label.symbol
+        onDark: !label.isFocused
+    }
+    StyledText {
+        anchors { left: parent.left; right: parent.right; margins: Theme.space16 }
+        y: Theme.tileNameTop
+        look: Theme.tileName
+        text: label.name
+        elide: Text.ElideRight
+        Accessible.ignored: true
+    }
+    StyledText {
+        anchors { left: parent.left; right: parent.right; margins: Theme.space16 }
+        y: Theme.tileSummaryTop
+        look: Theme.summary
+        text: label.summary
+        color: Theme.textSoft
+        wrapMode: Text.Wrap
+        maximumLineCount: label.isCompact && label.hasOwnAccount ? 2 : 3
+        elide: Text.ElideRight
+        Accessible.ignored: true
+    }
+    Row {
+        anchors { left: parent.left; bottom: parent.bottom; leftMargin: Theme.space16; bottomMargin: Theme.tileBadgeBottom }
+        spacing: Theme.space4
+        visible: label.hasOwnAccount
+
+        PathIcon {
+            anchors.verticalCenter: parent.verticalCenter
+            symbol: "person.badge.key"
+            weight: PathIcon.Bold
+            size: Theme.iconCaret
+            color: Theme.cool
+        }
+        StyledText {
+            look: Theme.badge
+            text: qsTr("Account Claude separato")
+            color: Theme.cool
+            Accessible.ignored: true
+        }
+    }
+    Row {
+        anchors { left: parent.left; bottom: parent.bottom; margins: Theme.space16 }
+        spacing: Theme.space8
+
+        Rectangle {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: label.isRunning
+            width: Theme.statusDot
+            height: Theme.statusDot
+            radius: Theme.statusDot / 2
+            color: Theme.opened
+        }
+        StyledText {
+            look: Theme.status
+            text: label.status
+            color: label.isRunning ? Theme.opened : label.wasLaunched ? Theme.textSoft : Theme.textFaint
+            Accessible.ignored: true
+        }
+    }
+    StyledText {
+        anchors { right: parent.right; bottom: parent.bottom; margins: Theme.space16 }
+        visible: label.position < 10 // only these have a key
+        look: Theme.digit
+        text: label.position
+        color: Theme.textFaint
+        Accessible.ignored: true
+    }
+}

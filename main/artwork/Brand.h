@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QColor>
+#include <QObject>
+#include <QQmlEngine>
+#include <QString>
+
+namespace selvane {
+
+/// The palette and the typefaces, for drawing in C++ and, through Theme.qml alone, for the windows.
+class Brand : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+
+    Q_PROPERTY(QString name MEMBER name CONSTANT)
+    Q_PROPERTY(QColor bg MEMBER bg CONSTANT)
+    Q_PROPERTY(QColor bg2 MEMBER bg2 CONSTANT)
+    Q_PROPERTY(QColor bg3 MEMBER bg3 CONSTANT)
+    Q_PROPERTY(QColor fg MEMBER fg CONSTANT)
+    Q_PROPERTY(QColor fg2 MEMBER fg2 CONSTANT)
+    Q_PROPERTY(QColor fg3 MEMBER fg3 CONSTANT)
+    Q_PROPERTY(QColor line MEMBER line CONSTANT)
+    Q_PROPERTY(QColor lineStrong MEMBER lineStrong CONSTANT)
+    Q_PROPERTY(QColor accent MEMBER accent CONSTANT)
+    Q_PROPERTY(QColor accent2 MEMBER accent2 CONSTANT)
+    Q_PROPERTY(QColor cool MEMBER cool CONSTANT)
+    Q_PROPERTY(QColor ok MEMBER ok CONSTANT)
+    Q_PROPERTY(QString displayFamily MEMBER displayFamily CONSTANT)
+    Q_PROPERTY(QString serifFamily MEMBER serifFamily CONSTANT)
+    Q_PROPERTY(QString monoFamily MEMBER monoFamily CONSTANT)
+
+public:
+    /// Registers the fonts, so that no text is set before them.
+    explicit Brand(QObject* parent = nullptr);
+
+    /// Makes the font files of the "Fonts" folder known to this process; only the first call does anything.
+    /// A missing folder leaves the system's own faces. Needs a QGuiApplication.
+    static void registerFonts();
+
+    static inline const QString name = QStringLiteral("Selvane");
+
+    // Backgrounds, darkest first, and text, strongest first.
+    static inline const QColor bg{0x0C, 0x12, 0x10};
+    static inline const QColor bg2{0x14, 0x1D, 0x1A};
+    static inline const QColor bg3{0x1F, 0x2B, 0x27};
+    static inline const QColor fg{0xEF, 0xF3, 0xEE};
+    static inline const QColor fg2{0xB8, 0xC4, 0xBD};
+    static inline const QColor fg3{0x8E, 0x9C, 0x94};
+    static inline const QColor line{0x2B, 0x39, 0x34};
+    static inline const QColor lineStrong{0x68, 0x7B, 0x71};
+    static inline const QColor accent{0xF2, 0xB7, 0x5E};
+    static inline const QColor accent2{0xF5, 0x8E, 0x9C};
+    static inline const QColor cool{0x8F, 0xC0, 0xBC};
+    static inline const QColor ok{0x86, 0xD0, 0x8A};
+
+    // As the font files report them. All weights of the display face share the name of one of them.
+    static inline const QString displayFamily = QStringLiteral("Bricolage Grotesque 96pt ExtraBold");
+    static inline const QString serifFamily = QStringLiteral("Instrument Serif"); ///< italic only
+    static inline const QString monoFamily = QStringLiteral("JetBrains Mono");
+};
+
+} // namespace selvane

@@ -1,0 +1,164 @@
+# SPDX-FileCopyrightText: 2026 The Selvane developers
+# SPDX-License-Identifier: MIT
+#
+# The windows and the drawing: a module that the executable loads when it needs them. All of Qt is here.
+
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Qml Quick Concurrent DBus Network)
+
+set(SELVANE_ASSETS ${CMAKE_SOURCE_DIR}/build/assets CACHE PATH "Fonts and icons, as script/assets leaves them")
+set(icon_list ${CMAKE_SOURCE_DIR}/resources/icons.txt)
+if(NOT EXISTS ${SELVANE_ASSETS}/.state)
+  message(FATAL_ERROR "The windows need their fonts and icons: run script/assets first")
+endif()
+
+# ---- Icons: one table of path data, compiled in
+
+set(icon_table ${CMAKE_BINARY_DIR}/generated/artwork/IconTable.h)
+add_custom_command(
+  OUTPUT ${icon_table}
+  COMMAND ${CMAKE_COMMAND} -D LIST=${icon_list} -D ICONS=${SELVANE_ASSETS}/icons -D OUTPUT=${icon_table}
+          -P ${CMAKE_SOURCE_DIR}/cmake/IconTable.cmake
+  DEPENDS ${icon_list} ${SELVANE_ASSETS}/.state ${CMAKE_SOURCE_DIR}/cmake/IconTable.cmake
+  VERBATIM
+)
+
+# ---- Fonts: files beside the module, read when the windows start
+
+set(font_folder ${CMAKE_BINARY_DIR}/Fonts)
+add_custom_command(
+  OUTPUT ${font_folder}/.state
+  COMMAND ${CMAKE_COMMAND} -E copy_directory ${SELVANE_ASSETS}/Fonts ${font_folder}
+  COMMAND ${CMAKE_COMMAND} -E copy ${SELVANE_ASSETS}/.state ${font_folder}/.state
+  DEPENDS ${SELVANE_ASSETS}/.state
+  VERBATIM
+)
+add_custom_target(selvane-fonts DEPENDS ${font_folder}/.state)
+install(DIRECTORY ${SELVANE_ASSETS}/Fonts DESTINATION ${CMAKE_INSTALL_PREFIX}/lib/selvane)
+install(DIRECTORY ${SELVANE_ASSETS}/licences DESTINATION ${CMAKE_INSTALL_DOCDIR})
+
+# ---- The module
+
+add_library(selvane-windows MODULE
+  artwork/Brand.cpp
+  artwork/Brand.h
+  artwork/Icons.cpp
+  artwork/Shapes.cpp
+  artwork/SvgPath.cpp
+  Views/Entry.cpp
+  Views/LauncherApp.cpp
+  Views/SingleInstance.cpp
+  Views/SingleInstance.h
+  Views/SystemBridge.cpp
+  Views/SystemBridge.h
+  ${icon_table}
+)
+target_link_libraries(selvane-windows PRIVATE 
+  selvane-core Qt6::Core Qt6::Gui Qt6::Qml Qt6::Quick Qt6::Concurrent Qt6::DBus Qt6::Network)
+target_include_directories(selvane-windows PRIVATE ${CMAKE_BINARY_DIR}/generated)
+# Registers types by the names of their headers alone.
+target_include_directories(selvane-windows PRIVATE Views artwork)
+set_target_properties(selvane-windows PROPERTIES AUTOMOC ON)
+add_dependencies(selvane-windows selvane-fonts)
+
+set(QT_QML_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/qml)
+set_source_files_properties(Views/Theme.qml PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
+
+set(drawn_types
+  Views/BrandMark.cpp Views/BrandMark.h
+  Views/FocusVisibility.cpp Views/FocusVisibility.h
+  Views/Foliage.cpp Views/Foliage.h
+  Views/Kelvo8Logo.cpp Views/Kelvo8Logo.h
+  Views/LeafShape.cpp Views/LeafShape.h
+  Views/PaintedShape.cpp Views/PaintedShape.h
+  Views/PathIcon.cpp Views/PathIcon.h
+  Views/RoundedFrame.cpp Views/RoundedFrame.h
+)
+# What the views show and do, which needs no view to be tested.
+set(SELVANE_WINDOW_MODELS
+  AppModel.cpp AppModel.h
+  DesktopBridge.h
+  Preferences.h
+  Views/BackupForm.h
+  Views/ChoiceListModel.cpp Views/ChoiceListModel.h
+  Views/ImportForm.cpp Views/ImportForm.h
+  Views/NewProfileForm.cpp Views/NewProfileForm.h
+  Views/PickerModel.cpp Views/PickerModel.h
+  Views/ProfileListModel.cpp Views/ProfileListModel.h
+  Views/SessionImportForm.cpp Views/SessionImportForm.h
+)
+set(views
+  Views/AddProfileTile.qml
+  Views/AlertDialog.qml
+  Views/Badge.qml
+  Views/BrandBackground.qml
+  Views/BrandLockup.qml
+  Views/BusyOverlay.qml
+  Views/Card.qml
+  Views/CheckBoxRow.qml
+  Views/ContextMenu.qml
+  Views/DialogButtons.qml
+  Views/DropDown.qml
+  Views/DropDownMenu.qml
+  Views/EmptySeat.qml
+  Views/Eyebrow.qml
+  Views/FieldInput.qml
+  Views/FocusRing.qml
+  Views/GhostButton.qml
+  Views/HeaderField.qml
+  Views/KeyCap.qml
+  Views/LaunchButton.qml
+  Views/ListWell.qml
+  Views/MenuDivider.qml
+  Views/MenuEntry.qml
+  Views/ModalLayer.qml
+  Views/PickerHint.qml
+  Views/PickerWindow.qml
+  Views/Popover.qml
+  Views/Pressable.qml
+  Views/ProfileGlyph.qml
+  Views/ProfilePicker.qml
+  Views/ProfileTile.qml
+  Views/RadioRow.qml
+  Views/ScrollPane.qml
+  Views/Sheet.qml
+  Views/StyledText.qml
+  Views/SwitchRow.qml
+  Views/SymbolCell.qml
+  Views/SymbolGrid.qml
+  Views/TextInputField.qml
+  Views/TextLink.qml
+  Views/TextStyle.qml
+  Views/Theme.qml
+  Views/ThinScrollBar.qml
+  Views/TileGear.qml
+  Views/TileLabel.qml
+  Views/TileStrip.qml
+  Views/Toast.qml
+  Views/ToggleSwitch.qml
+  Views/ToolTipBubble.qml
+)
+foreach(file IN LISTS views)
+  get_filename_component(alias ${file} NAME)
+  set_source_files_properties(${file} PROPERTIES QT_RESOURCE_ALIAS ${alias})
+endforeach()
+
+qt_add_qml_module(selvane-windows
+  URI Selvane
+  VERSION 1.0
+  NO_PLUGIN
+  DEPENDENCIES QtQuick
+  # Where the engine of Qt 6.4 looks without being told.
+  RESOURCE_PREFIX /qt-project.org/imports
+  SOURCES ${drawn_types} ${SELVANE_WINDOW_MODELS}
+  QML_FILES ${views}
+)
+
+# What Qt generates isn't held to this project's warnings.
+get_target_property(sources selvane-windows SOURCES)
+list(FILTER sources INCLUDE REGEX "/\\.rcc/|_qmltyperegistrations\\.cpp$")
+set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS -w)
+
+# The same once more for the tests, because nothing can link to a module.
+add_library(selvane-window-models STATIC EXCLUDE_FROM_ALL ${SELVANE_WINDOW_MODELS})
+target_link_libraries(selvane-window-models PUBLIC selvane-core Qt6::Core Qt6::Qml Qt6::Concurrent)
+set_target_properties(selvane-window-models PROPERTIES AUTOMOC ON)
