@@ -52,8 +52,10 @@ TEST(CommandUnprivileged, WhatCannotBeReadIsLeftOutOrNamed) {
     };
     const auto before = treeOf(home.path());
     for (const auto& [path, arguments, outcome] : cases) {
-        const Closed closed(path, fs::perms::none);
-        EXPECT_EQ(home.runUnprivileged(arguments), outcome) << path;
+        {
+            const Closed closed(path, fs::perms::none);
+            EXPECT_EQ(home.runUnprivileged(arguments), outcome) << path;
+        }
         EXPECT_EQ(treeOf(home.path()), before);
     }
     // zip itself passes over a folder in silence.
