@@ -27,7 +27,7 @@ Rectangle {
         }
     }
 
-    implicitWidth: caption.implicitWidth + 2 * Theme.space8
+    implicitWidth: Math.ceil(caption.implicitWidth) + 2 * Theme.space8
     implicitHeight: Theme.badgeHeight
     radius: height / 2
     color: {

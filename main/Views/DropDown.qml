@@ -60,7 +60,7 @@ Pressable {
         anchors.verticalCenter: parent.verticalCenter
         anchors.left: parent.left
         anchors.right: caret.left
-        anchors.leftMargin: dropDown.size === DropDown.Small ? 10 : Theme.space12
+        anchors.leftMargin: (dropDown.size === DropDown.Small ? 10 : Theme.space12) + Theme.hairline
         anchors.rightMargin: Theme.space8
         look: dropDown.size === DropDown.Large ? Theme.field : dropDown.size === DropDown.Small ? Theme.smallControl
                                                                                                : Theme.control

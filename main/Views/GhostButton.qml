@@ -25,7 +25,7 @@ Pressable {
     label: text
     implicitHeight: small ? Theme.smallHeight : size === GhostButton.Large ? Theme.sheetControlHeight
                                                                            : Theme.controlHeight
-    implicitWidth: iconOnly ? implicitHeight : content.implicitWidth + 2 * padding
+    implicitWidth: iconOnly ? implicitHeight : Math.ceil(content.implicitWidth) + 2 * (padding + Theme.hairline)
     opacity: enabled ? 1 : Theme.disabledOpacity
 
     Rectangle {

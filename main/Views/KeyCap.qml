@@ -21,7 +21,7 @@ Rectangle {
     /// Runs of text, and each drawn key by itself.
     readonly property list<string> parts: keys.match(/[←→⌘↩]|[^←→⌘↩]+/g) ?? []
 
-    implicitWidth: Math.max(content.implicitWidth + 2 * 6, Theme.scaled(24))
+    implicitWidth: Math.max(Math.ceil(content.implicitWidth) + 2 * 6, Theme.scaled(24))
     implicitHeight: Theme.keyCapHeight
     radius: Theme.radiusKeyCap
     color: Theme.surface

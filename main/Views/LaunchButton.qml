@@ -30,7 +30,7 @@ Pressable {
     }
 
     label: text
-    implicitWidth: content.implicitWidth + 2 * (large ? 20 : 18)
+    implicitWidth: Math.ceil(content.implicitWidth) + 2 * (large ? 20 : 18)
     implicitHeight: large ? Theme.launchHeight : Theme.sheetControlHeight
     scale: pressed ? Theme.pressedScale : 1
 

@@ -43,8 +43,10 @@ FocusScope {
             layer.previousFocus.forceActiveFocus(Qt.OtherFocusReason)
     }
     function takeFocus(): void {
-        const first = layer.firstFocus ?? start.nextItemInFocusChain(true)
-        first.forceActiveFocus(Qt.OtherFocusReason)
+        if (layer.firstFocus)
+            layer.firstFocus.forceActiveFocus(Qt.OtherFocusReason)
+        else
+            start.nextItemInFocusChain(true).forceActiveFocus(Qt.OtherFocusReason)
     }
 
     anchors.fill: parent

@@ -54,7 +54,7 @@ QImage PaintedShape::image() const {
     image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(pixels.width() / width(), pixels.height() / height());
+    painter.scale(ratio, ratio);
     paint(painter);
     return image;
 }
@@ -74,7 +74,8 @@ QSGNode* PaintedShape::updatePaintNode(QSGNode* node, UpdatePaintNodeData* /*dat
         shown->setFiltering(QSGTexture::Linear);
     }
     shown->setTexture(window()->createTextureFromImage(painted, QQuickWindow::TextureCanUseAtlas));
-    shown->setRect(boundingRect());
+    // Whole pixels, so that the edge of an item of another size isn't blurred.
+    shown->setRect({{}, QSizeF(painted.size()) / window()->effectiveDevicePixelRatio()});
     m_isStale = false;
     return shown;
 }

@@ -6,13 +6,13 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A profile's symbol on its leaf: unlit on a dark tile, else lit. Decoration beside the profile's name.
+/// A profile's symbol on its leaf, lit or not. Decoration beside the profile's name.
 Item {
     id: glyph
 
     required property string symbol
     property real size: 80
-    property bool onDark: true
+    property bool isLit: false
 
     readonly property real iconSize: size >= 40 ? size / 2 : Math.round(size * 0.5625)
 
@@ -22,7 +22,7 @@ Item {
     LeafShape {
         anchors.fill: parent
         tip: Theme.glyphTip * glyph.size
-        color: glyph.onDark ? Theme.raised : Theme.lit
+        color: glyph.isLit ? Theme.lit : Theme.raised
 
         Behavior on color {
             ColorAnimation { duration: Theme.tileFocus; easing.type: Easing.OutCubic }
@@ -32,7 +32,7 @@ Item {
         anchors.centerIn: parent
         symbol: glyph.symbol
         size: glyph.iconSize
-        weight: glyph.onDark ? PathIcon.Automatic : PathIcon.Regular
-        color: glyph.onDark ? Theme.cool : Theme.onFill
+        weight: glyph.isLit ? PathIcon.Regular : PathIcon.Automatic
+        color: glyph.isLit ? Theme.onFill : Theme.cool
     }
 }

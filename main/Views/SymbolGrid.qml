@@ -39,8 +39,8 @@ ListWell {
         const cell = cells.itemAt(index)
         if (!cell)
             return
-        grid.current = index
         cell.forceActiveFocus(Qt.TabFocusReason)
+        grid.current = index
     }
 
     onSelectionChanged: current = Math.max(0, symbols.indexOf(selection))

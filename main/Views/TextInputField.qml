@@ -57,8 +57,8 @@ FocusScope {
             id: input
 
             anchors.fill: parent
-            anchors.leftMargin: drawn.visible ? drawn.x + drawn.width + Theme.space8 : Theme.space12
-            anchors.rightMargin: Theme.space12
+            anchors.leftMargin: drawn.visible ? drawn.x + drawn.width + Theme.space8 : Theme.space12 + Theme.hairline
+            anchors.rightMargin: Theme.space12 + Theme.hairline
             focus: true
             label: field.label
             onTextEdited: field.edited(text)

@@ -13,7 +13,7 @@ Pressable {
     required property string text
 
     label: text
-    implicitWidth: caption.implicitWidth
+    implicitWidth: Math.ceil(caption.implicitWidth)
     implicitHeight: Theme.rowTarget
     opacity: enabled ? 1 : Theme.disabledOpacity
 

@@ -27,7 +27,7 @@ Item {
         x: Theme.space16
         y: Theme.space16
         symbol: label.symbol
-        onDark: !label.isFocused
+        isLit: label.isFocused
     }
     StyledText {
         anchors { left: parent.left; right: parent.right; margins: Theme.space16 }

@@ -31,7 +31,7 @@ Item {
 
         anchors.horizontalCenter: parent.horizontalCenter
         y: toast.height - height - Theme.toastMargin + slide
-        width: Math.min(Theme.space16 + sign.width + 10 + caption.implicitWidth + Theme.space20,
+        width: Math.min(Theme.space16 + sign.width + 10 + Math.ceil(caption.implicitWidth) + Theme.space20,
                         toast.width - 2 * Theme.toastMargin)
         height: Theme.toastHeight
         tip: Theme.buttonTip

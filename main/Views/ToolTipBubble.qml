@@ -27,7 +27,7 @@ Rectangle {
     parent: target.Window.contentItem
     z: Theme.toolTipLayer
     visible: false
-    width: content.implicitWidth + 2 * 10
+    width: Math.ceil(content.implicitWidth) + 2 * 10
     height: content.implicitHeight + 2 * 6
     radius: Theme.radiusControl
     color: Theme.raised

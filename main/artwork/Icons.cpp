@@ -91,6 +91,11 @@ constexpr SymbolEntry kSymbols[] = {
     {"ellipsis.circle", "dots-three-circle"},
 };
 
+constexpr bool hasIcon(const SymbolEntry& entry) {
+    return std::ranges::binary_search(kIconTable, entry.icon, {}, &IconEntry::name);
+}
+static_assert(std::ranges::all_of(kSymbols, hasIcon), "resources/icons.txt lacks the icon of a symbol");
+
 } // namespace
 
 std::string_view iconForSymbol(std::string_view symbol) {

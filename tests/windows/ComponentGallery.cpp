@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+//
+// component-gallery FOLDER: draws the shared components in all their states, one PNG a page, to be looked at
+// beside the drawings of the design.
+
+#include <QDir>
+#include <QEventLoop>
+#include <QGuiApplication>
+#include <QImage>
+#include <QLibrary>
+#include <QQmlApplicationEngine>
+#include <QQuickWindow>
+#include <QTextStream>
+#include <QTimer>
+
+namespace {
+
+/// Lets loading, layout and the animations of the page come to their end.
+void settle() {
+    QEventLoop loop;
+    QTimer::singleShot(700, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+int fail(const QString& reason) {
+    QTextStream(stderr) << "component-gallery: " << reason << '\n';
+    return 1;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    // The same picture everywhere: no display, no graphics card.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QUICK_BACKEND", "software");
+    const QGuiApplication application(argc, argv);
+    if (argc != 2)
+        return fail(QStringLiteral("name the folder for the pictures"));
+    QLibrary module(QStringLiteral(SELVANE_WINDOWS_MODULE));
+    if (!module.load())
+        return fail(module.errorString());
+
+    QQmlApplicationEngine engine;
+    engine.load(QStringLiteral(SELVANE_GALLERY));
+    auto* const window = engine.rootObjects().isEmpty()
+                             ? nullptr
+                             : qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst());
+    if (window == nullptr)
+        return fail(QStringLiteral("the gallery has no window"));
+
+    const QDir folder(QString::fromLocal8Bit(argv[1]));
+    folder.mkpath(QStringLiteral("."));
+    for (const QString& page : window->property("pages").toStringList()) {
+        window->setProperty("page", page);
+        settle();
+        const QString file = folder.filePath(page + QStringLiteral(".png"));
+        if (!window->grabWindow().save(file))
+            return fail(file);
+    }
+    return 0;
+}
