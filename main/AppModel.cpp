@@ -214,7 +214,12 @@ void AppModel::runLaunch(LaunchPlan plan, LaunchStep step) {
             if (!result.hasQuit)
                 return;
             QMetaObject::invokeMethod(
-                this, [this, launching] { setText(m_busyMessage, launching, &AppModel::busyMessageChanged); },
+                this,
+                [this, launching] {
+                    // The work can have ended before this arrives; then nothing is busy any more.
+                    if (!m_busyMessage.isEmpty())
+                        setText(m_busyMessage, launching, &AppModel::busyMessageChanged);
+                },
                 Qt::QueuedConnection);
             m_claude.launch(plan.profile, m_store);
         });
