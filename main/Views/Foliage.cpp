@@ -15,9 +15,9 @@ enum class Tip { up, down };
 
 struct Leaf {
     int row;
+    Tip tip;
     qreal offset; ///< of its left end from the right edge; leaves may reach beyond that
     qreal width;
-    Tip tip;
     const QColor& color;
 };
 
@@ -25,10 +25,10 @@ constexpr qreal kLeafHeight = 40;
 constexpr qreal kRowStep = kLeafHeight + 8;
 
 const Leaf kLeaves[] = {
-    {0, 320, 176, Tip::up, Brand::bg2},   {0, 152, 192, Tip::down, Brand::bg3},
-    {1, 248, 112, Tip::down, Brand::bg3}, {1, 128, 72, Tip::up, Brand::line},
-    {1, 48, 104, Tip::down, Brand::bg2},  {2, 392, 144, Tip::down, Brand::bg2},
-    {2, 240, 128, Tip::up, Brand::bg3},   {2, 104, 160, Tip::down, Brand::bg2},
+    {0, Tip::up, 320, 176, Brand::bg2},   {0, Tip::down, 152, 192, Brand::bg3},
+    {1, Tip::down, 248, 112, Brand::bg3}, {1, Tip::up, 128, 72, Brand::line},
+    {1, Tip::down, 48, 104, Brand::bg2},  {2, Tip::down, 392, 144, Brand::bg2},
+    {2, Tip::up, 240, 128, Brand::bg3},   {2, Tip::down, 104, 160, Brand::bg2},
 };
 
 } // namespace

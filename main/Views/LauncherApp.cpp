@@ -14,6 +14,7 @@
 
 #include "AppModel.h"
 #include "Preferences.h"
+#include "Views/QmlModule.h"
 #include "Views/SingleInstance.h"
 #include "Views/SystemBridge.h"
 #include "artwork/Brand.h"
@@ -74,6 +75,7 @@ int runLauncherApp(int argc, char** argv) {
     SystemBridge bridge(claude);
     AppModel model(store, claude, bridge, preferences);
 
+    qml_register_types_Selvane();
     QQmlEngine engine;
     const auto picker = makeWindow(engine, "PickerWindow", model);
     QObject::connect(&instance, &SingleInstance::startedAgain, picker.get(), [&] { bringToFront(*picker); });

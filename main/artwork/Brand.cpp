@@ -17,7 +17,8 @@ Brand::Brand(QObject* parent) : QObject(parent) {
 void Brand::registerFonts() {
     static const bool registered = [] {
         const QDir folder(QString::fromStdString(modulePath("Fonts").string()));
-        for (const QString& file : folder.entryList({QStringLiteral("*.woff2")}, QDir::Files, QDir::Name))
+        const QStringList kinds = {QStringLiteral("*.ttf"), QStringLiteral("*.woff2")};
+        for (const QString& file : folder.entryList(kinds, QDir::Files, QDir::Name))
             QFontDatabase::addApplicationFont(folder.filePath(file));
         return true;
     }();

@@ -8,11 +8,12 @@
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QImage>
-#include <QLibrary>
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
 #include <QTextStream>
 #include <QTimer>
+
+#include "Views/QmlModule.h"
 
 namespace {
 
@@ -37,9 +38,7 @@ int main(int argc, char** argv) {
     const QGuiApplication application(argc, argv);
     if (argc != 2)
         return fail(QStringLiteral("name the folder for the pictures"));
-    QLibrary module(QStringLiteral(SELVANE_WINDOWS_MODULE));
-    if (!module.load())
-        return fail(module.errorString());
+    qml_register_types_Selvane();
 
     QQmlApplicationEngine engine;
     engine.load(QStringLiteral(SELVANE_GALLERY));
