@@ -4,22 +4,48 @@
 #include "artwork/Brand.h"
 
 #include <QDir>
+#include <QFont>
 #include <QFontDatabase>
+#include <QGuiApplication>
+
+#include <fontconfig/fontconfig.h>
+
+#include <future>
 
 #include "platform/ModuleFolder.h"
 
 namespace selvane {
+namespace {
+
+constexpr int kBodySize = 13;
+
+/// What the system's fonts are and how they are set, which Qt would read as soon as it meets a font.
+std::future<void>& fontConfiguration() {
+    static std::future<void> reading = std::async(std::launch::async, [] { FcInit(); });
+    return reading;
+}
+
+} // namespace
 
 Brand::Brand(QObject* parent) : QObject(parent) {
     registerFonts();
 }
 
+void Brand::prepareFonts() {
+    fontConfiguration();
+}
+
 void Brand::registerFonts() {
     static const bool registered = [] {
+        fontConfiguration().wait();
         const QDir folder(QString::fromStdString(modulePath("Fonts").string()));
         const QStringList kinds = {QStringLiteral("*.ttf"), QStringLiteral("*.woff2")};
         for (const QString& file : folder.entryList(kinds, QDir::Files, QDir::Name))
             QFontDatabase::addApplicationFont(folder.filePath(file));
+        // Qt Quick holds every text against the application's font. That of the body text is loaded anyway.
+        QFont body(displayFamily);
+        body.setPixelSize(kBodySize);
+        QGuiApplication::setFont(body);
         return true;
     }();
     Q_UNUSED(registered)

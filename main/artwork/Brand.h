@@ -36,6 +36,8 @@ public:
     /// Registers the fonts, so that no text is set before them.
     explicit Brand(QObject* parent = nullptr);
 
+    /// Begins with what takes longest about fonts, on another thread. Never needed.
+    static void prepareFonts();
     /// Makes the font files of the "Fonts" folder known to this process; only the first call does anything.
     /// A missing folder leaves the system's own faces. Needs a QGuiApplication.
     static void registerFonts();

@@ -1,0 +1,162 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "artwork/AppIcon.h"
+
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPainterPath>
+#include <QRadialGradient>
+
+#include <cmath>
+#include <vector>
+
+#include "artwork/Brand.h"
+#include "artwork/Shapes.h"
+#include "artwork/SvgPath.h"
+
+namespace selvane {
+namespace {
+
+constexpr qreal kCanvas = 1024;
+constexpr int kSmallestWithDepth = 64;
+
+/// Of the sizes below that: a grid on whose lines all edges lie.
+struct FlatDesign {
+    int smallest;
+    qreal grid;
+    QRectF body;
+    qreal radius;
+    const char* upper;
+    const char* lower;
+};
+
+const FlatDesign kFlatDesigns[] = {
+    {32,
+     32,
+     {3, 3, 26, 26},
+     6,
+     "M25,8H13A3.5,3.5 0 0 0 13,15H18A7,7 0 0 0 25,8Z",
+     "M7,24H19A3.5,3.5 0 0 0 19,17H14A7,7 0 0 0 7,24Z"},
+    {0,
+     16,
+     {1, 1, 14, 14},
+     3.5,
+     "M13,3H6A2,2 0 0 0 6,7H9A4,4 0 0 0 13,3Z",
+     "M3,13H10A2,2 0 0 0 10,9H7A4,4 0 0 0 3,13Z"},
+};
+
+QPainterPath roundedRect(const QRectF& box, qreal radius) {
+    QPainterPath path;
+    path.addRoundedRect(box, radius, radius);
+    return path;
+}
+
+QColor withAlpha(QColor color, qreal alpha) {
+    color.setAlphaF(static_cast<float>(alpha));
+    return color;
+}
+
+QLinearGradient vertical(const QRectF& box, const QGradientStops& stops) {
+    QLinearGradient gradient(box.topLeft(), box.bottomLeft());
+    gradient.setStops(stops);
+    return gradient;
+}
+
+std::vector<qreal> gaussian(qreal deviation) {
+    const int reach = static_cast<int>(std::ceil(3 * deviation));
+    std::vector<qreal> weights;
+    qreal sum = 0;
+    for (int i = -reach; i <= reach; ++i) {
+        weights.push_back(std::exp(-i * i / (2 * deviation * deviation)));
+        sum += weights.back();
+    }
+    for (qreal& weight : weights)
+        weight /= sum;
+    return weights;
+}
+
+/// One direction of the blur; the result is turned by 90 degrees, so that two make a whole one.
+QImage blurredAndTurned(const QImage& mask, const std::vector<qreal>& weights) {
+    QImage result(mask.height(), mask.width(), QImage::Format_Alpha8);
+    const int reach = static_cast<int>(weights.size() / 2);
+    for (int y = 0; y < mask.height(); ++y) {
+        const uchar* line = mask.constScanLine(y);
+        for (int x = 0; x < mask.width(); ++x) {
+            qreal sum = 0;
+            for (int i = std::max(-reach, -x); i <= std::min(reach, mask.width() - 1 - x); ++i)
+                sum += weights[static_cast<std::size_t>(i + reach)] * line[x + i];
+            result.scanLine(x)[y] = static_cast<uchar>(std::lround(sum));
+        }
+    }
+    return result;
+}
+
+/// What `path` casts on what lies behind it, in the coordinates of the canvas.
+void paintShadow(QPainter& painter, int pixels, const QPainterPath& path) {
+    const qreal scale = pixels / kCanvas;
+    QImage mask(pixels, pixels, QImage::Format_Alpha8);
+    mask.fill(0);
+    {
+        QPainter drawing(&mask);
+        drawing.setRenderHint(QPainter::Antialiasing);
+        drawing.scale(scale, scale);
+        drawing.fillPath(path.translated(0, 12), withAlpha(Qt::black, 0.35));
+    }
+    const auto weights = gaussian(14 * scale);
+    painter.save();
+    painter.resetTransform();
+    painter.drawImage(0, 0, blurredAndTurned(blurredAndTurned(mask, weights), weights));
+    painter.restore();
+}
+
+void paintWithDepth(QPainter& painter, int pixels) {
+    painter.scale(pixels / kCanvas, pixels / kCanvas);
+    const QRectF box(100, 100, 824, 824);
+    const QPainterPath body = roundedRect(box, 185);
+    paintShadow(painter, pixels, body);
+    painter.fillPath(body, vertical(box, {{0, "#2a3b34"}, {1, "#0f1714"}}));
+
+    QRadialGradient glow(480, 652, 420);
+    glow.setStops({{0, withAlpha(Brand::accent, 0.30)},
+                   {0.55, withAlpha(Brand::accent, 0.08)},
+                   {1, withAlpha(Brand::accent, 0)}});
+    painter.fillPath(body, glow);
+
+    const QPainterPath inside = roundedRect(box.adjusted(4, 4, -4, -4), 181);
+    painter.fillPath(body - inside, vertical(box, {{0, withAlpha(Qt::white, 0.22)},
+                                                   {0.5, withAlpha(Qt::white, 0.04)},
+                                                   {1, withAlpha(Qt::white, 0.02)}}));
+
+    painter.translate(212, 212);
+    painter.scale(600, 600);
+    const QPainterPath upper = markUpperLeaf(), lower = markLowerLeaf();
+    painter.fillPath(upper, vertical(upper.boundingRect(), {{0, "#a9d2cd"}, {1, "#78aaa5"}}));
+    painter.fillPath(lower, vertical(lower.boundingRect(), {{0, "#fad08c"}, {1, "#eba947"}}));
+}
+
+void paintFlat(QPainter& painter, int pixels) {
+    const FlatDesign& design = pixels >= kFlatDesigns[0].smallest ? kFlatDesigns[0] : kFlatDesigns[1];
+    painter.scale(pixels / design.grid, pixels / design.grid);
+    painter.fillPath(roundedRect(design.body, design.radius), QColor("#1d2a25"));
+    painter.fillPath(svgPath(design.upper), Brand::cool);
+    painter.fillPath(svgPath(design.lower), Brand::accent);
+}
+
+} // namespace
+
+QImage appIcon(int pixels) {
+    QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
+    if (image.isNull())
+        return image;
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (pixels >= kSmallestWithDepth)
+        paintWithDepth(painter, pixels);
+    else
+        paintFlat(painter, pixels);
+    return image;
+}
+
+} // namespace selvane
