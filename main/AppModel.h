@@ -62,6 +62,9 @@ public:
     std::optional<std::string> activeID() const { return m_store.activeID(); }
     const Profile* profile(const QString& id) const; ///< null when no loaded profile has that id
     const Profile* selected() const { return profile(m_selection); }
+    /// Id of the first profile but this one: what another profile's things are first taken from. Empty when
+    /// there is no other.
+    QString firstOther(const QString& id) const;
 
     QString selection() const { return m_selection; }
     QString errorMessage() const { return m_errorMessage; }
@@ -112,6 +115,7 @@ signals:
     void noticeShown(); ///< also when the same text is shown again
     void reloaded();
     void runningChanged();
+    void claudeCopiesChanged(); ///< also when the copy runs no profile that is known
     void pendingLaunchChanged();
     void offerForceQuitChanged();
     void closeAfterLaunchChanged();
@@ -130,6 +134,7 @@ private:
     void runBackup(BackupScope scope, const std::filesystem::path& archive);
     void report(const std::exception& error);
     void setText(QString& member, const QString& value, void (AppModel::*changed)());
+    const Profile* openProfile(const Profile& sameAccount) const;
     QString pendingCloseMessage() const;
 
     ProfileStore& m_store;

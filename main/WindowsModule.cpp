@@ -24,7 +24,7 @@ void* WindowsModule::function(const char* name) {
     if (!std::filesystem::exists(file))
         throw LauncherError("Il modulo delle finestre non è installato: " + file.string());
     if (m_module == nullptr)
-        m_module = dlopen(file.c_str(), RTLD_NOW);
+        m_module = dlopen(file.c_str(), RTLD_LAZY);
     void* found = m_module == nullptr ? nullptr : dlsym(m_module, name);
     if (found == nullptr)
         throw LauncherError("Il modulo delle finestre non è utilizzabile: " + std::string(dlerror()));

@@ -4,6 +4,7 @@
 # The windows and the drawing: a module that the executable loads when it needs them. All of Qt is here.
 
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Qml Quick Concurrent DBus Network)
+pkg_check_modules(FONTCONFIG REQUIRED IMPORTED_TARGET fontconfig)
 
 set(SELVANE_ASSETS ${CMAKE_SOURCE_DIR}/build/assets CACHE PATH "Fonts and icons, as script/assets leaves them")
 set(icon_list ${CMAKE_SOURCE_DIR}/resources/icons.txt)
@@ -39,12 +40,19 @@ install(DIRECTORY ${SELVANE_ASSETS}/licences DESTINATION ${CMAKE_INSTALL_DOCDIR}
 # ---- Everything that is seen, and what it shows: to be linked by the module and by its tests
 
 add_library(selvane-views STATIC
+  artwork/AppIcon.cpp
   artwork/Brand.cpp
   artwork/Brand.h
+  artwork/DMGBackground.cpp
+  artwork/IconRenderer.cpp
   artwork/Icons.cpp
+  artwork/PngFile.cpp
   artwork/Shapes.cpp
   artwork/SvgPath.cpp
   Views/LauncherApp.cpp
+  Views/LauncherApp.h
+  Views/PortalSaveDialog.cpp
+  Views/PortalSaveDialog.h
   Views/SingleInstance.cpp
   Views/SingleInstance.h
   Views/SystemBridge.cpp
@@ -52,10 +60,12 @@ add_library(selvane-views STATIC
   ${icon_table}
 )
 target_link_libraries(selvane-views PUBLIC
-  selvane-core Qt6::Core Qt6::Gui Qt6::Qml Qt6::Quick Qt6::Concurrent Qt6::DBus Qt6::Network)
+  selvane-core Qt6::Core Qt6::Gui Qt6::Qml Qt6::Quick Qt6::Concurrent Qt6::DBus Qt6::Network
+  PkgConfig::FONTCONFIG)
 target_include_directories(selvane-views PRIVATE ${CMAKE_BINARY_DIR}/generated)
 # Registers types by the names of their headers alone.
 target_include_directories(selvane-views PRIVATE Views artwork)
+target_compile_definitions(selvane-views PRIVATE SELVANE_VERSION="${PROJECT_VERSION}")
 set_target_properties(selvane-views PROPERTIES AUTOMOC ON POSITION_INDEPENDENT_CODE ON)
 add_dependencies(selvane-views selvane-fonts)
 
@@ -71,59 +81,112 @@ set(drawn_types
   Views/PaintedShape.cpp Views/PaintedShape.h
   Views/PathIcon.cpp Views/PathIcon.h
   Views/RoundedFrame.cpp Views/RoundedFrame.h
+  Views/SystemAppearance.cpp Views/SystemAppearance.h
 )
 # What the views show and do, which needs no view to be tested.
 set(models
-  AppModel.cpp AppModel.h
+  AppModel.cpp AppModel.h AppModelFlows.cpp
   DesktopBridge.h
   Preferences.h
-  Views/BackupForm.h
+  Views/BackupForm.cpp Views/BackupForm.h
   Views/ChoiceListModel.cpp Views/ChoiceListModel.h
+  Views/ComponentModel.cpp Views/ComponentModel.h
   Views/ImportForm.cpp Views/ImportForm.h
+  Views/ItemListModel.cpp Views/ItemListModel.h
   Views/NewProfileForm.cpp Views/NewProfileForm.h
   Views/PickerModel.cpp Views/PickerModel.h
+  Views/ProfileChoices.cpp Views/ProfileChoices.h
+  Views/ProfileDetailModel.cpp Views/ProfileDetailModel.h
   Views/ProfileListModel.cpp Views/ProfileListModel.h
   Views/SessionImportForm.cpp Views/SessionImportForm.h
+  Views/Updates.cpp Views/Updates.h
 )
 set(views
+  Views/AccountChoice.qml
+  Views/AccountSection.qml
   Views/AddProfileTile.qml
   Views/AlertDialog.qml
+  Views/ArchiveSheet.qml
+  Views/BackupSheet.qml
   Views/Badge.qml
   Views/BrandBackground.qml
   Views/BrandLockup.qml
   Views/BusyOverlay.qml
   Views/Card.qml
   Views/CheckBoxRow.qml
+  Views/Checklist.qml
+  Views/ChecklistWell.qml
+  Views/ChoiceLinks.qml
+  Views/CollectionSection.qml
+  Views/ComponentChoiceRow.qml
+  Views/ComponentChoices.qml
   Views/ContextMenu.qml
+  Views/DetailToolBar.qml
+  Views/DetailToolButton.qml
   Views/DialogButtons.qml
+  Views/Disclosure.qml
   Views/DropDown.qml
   Views/DropDownMenu.qml
+  Views/EmptyDetail.qml
   Views/EmptySeat.qml
   Views/Eyebrow.qml
+  Views/FieldGroup.qml
   Views/FieldInput.qml
+  Views/FileSection.qml
   Views/FocusRing.qml
+  Views/FolderPath.qml
   Views/GhostButton.qml
+  Views/GlyphButton.qml
   Views/HeaderField.qml
+  Views/IconNote.qml
+  Views/ImportSheet.qml
+  Views/ItemList.qml
+  Views/ItemMenu.qml
+  Views/ItemRow.qml
   Views/KeyCap.qml
   Views/LaunchButton.qml
+  Views/LauncherFeedback.qml
   Views/ListWell.qml
+  Views/ManageMeasures.qml
+  Views/ManageSheets.qml
+  Views/ManageView.qml
+  Views/ManageWindow.qml
+  Views/MenuCommands.qml
   Views/MenuDivider.qml
   Views/MenuEntry.qml
   Views/ModalLayer.qml
+  Views/NewProfileSheet.qml
   Views/PickerHint.qml
+  Views/PickerMeasures.qml
+  Views/PickerOverlays.qml
   Views/PickerWindow.qml
   Views/Popover.qml
   Views/Pressable.qml
+  Views/ProfileDetail.qml
+  Views/ProfileDropDown.qml
   Views/ProfileGlyph.qml
+  Views/ProfileHeader.qml
+  Views/ProfileList.qml
+  Views/ProfileMarks.qml
+  Views/ProfileMenu.qml
   Views/ProfilePicker.qml
+  Views/ProfileRow.qml
   Views/ProfileTile.qml
   Views/RadioRow.qml
+  Views/RowMark.qml
   Views/ScrollPane.qml
+  Views/SectionHeader.qml
+  Views/SectionTitle.qml
+  Views/SessionImportSheet.qml
+  Views/SessionsSection.qml
   Views/Sheet.qml
+  Views/SidebarFooter.qml
+  Views/StripFade.qml
   Views/StyledText.qml
   Views/SwitchRow.qml
   Views/SymbolCell.qml
   Views/SymbolGrid.qml
+  Views/SymbolPopover.qml
   Views/TextInputField.qml
   Views/TextLink.qml
   Views/TextStyle.qml
@@ -131,6 +194,7 @@ set(views
   Views/ThinScrollBar.qml
   Views/TileGear.qml
   Views/TileLabel.qml
+  Views/TileMenu.qml
   Views/TileStrip.qml
   Views/Toast.qml
   Views/ToggleSwitch.qml
@@ -167,3 +231,5 @@ set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS -w)
 
 add_library(selvane-windows MODULE Views/Entry.cpp)
 target_link_libraries(selvane-windows PRIVATE selvane-views)
+# Whatever else the module would offer to others makes it slower to load.
+target_link_options(selvane-windows PRIVATE -Wl,--exclude-libs,ALL)

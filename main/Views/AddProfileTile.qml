@@ -14,8 +14,8 @@ Pressable {
     readonly property bool isLit: hovered || ringed
 
     label: qsTr("Nuovo profilo")
-    width: Theme.addTileWidth
-    height: isCompact ? Theme.tileHeightCompact : Theme.tileHeight
+    width: Theme.picker.addTileWidth
+    height: isCompact ? Theme.picker.tileHeightCompact : Theme.picker.tileHeight
 
     Rectangle {
         anchors.fill: parent
@@ -34,18 +34,18 @@ Pressable {
 
         LeafShape {
             anchors.horizontalCenter: parent.horizontalCenter
-            width: Theme.addLeaf
-            height: Theme.addLeaf
-            tip: Theme.glyphTip * Theme.addLeaf
+            width: Theme.picker.addLeaf
+            height: Theme.picker.addLeaf
+            tip: Theme.glyphTip * Theme.picker.addLeaf
             color: tile.isLit ? Theme.raised : Theme.transparent
-            borderWidth: Theme.leafOutline
+            borderWidth: Theme.picker.leafOutline
             borderColor: tile.isLit ? Theme.lit : Theme.controlBorder
 
             PathIcon {
                 anchors.centerIn: parent
                 symbol: "plus"
                 weight: PathIcon.Light
-                size: Theme.addIcon
+                size: Theme.picker.addIcon
                 color: tile.isLit ? Theme.lit : Theme.textSoft
             }
         }

@@ -15,27 +15,26 @@ class BackupForm : public QObject {
     Q_OBJECT
     QML_ELEMENT
 
-    Q_PROPERTY(selvane::AppModel* app MEMBER m_app NOTIFY appChanged REQUIRED)
+    Q_PROPERTY(selvane::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
     Q_PROPERTY(bool savesPrincipal MEMBER m_savesPrincipal NOTIFY scopeChanged)
     Q_PROPERTY(bool savesProfiles MEMBER m_savesProfiles NOTIFY scopeChanged)
     Q_PROPERTY(bool canSave READ canSave NOTIFY scopeChanged)
+    Q_PROPERTY(bool claudeRuns READ claudeRuns NOTIFY claudeRunsChanged)
 
 public:
     using QObject::QObject;
 
+    AppModel* app() const { return m_app; }
+    void setApp(AppModel* app);
     bool canSave() const { return m_savesPrincipal || m_savesProfiles; }
+    bool claudeRuns() const;
     /// Does nothing while nothing is chosen.
-    Q_INVOKABLE void submit() {
-        if (!canSave())
-            return;
-        m_app->exportBackup(m_savesPrincipal && m_savesProfiles ? BackupScope::all()
-                            : m_savesPrincipal                  ? BackupScope::principal()
-                                                                : BackupScope::profiles());
-    }
+    Q_INVOKABLE void submit();
 
 signals:
     void appChanged();
     void scopeChanged();
+    void claudeRunsChanged();
 
 private:
     AppModel* m_app = nullptr;

@@ -14,7 +14,7 @@ Rectangle {
 
     required property int kind
     required property string text
-    property bool onHoveredRow: false
+    property bool isRowHovered: false
 
     readonly property color label: {
         switch (badge.kind) {
@@ -35,7 +35,7 @@ Rectangle {
         case Badge.Merged:
             return Theme.coolSoft
         case Badge.Own:
-            return badge.onHoveredRow ? Theme.separator : Theme.raised
+            return badge.isRowHovered ? Theme.separator : Theme.raised
         case Badge.Broken:
             return Theme.accent2Soft
         default:
@@ -52,9 +52,11 @@ Rectangle {
         id: caption
 
         anchors.centerIn: parent
+        width: Math.min(implicitWidth, badge.width - 2 * Theme.space8)
         look: Theme.badge
         text: badge.text
         color: badge.label
+        elide: Text.ElideRight
         Accessible.ignored: true
     }
 }

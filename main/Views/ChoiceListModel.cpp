@@ -3,6 +3,8 @@
 
 #include "Views/ChoiceListModel.h"
 
+#include <QStringMatcher>
+
 #include <algorithm>
 
 namespace selvane {
@@ -10,29 +12,34 @@ namespace selvane {
 void ChoiceListModel::setEntries(std::vector<Entry> entries) {
     beginResetModel();
     m_entries = std::move(entries);
-    updateShown();
+    m_shown = found();
     endResetModel();
     emit entriesChanged();
     emit chosenChanged();
 }
 
-void ChoiceListModel::updateShown() {
-    m_shown.clear();
+std::vector<std::size_t> ChoiceListModel::found() const {
+    const QStringMatcher matcher(m_search, Qt::CaseInsensitive);
+    std::vector<std::size_t> positions;
     for (std::size_t i = 0; i < m_entries.size(); ++i) {
-        if (m_search.isEmpty() || m_entries[i].title.contains(m_search, Qt::CaseInsensitive) ||
-            m_entries[i].detail.contains(m_search, Qt::CaseInsensitive))
-            m_shown.push_back(i);
+        if (m_search.isEmpty() || matcher.indexIn(m_entries[i].title) >= 0 ||
+            matcher.indexIn(m_entries[i].detail) >= 0)
+            positions.push_back(i);
     }
+    return positions;
 }
 
 void ChoiceListModel::setSearch(const QString& text) {
     if (m_search == text)
         return;
-    beginResetModel();
     m_search = text;
-    updateShown();
-    endResetModel();
     emit searchChanged();
+    std::vector<std::size_t> positions = found();
+    if (positions == m_shown)
+        return;
+    beginResetModel();
+    m_shown = std::move(positions);
+    endResetModel();
 }
 
 std::set<std::string> ChoiceListModel::chosenKeys() const {

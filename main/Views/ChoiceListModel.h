@@ -57,7 +57,7 @@ signals:
 
 private:
     void chooseShown(bool chosen);
-    void updateShown();
+    std::vector<std::size_t> found() const;
 
     std::vector<Entry> m_entries;
     std::vector<std::size_t> m_shown; ///< positions in m_entries

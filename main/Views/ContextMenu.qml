@@ -35,6 +35,10 @@ Popover {
 
     Accessible.role: Accessible.PopupMenu
 
+    onIsOpenChanged: {
+        if (isOpen)
+            column.forceActiveFocus(Qt.PopupFocusReason) // none of the entries yet
+    }
     Keys.onUpPressed: move(-1)
     Keys.onDownPressed: move(1)
 

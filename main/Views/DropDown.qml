@@ -24,7 +24,7 @@ Pressable {
     function open(): void {
         if (!menu)
             menu = menuComponent.createObject(dropDown) as DropDownMenu
-        menu.begin(dropDown.currentIndex)
+        menu.begin(dropDown.currentIndex, dropDown.Window.height / 2)
         menu.openAt(dropDown, 0, dropDown.height + Theme.space4, dropDown.height)
     }
 

@@ -14,12 +14,18 @@ Popover {
     required property list<string> explanations
     required property int chosenIndex
     required property real narrowest
+    property real room: 0 ///< for the list, which scrolls when it is higher
 
     signal chosen(int index)
 
-    function begin(index: int): void {
+    function begin(index: int, room: real): void {
+        menu.room = room
+        menu.fit()
         list.currentIndex = Math.max(0, index)
         list.positionViewAtIndex(list.currentIndex, ListView.Contain)
+    }
+    function fit(): void {
+        list.height = Math.min(list.contentHeight, menu.room)
     }
     function choose(index: int): void {
         menu.close()
@@ -43,7 +49,8 @@ Popover {
 
         width: menu.explanations.length > 0 ? Theme.menuWidth - 2 * menu.padding
                                             : Math.max(menu.narrowest, Theme.modeWidth) - 2 * menu.padding
-        height: Math.min(contentHeight, (menu.parent?.height ?? 0) / 2)
+        // No binding: how high the content is depends on how much of it is made.
+        onContentHeightChanged: menu.fit()
         model: menu.labels
         focus: true
         clip: true

@@ -8,8 +8,8 @@ import Selvane
 
 /// The outline of a tile to come. Decoration.
 Rectangle {
-    width: Theme.tileWidth
-    height: Theme.tileHeight
+    width: Theme.picker.tileWidth
+    height: Theme.picker.tileHeight
     radius: Theme.radiusTile
     color: Theme.transparent
     border.width: Theme.hairline
@@ -20,9 +20,9 @@ Rectangle {
     LeafShape {
         x: Theme.space16
         y: Theme.space16
-        width: Theme.tileGlyph
-        height: Theme.tileGlyph
-        tip: Theme.glyphTip * Theme.tileGlyph
+        width: Theme.picker.tileGlyph
+        height: Theme.picker.tileGlyph
+        tip: Theme.glyphTip * Theme.picker.tileGlyph
         color: Theme.surface
     }
 }

@@ -13,4 +13,5 @@ StyledText {
 
     Accessible.role: Accessible.StaticText
     Accessible.name: text
+    Accessible.focusable: false
 }

@@ -16,6 +16,8 @@ Pressable {
     property string symbol
     property int size: GhostButton.Medium ///< Large: beside a confirm button
     property bool bare: false ///< without a border at rest
+    property bool soft: false ///< the label is as quiet as the icon
+    property real gap: small ? 6 : Theme.space8 ///< from the icon to the label
 
     readonly property bool iconOnly: text === ""
     readonly property bool small: size === GhostButton.Small
@@ -31,7 +33,7 @@ Pressable {
     Rectangle {
         anchors.fill: parent
         radius: Theme.radiusControl
-        color: button.pressed ? Theme.line : button.hovered ? Theme.raised : Qt.alpha(Theme.raised, 0)
+        color: button.pressed ? Theme.separator : button.hovered ? Theme.raised : Qt.alpha(Theme.raised, 0)
         border.width: Theme.hairline
         border.color: button.active ? Theme.controlBorder : button.bare ? Qt.alpha(Theme.separator, 0)
                                                                         : Theme.separator
@@ -50,7 +52,7 @@ Pressable {
         id: content
 
         anchors.centerIn: parent
-        spacing: button.small ? 6 : Theme.space8
+        spacing: button.gap
 
         PathIcon {
             anchors.verticalCenter: parent.verticalCenter
@@ -64,6 +66,7 @@ Pressable {
             visible: !button.iconOnly
             look: button.small ? Theme.smallControl : Theme.control
             text: button.text
+            color: button.soft && !button.active ? Theme.textSoft : Theme.text
         }
     }
 }

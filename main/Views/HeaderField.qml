@@ -6,8 +6,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A field that looks like a title with a line below it. Return submits what was typed; Escape brings `value`
-/// back, and so does a change of the subject, whose value it is.
+/// A field that looks like a title with a line below it. Return submits what was typed and then shows what has
+/// become of `value`; Escape brings it back, and so does a change of the subject, whose value it is.
 FocusScope {
     id: field
 
@@ -47,7 +47,10 @@ FocusScope {
         focus: true
         text: field.value
         label: field.label
-        onAccepted: field.submitted(text)
+        onAccepted: {
+            field.submitted(text)
+            field.reset()
+        }
         Keys.onEscapePressed: event => {
             event.accepted = text !== field.value
             field.reset()

@@ -6,7 +6,7 @@
 namespace selvane {
 
 QString ImportForm::heading() const {
-    const Profile* target = m_app->profile(m_target);
+    const Profile* target = m_app == nullptr ? nullptr : m_app->profile(m_target);
     const auto part = component(m_component.toStdString());
     if (target == nullptr || !part)
         return {};
@@ -14,16 +14,6 @@ QString ImportForm::heading() const {
     return tr("%1 non ancora presenti in «%2»")
         .arg(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())),
              QString::fromStdString(target->meta.name));
-}
-
-void ImportForm::begin() {
-    for (const Profile& candidate : m_app->profiles()) {
-        const QString id = QString::fromStdString(candidate.id);
-        if (id != m_target) {
-            setSource(id);
-            return;
-        }
-    }
 }
 
 void ImportForm::setSource(const QString& id) {

@@ -5,6 +5,7 @@
 
 #include <QObject>
 #include <QQmlEngine>
+#include <QQmlParserStatus>
 
 #include "AppModel.h"
 #include "Views/ChoiceListModel.h"
@@ -12,8 +13,9 @@
 namespace selvane {
 
 /// The state of the sheet that adds items of one component from another profile.
-class ImportForm : public QObject {
+class ImportForm : public QObject, public QQmlParserStatus {
     Q_OBJECT
+    Q_INTERFACES(QQmlParserStatus)
     QML_ELEMENT
 
     Q_PROPERTY(selvane::AppModel* app MEMBER m_app NOTIFY inputChanged REQUIRED)
@@ -34,8 +36,9 @@ public:
     ChoiceListModel* items() { return &m_items; }
     QString heading() const;
 
-    /// To be called when the inputs are set.
-    Q_INVOKABLE void begin();
+    void classBegin() override {}
+    void componentComplete() override { setSource(m_app->firstOther(m_target)); }
+
     /// Does nothing while no item is chosen.
     Q_INVOKABLE void submit();
 

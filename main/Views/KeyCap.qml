@@ -63,9 +63,9 @@ Rectangle {
                     id: caption
 
                     anchors.centerIn: parent
-                    visible: part.icon === ""
+                    // A drawn key has no letters: looking for a face that has them takes long.
                     look: Theme.keyCap
-                    text: part.modelData
+                    text: part.icon === "" ? part.modelData : ""
                     color: Theme.textSoft
                 }
             }

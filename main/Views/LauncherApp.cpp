@@ -5,17 +5,20 @@
 
 #include <QGuiApplication>
 #include <QQmlComponent>
-#include <QQmlEngine>
-#include <QQuickWindow>
+#include <QQuickItem>
 #include <QStandardPaths>
 #include <QThreadPool>
+#include <QTimer>
 
-#include <memory>
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <utility>
 
-#include "AppModel.h"
 #include "Preferences.h"
 #include "Views/QmlModule.h"
 #include "Views/SingleInstance.h"
+#include "Views/SystemAppearance.h"
 #include "Views/SystemBridge.h"
 #include "artwork/Brand.h"
 #include "model/LauncherError.h"
@@ -23,11 +26,20 @@
 namespace selvane {
 namespace {
 
-/// Without a platform to draw on, Qt would end the process itself.
+constexpr auto kNoDisplay = "Nessuno schermo disponibile: senza, Selvane si usa con i suoi comandi";
+
 void requireDisplay() {
     const bool isChosen = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
     if (!isChosen && qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
-        throw LauncherError("Nessuno schermo disponibile: senza, Selvane si usa con i suoi comandi");
+        throw LauncherError(kNoDisplay);
+}
+
+/// A display that is named but doesn't answer: Qt would abort the process.
+void endWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& /*message*/) {
+    if (type != QtFatalMsg)
+        return;
+    std::fprintf(stderr, "Errore: %s\n", kNoDisplay);
+    std::_Exit(EXIT_FAILURE);
 }
 
 QString preferencesFile() {
@@ -35,30 +47,95 @@ QString preferencesFile() {
            "/selvane/preferenze.conf";
 }
 
-std::unique_ptr<QQuickWindow> makeWindow(QQmlEngine& engine, const char* file, AppModel& model) {
-    // By way of its module: a file opened by its place alone doesn't see the module's own types.
+/// By way of its module: a file opened by its place alone doesn't see the module's own types.
+std::unique_ptr<QObject> make(QQmlEngine& engine, const char* type, const QVariantMap& properties) {
     QQmlComponent component(&engine);
-    component.setData(QStringLiteral("import Selvane\n%1 {}").arg(file).toUtf8(), {});
-    if (!component.isReady())
+    component.setData(QStringLiteral("import Selvane\n%1 {}").arg(type).toUtf8(), {});
+    std::unique_ptr<QObject> made;
+    if (component.isReady()) // else making one is a crash
+        made.reset(component.createWithInitialProperties(properties));
+    if (!made)
         throw LauncherError("Finestra non utilizzabile: " + component.errorString().toStdString());
-    QObject* made = component.createWithInitialProperties({{"app", QVariant::fromValue(&model)}});
-    auto* window = qobject_cast<QQuickWindow*>(made);
-    if (window == nullptr)
-        throw LauncherError("Finestra non utilizzabile: " + component.errorString().toStdString());
-    return std::unique_ptr<QQuickWindow>(window);
-}
-
-void bringToFront(QQuickWindow& window) {
-    window.show();
-    window.raise();
-    window.requestActivate();
+    return made;
 }
 
 } // namespace
 
+LauncherApp::LauncherApp(AppModel& app, Updates& updates) : m_app(app), m_updates(updates) {
+    qml_register_types_Selvane();
+    connect(&m_engine, &QQmlEngine::quit, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+    // Commands may have changed the profiles while another application was in front.
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
+        if (state == Qt::ApplicationActive && std::exchange(m_wasLeft, false))
+            m_app.reload();
+        m_wasLeft = m_wasLeft || state == Qt::ApplicationInactive;
+    });
+}
+
+LauncherApp::~LauncherApp() = default;
+
+std::unique_ptr<QQuickWindow> LauncherApp::makeWindow(WindowName name) {
+    const QVariantMap properties = {{"launcher", QVariant::fromValue(this)}};
+    auto made = make(m_engine, name == Picker ? "PickerWindow" : "ManageWindow", properties);
+    std::unique_ptr<QQuickWindow> window(static_cast<QQuickWindow*>(made.release()));
+    connect(window.get(), &QWindow::visibleChanged, this, [this] { emit shownChanged(isShown()); });
+    connect(window.get(), &QWindow::activeChanged, this, [this, name, shown = window.get()] {
+        if (shown->isActive())
+            setKeyWindow(name);
+    });
+    return window;
+}
+
+void LauncherApp::show(WindowName name) {
+    auto& window = m_windows.at(name);
+    if (!window)
+        window = makeWindow(name);
+    setKeyWindow(name);
+    window->show();
+    window->raise();
+    window->requestActivate();
+}
+
+void LauncherApp::setKeyWindow(WindowName name) {
+    if (m_keyWindow == name)
+        return;
+    m_keyWindow = name;
+    emit keyWindowChanged();
+}
+
+bool LauncherApp::isShown() const {
+    return std::any_of(m_windows.begin(), m_windows.end(),
+                       [](const auto& window) { return window && window->isVisible(); });
+}
+
+void LauncherApp::start() {
+    show(Picker);
+    // After the first window: it is worth no delay.
+    m_engine.singletonInstance<SystemAppearance*>(qmlTypeId("Selvane", 1, 0, "SystemAppearance"))->read();
+}
+
+void LauncherApp::tryToShow(WindowName name) {
+    m_app.perform([&] { show(name); });
+}
+
+void LauncherApp::askForArchive(const QString& proposedPlace) {
+    m_app.perform([&] {
+        QQuickItem* parent = window(m_keyWindow)->contentItem();
+        QObject* sheet = make(m_engine, "ArchiveSheet",
+                              {{"parent", QVariant::fromValue(parent)}, {"place", proposedPlace}})
+                             .release();
+        QQmlEngine::setObjectOwnership(sheet, QQmlEngine::CppOwnership);
+        sheet->setParent(parent);
+        connect(sheet, SIGNAL(chosen(QString)), this, SIGNAL(archiveChosen(QString)));
+        connect(sheet, SIGNAL(closed()), sheet, SLOT(deleteLater()));
+    });
+}
+
 int runLauncherApp(int argc, char** argv) {
     requireDisplay();
+    const QtMessageHandler usual = qInstallMessageHandler(endWithoutDisplay);
     QGuiApplication application(argc, argv);
+    qInstallMessageHandler(usual);
     QGuiApplication::setApplicationName(Brand::name);
     QGuiApplication::setDesktopFileName(QStringLiteral("selvane"));
     SingleInstance instance;
@@ -74,14 +151,14 @@ int runLauncherApp(int argc, char** argv) {
     Preferences preferences(preferencesFile());
     SystemBridge bridge(claude);
     AppModel model(store, claude, bridge, preferences);
+    Updates updates(makeUpdater());
+    LauncherApp launcher(model, updates);
 
-    qml_register_types_Selvane();
-    QQmlEngine engine;
-    const auto picker = makeWindow(engine, "PickerWindow", model);
-    QObject::connect(&instance, &SingleInstance::startedAgain, picker.get(), [&] { bringToFront(*picker); });
-    QObject::connect(picker.get(), &QWindow::visibleChanged, &bridge,
-                     [&](bool visible) { bridge.setWatching(visible); });
-    bringToFront(*picker);
+    QObject::connect(&instance, &SingleInstance::startedAgain, &launcher, &LauncherApp::showPicker);
+    QObject::connect(&launcher, &LauncherApp::shownChanged, &bridge, &SystemBridge::setWatching);
+    QObject::connect(&bridge, &SystemBridge::archiveWanted, &launcher, &LauncherApp::askForArchive);
+    QObject::connect(&launcher, &LauncherApp::archiveChosen, &bridge, &SystemBridge::answerArchive);
+    launcher.start();
     const int status = QGuiApplication::exec();
     QThreadPool::globalInstance()->waitForDone(); // what still reads uses the store
     return status;

@@ -17,6 +17,7 @@ Item {
         id: inside
 
         anchors.fill: parent
+        radius: Theme.radiusCard
         color: Theme.wellFill
         clip: true
     }

@@ -3,6 +3,9 @@
 
 #include "Views/NewProfileForm.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace selvane {
 namespace {
 
@@ -22,19 +25,52 @@ std::unique_ptr<ChoiceListModel> choices(const std::vector<ComponentItem>& items
     for (const ComponentItem& item : items)
         entries.push_back({item.name, QString::fromStdString(item.name), {}, true});
     auto model = std::make_unique<ChoiceListModel>();
+    QQmlEngine::setObjectOwnership(model.get(), QQmlEngine::CppOwnership);
     model->setEntries(std::move(entries));
     return model;
 }
 
+QStringList texts(std::span<const ShareMode> modes, std::string_view (*textOf)(ShareMode)) {
+    QStringList result;
+    for (const ShareMode mode : modes)
+        result += text(textOf(mode));
+    return result;
+}
+
 } // namespace
+
+void NewProfileForm::setApp(AppModel* app) {
+    if (m_app == app)
+        return;
+    if (m_app != nullptr)
+        m_app->disconnect(this);
+    m_app = app;
+    if (m_app != nullptr)
+        connect(m_app, &AppModel::reloaded, this, [this] {
+            if (m_app->profile(m_source) == nullptr)
+                setSource({});
+        });
+    listComponents();
+    emit appChanged();
+    emit sourceChanged();
+}
 
 void NewProfileForm::setSource(const QString& id) {
     if (m_source == id)
         return;
-    beginResetModel();
     m_source = id;
-    m_rows.clear();
-    if (const Profile* source = m_app->profile(id)) {
+    listComponents();
+    emit sourceChanged();
+}
+
+void NewProfileForm::listComponents() {
+    beginResetModel();
+    // Views hold on to the items of the old rows until the reset has ended.
+    const std::vector<Row> old = std::exchange(m_rows, {});
+    const Profile* source = m_app == nullptr ? nullptr : m_app->profile(m_source);
+    if (m_app != nullptr && source == nullptr)
+        m_source.clear();
+    if (source != nullptr) {
         for (const Component component : kComponents) {
             Row row{component, defaultMode(component), nullptr};
             if (isCollection(component))
@@ -43,30 +79,30 @@ void NewProfileForm::setSource(const QString& id) {
         }
     }
     endResetModel();
-    emit sourceChanged();
 }
 
 QString NewProfileForm::sourceName() const {
-    const Profile* source = m_app->profile(m_source);
+    const Profile* source = m_app == nullptr ? nullptr : m_app->profile(m_source);
     return source == nullptr ? QString() : QString::fromStdString(source->meta.name);
 }
 
-void NewProfileForm::setMode(int row, const QString& mode) {
-    const auto chosen = shareMode(mode.toStdString());
-    if (!chosen || row < 0 || row >= rowCount() ||
-        !allows(m_rows[static_cast<std::size_t>(row)].component, *chosen))
+void NewProfileForm::setMode(int row, int modeIndex) {
+    if (row < 0 || row >= rowCount())
         return;
-    m_rows[static_cast<std::size_t>(row)].mode = *chosen;
-    emit dataChanged(index(row), index(row), {ModeRole});
+    Row& changed = m_rows[static_cast<std::size_t>(row)];
+    const auto modes = allowedModes(changed.component);
+    if (modeIndex < 0 || modeIndex >= static_cast<int>(modes.size()))
+        return;
+    changed.mode = modes[static_cast<std::size_t>(modeIndex)];
+    emit dataChanged(index(row), index(row), {ModeIndexRole});
 }
 
-void NewProfileForm::setAll(const QString& mode) {
-    const auto chosen = shareMode(mode.toStdString());
-    if (!chosen || m_rows.empty())
+void NewProfileForm::setAll(ShareMode mode) {
+    if (m_rows.empty())
         return;
     for (Row& row : m_rows)
-        row.mode = nearestMode(*chosen, row.component);
-    emit dataChanged(index(0), index(rowCount() - 1), {ModeRole});
+        row.mode = nearestMode(mode, row.component);
+    emit dataChanged(index(0), index(rowCount() - 1), {ModeIndexRole});
 }
 
 ProfileRequest NewProfileForm::request() const {
@@ -107,13 +143,13 @@ QVariant NewProfileForm::data(const QModelIndex& index, int role) const {
         return text(title(row.component));
     case SymbolRole:
         return text(selvane::symbol(row.component));
-    case ModeRole:
-        return text(rawValue(row.mode));
-    case AllowedModesRole: {
-        QStringList modes;
-        for (const ShareMode mode : allowedModes(row.component))
-            modes += text(rawValue(mode));
-        return modes;
+    case ModeLabelsRole:
+        return texts(allowedModes(row.component), label);
+    case ModeExplanationsRole:
+        return texts(allowedModes(row.component), help);
+    case ModeIndexRole: {
+        const auto modes = allowedModes(row.component);
+        return static_cast<int>(std::find(modes.begin(), modes.end(), row.mode) - modes.begin());
     }
     case ItemsRole:
         return QVariant::fromValue(row.items.get());
@@ -123,11 +159,9 @@ QVariant NewProfileForm::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> NewProfileForm::roleNames() const {
-    return {{TitleRole, "title"},
-            {SymbolRole, "symbol"},
-            {ModeRole, "mode"},
-            {AllowedModesRole, "allowedModes"},
-            {ItemsRole, "items"}};
+    return {{TitleRole, "title"},           {SymbolRole, "symbol"},
+            {ModeLabelsRole, "modeLabels"}, {ModeExplanationsRole, "modeExplanations"},
+            {ModeIndexRole, "modeIndex"},   {ItemsRole, "items"}};
 }
 
 } // namespace selvane

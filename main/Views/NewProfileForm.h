@@ -20,11 +20,11 @@ class NewProfileForm : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
 
-    Q_PROPERTY(selvane::AppModel* app MEMBER m_app NOTIFY appChanged REQUIRED)
+    Q_PROPERTY(selvane::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
     Q_PROPERTY(QString name MEMBER m_name NOTIFY nameChanged)
     Q_PROPERTY(QString summary MEMBER m_summary NOTIFY summaryChanged)
     Q_PROPERTY(QString symbol MEMBER m_symbol NOTIFY symbolChanged)
-    /// Id of the profile to start from; empty for none.
+    /// Id of the profile to start from; empty for none, also when it goes away.
     Q_PROPERTY(QString source READ source WRITE setSource NOTIFY sourceChanged)
     Q_PROPERTY(QString sourceName READ sourceName NOTIFY sourceChanged)
     Q_PROPERTY(bool sharesAccount MEMBER m_sharesAccount NOTIFY sharesAccountChanged)
@@ -35,21 +35,25 @@ public:
     enum Role {
         TitleRole = Qt::UserRole,
         SymbolRole,
-        ModeRole,         ///< raw value
-        AllowedModesRole, ///< raw values
-        ItemsRole,        ///< a ChoiceListModel, or null for what is no folder
+        ModeLabelsRole, ///< of the modes that the component allows
+        ModeExplanationsRole,
+        ModeIndexRole,
+        ItemsRole, ///< a ChoiceListModel, or null for what is no folder
     };
 
     using QAbstractListModel::QAbstractListModel;
 
+    AppModel* app() const { return m_app; }
+    void setApp(AppModel* app);
     QString source() const { return m_source; }
     void setSource(const QString& id);
     QString sourceName() const;
     bool canCreate() const { return !m_name.trimmed().isEmpty(); }
 
-    Q_INVOKABLE void setMode(int row, const QString& mode);
-    /// The mode for every component that allows it; the nearest one for the others.
-    Q_INVOKABLE void setAll(const QString& mode);
+    Q_INVOKABLE void setMode(int row, int modeIndex);
+    // The mode for every component that allows it; the nearest one for the others.
+    Q_INVOKABLE void shareAll() { setAll(ShareMode::shared); }
+    Q_INVOKABLE void separateAll() { setAll(ShareMode::separate); }
     /// Hands the request to the application. Does nothing while the name is blank.
     Q_INVOKABLE void create();
 
@@ -73,6 +77,8 @@ private:
         std::unique_ptr<ChoiceListModel> items; ///< only of a collection
     };
 
+    void listComponents();
+    void setAll(ShareMode mode);
     ProfileRequest request() const;
 
     AppModel* m_app = nullptr;

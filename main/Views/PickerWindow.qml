@@ -10,12 +10,12 @@ import Selvane
 Window {
     id: window
 
-    required property AppModel app
+    required property LauncherApp launcher
 
-    width: Theme.pickerWindow.width
-    height: Theme.pickerWindow.height
-    minimumWidth: Theme.pickerMinimum.width
-    minimumHeight: Theme.pickerMinimum.height
+    width: Theme.picker.window.width
+    height: Theme.picker.window.height
+    minimumWidth: Theme.picker.minimum.width
+    minimumHeight: Theme.picker.minimum.height
     title: Theme.brand.name
     color: Theme.windowFill
     onVisibleChanged: {
@@ -26,11 +26,31 @@ Window {
     PickerModel {
         id: model
 
-        app: window.app
+        app: window.launcher.app
     }
     ProfilePicker {
-        anchors.fill: parent
-        app: window.app
+        id: view
+
+        // The size that the content gets when the window is shown: else all is laid out twice.
+        width: window.width
+        height: window.height
+        app: window.launcher.app
         picker: model
+        onManageAsked: window.launcher.showManage()
+    }
+    Loader {
+        id: overlays
+
+        anchors.fill: parent
+        z: Theme.toastLayer
+        asynchronous: true
+    }
+    Connections {
+        target: window
+        enabled: overlays.status === Loader.Null
+
+        function onFrameSwapped(): void {
+            overlays.setSource("PickerOverlays.qml", {launcher: window.launcher, view: view, target: window})
+        }
     }
 }

@@ -33,6 +33,6 @@ Item {
         symbol: glyph.symbol
         size: glyph.iconSize
         weight: glyph.isLit ? PathIcon.Regular : PathIcon.Automatic
-        color: glyph.isLit ? Theme.onFill : Theme.cool
+        color: glyph.isLit ? Theme.onFill : Theme.linked
     }
 }

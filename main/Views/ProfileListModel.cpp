@@ -3,6 +3,9 @@
 
 #include "Views/ProfileListModel.h"
 
+#include <algorithm>
+#include <chrono>
+
 #include "platform/Text.h"
 
 namespace selvane {
@@ -14,7 +17,30 @@ QString lastLaunch(const Profile& profile) {
     return QString::fromStdString(text::relativeDate(currentTimestamp() - *profile.meta.lastLaunched));
 }
 
+QString subtitle(const Profile& profile) {
+    const QString last = lastLaunch(profile);
+    return profile.meta.lastLaunched ? ProfileListModel::tr("Avviato %1").arg(last) : last;
+}
+
+QString sourceName(const Profile& profile, const AppModel& app) {
+    if (!profile.meta.source)
+        return {};
+    const QString id = QString::fromStdString(*profile.meta.source);
+    const Profile* source = app.profile(id);
+    return source == nullptr ? id : QString::fromStdString(source->meta.name);
+}
+
+bool haveSameIds(const std::vector<Profile>& some, const std::vector<Profile>& others) {
+    return std::ranges::equal(some, others, {}, &Profile::id, &Profile::id);
+}
+
 } // namespace
+
+ProfileListModel::ProfileListModel(QObject* parent) : QAbstractListModel(parent) {
+    m_minute.setInterval(std::chrono::minutes(1));
+    connect(&m_minute, &QTimer::timeout, this, [this] { changed({LastLaunchRole, SubtitleRole}); });
+    m_minute.start();
+}
 
 void ProfileListModel::setApp(AppModel* app) {
     if (m_app == app)
@@ -23,24 +49,31 @@ void ProfileListModel::setApp(AppModel* app) {
         m_app->disconnect(this);
     m_app = app;
     if (m_app != nullptr) {
-        connect(m_app, &AppModel::reloaded, this, &ProfileListModel::beginAgain);
-        connect(m_app, &AppModel::runningChanged, this, &ProfileListModel::runningChanged);
+        connect(m_app, &AppModel::reloaded, this, &ProfileListModel::update);
+        connect(m_app, &AppModel::runningChanged, this, [this] { changed({IsRunningRole}); });
     }
-    beginAgain();
+    update();
     emit appChanged();
 }
 
-void ProfileListModel::beginAgain() {
-    beginResetModel();
-    m_profiles = m_app == nullptr ? std::vector<Profile>{} : m_app->profiles();
+void ProfileListModel::update() {
+    std::vector<Profile> profiles = m_app == nullptr ? std::vector<Profile>{} : m_app->profiles();
     m_activeID = m_app == nullptr ? std::nullopt : m_app->activeID();
+    // The same rows stay where they are, so that a list keeps its place.
+    if (!profiles.empty() && haveSameIds(profiles, m_profiles)) {
+        m_profiles = std::move(profiles);
+        changed({});
+        return;
+    }
+    beginResetModel();
+    m_profiles = std::move(profiles);
     endResetModel();
     emit countChanged();
 }
 
-void ProfileListModel::runningChanged() {
+void ProfileListModel::changed(const QList<int>& roles) {
     if (!m_profiles.empty())
-        emit dataChanged(index(0), index(count() - 1), {IsRunningRole});
+        emit dataChanged(index(0), index(count() - 1), roles);
 }
 
 int ProfileListModel::indexOf(const QString& profileId) const {
@@ -50,6 +83,13 @@ int ProfileListModel::indexOf(const QString& profileId) const {
             return static_cast<int>(i);
     }
     return -1;
+}
+
+QString ProfileListModel::idNear(int row) const {
+    if (m_profiles.empty())
+        return {};
+    const int nearest = std::clamp(row, 0, count() - 1);
+    return QString::fromStdString(m_profiles[static_cast<std::size_t>(nearest)].id);
 }
 
 int ProfileListModel::rowCount(const QModelIndex& parent) const {
@@ -77,8 +117,14 @@ QVariant ProfileListModel::data(const QModelIndex& index, int role) const {
         return !profile.isDefault() && !profile.meta.account;
     case HasSourceRole:
         return profile.meta.source.has_value();
+    case SourceNameRole:
+        return sourceName(profile, *m_app);
+    case WasLaunchedRole:
+        return profile.meta.lastLaunched.has_value();
     case LastLaunchRole:
         return lastLaunch(profile);
+    case SubtitleRole:
+        return subtitle(profile);
     default:
         return {};
     }
@@ -93,7 +139,10 @@ QHash<int, QByteArray> ProfileListModel::roleNames() const {
             {IsActiveRole, "isActive"},
             {HasOwnAccountRole, "hasOwnAccount"},
             {HasSourceRole, "hasSource"},
-            {LastLaunchRole, "lastLaunch"}};
+            {SourceNameRole, "sourceName"},
+            {WasLaunchedRole, "wasLaunched"},
+            {LastLaunchRole, "lastLaunch"},
+            {SubtitleRole, "subtitle"}};
 }
 
 } // namespace selvane

@@ -13,52 +13,77 @@ FocusScope {
     required property AppModel app
     required property PickerModel picker
 
-    readonly property bool isCompact: width < Theme.pickerFullWidth || height < Theme.pickerFullHeight
-    readonly property var places: isCompact ? Theme.pickerCompact : Theme.pickerFull
-    readonly property real columnWidth: Math.min(width - 2 * places.margin, Theme.pickerColumn)
+    readonly property bool isCompact: width < Theme.picker.fullWidth || height < Theme.picker.fullHeight
+    readonly property PickerMeasures.Places places: isCompact ? Theme.picker.compact : Theme.picker.full
+    readonly property real columnWidth: Math.min(width - 2 * places.margin, Theme.picker.column)
     readonly property real columnLeft: (width - columnWidth) / 2
     /// Of the height that is left over, this part lies above the heading and the tiles.
-    readonly property real spareAbove: Math.max(0, height - places.height) * Theme.pickerSpareAbove
+    readonly property real spareAbove: Math.max(0, height - places.height) * Theme.picker.spareAbove
 
-    signal manageAsked(string profileId)
-    signal newProfileAsked(string source)
+    property ModalLayer sheet: null
+
+    signal manageAsked
+
+    function manage(profileId: string): void {
+        view.app.select(profileId)
+        view.manageAsked()
+    }
+    /// The sheet is a third of all that the picker could show, hence read when it is first wanted.
+    function newProfile(source: string): void {
+        if (view.sheet)
+            return
+        const component = Qt.createComponent("NewProfileSheet.qml")
+        view.sheet = component.createObject(view, {app: view.app, initialSource: source}) as ModalLayer
+    }
+
+    function move(step: int): bool {
+        const moved = view.picker.move(step)
+        strip.takeFocus()
+        return moved
+    }
 
     focus: true
 
-    Keys.onLeftPressed: event => event.accepted = view.picker.move(-1)
-    Keys.onRightPressed: event => event.accepted = view.picker.move(1)
+    Keys.onLeftPressed: event => event.accepted = view.move(-1)
+    Keys.onRightPressed: event => event.accepted = view.move(1)
     Keys.onReturnPressed: event => event.accepted = view.picker.launchFocused()
     Keys.onEnterPressed: event => event.accepted = view.picker.launchFocused()
-    Keys.onPressed: event => event.accepted = view.picker.launchNumber(event.text)
+    Keys.onMenuPressed: strip.openMenu()
+    Keys.onPressed: event => {
+        if (event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier)
+            strip.openMenu()
+        else
+            event.accepted = view.picker.launchNumber(event.text)
+    }
 
     BrandBackground {}
     Foliage {
         anchors.right: parent.right
-        y: Theme.foliageTop + view.spareAbove
+        y: Theme.picker.foliageTop + view.spareAbove
         visible: !view.isCompact
     }
 
     BrandLockup {
         x: view.columnLeft
-        y: view.places.bar
-        height: Theme.pickerBar
+        y: view.places.barTop
+        height: Theme.picker.bar
     }
     Row {
         anchors.right: parent.right
         anchors.rightMargin: view.columnLeft
-        y: view.places.bar + (Theme.pickerBar - height) / 2
+        y: view.places.barTop + (Theme.picker.bar - height) / 2
         spacing: Theme.space8
 
         GhostButton {
             text: qsTr("Gestisci profili")
             symbol: "slider.horizontal.3"
-            onClicked: view.manageAsked("")
+            onClicked: view.manageAsked()
         }
         GhostButton {
             symbol: "gearshape"
             label: qsTr("Impostazioni")
             help: Theme.keyText(qsTr("Impostazioni (⌘,)"))
-            onClicked: view.manageAsked("")
+            onClicked: view.manageAsked()
         }
     }
 
@@ -68,7 +93,7 @@ FocusScope {
         text: qsTr("Scegli un profilo")
     }
     Row {
-        x: view.columnLeft - Theme.opticalMargin
+        x: view.columnLeft - Theme.picker.opticalMargin
         y: view.places.title + view.spareAbove
 
         Accessible.role: Accessible.Heading
@@ -100,17 +125,21 @@ FocusScope {
     }
 
     TileStrip {
+        id: strip
+
+        objectName: "strip"
+        focus: true
         anchors { left: parent.left; right: parent.right }
-        y: view.places.tiles + view.spareAbove - Theme.stripSpare
-        height: (view.isCompact ? Theme.tileHeightCompact : Theme.tileHeight) + 2 * Theme.stripSpare
+        y: view.places.tiles + view.spareAbove - Theme.picker.stripSpare
+        height: (view.isCompact ? Theme.picker.tileHeightCompact : Theme.picker.tileHeight) + 2 * Theme.picker.stripSpare
         profiles: ProfileListModel { app: view.app }
         focused: view.picker.focused
         isCompact: view.isCompact
         margin: view.columnLeft
         onLaunched: profileId => view.app.launch(profileId)
-        onSettingsAsked: profileId => view.manageAsked(profileId)
+        onSettingsAsked: profileId => view.manage(profileId)
         onHovered: profileId => view.picker.focused = profileId
-        onNewProfileAsked: view.newProfileAsked(view.picker.focused)
+        onNewProfileAsked: source => view.newProfile(source)
     }
 
     PickerHint {
@@ -124,5 +153,14 @@ FocusScope {
         anchors.rightMargin: view.columnLeft
         y: view.height - view.places.footer - height
         visible: !view.isCompact
+    }
+
+    Connections {
+        target: view.sheet
+
+        function onClosed(): void {
+            view.sheet.destroy()
+            view.sheet = null
+        }
     }
 }

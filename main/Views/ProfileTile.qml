@@ -16,6 +16,7 @@ Item {
     required property bool isRunning
     required property bool hasOwnAccount
     required property string lastLaunch
+    required property bool wasLaunched
     required property int index
     required property int count
     required property bool isFocused
@@ -27,17 +28,18 @@ Item {
     signal launched
     signal settingsAsked
     signal hovered
+    signal menuAsked(real x, real y)
 
-    width: Theme.tileWidth
-    height: isCompact ? Theme.tileHeightCompact : Theme.tileHeight
+    width: Theme.picker.tileWidth
+    height: isCompact ? Theme.picker.tileHeightCompact : Theme.picker.tileHeight
     scale: isFocused ? Theme.focusedScale : 1
     z: isFocused ? 1 : 0
+    activeFocusOnTab: isFocused
 
     Accessible.role: Accessible.Button
     Accessible.name: name
     Accessible.description: qsTr("%1, profilo %2 di %3").arg(status).arg(position).arg(count)
     Accessible.focusable: true
-    Accessible.focused: isFocused
     Accessible.onPressAction: tile.launched()
 
     Behavior on scale {
@@ -61,7 +63,13 @@ Item {
         anchors.fill: parent
         hoverEnabled: true
         onEntered: tile.hovered()
-        onClicked: tile.launched()
+        acceptedButtons: Qt.LeftButton | Qt.RightButton
+        onClicked: mouse => {
+            if (mouse.button === Qt.RightButton)
+                tile.menuAsked(mouse.x, mouse.y)
+            else
+                tile.launched()
+        }
     }
     TileLabel {
         anchors.fill: parent
@@ -72,7 +80,7 @@ Item {
         status: tile.status
         position: tile.position
         isRunning: tile.isRunning
-        wasLaunched: tile.lastLaunch !== qsTr("Mai avviato")
+        wasLaunched: tile.wasLaunched
         hasOwnAccount: tile.hasOwnAccount
         isFocused: tile.isFocused
         isCompact: tile.isCompact
@@ -82,7 +90,7 @@ Item {
         }
     }
     TileGear {
-        anchors { right: parent.right; top: parent.top; margins: Theme.tileGearMargin }
+        anchors { right: parent.right; top: parent.top; margins: Theme.picker.tileGearMargin }
         help: qsTr("Impostazioni di «%1»").arg(tile.name)
         isOnFocusedTile: tile.isFocused
         onClicked: tile.settingsAsked()

@@ -14,13 +14,15 @@ Pressable {
     required property bool checked
     property string detail
     property string symbol
+    readonly property real textLeft: texts.x
+    readonly property real symbolWidth: symbol !== "" ? Theme.space8 + Theme.iconSmall : 0
 
     signal chosen
 
     label: text
     answersReturn: false
     takesFocusOnClick: true
-    implicitWidth: texts.x + Math.max(heading.implicitWidth, explanation.implicitWidth)
+    implicitWidth: texts.x + Math.ceil(Math.max(caption.implicitWidth + symbolWidth, explanation.implicitWidth))
     implicitHeight: Math.max(Theme.rowTarget, texts.implicitHeight)
     opacity: enabled ? 1 : Theme.disabledOpacity
 
@@ -61,8 +63,12 @@ Pressable {
             spacing: Theme.space8
 
             StyledText {
+                id: caption
+
+                width: Math.min(implicitWidth, texts.width - row.symbolWidth)
                 look: Theme.control
                 text: row.text
+                elide: Text.ElideRight
             }
             PathIcon {
                 anchors.verticalCenter: parent.verticalCenter

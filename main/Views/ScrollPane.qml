@@ -17,18 +17,28 @@ FocusScope {
     property real bottomMargin: 0
 
     readonly property bool isScrolled: view.contentY > 0
+    /// What is in sight of the column, from its top.
+    readonly property real visibleTop: view.contentY - topMargin
+    readonly property real visibleHeight: view.height
     readonly property Item focusItem: Window.activeFocusItem
 
-    function reveal(item: Item): void {
-        let ancestor = item
-        while (ancestor && ancestor !== column)
+    function showTop(): void {
+        view.contentY = 0
+    }
+    function reveal(focused: Item): void {
+        let item = focused
+        let ancestor = focused
+        while (ancestor && ancestor !== column) {
+            if (ancestor instanceof Flickable)
+                item = ancestor // which keeps its rows in sight by itself
             ancestor = ancestor.parent
+        }
         if (!ancestor)
             return
         const top = item.mapToItem(view.contentItem, 0, 0).y - Theme.space12
         const bottom = top + item.height + 2 * Theme.space12
         if (top < view.contentY || item.height > view.height)
-            view.contentY = Math.max(0, top)
+            view.contentY = top > Math.max(pane.topMargin, Theme.space24) ? top : 0 // a label may stand above
         else if (bottom > view.contentY + view.height)
             view.contentY = Math.min(view.contentHeight, bottom) - view.height
     }

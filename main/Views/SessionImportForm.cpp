@@ -7,25 +7,25 @@
 
 namespace selvane {
 
-void SessionImportForm::begin() {
-    for (const Profile& candidate : m_app->profiles()) {
-        const QString id = QString::fromStdString(candidate.id);
-        if (id != m_target) {
-            setSource(id);
+SessionImportForm::SessionImportForm(QObject* parent) : QObject(parent) {
+    connect(&m_reading, &QFutureWatcherBase::finished, this, [this] {
+        if (m_reading.isCanceled())
             return;
-        }
-    }
+        setLoading(false);
+        show(m_reading.result());
+    });
 }
 
 /// An account can have thousands of sessions: they are read on another thread.
 void SessionImportForm::setSource(const QString& id) {
     m_source = id;
     emit sourceChanged();
-    show({});
     const Profile* source = m_app->profile(id);
+    setLoading(source != nullptr);
+    show({});
+    m_reading.setFuture({}); // what another source had is of no use
     if (source == nullptr)
         return;
-    setLoading(true);
     const auto read = [&store = m_app->store(), profile = *source]() -> std::vector<CodeSession> {
         try {
             return store.codeSessions(profile);
@@ -33,13 +33,7 @@ void SessionImportForm::setSource(const QString& id) {
             return {};
         }
     };
-    QtConcurrent::run(read).then(this,
-                                 [this, request = ++m_request](const std::vector<CodeSession>& sessions) {
-                                     if (request != m_request)
-                                         return;
-                                     show(sessions);
-                                     setLoading(false);
-                                 });
+    m_reading.setFuture(QtConcurrent::run(&m_readers, read));
 }
 
 void SessionImportForm::setLoading(bool isLoading) {
@@ -49,12 +43,18 @@ void SessionImportForm::setLoading(bool isLoading) {
     emit isLoadingChanged();
 }
 
+QString SessionImportForm::folderOf(const CodeSession& session) const {
+    const std::string home = m_app->store().home().string() + '/';
+    return QString::fromStdString(session.cwd.starts_with(home) ? "~/" + session.cwd.substr(home.size())
+                                                                : session.cwd);
+}
+
 void SessionImportForm::show(std::vector<CodeSession> sessions) {
     m_sessions = std::move(sessions);
     std::vector<ChoiceListModel::Entry> entries;
     for (const CodeSession& session : m_sessions)
-        entries.push_back({session.file.string(), QString::fromStdString(session.title),
-                           QString::fromStdString(session.cwd), false});
+        entries.push_back(
+            {session.file.string(), QString::fromStdString(session.title), folderOf(session), false});
     m_choices.setEntries(std::move(entries));
 }
 

@@ -16,9 +16,12 @@ ModalLayer {
     property alias spacing: pane.spacing
 
     readonly property real fixedHeight: header.height + footer.height
+    readonly property real highest: height - 2 * Theme.sheetMargin
+    /// How high the body can be before it scrolls.
+    readonly property real bodyRoom: highest - fixedHeight - pane.bottomMargin
 
     plateWidth: Theme.newProfileWidth
-    plateHeight: Math.min(height - 2 * Theme.sheetMargin, fixedHeight + pane.implicitHeight)
+    plateHeight: Math.min(highest, fixedHeight + pane.implicitHeight)
 
     Item {
         id: header
@@ -36,6 +39,7 @@ ModalLayer {
             text: sheet.title
             elide: Text.ElideRight
             Accessible.role: Accessible.Heading
+            Accessible.name: text
         }
         Rectangle {
             anchors.bottom: parent.bottom

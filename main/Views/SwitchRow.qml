@@ -42,7 +42,7 @@ Item {
             look: row.look
             text: row.text
             color: row.textColor
-            elide: Text.ElideRight
+            wrapMode: Text.Wrap
             Accessible.ignored: true
         }
         StyledText {

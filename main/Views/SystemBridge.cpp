@@ -7,7 +7,10 @@
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
 #include <QDesktopServices>
+#include <QDir>
+#include <QFile>
 #include <QGuiApplication>
 #include <QStandardPaths>
 
@@ -18,6 +21,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr int kFirstLookMilliseconds = 200; // once the window is there
 constexpr int kLookMilliseconds = 2000;
 
 QUrl fileUrl(const fs::path& path) {
@@ -25,9 +29,18 @@ QUrl fileUrl(const fs::path& path) {
         QString::fromLocal8Bit(path.native().data(), static_cast<qsizetype>(path.native().size())));
 }
 
+fs::path pathOf(const QString& file) {
+    return QFile::encodeName(file).toStdString();
+}
+
 } // namespace
 
 SystemBridge::SystemBridge(const ClaudeApp& claude) : m_claude(claude) {
+    connect(&m_saveDialog, &PortalSaveDialog::chosen, this,
+            [this](const QUrl& file) { finishArchive(pathOf(file.toLocalFile())); });
+    connect(&m_saveDialog, &PortalSaveDialog::cancelled, this, [this] { finishArchive(std::nullopt); });
+    connect(&m_saveDialog, &PortalSaveDialog::unavailable, this,
+            [this] { emit archiveWanted(m_proposedArchive); });
     m_timer.setInterval(kLookMilliseconds);
     connect(&m_timer, &QTimer::timeout, this, &SystemBridge::look);
 }
@@ -41,15 +54,23 @@ void SystemBridge::copyToClipboard(const QString& text) {
 }
 
 void SystemBridge::reveal(const fs::path& item) {
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    const auto openFolder = [folder = item.parent_path()] { QDesktopServices::openUrl(fileUrl(folder)); };
+    if (!bus.isConnected()) {
+        openFolder();
+        return;
+    }
     auto call =
         QDBusMessage::createMethodCall("org.freedesktop.FileManager1", "/org/freedesktop/FileManager1",
                                        "org.freedesktop.FileManager1", "ShowItems");
     call << QStringList{fileUrl(item).toString(QUrl::FullyEncoded)} << QString();
-    const fs::path folder = item.parent_path();
-    // Where no file manager answers to that, at least the folder is opened.
-    const auto reply = QDBusConnection::sessionBus().call(call, QDBus::Block, 1000);
-    if (reply.type() == QDBusMessage::ErrorMessage)
-        QDesktopServices::openUrl(fileUrl(folder));
+    auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(call), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [watcher, openFolder] {
+        // Where no file manager answers to that, at least the folder is opened.
+        if (watcher->isError())
+            openFolder();
+        watcher->deleteLater();
+    });
 }
 
 void SystemBridge::open(const fs::path& file) {
@@ -58,17 +79,30 @@ void SystemBridge::open(const fs::path& file) {
 
 void SystemBridge::askForArchive(const QString& proposedName,
                                  std::function<void(std::optional<fs::path>)> done) {
+    finishArchive(std::nullopt); // a question that is still open
     m_archiveDone = std::move(done);
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    emit archiveWanted(QUrl::fromLocalFile(documents), proposedName);
+    const QString folder = QFileInfo(documents).isDir() ? documents : QDir::homePath();
+    m_proposedArchive = folder + '/' + proposedName;
+    m_saveDialog.ask(QGuiApplication::focusWindow(), tr("Salva il backup"), folder, proposedName);
 }
 
-void SystemBridge::answerArchive(const QUrl& place) {
-    const auto done = std::exchange(m_archiveDone, nullptr);
-    if (!done)
+void SystemBridge::answerArchive(const QString& typed) {
+    QString place = typed.trimmed();
+    if (place.isEmpty()) {
+        finishArchive(std::nullopt);
         return;
-    const QString file = place.toLocalFile();
-    done(file.isEmpty() ? std::nullopt : std::optional(fs::path(file.toLocal8Bit().toStdString())));
+    }
+    if (place.startsWith("~/"))
+        place.remove(0, 2);
+    if (!place.endsWith(".zip", Qt::CaseInsensitive))
+        place += ".zip";
+    finishArchive(pathOf(QDir::home().absoluteFilePath(place)));
+}
+
+void SystemBridge::finishArchive(std::optional<fs::path> place) {
+    if (const auto done = std::exchange(m_archiveDone, nullptr))
+        done(std::move(place));
 }
 
 void SystemBridge::setWatching(bool watches) {
@@ -76,10 +110,10 @@ void SystemBridge::setWatching(bool watches) {
         m_timer.stop();
         return;
     }
-    if (!m_timer.isActive()) {
-        look();
-        m_timer.start();
-    }
+    if (m_timer.isActive())
+        return;
+    m_timer.start();
+    QTimer::singleShot(kFirstLookMilliseconds, this, &SystemBridge::look);
 }
 
 void SystemBridge::look() {

@@ -8,11 +8,12 @@
 #include <vector>
 
 #include "DesktopBridge.h"
+#include "Views/PortalSaveDialog.h"
 #include "desktop/ClaudeApp.h"
 
 namespace selvane {
 
-/// The real desktop. The save dialog is asked for by signal, because it is one of the windows' own views.
+/// The real desktop. Where it has no dialog for a new file, the windows are asked for one by signal.
 class SystemBridge final : public DesktopBridge {
     Q_OBJECT
 
@@ -28,18 +29,22 @@ public:
 
     /// Looks for started and ended copies of Claude Desktop from time to time, while a window is shown.
     void setWatching(bool watches);
-    /// The answer to `archiveWanted`; an empty place when the user has cancelled.
-    Q_INVOKABLE void answerArchive(const QUrl& place);
+    /// The answer to `archiveWanted`: a path as typed, from the home folder on where it is relative; empty
+    /// when the user has cancelled.
+    void answerArchive(const QString& typed);
 
 signals:
-    void archiveWanted(const QUrl& folder, const QString& name);
+    void archiveWanted(const QString& proposedPlace);
 
 private:
     void look();
+    void finishArchive(std::optional<std::filesystem::path> place);
 
     const ClaudeApp& m_claude;
     QTimer m_timer;
-    std::vector<RunningApplication> m_copies;
+    std::optional<std::vector<RunningApplication>> m_copies; ///< none before the first look
+    PortalSaveDialog m_saveDialog;
+    QString m_proposedArchive;
     std::function<void(std::optional<std::filesystem::path>)> m_archiveDone;
 };
 

@@ -11,9 +11,9 @@ import Selvane
 QtObject {
     id: theme
 
-    // What the system asks for; the application sets them.
-    property bool reducedMotion: false
-    property real textScale: 1
+    // What the desktop asks for.
+    property bool reducedMotion: SystemAppearance.reducedMotion
+    property real textScale: SystemAppearance.textScale
 
     /// Whether the control that has the focus shows it.
     readonly property bool showsFocus: focusVisibility.isVisible
@@ -23,37 +23,24 @@ QtObject {
 
     readonly property Brand brand: Brand {}
 
-    readonly property color bg: brand.bg
-    readonly property color bg2: brand.bg2
-    readonly property color bg3: brand.bg3
-    readonly property color fg: brand.fg
-    readonly property color fg2: brand.fg2
-    readonly property color fg3: brand.fg3
-    readonly property color line: brand.line
-    readonly property color lineStrong: brand.lineStrong
-    readonly property color accent: brand.accent
-    readonly property color accent2: brand.accent2
-    readonly property color cool: brand.cool
-    readonly property color ok: brand.ok
-
     // ---- Roles: what a palette colour is used for
 
-    readonly property color windowFill: bg
-    readonly property color wellFill: bg
-    readonly property color surface: bg2
-    readonly property color raised: bg3
-    readonly property color text: fg
-    readonly property color textSoft: fg2
-    readonly property color textFaint: fg3
-    readonly property color separator: line
-    readonly property color controlBorder: lineStrong
-    readonly property color lit: accent
-    readonly property color focusRing: accent
-    readonly property color danger: accent2
-    readonly property color linked: cool
-    readonly property color switchedOn: cool
-    readonly property color onFill: bg
-    readonly property color opened: ok
+    readonly property color windowFill: brand.bg
+    readonly property color wellFill: brand.bg
+    readonly property color surface: brand.bg2
+    readonly property color raised: brand.bg3
+    readonly property color text: brand.fg
+    readonly property color textSoft: brand.fg2
+    readonly property color textFaint: brand.fg3
+    readonly property color separator: brand.line
+    readonly property color controlBorder: brand.lineStrong
+    readonly property color lit: brand.accent
+    readonly property color focusRing: brand.accent
+    readonly property color danger: brand.accent2
+    readonly property color linked: brand.cool
+    readonly property color switchedOn: brand.cool
+    readonly property color onFill: brand.bg
+    readonly property color opened: brand.ok
 
     // ---- Derived colours
 
@@ -61,40 +48,37 @@ QtObject {
     readonly property color accentPressed: "#dfa147"
     readonly property color accent2Hover: "#fba9b4"
     readonly property color accent2Pressed: "#df7786"
-    readonly property color coolSoft: Qt.alpha(cool, 0.14)
-    readonly property color coolLine: Qt.alpha(cool, 0.55)
-    readonly property color accent2Soft: Qt.alpha(accent2, 0.14)
+    readonly property color coolSoft: Qt.alpha(brand.cool, 0.14)
+    readonly property color coolLine: Qt.alpha(brand.cool, 0.55)
+    readonly property color accent2Soft: Qt.alpha(brand.accent2, 0.14)
     readonly property color scrim: Qt.rgba(5 / 255, 8 / 255, 7 / 255, 0.72)
-    readonly property color rowHover: Qt.alpha(bg3, 0.55)
+    readonly property color rowHover: Qt.alpha(brand.bg3, 0.55)
     readonly property color transparent: "transparent"
     readonly property real disabledOpacity: 0.4
 
     // ---- Type
 
-    readonly property string displayFamily: brand.displayFamily
-    readonly property string serifFamily: brand.serifFamily
-    readonly property string monoFamily: brand.monoFamily
     /// Of a path inside a sentence, to the size around it.
     readonly property real inlinePathSize: 0.92
 
     component Display: TextStyle {
-        family: theme.displayFamily
+        family: theme.brand.displayFamily
         scale: theme.textScale
     }
     component Serif: TextStyle {
-        family: theme.serifFamily
+        family: theme.brand.serifFamily
         italic: true
         scale: theme.textScale
     }
     component Mono: TextStyle {
-        family: theme.monoFamily
+        family: theme.brand.monoFamily
         scale: theme.textScale
     }
 
-    readonly property TextStyle title: Display { size: 68; line: 72; weight: Font.ExtraBold; tracking: -2 }
-    readonly property TextStyle titleSerif: Serif { size: 76; line: 72; tracking: -1.1 }
-    readonly property TextStyle titleCompact: Display { size: 52; line: 56; weight: Font.ExtraBold; tracking: -1.6 }
-    readonly property TextStyle titleSerifCompact: Serif { size: 58; line: 56; tracking: -0.9 }
+    readonly property TextStyle title: Display { scale: 1; size: 68; line: 72; weight: Font.ExtraBold; tracking: -2 }
+    readonly property TextStyle titleSerif: Serif { scale: 1; size: 76; line: 72; tracking: -1.1 }
+    readonly property TextStyle titleCompact: Display { scale: 1; size: 52; line: 56; weight: Font.ExtraBold; tracking: -1.6 }
+    readonly property TextStyle titleSerifCompact: Serif { scale: 1; size: 58; line: 56; tracking: -0.9 }
     readonly property TextStyle nameField: Display { size: 26; line: 32; weight: Font.ExtraBold; tracking: -0.5 }
     readonly property TextStyle emptyTitle: Display { size: 24; line: 32; weight: Font.ExtraBold; tracking: -0.5 }
     readonly property TextStyle sheetTitle: Display { size: 20; line: 28; weight: Font.ExtraBold; tracking: -0.3 }
@@ -137,12 +121,15 @@ QtObject {
         return Qt.platform.os === "osx" ? hint : hint.replace(/⌘/g, "Ctrl+")
     }
 
+    function hasPaths(sentence: string): bool {
+        return /(^|[\s(«])~?\/[^\s]/.test(sentence)
+    }
     /// Markup (for `Text.RichText`) that sets the paths in a sentence in a face whose tilde isn't a dash.
     function withPaths(sentence: string, look: TextStyle): string {
         const size = Math.round(look.font.pixelSize * theme.inlinePathSize)
         const plain = sentence.replace(/&/g, "&amp;").replace(/</g, "&lt;").replace(/>/g, "&gt;")
-        const style = `font-family:'${theme.monoFamily}'; font-size:${size}px`
-        return plain.replace(/~?\/[^\s,;()«»]+/g, path => `<span style="${style}">${path}</span>`)
+        const style = `font-family:'${theme.brand.monoFamily}'; font-size:${size}px`
+        return plain.replace(/(^|[\s(«])(~?\/[^\s,;()«»]+)/g, `$1<span style="${style}">$2</span>`)
     }
 
     /// A measure that grows with the text: heights of whatever holds a line of it.
@@ -196,8 +183,6 @@ QtObject {
 
     // ---- Windows, sheets and layers
 
-    readonly property real pickerMargin: 36
-    readonly property real pickerMarginCompact: 24
     readonly property real detailMargin: 24
     readonly property real cardGap: 12
     readonly property real sheetMargin: 24
@@ -206,6 +191,15 @@ QtObject {
     readonly property real importWidth: 480
     readonly property real sessionImportWidth: 560
     readonly property real backupWidth: 480
+    readonly property real labelGap: 6 ///< from a field's label to the field
+    readonly property real titleGap: 10 ///< from the title of a section to what it heads
+    readonly property real checklistRows: 7.5 ///< at most, of a list among others
+    readonly property int checklistLeast: 3 ///< rows, of a list that gives way
+    readonly property real importRow: scaled(40)
+    readonly property real importRows: 5.5
+    readonly property real sessionRow: scaled(52)
+    readonly property real sessionListHeight: 280
+    readonly property real sessionSourceWidth: 200
     readonly property real busyWidth: 304
     readonly property real toastMargin: 24
 
@@ -216,41 +210,12 @@ QtObject {
     readonly property int busyLayer: 50
     readonly property int toolTipLayer: 60
 
-    // ---- Picker and its tiles
+    // ---- Windows
 
-    readonly property size pickerWindow: Qt.size(980, 660)
-    readonly property size pickerMinimum: Qt.size(720, 560)
-    readonly property real pickerFullWidth: 900 ///< below one of these the compact measures apply
-    readonly property real pickerFullHeight: 620
-    readonly property real pickerColumn: 1160
-    readonly property real pickerBar: 40
-    readonly property real pickerSpareAbove: 0.45
-    readonly property real opticalMargin: 3 ///< moves the title's C to where it looks aligned
-    readonly property real foliageTop: 108
-    /// Distances from the top, the footer's from the bottom; `height` is what they are drawn for.
-    readonly property var pickerFull: ({
-        height: 660, margin: pickerMargin, bar: 24, overline: 112, title: 132, subtitle: 216, tiles: 276, footer: 32
-    })
-    readonly property var pickerCompact: ({
-        height: 560, margin: pickerMarginCompact, bar: 20, overline: 88, title: 108, subtitle: 172, tiles: 228, footer: 24
-    })
-    readonly property real tileWidth: 184
-    readonly property real tileHeight: 272
-    readonly property real tileHeightCompact: 256
-    readonly property real tileGlyph: 80
-    readonly property real tileGear: 28
-    readonly property real tileGearMargin: 10
-    readonly property real tileNameTop: 116
-    readonly property real tileSummaryTop: 144
-    readonly property real tileBadgeBottom: 48
-    readonly property real statusDot: 8
-    readonly property real addTileWidth: 124
-    readonly property real addLeaf: 56
-    readonly property real addIcon: 24
-    readonly property real leafOutline: 1.5
-    readonly property list<real> seatOpacities: [1, 0.62, 0.28]
-    readonly property real stripSpare: 12 ///< so that scale, ring and shadow of a tile are not cut
-    readonly property real stripEdge: 48
+    readonly property size manageWindow: Qt.size(1000, 700)
+    readonly property size manageMinimum: Qt.size(880, 600)
+    readonly property PickerMeasures picker: PickerMeasures { textScale: theme.textScale }
+    readonly property ManageMeasures manage: ManageMeasures { textScale: theme.textScale }
 
     // ---- Motion: nothing moves or grows with reduced motion, and fades are short
 
@@ -269,6 +234,7 @@ QtObject {
     readonly property int toastOut: fading(160)
     readonly property int busyFade: fading(150)
     readonly property int busyCross: 900
+    readonly property int noticeDuration: 2500
     readonly property int toolTipDelay: 600
     readonly property real menuSlide: reducedMotion ? 0 : 4
     readonly property real sheetSlide: reducedMotion ? 0 : 8

@@ -24,12 +24,13 @@ Item {
     Rectangle {
         id: handle
 
-        readonly property real room: bar.height - 2 * bar.inset
+        readonly property real length: bar.height - 2 * bar.inset
+        readonly property real room: length - height ///< to move in
 
         x: bar.inset
-        y: bar.inset + bar.flickable.visibleArea.yPosition * room
+        y: bar.inset + bar.flickable.visibleArea.yPosition / (1 - bar.flickable.visibleArea.heightRatio) * room
         width: Theme.scrollBarWidth
-        height: Math.max(Theme.space24, bar.flickable.visibleArea.heightRatio * room)
+        height: Math.max(Theme.space24, bar.flickable.visibleArea.heightRatio * length)
         radius: width / 2
         color: Theme.controlBorder
     }
@@ -45,7 +46,7 @@ Item {
         }
         onPositionChanged: mouse => {
             const view = bar.flickable
-            const wanted = startY + (mouse.y - start) / handle.room * view.contentHeight
+            const wanted = startY + (mouse.y - start) / handle.room * (view.contentHeight - view.height)
             view.contentY = Math.max(0, Math.min(view.contentHeight - view.height, wanted))
         }
     }

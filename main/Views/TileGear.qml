@@ -14,8 +14,8 @@ Pressable {
 
     label: help
     tabStop: false // the settings have a key of their own
-    implicitWidth: Theme.tileGear
-    implicitHeight: Theme.tileGear
+    implicitWidth: Theme.picker.tileGear
+    implicitHeight: Theme.picker.tileGear
 
     Rectangle {
         anchors.fill: parent

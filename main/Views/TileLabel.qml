@@ -31,25 +31,32 @@ Item {
     }
     StyledText {
         anchors { left: parent.left; right: parent.right; margins: Theme.space16 }
-        y: Theme.tileNameTop
+        y: Theme.picker.tileNameTop
         look: Theme.tileName
         text: label.name
         elide: Text.ElideRight
         Accessible.ignored: true
     }
     StyledText {
+        readonly property int lines: label.isCompact && label.hasOwnAccount ? 2 : 3
+        readonly property bool hasPath: Theme.hasPaths(label.summary)
+
         anchors { left: parent.left; right: parent.right; margins: Theme.space16 }
-        y: Theme.tileSummaryTop
+        y: Theme.picker.tileSummaryTop
         look: Theme.summary
-        text: label.summary
+        text: hasPath ? Theme.withPaths(label.summary, look) : label.summary
+        textFormat: hasPath ? Text.RichText : Text.PlainText
+        // Only plain text can be cut by lines.
+        height: Math.min(implicitHeight, lines * look.lineHeight)
+        clip: hasPath
         color: Theme.textSoft
         wrapMode: Text.Wrap
-        maximumLineCount: label.isCompact && label.hasOwnAccount ? 2 : 3
+        maximumLineCount: lines
         elide: Text.ElideRight
         Accessible.ignored: true
     }
     Row {
-        anchors { left: parent.left; bottom: parent.bottom; leftMargin: Theme.space16; bottomMargin: Theme.tileBadgeBottom }
+        anchors { left: parent.left; bottom: parent.bottom; leftMargin: Theme.space16; bottomMargin: Theme.picker.tileBadgeBottom }
         spacing: Theme.space4
         visible: label.hasOwnAccount
 
@@ -58,12 +65,12 @@ Item {
             symbol: "person.badge.key"
             weight: PathIcon.Bold
             size: Theme.iconCaret
-            color: Theme.cool
+            color: Theme.linked
         }
         StyledText {
             look: Theme.badge
             text: qsTr("Account Claude separato")
-            color: Theme.cool
+            color: Theme.linked
             Accessible.ignored: true
         }
     }
@@ -74,9 +81,9 @@ Item {
         Rectangle {
             anchors.verticalCenter: parent.verticalCenter
             visible: label.isRunning
-            width: Theme.statusDot
-            height: Theme.statusDot
-            radius: Theme.statusDot / 2
+            width: Theme.picker.statusDot
+            height: Theme.picker.statusDot
+            radius: Theme.picker.statusDot / 2
             color: Theme.opened
         }
         StyledText {

@@ -14,26 +14,46 @@ ListView {
     required property string focused
     required property bool isCompact
     required property real margin
-
+    property TileMenu menu: null ///< made when it is first opened
 
     signal launched(string profileId)
     signal settingsAsked(string profileId)
     signal hovered(string profileId)
-    signal newProfileAsked
+    signal newProfileAsked(string source)
 
+    /// The menu of the focused tile, where it was asked for or below the tile's glyph.
+    function openMenu(tile = strip.itemAtIndex(strip.currentIndex), x = Theme.space16, y = Theme.picker.tileNameTop): void {
+        if (!tile)
+            return
+        if (!strip.menu)
+            strip.menu = menuComponent.createObject(strip) as TileMenu
+        strip.menu.profileId = strip.focused
+        strip.menu.openAt(tile, x, y, 0)
+    }
+    readonly property real firstX: originX - leftMargin
+    readonly property real lastX: Math.max(firstX, originX + contentWidth + rightMargin - width)
+
+    function scrollTo(x: real): void {
+        scrolling.to = Math.max(strip.firstX, Math.min(strip.lastX, x))
+        scrolling.restart()
+    }
     /// Keeps the focused tile away from the edges.
     function showFocused(): void {
-        const tile = strip.itemAtIndex(strip.currentIndex)
-        if (tile === null)
+        if (strip.currentIndex < 0)
             return
-        const edge = Theme.stripEdge
-        const leftmost = tile.x + tile.width + edge - strip.width
-        const rightmost = tile.x - edge
-        const last = Math.max(strip.originX - strip.margin,
-                              strip.originX + strip.contentWidth + strip.rightMargin - strip.width)
-        const wanted = Math.max(leftmost, Math.min(rightmost, strip.contentX))
-        scrolling.to = Math.max(strip.originX - strip.margin, Math.min(last, wanted))
-        scrolling.restart()
+        const left = strip.originX + strip.currentIndex * (Theme.picker.tileWidth + Theme.cardGap)
+        const leftmost = left + Theme.picker.tileWidth + Theme.picker.stripEdge - strip.width
+        const rightmost = strip.currentIndex === 0 ? strip.firstX : left - Theme.picker.stripEdge
+        strip.scrollTo(Math.max(leftmost, Math.min(rightmost, strip.contentX)))
+    }
+    /// The keyboard to the focused tile.
+    function takeFocus(): void {
+        if (strip.currentItem)
+            strip.currentItem.forceActiveFocus(Qt.OtherFocusReason)
+    }
+    function settle(): void {
+        strip.showFocused()
+        scrolling.complete()
     }
 
     orientation: ListView.Horizontal
@@ -46,6 +66,7 @@ ListView {
     highlightFollowsCurrentItem: false
     keyNavigationEnabled: false
     onCurrentIndexChanged: showFocused()
+    onWidthChanged: Qt.callLater(strip.settle) // the margins follow
 
     Accessible.role: Accessible.List
     Accessible.name: qsTr("Profili")
@@ -58,42 +79,70 @@ ListView {
         easing.type: Easing.OutCubic
     }
 
+    // A mouse's wheel turns one way only: a tile for each notch, which is 120.
+    WheelHandler {
+        orientation: Qt.Vertical
+        acceptedDevices: PointerDevice.Mouse
+        onWheel: event => strip.scrollTo((scrolling.running ? scrolling.to : strip.contentX)
+                                         - event.angleDelta.y / 120 * Theme.picker.tileWidth)
+    }
+    StripFade {
+        parent: strip
+        visible: strip.contentX > strip.firstX + Theme.hairline
+    }
+    StripFade {
+        parent: strip
+        visible: strip.contentX < strip.lastX - Theme.hairline
+        isRight: true
+    }
+
     delegate: ProfileTile {
         id: tile
 
         required property string profileId
 
-        y: Theme.stripSpare
+        y: Theme.picker.stripSpare
         count: strip.profiles.count
         isFocused: profileId === strip.focused
         isCompact: strip.isCompact
         onLaunched: strip.launched(tile.profileId)
         onSettingsAsked: strip.settingsAsked(tile.profileId)
         onHovered: strip.hovered(tile.profileId)
+        onMenuAsked: (x, y) => strip.openMenu(tile, x, y)
+    }
+    Component {
+        id: menuComponent
+
+        TileMenu {
+            onLaunched: profileId => strip.launched(profileId)
+            onSettingsAsked: profileId => strip.settingsAsked(profileId)
+            onNewProfileAsked: source => strip.newProfileAsked(source)
+        }
     }
     Row {
         id: end
 
-        readonly property real taken: strip.count * (Theme.tileWidth + Theme.cardGap) + Theme.addTileWidth
+        readonly property real taken: strip.count * (Theme.picker.tileWidth + Theme.cardGap) + Theme.picker.addTileWidth
         readonly property real free: strip.width - 2 * strip.margin - taken
-        readonly property int seats: Math.floor(free / (Theme.tileWidth + Theme.cardGap))
+        readonly property int seats: Math.floor(free / (Theme.picker.tileWidth + Theme.cardGap))
 
-        parent: strip.contentItem
-        x: strip.originX + strip.contentWidth + Theme.cardGap
-        y: Theme.stripSpare
+        // Outside the scrolled item, where it would come before the tiles for the keyboard.
+        parent: strip
+        x: strip.originX + strip.contentWidth + Theme.cardGap - strip.contentX
+        y: Theme.picker.stripSpare
         spacing: Theme.cardGap
 
         AddProfileTile {
             isCompact: strip.isCompact
-            onClicked: strip.newProfileAsked()
+            onClicked: strip.newProfileAsked(strip.focused)
         }
         Repeater {
-            model: strip.isCompact ? 0 : Math.max(0, Math.min(Theme.seatOpacities.length, end.seats))
+            model: strip.isCompact ? 0 : Math.max(0, Math.min(Theme.picker.seatOpacities.length, end.seats))
 
             delegate: EmptySeat {
                 required property int index
 
-                opacity: Theme.seatOpacities[index]
+                opacity: Theme.picker.seatOpacities[index]
             }
         }
     }

@@ -11,29 +11,11 @@
 
 #include "AppModel.h"
 #include "support/Home.h"
+#include "windows/FakeBridge.h"
 
 namespace selvane::test {
 
 namespace fs = std::filesystem;
-
-/// Records what the windows ask of the desktop.
-struct FakeBridge final : DesktopBridge {
-    int ends = 0;
-    QString clipboard;
-    std::vector<fs::path> revealed;
-    std::vector<fs::path> opened;
-    QString proposedName;
-    std::optional<fs::path> archive; ///< the answer of the save dialog
-
-    void endApplication() override { ++ends; }
-    void copyToClipboard(const QString& text) override { clipboard = text; }
-    void reveal(const fs::path& item) override { revealed.push_back(item); }
-    void open(const fs::path& file) override { opened.push_back(file); }
-    void askForArchive(const QString& name, std::function<void(std::optional<fs::path>)> done) override {
-        proposedName = name;
-        done(archive);
-    }
-};
 
 class AppModelTest : public testing::Test {
 protected:

@@ -37,18 +37,21 @@ TEST_F(FormsTest, newProfile_SetAll_TakesTheNearestModeWhereNeeded) {
     form.setSource("default");
     const auto modes = [&] {
         std::string result;
-        for (int row = 0; row < form.rowCount(); ++row)
-            result += form.data(form.index(row), NewProfileForm::ModeRole).toString().toStdString() + " ";
+        for (int row = 0; row < form.rowCount(); ++row) {
+            const auto labels = form.data(form.index(row), NewProfileForm::ModeLabelsRole).toStringList();
+            const int chosen = form.data(form.index(row), NewProfileForm::ModeIndexRole).toInt();
+            result += labels.at(chosen)[0].toLatin1(); // the initials differ
+        }
         return result;
     };
-    EXPECT_EQ(modes(), "shared shared shared shared shared extend separate separate separate ");
-    form.setAll("separate");
-    EXPECT_EQ(modes(), "separate separate separate separate separate separate separate separate separate ");
-    form.setMode(6, "shared"); // settings can't be
-    form.setMode(0, "none");
-    EXPECT_EQ(modes(), "none separate separate separate separate separate separate separate separate ");
-    form.setAll("shared");
-    EXPECT_EQ(modes(), "shared shared shared shared shared shared separate separate separate ");
+    EXPECT_EQ(modes(), "UUUUUESSS");
+    form.separateAll();
+    EXPECT_EQ(modes(), "SSSSSSSSS");
+    form.setMode(6, 2); // settings have two modes
+    form.setMode(0, 2);
+    EXPECT_EQ(modes(), "VSSSSSSSS");
+    form.shareAll();
+    EXPECT_EQ(modes(), "UUUUUUSSS");
 }
 
 TEST_F(FormsTest, newProfile_Create_MakesWhatWasChosen) {
@@ -88,7 +91,7 @@ TEST_F(FormsTest, import_OffersWhatIsMissingByName) {
     writeFile(target.configDir / "rules/uno.md", "own");
     ImportForm form;
     prepare(form, {{"target", "lavoro"}, {"component", "rules"}});
-    form.begin();
+    form.componentComplete();
     EXPECT_EQ(form.source(), "default");
     EXPECT_EQ(form.heading(), "Regole (rules/) non ancora presenti in «Lavoro»");
     EXPECT_EQ(titles(*form.items()), std::vector<std::string>{"due.md"});
@@ -111,7 +114,7 @@ TEST_F(FormsTest, sessionImport_SearchNarrowsWhatIsChosen) {
     home.make("Lavoro");
     SessionImportForm form;
     prepare(form, {{"target", "lavoro"}});
-    form.begin();
+    form.componentComplete();
     EXPECT_TRUE(form.isLoading());
     const QDeadlineTimer limit(20'000);
     while (form.isLoading() && !limit.hasExpired())

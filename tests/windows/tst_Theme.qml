@@ -17,7 +17,7 @@ TestCase {
 
     function test_fontsAreThereInTheirWeights() {
         const families = Qt.fontFamilies()
-        for (const family of [Theme.displayFamily, Theme.serifFamily, Theme.monoFamily])
+        for (const family of [Theme.brand.displayFamily, Theme.brand.serifFamily, Theme.brand.monoFamily])
             verify(families.includes(family), family)
         verify(heavy.advanceWidth > light.advanceWidth)
     }
@@ -26,6 +26,7 @@ TestCase {
         return [
             { tag: "in brackets", sentence: "Claude (~/.claude)", path: "~/.claude", rest: "Claude ()" },
             { tag: "two", sentence: "~/.claude, ~/.claude.json e dati", path: "~/.claude", rest: ", e dati" },
+            { tag: "no path", sentence: "prove e/o progetti", path: "", rest: "prove e/o progetti" },
             { tag: "markup", sentence: "<b> & altro", path: "", rest: "&lt;b&gt; &amp; altro" }
         ]
     }

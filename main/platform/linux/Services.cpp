@@ -25,7 +25,7 @@ using TableFunction = const Services* (*)();
 
 const Services& load() {
     const std::filesystem::path module = modulePath(kModuleName);
-    void* const handle = dlopen(module.c_str(), RTLD_NOW | RTLD_LOCAL);
+    void* const handle = dlopen(module.c_str(), RTLD_LAZY | RTLD_LOCAL);
     if (handle == nullptr)
         fail(module);
     const auto table = reinterpret_cast<TableFunction>(dlsym(handle, "selvane_services"));

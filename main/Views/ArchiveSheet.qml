@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// Asks where to save an archive, where the desktop has no dialog for that.
+Sheet {
+    id: sheet
+
+    required property string place ///< proposed
+
+    signal chosen(string place) ///< as typed; empty when it was cancelled
+
+    title: qsTr("Salva il backup")
+    confirmText: qsTr("Salva")
+    confirmEnabled: field.text.trim() !== ""
+    firstFocus: field
+    onConfirmed: chosen(field.text)
+    onCancelled: chosen("")
+
+    TextInputField {
+        id: field
+
+        width: parent.width
+        label: qsTr("File")
+        text: sheet.place
+    }
+}

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// Ticks every choice, or none.
+Row {
+    id: links
+
+    required property ChoiceListModel choices
+    required property string allText
+    required property string noneText
+    property string subject ///< tells apart, by their accessible names, the links of several lists
+
+    function named(text: string): string {
+        return links.subject === "" ? text : links.subject + ": " + text
+    }
+
+    spacing: Theme.space12
+
+    TextLink {
+        text: links.allText
+        label: links.named(text)
+        onClicked: links.choices.chooseAll()
+    }
+    TextLink {
+        text: links.noneText
+        label: links.named(text)
+        onClicked: links.choices.chooseNone()
+    }
+}

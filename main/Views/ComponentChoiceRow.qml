@@ -1,0 +1,115 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// One component of the source: how a new profile takes it, and which of its items.
+Item {
+    id: row
+
+    required property string title
+    required property string symbol
+    required property list<string> modeLabels
+    required property list<string> modeExplanations
+    required property int modeIndex
+    required property ChoiceListModel items ///< null for what is no folder
+    property bool expanded: false
+
+    readonly property real inset: icon.width + icon.anchors.rightMargin
+    readonly property real shownRows: Math.min(list.contentHeight, Theme.checklistRows * list.rowHeight)
+
+    signal modeChosen(int index)
+
+    implicitHeight: content.y + content.height
+
+    Rectangle {
+        width: parent.width
+        height: Theme.hairline
+        color: Theme.separator
+    }
+    Column {
+        id: content
+
+        y: Theme.hairline
+        width: parent.width
+        topPadding: 10
+        bottomPadding: row.items ? Theme.space8 : 10
+        spacing: 2
+
+        Item {
+            width: parent.width
+            height: modes.height
+
+            PathIcon {
+                id: icon
+
+                anchors.verticalCenter: parent.verticalCenter
+                anchors.rightMargin: 10
+                symbol: row.symbol
+                size: Theme.iconAlone
+                color: Theme.textSoft
+            }
+            StyledText {
+                anchors.verticalCenter: parent.verticalCenter
+                anchors.left: icon.right
+                anchors.leftMargin: 10
+                anchors.right: modes.left
+                anchors.rightMargin: Theme.space12
+                look: Theme.control
+                text: row.title
+                elide: Text.ElideRight
+                Accessible.role: Accessible.Heading
+                Accessible.name: text
+            }
+            DropDown {
+                id: modes
+
+                anchors.right: parent.right
+                size: DropDown.Small
+                label: row.title
+                labels: row.modeLabels
+                explanations: row.modeExplanations
+                currentIndex: row.modeIndex
+                onChosen: index => row.modeChosen(index)
+            }
+        }
+        Item {
+            width: parent.width
+            height: count.height
+            visible: row.items !== null
+
+            Disclosure {
+                id: count
+
+                x: row.inset
+                text: qsTr("%1 di %2 selezionati").arg(row.items?.chosenCount ?? 0).arg(row.items?.total ?? 0)
+                label: row.title + ": " + text
+                expandable: (row.items?.total ?? 0) > 0
+                expanded: row.expanded
+                onToggled: expanded => row.expanded = expanded
+            }
+            ChoiceLinks {
+                anchors.right: parent.right
+                visible: count.expandable
+                choices: row.items
+                allText: qsTr("Tutti")
+                noneText: qsTr("Nessuno")
+                subject: row.title
+            }
+        }
+        Checklist {
+            id: list
+
+            x: row.inset
+            width: parent.width - x
+            height: row.shownRows
+            visible: row.expanded && count.expandable
+            choices: row.expanded ? row.items : null
+            label: row.title
+            columns: 2
+        }
+    }
+}

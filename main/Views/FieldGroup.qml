@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// A field's label above something that has none of its own.
+Column {
+    id: group
+
+    required property string label
+
+    spacing: Theme.labelGap
+
+    StyledText {
+        width: parent.width
+        look: Theme.fieldLabel
+        text: group.label
+        color: Theme.textSoft
+        elide: Text.ElideRight
+        Accessible.ignored: true
+    }
+}

@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// A component that is a single file: what there is of it, and what can be done with it.
+Card {
+    id: section
+
+    required property ComponentModel component
+
+    signal reimportAsked
+
+    implicitHeight: buttons.y + rowHeight + Theme.space12
+
+    readonly property real rowHeight: Math.max(buttons.height, description.height)
+
+    Accessible.role: Accessible.Grouping
+    Accessible.name: component.title
+
+    SectionHeader {
+        id: header
+
+        y: Theme.space12
+        width: parent.width
+        height: Theme.smallHeight
+        component: section.component
+    }
+    Row {
+        id: description
+
+        x: Theme.manage.itemTextLeft
+        y: buttons.y + (section.rowHeight - height) / 2
+
+        Accessible.role: Accessible.StaticText
+        Accessible.name: section.component.description
+
+        StyledText {
+            id: words
+
+            readonly property string target: section.component.linkTarget
+
+            width: Math.min(implicitWidth, buttons.x - description.x - Theme.space12)
+            look: Theme.small
+            text: section.component.description.slice(0, section.component.description.length - target.length)
+            color: Theme.textSoft
+            wrapMode: Text.Wrap
+            Accessible.ignored: true
+        }
+        StyledText {
+            anchors.verticalCenter: parent.verticalCenter
+            width: Math.min(implicitWidth, buttons.x - description.x - words.width - Theme.space12)
+            look: Theme.listPath
+            text: words.target
+            color: Theme.textFaint
+            elide: Text.ElideMiddle
+            Accessible.ignored: true
+        }
+    }
+    Row {
+        id: buttons
+
+        anchors { right: parent.right; rightMargin: Theme.space12 }
+        y: header.y + header.height + Theme.space8
+        spacing: Theme.space8
+
+        GhostButton {
+            size: GhostButton.Small
+            text: qsTr("Mostra")
+            onClicked: section.component.reveal()
+        }
+        GhostButton {
+            visible: text !== ""
+            size: GhostButton.Small
+            text: section.component.openLabel
+            onClicked: section.component.open()
+        }
+        GhostButton {
+            visible: section.component.canReimport
+            size: GhostButton.Small
+            text: qsTr("Reimporta")
+            help: qsTr("Copia di nuovo da %1").arg(section.component.sourceName)
+            onClicked: section.reimportAsked()
+        }
+    }
+}

@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// A profile's symbol as a button, which opens the choice of another one.
+Pressable {
+    id: button
+
+    required property string symbol
+    required property real size
+    property SymbolPopover choice: null ///< made when it is first opened
+
+    signal picked(string symbol)
+
+    function open(): void {
+        if (!choice)
+            choice = choiceComponent.createObject(button) as SymbolPopover
+        choice.openAt(button, 0, button.height + Theme.space8, button.height)
+        choice.begin()
+    }
+
+    implicitWidth: size
+    implicitHeight: size
+    label: qsTr("Cambia icona")
+    help: qsTr("Cambia icona")
+    onClicked: open()
+
+    ProfileGlyph {
+        size: button.size
+        symbol: button.symbol
+    }
+    LeafShape {
+        anchors.fill: parent
+        anchors.margins: -Theme.ringGap
+        visible: button.ringed
+        tip: Theme.ringTip
+        borderWidth: Theme.thickLine
+        borderColor: Theme.focusRing
+    }
+    Rectangle {
+        anchors { right: parent.right; bottom: parent.bottom }
+        anchors.rightMargin: -Theme.manage.pencilOverlap.x - Theme.manage.pencilRing
+        anchors.bottomMargin: -Theme.manage.pencilOverlap.y - Theme.manage.pencilRing
+        width: Theme.manage.pencilBadge + 2 * Theme.manage.pencilRing
+        height: width
+        radius: width / 2
+        color: button.hovered ? Theme.separator : Theme.raised
+        border.width: Theme.manage.pencilRing
+        border.color: Theme.windowFill
+
+        PathIcon {
+            anchors.centerIn: parent
+            symbol: "pencil"
+            size: Theme.iconSmall
+            weight: PathIcon.Regular
+            color: button.hovered ? Theme.text : Theme.textSoft
+        }
+    }
+    Component {
+        id: choiceComponent
+
+        SymbolPopover {
+            selection: button.symbol
+            onPicked: symbol => button.picked(symbol)
+        }
+    }
+}

@@ -1,0 +1,133 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// The items of a component, as high as all of them are, though only the rows in sight exist. One stop of the
+/// Tab key, where the arrows move from row to row.
+Item {
+    id: list
+
+    required property ComponentModel component
+    required property ItemMenu menu
+    /// What of the scrolled column is in sight, from the list's top.
+    required property real visibleTop
+    required property real visibleHeight
+    property int currentRow: 0
+
+    readonly property int count: component.items.count
+    readonly property ItemRow currentItem: rows.currentItem as ItemRow
+
+    /// A row was moved to, which is to be scrolled into sight.
+    signal rowReached(Item row)
+
+    function moveTo(row: int): void {
+        list.currentRow = Math.max(0, Math.min(row, list.count - 1))
+        list.rowReached(cursor)
+    }
+    function openMenu(x: real, y: real, height: real): void {
+        if (list.currentItem)
+            list.menu.openFor(list.component, list.currentItem, cursor, x, y, height)
+    }
+    function openMenuByKey(): void {
+        list.openMenu(cursor.width - Theme.manage.itemMenuRight - Theme.smallHeight, cursor.height, cursor.height)
+        list.menu.move(1)
+    }
+    function within(y: real): real {
+        return Math.max(0, Math.min(y, list.implicitHeight))
+    }
+
+    implicitHeight: count * Theme.manage.itemHeight
+
+    Accessible.role: Accessible.List
+    Accessible.name: component.title
+
+    onCountChanged: {
+        list.currentRow = Math.max(0, Math.min(list.currentRow, list.count - 1))
+        if (list.count === 0 && cursor.activeFocus)
+            cursor.nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+    }
+
+    ListView {
+        id: rows
+
+        // It never scrolls by itself: it is moved along with what is in sight.
+        y: list.within(list.visibleTop - Theme.manage.itemSpare)
+        width: list.width
+        height: list.within(list.visibleTop + list.visibleHeight + Theme.manage.itemSpare) - y
+        contentY: y
+        interactive: false
+        cacheBuffer: 0
+        reuseItems: true
+        highlightFollowsCurrentItem: false
+        model: list.component.items
+        currentIndex: list.currentRow
+
+        delegate: ItemRow {
+            id: row
+
+            width: ListView.view.width
+            sourceName: list.component.sourceName
+            onPressed: {
+                list.currentRow = row.index
+                cursor.forceActiveFocus(Qt.MouseFocusReason)
+            }
+            onMenuAsked: (x, y, height) => {
+                list.currentRow = row.index
+                list.openMenu(x, y, height)
+            }
+        }
+    }
+    Item {
+        id: cursor
+
+        y: list.currentRow * Theme.manage.itemHeight
+        width: list.width
+        height: Theme.manage.itemHeight
+        activeFocusOnTab: list.count > 0
+
+        Accessible.ignored: list.count === 0
+        Accessible.role: Accessible.ListItem
+        Accessible.name: list.currentItem?.name ?? ""
+        Accessible.description: list.currentItem?.origin ?? ""
+        Accessible.focusable: true
+
+        Keys.onUpPressed: list.moveTo(list.currentRow - 1)
+        Keys.onDownPressed: list.moveTo(list.currentRow + 1)
+        Keys.onMenuPressed: list.openMenuByKey()
+        Keys.onSpacePressed: list.openMenuByKey()
+        Keys.onReturnPressed: event => {
+            event.accepted = event.modifiers === Qt.NoModifier
+            if (event.accepted)
+                list.openMenuByKey()
+        }
+        Keys.onPressed: event => {
+            const page = Math.max(1, Math.floor(list.visibleHeight / Theme.manage.itemHeight) - 1)
+            event.accepted = true
+            if (event.key === Qt.Key_Home)
+                list.moveTo(0)
+            else if (event.key === Qt.Key_End)
+                list.moveTo(list.count - 1)
+            else if (event.key === Qt.Key_PageUp)
+                list.moveTo(list.currentRow - page)
+            else if (event.key === Qt.Key_PageDown)
+                list.moveTo(list.currentRow + page)
+            else if (event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier)
+                list.openMenuByKey()
+            else
+                event.accepted = false
+        }
+
+        Rectangle {
+            anchors.fill: parent
+            visible: cursor.activeFocus && Theme.showsFocus
+            radius: Theme.radiusCard
+            color: Theme.transparent
+            border.width: Theme.thickLine
+            border.color: Theme.focusRing
+        }
+    }
+}

@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QAbstractListModel>
+#include <QQmlEngine>
+
+#include <vector>
+
+#include "model/ComponentItem.h"
+
+namespace selvane {
+
+/// The items of one component's folder, each with its relation to the source profile.
+class ItemListModel : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("owned by a ComponentModel")
+
+    Q_PROPERTY(int count READ count NOTIFY countChanged)
+
+public:
+    enum Kind {
+        Merged, ///< linked to the source's item
+        Linked, ///< linked to somewhere else
+        Own,
+        Broken, ///< a link that leads nowhere
+    };
+    Q_ENUM(Kind)
+    enum Role { NameRole = Qt::UserRole, KindRole, IsLinkRole };
+
+    struct Entry {
+        ComponentItem item;
+        Kind kind = Own;
+
+        bool operator==(const Entry&) const = default;
+    };
+
+    using QAbstractListModel::QAbstractListModel;
+
+    /// The rows begin anew only when something has changed.
+    void setEntries(std::vector<Entry> entries);
+    const ComponentItem* item(int row) const; ///< null outside the list
+
+    int count() const { return static_cast<int>(m_entries.size()); }
+    int linkCount() const;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+signals:
+    void countChanged();
+
+private:
+    std::vector<Entry> m_entries;
+};
+
+} // namespace selvane

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// What can be done with an item of a component.
+ContextMenu {
+    id: menu
+
+    property ComponentModel component: null
+    property int row: -1
+    property bool isLink: false
+
+    /// Opens for a row of the component, at a place in `at`.
+    function openFor(component: ComponentModel, row: ItemRow, at: Item, x: real, y: real, height: real): void {
+        menu.component = component
+        menu.row = row.index
+        menu.isLink = row.isLink
+        menu.openAt(at, x, y, height)
+    }
+
+    Connections {
+        target: menu.component?.items ?? null
+
+        // The row may be another item's now.
+        function onModelReset(): void {
+            menu.close()
+        }
+    }
+    MenuEntry {
+        text: menu.isLink ? qsTr("Scollega da questo profilo") : qsTr("Sposta nel Cestino")
+        icon: menu.isLink ? "link-break" : ""
+        symbol: "trash"
+        onTriggered: menu.component.remove(menu.row)
+    }
+    MenuEntry {
+        visible: menu.isLink
+        text: qsTr("Rendi propria (copia indipendente)")
+        icon: "copy"
+        onTriggered: menu.component.makeOwn(menu.row)
+    }
+    MenuDivider {}
+    MenuEntry {
+        text: qsTr("Mostra nel Finder")
+        symbol: "folder"
+        onTriggered: menu.component.revealItem(menu.row)
+    }
+}

@@ -1,0 +1,106 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// One item of a component: what it is called and where it comes from.
+Item {
+    id: row
+
+    required property int index
+    required property string name
+    required property int kind
+    required property bool isLink
+    required property string sourceName
+
+    readonly property string origin: {
+        switch (row.kind) {
+        case ItemListModel.Merged:
+            return qsTr("unificata con «%1»").arg(row.sourceName)
+        case ItemListModel.Linked:
+            return qsTr("collegata")
+        case ItemListModel.Broken:
+            return qsTr("collegamento interrotto")
+        default:
+            return qsTr("propria")
+        }
+    }
+
+    signal pressed
+    signal menuAsked(real x, real y, real height) ///< at a place in the row, as high as what opens it
+
+    implicitHeight: Theme.manage.itemHeight
+
+    Accessible.role: Accessible.ListItem
+    Accessible.name: name
+    Accessible.description: origin
+
+    HoverHandler {
+        id: pointer
+    }
+    MouseArea {
+        anchors.fill: parent
+        acceptedButtons: Qt.LeftButton | Qt.RightButton
+        onClicked: mouse => {
+            row.pressed()
+            if (mouse.button === Qt.RightButton)
+                row.menuAsked(mouse.x, mouse.y, 0)
+        }
+    }
+    Rectangle {
+        anchors.fill: parent
+        color: pointer.hovered ? Theme.raised : Qt.alpha(Theme.raised, 0)
+
+        Rectangle {
+            width: parent.width
+            height: Theme.hairline
+            color: Theme.separator
+        }
+    }
+    PathIcon {
+        anchors.verticalCenter: parent.verticalCenter
+        x: Theme.manage.itemIconLeft - Theme.hairline
+        name: row.isLink ? "" : "file-text"
+        symbol: row.kind === ItemListModel.Broken ? "exclamationmark.triangle" : "link"
+        size: Theme.iconControl
+        color: row.kind === ItemListModel.Broken ? Theme.danger : row.isLink ? Theme.linked : Theme.textFaint
+    }
+    StyledText {
+        anchors.verticalCenter: parent.verticalCenter
+        x: Theme.manage.itemTextLeft - Theme.hairline
+        width: badge.x - x - Theme.space12
+        look: Theme.control
+        text: row.name
+        elide: Text.ElideRight
+        Accessible.ignored: true
+    }
+    Badge {
+        id: badge
+
+        readonly property real room: menuButton.x - Theme.manage.itemBadgeGap - Theme.manage.itemTextLeft
+                                     - Theme.manage.itemNameLeast - Theme.space12
+
+        anchors.verticalCenter: parent.verticalCenter
+        x: menuButton.x - Theme.manage.itemBadgeGap - width
+        width: Math.min(implicitWidth, room)
+        kind: row.kind
+        text: row.origin
+        isRowHovered: pointer.hovered
+        Accessible.ignored: true
+    }
+    GhostButton {
+        id: menuButton
+
+        anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+        anchors.rightMargin: Theme.manage.itemMenuRight - Theme.hairline
+        tabStop: false
+        bare: true
+        size: GhostButton.Small
+        symbol: "ellipsis.circle"
+        label: qsTr("Azioni per «%1»").arg(row.name)
+        onClicked: row.menuAsked(x, y + height + Theme.space4, height)
+    }
+}

@@ -1,0 +1,126 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// What the application tells and asks over a window: that work goes on in every window; notices, errors and
+/// the questions of a launch in the key window alone, one question at a time.
+Item {
+    id: feedback
+
+    required property AppModel app
+    required property bool isKey
+    property int noticeDuration: Theme.noticeDuration
+    property AlertDialog alert: null
+    property string alertKind
+
+    readonly property bool isBusy: app.busyMessage !== ""
+    readonly property string wantedAlert: !isKey ? "" : app.errorMessage !== "" ? "error"
+                                        : app.pendingLaunch !== "" ? "launch"
+                                        : app.offerForceQuit !== "" ? "force" : ""
+
+    signal newProfileAsked
+
+    /// "Nuovo profilo…" was chosen from the menu: the key window alone answers.
+    function offerNewProfile(): void {
+        if (feedback.isKey && !feedback.isBusy && feedback.alertKind === "")
+            feedback.newProfileAsked()
+    }
+    function update(): void {
+        if (feedback.wantedAlert === feedback.alertKind)
+            return
+        feedback.alertKind = feedback.wantedAlert
+        if (feedback.alert)
+            feedback.alert.close()
+        feedback.alert = null
+        if (feedback.alertKind === "error")
+            feedback.alert = errorAlert.createObject(feedback, {message: feedback.app.errorMessage}) as AlertDialog
+        else if (feedback.alertKind === "launch")
+            feedback.alert = launchAlert.createObject(feedback, {message: feedback.app.closeMessage}) as AlertDialog
+        else if (feedback.alertKind === "force")
+            feedback.alert = forceAlert.createObject(feedback) as AlertDialog
+    }
+
+    anchors.fill: parent
+    z: Theme.toastLayer
+
+    onWantedAlertChanged: update()
+    Component.onCompleted: update()
+
+    Connections {
+        target: feedback.app
+
+        function onNoticeShown(): void {
+            if (noticeTimer.running)
+                noticeTimer.restart()
+        }
+        function onErrorMessageChanged(): void {
+            if (feedback.alertKind === "error" && feedback.app.errorMessage !== "")
+                feedback.alert.message = feedback.app.errorMessage
+        }
+    }
+    Timer {
+        id: noticeTimer
+
+        interval: feedback.noticeDuration
+        running: toast.isShown
+        onTriggered: feedback.app.clearNotice()
+    }
+
+    Toast {
+        id: toast
+
+        objectName: "toast"
+        text: feedback.isKey ? feedback.app.notice : ""
+    }
+    BusyOverlay {
+        message: feedback.app.busyMessage
+    }
+
+    Component {
+        id: errorAlert
+
+        AlertDialog {
+            id: alert
+
+            title: qsTr("Errore")
+            cancelText: ""
+            isError: true
+            onConfirmed: feedback.app.clearError()
+            onCancelled: feedback.app.clearError()
+            onClosed: alert.destroy()
+        }
+    }
+    Component {
+        id: launchAlert
+
+        AlertDialog {
+            id: alert
+
+            title: qsTr("Account già aperto in Claude")
+            confirmText: qsTr("Chiudi e riapri")
+            onConfirmed: feedback.app.confirmLaunch()
+            onCancelled: feedback.app.cancelLaunch()
+            onClosed: alert.destroy()
+        }
+    }
+    Component {
+        id: forceAlert
+
+        AlertDialog {
+            id: alert
+
+            title: qsTr("Claude non si è chiuso")
+            message: qsTr("Claude potrebbe avere una finestra di conferma aperta. Puoi chiuderlo a mano oppure "
+                          + "forzarne la chiusura.")
+            confirmText: qsTr("Forza chiusura")
+            destructive: true
+            onConfirmed: feedback.app.forceLaunch()
+            onCancelled: feedback.app.cancelForceQuit()
+            onClosed: alert.destroy()
+        }
+    }
+}

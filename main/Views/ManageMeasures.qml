@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+/// The measures of the management window.
+QtObject {
+    id: measures
+
+    required property real textScale
+
+    function scaled(measure: real): real {
+        return Math.round(measure * measures.textScale)
+    }
+
+    // ---- Sidebar
+
+    readonly property real sidebarWidth: 272
+    readonly property real sidebarMargin: 20
+    readonly property real listTop: scaled(48)
+    readonly property real listInset: 12
+    readonly property real profileHeight: scaled(52)
+    readonly property real profileGap: 4
+    readonly property real profileGlyph: 32
+    readonly property real markGap: 7
+    readonly property real markLeaf: 9
+    readonly property real markTip: 1
+    readonly property real markDot: 8
+
+    // ---- Detail
+
+    readonly property real narrowDetail: scaled(680) ///< below it the narrow layout applies
+    readonly property real toolBarHeight: scaled(48)
+    readonly property real toolBarInset: 14
+    readonly property real toolBarInsetNarrow: 20
+    readonly property real glyph: 88
+    readonly property real glyphNarrow: 72
+    readonly property real glyphTopNarrow: 12
+    readonly property real pencilBadge: 28
+    readonly property real pencilRing: 3
+    readonly property point pencilOverlap: Qt.point(6, 4)
+
+    // ---- Cards
+
+    readonly property real cardTop: 14
+    readonly property real cardHeight: scaled(132)
+    readonly property real accountWidth: 280
+    readonly property real accountHeightNarrow: scaled(64)
+    readonly property real accountChoiceNarrow: 176
+    readonly property real sectionHeader: scaled(52)
+    readonly property real itemHeight: scaled(36)
+    readonly property real sectionFooter: scaled(44)
+    readonly property real itemIconLeft: 17
+    readonly property real itemTextLeft: 44
+    readonly property real itemMenuRight: 10
+    readonly property real itemBadgeGap: 13 ///< to the menu button
+    readonly property real itemNameLeast: 96 ///< kept for the name beside a long badge
+    readonly property real itemSpare: 4 * itemHeight ///< kept above and below what is in sight
+
+    // ---- Empty detail
+
+    readonly property real emptyMark: 72
+    readonly property real emptyRaised: 18 ///< above the middle
+    readonly property real emptyFoliage: 184 ///< above the bottom
+}

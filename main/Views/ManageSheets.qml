@@ -1,0 +1,112 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// The sheets and the questions of the management window, over all of it and one at a time.
+Item {
+    id: sheets
+
+    required property AppModel app
+    property ModalLayer current: null
+    readonly property bool isOpen: current !== null
+
+    function newProfile(source: string): void {
+        sheets.open(newProfileSheet, {initialSource: source})
+    }
+    function importItems(target: string, component: string): void {
+        sheets.open(importSheet, {target: target, component: component})
+    }
+    function importSessions(target: string): void {
+        sheets.open(sessionImportSheet, {target: target})
+    }
+    function backUp(): void {
+        sheets.open(backupSheet, {})
+    }
+    function askToDelete(profile: ProfileDetailModel): void {
+        sheets.open(deleteAlert, {
+            profile: profile,
+            profileId: profile.profileId,
+            title: qsTr("Spostare «%1» nel Cestino?").arg(profile.name)
+        })
+    }
+    function askToReimport(profileId: string, component: ComponentModel): void {
+        sheets.open(reimportAlert, {
+            profileId: profileId,
+            component: component,
+            title: qsTr("Reimportare da «%1»?").arg(component.sourceName)
+        })
+    }
+    function open(kind: Component, values: var): void {
+        if (!sheets.isOpen)
+            sheets.current = kind.createObject(sheets, values) as ModalLayer
+    }
+    function drop(): void {
+        sheets.current.destroy()
+        sheets.current = null
+    }
+
+    Component {
+        id: newProfileSheet
+
+        NewProfileSheet {
+            app: sheets.app
+            onClosed: sheets.drop()
+        }
+    }
+    Component {
+        id: importSheet
+
+        ImportSheet {
+            app: sheets.app
+            onClosed: sheets.drop()
+        }
+    }
+    Component {
+        id: sessionImportSheet
+
+        SessionImportSheet {
+            app: sheets.app
+            onClosed: sheets.drop()
+        }
+    }
+    Component {
+        id: backupSheet
+
+        BackupSheet {
+            app: sheets.app
+            onClosed: sheets.drop()
+        }
+    }
+    Component {
+        id: deleteAlert
+
+        AlertDialog {
+            required property ProfileDetailModel profile
+            required property string profileId
+
+            message: qsTr("La cartella del profilo con skill, regole, sessioni e memoria verrà spostata nel Cestino.")
+            confirmText: qsTr("Sposta nel Cestino")
+            destructive: true
+            onConfirmed: profile.remove(profileId)
+            onClosed: sheets.drop()
+        }
+    }
+    Component {
+        id: reimportAlert
+
+        AlertDialog {
+            required property ComponentModel component
+            required property string profileId
+
+            message: qsTr("%1 di questo profilo verranno sostituiti con quelli della sorgente.").arg(component.title)
+            confirmText: qsTr("Sovrascrivi")
+            destructive: true
+            onConfirmed: component.reimport(profileId)
+            onClosed: sheets.drop()
+        }
+    }
+}

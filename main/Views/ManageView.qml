@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// What the management window shows: the profiles beside the selected one's detail.
+FocusScope {
+    id: view
+
+    required property AppModel app
+    required property Updates updates
+
+    readonly property bool hasSheet: sheets.isOpen
+    /// Whether the application waits for an answer, or works.
+    readonly property bool isOccupied: app.busyMessage !== "" || app.errorMessage !== "" || app.pendingLaunch !== ""
+                                       || app.offerForceQuit !== ""
+
+    signal pickerAsked
+
+    /// Opens the sheet for a new profile, from a source if that isn't empty, unless a sheet is open.
+    function newProfile(source: string): void {
+        sheets.newProfile(source)
+    }
+
+    BrandBackground {}
+    ProfileList {
+        id: sidebar
+
+        width: Theme.manage.sidebarWidth
+        height: view.height
+        focus: true
+        app: view.app
+        updates: view.updates
+        onNewProfileAsked: source => sheets.newProfile(source)
+        onBackupAsked: sheets.backUp()
+        onPickerAsked: view.pickerAsked()
+    }
+    ProfileDetail {
+        anchors { left: sidebar.right; right: parent.right }
+        height: view.height
+        visible: profile.profileId !== ""
+        app: view.app
+        profile: detail
+        answersShortcut: visible && !view.hasSheet && !view.isOccupied
+        onDuplicateAsked: sheets.newProfile(detail.profileId)
+        onDeleteAsked: sheets.askToDelete(detail)
+        onSessionImportAsked: sheets.importSessions(detail.profileId)
+        onItemImportAsked: component => sheets.importItems(detail.profileId, component)
+        onReimportAsked: component => sheets.askToReimport(detail.profileId, component)
+    }
+    EmptyDetail {
+        anchors { left: sidebar.right; right: parent.right }
+        height: view.height
+        visible: detail.profileId === ""
+    }
+    ManageSheets {
+        id: sheets
+
+        anchors.fill: parent
+        app: view.app
+    }
+    ProfileDetailModel {
+        id: detail
+
+        app: view.app
+    }
+}

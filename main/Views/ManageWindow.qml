@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// The window in which profiles are inspected and changed.
+Window {
+    id: window
+
+    required property LauncherApp launcher
+
+    width: Theme.manageWindow.width
+    height: Theme.manageWindow.height
+    minimumWidth: Theme.manageMinimum.width
+    minimumHeight: Theme.manageMinimum.height
+    title: qsTr("Impostazioni")
+    color: Theme.windowFill
+
+    ManageView {
+        id: view
+
+        anchors.fill: parent
+        app: window.launcher.app
+        updates: window.launcher.updates
+        focus: true
+        onPickerAsked: window.launcher.showPicker()
+    }
+    LauncherFeedback {
+        id: feedback
+
+        app: window.launcher.app
+        isKey: window.launcher.keyWindow === LauncherApp.Manage
+        onNewProfileAsked: view.newProfile("")
+    }
+    MenuCommands {
+        launcher: window.launcher
+        target: window
+    }
+    Connections {
+        target: window.launcher
+
+        function onNewProfile(): void {
+            feedback.offerNewProfile()
+        }
+    }
+}

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// The shortcuts of the application's menu commands, and those that close a window and the application.
+Item {
+    id: commands
+
+    required property LauncherApp launcher
+    required property Window target
+
+    readonly property bool isFree: launcher.app.busyMessage === ""
+
+    Shortcut {
+        sequence: "Ctrl+,"
+        enabled: commands.isFree
+        onActivated: commands.launcher.showManage()
+    }
+    Shortcut {
+        sequence: "Ctrl+0"
+        enabled: commands.isFree
+        onActivated: commands.launcher.showPicker()
+    }
+    Shortcut {
+        sequences: [StandardKey.New]
+        enabled: commands.isFree
+        onActivated: commands.launcher.newProfile()
+    }
+    Shortcut {
+        sequences: [StandardKey.Close]
+        onActivated: commands.target.close()
+    }
+    Shortcut {
+        sequences: [StandardKey.Quit]
+        onActivated: Qt.quit()
+    }
+}

@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+/// The measures of the picker and its tiles. What holds text grows with it; the title is large enough as it is.
+QtObject {
+    id: measures
+
+    required property real textScale
+
+    function scaled(measure: real): real {
+        return Math.round(measure * measures.textScale)
+    }
+
+    // ---- Window
+
+    readonly property size window: Qt.size(980, full.height)
+    readonly property size minimum: Qt.size(720, compact.height)
+    readonly property real fullWidth: 900 ///< below one of these the compact places apply
+    readonly property real fullHeight: full.height - 40
+    readonly property real column: 1160
+    readonly property real bar: scaled(40)
+    readonly property real spareAbove: 0.45
+    readonly property real opticalMargin: 3 ///< moves the title's C to where it looks aligned
+    readonly property real foliageTop: 108
+
+    /// Distances from the top, the footer's from the bottom; `height` is what they are drawn for.
+    component Places: QtObject {
+        required property real margin
+        required property real barTop
+        required property real overline
+        required property real titleHeight
+        required property real titleGap
+        required property real subtitleGap
+        required property real tileHeight
+        required property real footer
+        required property real below ///< from the tiles to the window's edge
+
+        readonly property real title: overline + measures.scaled(16) + 4
+        readonly property real subtitle: title + titleHeight + titleGap
+        readonly property real tiles: subtitle + measures.scaled(24) + subtitleGap
+        readonly property real height: tiles + tileHeight + below
+    }
+    readonly property Places full: Places {
+        margin: 36
+        barTop: 24
+        overline: 72 + measures.bar
+        titleHeight: 72
+        titleGap: 12
+        subtitleGap: 36
+        tileHeight: measures.tileHeight
+        footer: 32
+        below: 92 + measures.scaled(20)
+    }
+    readonly property Places compact: Places {
+        margin: 24
+        barTop: 20
+        overline: 48 + measures.bar
+        titleHeight: 56
+        titleGap: 8
+        subtitleGap: 32
+        tileHeight: measures.tileHeightCompact
+        footer: 24
+        below: 56 + measures.scaled(20)
+    }
+
+    // ---- Tiles
+
+    readonly property real tileWidth: 32 + scaled(152)
+    readonly property real tileHeight: tileNameTop + scaled(156)
+    readonly property real tileHeightCompact: tileNameTop + scaled(140)
+    readonly property real tileGlyph: 80
+    readonly property real tileGear: 28
+    readonly property real tileGearMargin: 10
+    readonly property real tileNameTop: 116
+    readonly property real tileSummaryTop: tileNameTop + scaled(28)
+    readonly property real tileBadgeBottom: 16 + scaled(32)
+    readonly property real statusDot: 8
+    readonly property real addTileWidth: scaled(124)
+    readonly property real addLeaf: 56
+    readonly property real addIcon: 24
+    readonly property real leafOutline: 1.5
+    readonly property list<real> seatOpacities: [1, 0.62, 0.28]
+
+    // ---- The strip of tiles
+
+    readonly property real stripSpare: 12 ///< so that scale, ring and shadow of a tile are not cut
+    readonly property real stripEdge: 48
+    readonly property real stripFade: 40
+}

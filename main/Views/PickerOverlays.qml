@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// What belongs to the picker's window and isn't seen in its first frame.
+Item {
+    id: overlays
+
+    required property LauncherApp launcher
+    required property ProfilePicker view
+    required property Window target
+
+    LauncherFeedback {
+        id: feedback
+
+        app: overlays.launcher.app
+        isKey: overlays.launcher.keyWindow === LauncherApp.Picker
+        onNewProfileAsked: overlays.view.newProfile(overlays.view.picker.focused)
+    }
+    MenuCommands {
+        launcher: overlays.launcher
+        target: overlays.target
+    }
+    Connections {
+        target: overlays.launcher
+
+        function onNewProfile(): void {
+            feedback.offerNewProfile()
+        }
+    }
+}

@@ -1,0 +1,138 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// The sidebar of the management window: the profiles, and below them what concerns the application.
+FocusScope {
+    id: sidebar
+
+    required property AppModel app
+    required property Updates updates
+    property ProfileMenu menu: null ///< made when it is first opened
+
+    signal newProfileAsked(string source)
+    signal backupAsked
+    signal pickerAsked
+
+    /// The menu of a profile, where it was asked for or below its row.
+    function openMenu(profileId: string, row: Item, x: real, y: real): void {
+        if (!row)
+            return
+        if (!sidebar.menu)
+            sidebar.menu = menuComponent.createObject(sidebar) as ProfileMenu
+        sidebar.menu.profileId = profileId
+        sidebar.menu.openAt(row, x, y, 0)
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.surface
+
+        Rectangle {
+            anchors.right: parent.right
+            width: Theme.hairline
+            height: parent.height
+            color: Theme.separator
+        }
+    }
+    Eyebrow {
+        x: Theme.manage.sidebarMargin
+        y: Theme.manage.sidebarMargin
+        text: qsTr("Profili")
+        Accessible.role: Accessible.Heading
+    }
+    ListView {
+        id: list
+
+        readonly property ProfileListModel profiles: ProfileListModel { app: sidebar.app }
+
+        function go(row: int): void {
+            sidebar.app.select(list.profiles.idNear(row))
+        }
+        function openCurrentMenu(): void {
+            sidebar.openMenu(sidebar.app.selection, list.currentItem, Theme.manage.listInset, Theme.manage.profileHeight)
+            sidebar.menu?.move(1)
+        }
+
+        anchors { left: parent.left; right: parent.right; rightMargin: Theme.hairline }
+        y: Theme.manage.listTop
+        height: footer.y - y
+        bottomMargin: Theme.manage.listInset
+        spacing: Theme.manage.profileGap
+        clip: true
+        focus: true
+        activeFocusOnTab: true
+        boundsBehavior: Flickable.StopAtBounds
+        highlightMoveDuration: 0
+        keyNavigationEnabled: false
+        model: profiles
+        currentIndex: profiles.count > 0 ? profiles.indexOf(sidebar.app.selection) : -1
+
+        Accessible.role: Accessible.List
+        Accessible.name: qsTr("Profili")
+        Accessible.focusable: true
+
+        Keys.onUpPressed: go(currentIndex - 1)
+        Keys.onDownPressed: go(currentIndex + 1)
+        Keys.onMenuPressed: openCurrentMenu()
+        Keys.onPressed: event => {
+            const page = Math.max(1, Math.floor(list.height / (Theme.manage.profileHeight + list.spacing)) - 1)
+            event.accepted = true
+            if (event.key === Qt.Key_Home)
+                go(0)
+            else if (event.key === Qt.Key_End)
+                go(count - 1)
+            else if (event.key === Qt.Key_PageUp)
+                go(currentIndex - page)
+            else if (event.key === Qt.Key_PageDown)
+                go(currentIndex + page)
+            else if (event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier)
+                openCurrentMenu()
+            else
+                event.accepted = false
+        }
+
+        delegate: ProfileRow {
+            id: row
+
+            required property string profileId
+
+            x: Theme.manage.listInset
+            width: ListView.view.width - 2 * Theme.manage.listInset
+            isSelected: profileId === sidebar.app.selection
+            isRinged: ListView.isCurrentItem && list.activeFocus && Theme.showsFocus
+            onPressed: {
+                list.forceActiveFocus(Qt.MouseFocusReason)
+                sidebar.app.select(row.profileId)
+            }
+            onMenuAsked: (x, y) => sidebar.openMenu(row.profileId, row, x, y)
+        }
+    }
+    ThinScrollBar {
+        flickable: list
+        inset: 2
+    }
+    SidebarFooter {
+        id: footer
+
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom; rightMargin: Theme.hairline }
+        app: sidebar.app
+        updates: sidebar.updates
+        onNewProfileAsked: sidebar.newProfileAsked("")
+        onBackupAsked: sidebar.backupAsked()
+        onPickerAsked: sidebar.pickerAsked()
+    }
+    Component {
+        id: menuComponent
+
+        ProfileMenu {
+            onLaunched: profileId => sidebar.app.launch(profileId)
+            onRevealed: profileId => sidebar.app.revealProfile(profileId)
+            onNewProfileAsked: source => sidebar.newProfileAsked(source)
+        }
+    }
+}

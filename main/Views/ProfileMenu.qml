@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// What can be done with a profile from the sidebar.
+ContextMenu {
+    id: menu
+
+    property string profileId
+
+    signal launched(string profileId)
+    signal revealed(string profileId)
+    signal newProfileAsked(string source)
+
+    MenuEntry {
+        text: qsTr("Avvia Claude")
+        icon: "arrow-right"
+        onTriggered: menu.launched(menu.profileId)
+    }
+    MenuEntry {
+        text: qsTr("Mostra nel Finder")
+        symbol: "folder"
+        onTriggered: menu.revealed(menu.profileId)
+    }
+    MenuEntry {
+        text: qsTr("Nuovo profilo da qui…")
+        symbol: "plus.square.on.square"
+        onTriggered: menu.newProfileAsked(menu.profileId)
+    }
+}

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// A sign in a profile's row, whose help says what it means. The row itself says so to assistive technology.
+Pressable {
+    id: mark
+
+    property string symbol
+
+    tabStop: false
+    implicitWidth: Theme.iconSmall
+    implicitHeight: Theme.rowTarget
+
+    Accessible.ignored: true
+
+    PathIcon {
+        anchors.centerIn: parent
+        visible: mark.symbol !== ""
+        symbol: mark.symbol
+        size: Theme.iconSmall
+        weight: PathIcon.Regular
+        color: Theme.textFaint
+    }
+}

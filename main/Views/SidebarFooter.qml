@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// What concerns the application rather than a profile.
+Item {
+    id: footer
+
+    required property AppModel app
+    required property Updates updates
+
+    readonly property bool hasUpdates: updates.isAvailable
+
+    signal newProfileAsked
+    signal backupAsked
+    signal pickerAsked
+
+    /// What a bare button's text stands inside of.
+    readonly property real barePadding: checkButton.padding + Theme.hairline
+
+    implicitHeight: content.implicitHeight + 2 * Theme.space16 + Theme.hairline
+
+    Rectangle {
+        width: parent.width
+        height: Theme.hairline
+        color: Theme.separator
+    }
+    Column {
+        id: content
+
+        x: Theme.manage.sidebarMargin
+        y: Theme.space16 + Theme.hairline
+        width: parent.width - 2 * Theme.manage.sidebarMargin
+        spacing: Theme.space8
+
+        SwitchRow {
+            width: parent.width
+            look: Theme.small
+            textColor: Theme.textSoft
+            text: qsTr("Chiudi Selvane dopo l'avvio")
+            checked: footer.app.closeAfterLaunch
+            onToggled: checked => footer.app.closeAfterLaunch = checked
+        }
+        SwitchRow {
+            visible: footer.hasUpdates
+            width: parent.width
+            look: Theme.small
+            textColor: Theme.textSoft
+            text: qsTr("Installa gli aggiornamenti da sola")
+            help: qsTr("Selvane scarica le nuove versioni e le installa quando si chiude")
+            checked: footer.updates.installsAutomatically
+            onToggled: checked => footer.updates.installsAutomatically = checked
+        }
+        Flow {
+            visible: footer.hasUpdates
+            width: parent.width
+            spacing: Theme.space8
+
+            StyledText {
+                id: version
+
+                height: Theme.smallHeight
+                look: Theme.small
+                text: qsTr("Versione %1").arg(footer.updates.version)
+                color: Theme.textFaint
+            }
+            Item {
+                readonly property real room: parent.width - version.width - Theme.space8
+
+                width: checkButton.width - footer.barePadding <= room ? room : parent.width
+                height: checkButton.height
+
+                GhostButton {
+                    id: checkButton
+
+                    anchors { right: parent.right; rightMargin: -footer.barePadding }
+                    bare: true
+                    soft: true
+                    size: GhostButton.Small
+                    text: qsTr("Verifica aggiornamenti")
+                    enabled: footer.updates.canCheck
+                    onClicked: footer.updates.checkNow()
+                }
+            }
+        }
+        Flow {
+            topPadding: Theme.space4
+            width: parent.width
+            spacing: Theme.space8
+
+            GhostButton {
+                id: backupButton
+
+                symbol: "archivebox"
+                label: qsTr("Esporta un backup")
+                help: qsTr("Esporta un backup dei dati di Claude")
+                onClicked: footer.backupAsked()
+            }
+            GhostButton {
+                id: pickerButton
+
+                symbol: "square.grid.2x2"
+                label: qsTr("Torna alla scelta del profilo")
+                help: Theme.keyText(qsTr("Torna alla scelta del profilo (⌘0)"))
+                onClicked: footer.pickerAsked()
+            }
+            Item {
+                readonly property real room: parent.width - backupButton.width - pickerButton.width - 2 * Theme.space8
+
+                width: newButton.width <= room ? room : parent.width
+                height: newButton.height
+
+                GhostButton {
+                    id: newButton
+
+                    anchors.right: parent.right
+                    symbol: "plus"
+                    text: qsTr("Nuovo profilo")
+                    onClicked: footer.newProfileAsked()
+                }
+            }
+        }
+    }
+}

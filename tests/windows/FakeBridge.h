@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <vector>
+
+#include "DesktopBridge.h"
+
+namespace selvane::test {
+
+/// Records what the windows ask of the desktop.
+struct FakeBridge final : DesktopBridge {
+    int ends = 0;
+    QString clipboard;
+    std::vector<std::filesystem::path> revealed;
+    std::vector<std::filesystem::path> opened;
+    QString proposedName;
+    std::optional<std::filesystem::path> archive; ///< the answer of the save dialog
+
+    void endApplication() override { ++ends; }
+    void copyToClipboard(const QString& text) override { clipboard = text; }
+    void reveal(const std::filesystem::path& item) override { revealed.push_back(item); }
+    void open(const std::filesystem::path& file) override { opened.push_back(file); }
+    void askForArchive(const QString& name,
+                       std::function<void(std::optional<std::filesystem::path>)> done) override {
+        proposedName = name;
+        done(archive);
+    }
+};
+
+} // namespace selvane::test

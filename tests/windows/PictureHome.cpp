@@ -1,0 +1,106 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "windows/PictureHome.h"
+
+namespace selvane::test {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr int kSessions = 12;
+constexpr int kPendingSessions = 2;
+
+std::string sessionRecord(int number, const std::string& title, const std::string& folder) {
+    const std::string text = std::to_string(number);
+    return R"({"sessionId": "local_)" + text + R"(", "cliSessionId": "cli-)" + text + R"(", "title": ")" +
+           title + R"(", "cwd": ")" + folder + R"(", "lastActivityAt": 17952)" + std::to_string(90 - number) +
+           "00000000}";
+}
+
+} // namespace
+
+PictureHome::PictureHome(const std::string& place) : Home(Processes::seen, place) {
+    fillBuiltIn();
+    makeWork();
+    makeOthers();
+    launched("lavoro", 26h);
+    launched("cliente-aurora", 75h);
+    launched("default", 2h);
+    openInClaude(builtIn());
+}
+
+PictureHome::~PictureHome() {
+    std::filesystem::remove_all(path);
+}
+
+void PictureHome::fillBuiltIn() const {
+    const std::string skill = "---\nname: skill\n---\n";
+    for (const char* name :
+         {"code-review", "esporta-grafici", "note-di-rilascio", "tabelle-pdf", "traduzioni"})
+        writeFile(path / ".claude/skills" / name / "SKILL.md", skill);
+    writeTree(path / ".claude", {{"commands/rilascio.md", "Prepara le note di rilascio."},
+                                 {"rules/stile-commit.md", "Frasi brevi, all'imperativo."},
+                                 {"CLAUDE.md", "# Regole personali\n"},
+                                 {"settings.json", "{}"},
+                                 {"agents/collaudo.md", "Prove che trovano guasti."},
+                                 {"agents/revisore.md", "Legge il diff."},
+                                 {"agents/archivista.md", "Tiene in ordine."},
+                                 {"output-styles/conciso.md", "Poche righe."},
+                                 {"output-styles/didattico.md", "Passo per passo."}});
+    writeFile(path / ".claude.json", R"({"mcpServers": {"archivio": {}, "meteo": {}}})");
+    const auto sessions = path / ".config/Claude/claude-code-sessions/conto/org";
+    const char* const titles[] = {"Carrello: prezzi e sconti",    "Perché la ricerca è lenta",
+                                  "Note di rilascio 2.4",         "Migrazione a PostgreSQL 17",
+                                  "Test che falliscono di notte", "Traduzioni della guida"};
+    const char* const folders[] = {"~/progetti/negozio", "~/progetti/ricerca", "~/progetti/guida"};
+    for (int i = 0; i < kSessions; ++i)
+        writeFile(sessions / ("local_" + std::to_string(i) + ".json"),
+                  sessionRecord(i, titles[i % std::size(titles)], folders[i % std::size(folders)]));
+}
+
+void PictureHome::makeWork() {
+    NewProfile work = request("Lavoro", builtIn(), "default");
+    work.summary = "Progetti del team, regole e revisioni di codice";
+    work.symbol = "briefcase";
+    work.modes = {{Component::agents, ShareMode::none},
+                  {Component::outputStyles, ShareMode::none},
+                  {Component::plugins, ShareMode::none}};
+    work.selection = {{Component::skills, {"code-review", "esporta-grafici"}}};
+    const Profile made = store.create(work);
+    writeTree(made.configDir, {{"skills/commit-in-italiano/SKILL.md", "---\nname: commit\n---\n"},
+                               {"skills/tabelle-pdf", "-> " + (path / "dotfiles/tabelle-pdf").string()},
+                               {"rules/tono-di-voce.md", "Cortese e diretto."}});
+    writeFile(path / "dotfiles/tabelle-pdf/SKILL.md", "---\nname: tabelle\n---\n");
+    std::filesystem::remove_all(path / ".claude/skills/esporta-grafici");
+    for (int i = 0; i < kPendingSessions; ++i)
+        writeFile(made.configDir / ".pending-sessions" / ("local_" + std::to_string(i) + ".json"), "{}");
+}
+
+void PictureHome::makeOthers() {
+    NewProfile client = request("Cliente Aurora", builtIn());
+    client.summary = "Account del cliente, solo le sue skill";
+    client.symbol = "building.2";
+    store.create(client);
+    NewProfile laboratory = request("Laboratorio", builtIn(), "default");
+    laboratory.summary = "Prove con agenti e server MCP";
+    laboratory.symbol = "flask";
+    store.create(laboratory);
+}
+
+void PictureHome::launched(const std::string& id, std::chrono::hours ago) {
+    Profile profile = *store.profile(id);
+    store.markLaunched(profile);
+    profile = *store.profile(id);
+    *profile.meta.lastLaunched -= ago;
+    store.saveMeta(profile);
+}
+
+void PictureHome::openInClaude(const Profile& profile) {
+    const auto data = store.desktopDataDir(profile);
+    m_copy = std::make_unique<RunningProcess>(std::vector<std::string>{"--user-data-dir=" + data.string()},
+                                              Environment{});
+    workspace.apps = {{m_copy->pid(), 1}};
+}
+
+} // namespace selvane::test

@@ -1,0 +1,169 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include <QDBusAbstractAdaptor>
+#include <QDBusArgument>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusObjectPath>
+#include <QDBusVariant>
+#include <QDeadlineTimer>
+#include <QGuiApplication>
+
+#include <gtest/gtest.h>
+#include <optional>
+
+#include "Views/PortalSaveDialog.h"
+#include "Views/SystemAppearance.h"
+
+namespace selvane::test {
+
+constexpr auto kPath = "/org/freedesktop/portal/desktop";
+
+/// The desktop's side of the file dialog: records what it is asked, and answers when told.
+class FakeFileChooser : public QDBusAbstractAdaptor {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.FileChooser")
+
+public:
+    explicit FakeFileChooser(QObject* desktop) : QDBusAbstractAdaptor(desktop) {}
+
+    QString title;
+    QVariantMap options;
+    QString sender;
+
+    void answer(uint response, const QVariantMap& results) const {
+        const QString path = QStringLiteral("%1/request/%2/%3")
+                                 .arg(kPath, QString(sender).mid(1).replace('.', '_'),
+                                      options.value("handle_token").toString());
+        QDBusMessage signal = QDBusMessage::createSignal(path, "org.freedesktop.portal.Request", "Response");
+        signal << response << results;
+        QDBusConnection("desktop").send(signal);
+    }
+
+public slots:
+    QDBusObjectPath SaveFile(const QString& /*parent*/, const QString& itsTitle,
+                             const QVariantMap& itsOptions, const QDBusMessage& call) {
+        title = itsTitle;
+        options = itsOptions;
+        sender = call.service();
+        return QDBusObjectPath("/as/announced");
+    }
+};
+
+/// The desktop's settings.
+class FakeSettings : public QDBusAbstractAdaptor {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
+
+public:
+    explicit FakeSettings(QObject* desktop) : QDBusAbstractAdaptor(desktop) {}
+
+public slots:
+    QDBusVariant Read(const QString& /*group*/, const QString& key, const QDBusMessage& call) {
+        if (key == "text-scaling-factor")
+            return QDBusVariant(QVariant::fromValue(QDBusVariant(1.25)));
+        QDBusConnection("desktop").send(
+            call.createErrorReply("org.freedesktop.portal.Error.NotFound", "no such setting"));
+        call.setDelayedReply(true);
+        return {};
+    }
+
+signals:
+    void SettingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+};
+
+namespace {
+
+void waitUntil(const std::function<bool()>& holds) {
+    const QDeadlineTimer limit(20'000);
+    while (!holds() && !limit.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+    ASSERT_TRUE(holds());
+}
+
+class Portal : public testing::Test {
+protected:
+    Portal() {
+        QObject::connect(&dialog, &PortalSaveDialog::chosen,
+                         [this](const QUrl& file) { end = file.toString(); });
+        QObject::connect(&dialog, &PortalSaveDialog::cancelled, [this] { end = "cancelled"; });
+        QObject::connect(&dialog, &PortalSaveDialog::unavailable, [this] { end = "unavailable"; });
+    }
+    ~Portal() override { QDBusConnection::disconnectFromBus("desktop"); }
+
+    void appear() {
+        QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "desktop");
+        ASSERT_TRUE(bus.registerObject(kPath, &desktop));
+        ASSERT_TRUE(bus.registerService("org.freedesktop.portal.Desktop"));
+    }
+    void ask() { dialog.ask(nullptr, "Salva", "/home/anna/Caffè e latte", "Copia.zip"); }
+
+    QObject desktop;
+    FakeFileChooser* chooser = new FakeFileChooser(&desktop);
+    FakeSettings* settings = new FakeSettings(&desktop);
+    PortalSaveDialog dialog;
+    std::optional<QString> end;
+};
+
+TEST_F(Portal, saveDialog_NoPortal_IsUnavailable) {
+    ask();
+    EXPECT_FALSE(end) << "never at once";
+    waitUntil([&] { return end.has_value(); });
+    EXPECT_EQ(end, "unavailable");
+}
+
+TEST_F(Portal, saveDialog_AnswersOnceToTheLastQuestion) {
+    appear();
+    ask();
+    waitUntil([&] { return !chooser->title.isEmpty(); });
+    EXPECT_EQ(chooser->options.value("current_name").toString(), "Copia.zip");
+    EXPECT_EQ(chooser->options.value("current_folder").toByteArray(),
+              QByteArray("/home/anna/Caffè e latte") + '\0');
+    EXPECT_EQ(chooser->options.value("filters").value<QDBusArgument>().currentSignature(), "a(sa(us))");
+    const FakeFileChooser* early = chooser;
+    const QVariantMap earlyOptions = chooser->options;
+
+    chooser->title.clear();
+    ask();
+    waitUntil([&] { return !chooser->title.isEmpty(); });
+    EXPECT_NE(chooser->options.value("handle_token"), earlyOptions.value("handle_token"));
+    early->answer(0, {{"uris", QStringList{"file:///home/anna/Caff%C3%A8.zip"}}});
+    waitUntil([&] { return end.has_value(); });
+    EXPECT_EQ(end, "file:///home/anna/Caffè.zip");
+
+    end.reset();
+    ask();
+    waitUntil([&] { return chooser->options.value("handle_token").toString().endsWith("_3"); });
+    chooser->answer(1, {});
+    waitUntil([&] { return end.has_value(); });
+    EXPECT_EQ(end, "cancelled");
+}
+
+TEST_F(Portal, appearance_FollowsTheDesktop) {
+    appear();
+    SystemAppearance appearance;
+    const double before = appearance.textScale();
+    appearance.read();
+    waitUntil([&] { return appearance.textScale() != before; });
+    EXPECT_DOUBLE_EQ(appearance.textScale(), 1.25 * before);
+    EXPECT_FALSE(appearance.reducedMotion());
+    emit settings->SettingChanged("org.gnome.desktop.interface", "enable-animations", QDBusVariant(false));
+    waitUntil([&] { return appearance.reducedMotion(); });
+    emit settings->SettingChanged("org.gnome.desktop.interface", "text-scaling-factor", QDBusVariant(40.0));
+    waitUntil([&] { return appearance.textScale() == 2; });
+    emit settings->SettingChanged("org.kde.kdeglobals.KDE", "AnimationDurationFactor", QDBusVariant("1.0"));
+    waitUntil([&] { return !appearance.reducedMotion(); });
+}
+
+} // namespace
+} // namespace selvane::test
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}
+
+#include "PortalTest.moc"

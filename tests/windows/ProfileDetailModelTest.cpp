@@ -1,0 +1,223 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "Views/ProfileDetailModel.h"
+#include "Views/ProfileListModel.h"
+#include "windows/AppModelFixture.h"
+
+namespace selvane::test {
+namespace {
+
+using Kind = ItemListModel::Kind;
+
+class ProfileDetailModelTest : public AppModelTest {
+protected:
+    /// Selects a profile, and waits for all that is read of it.
+    void show(const char* id) {
+        model().reload();
+        model().select(id);
+        detail.setApp(&model());
+        waitUntilRead();
+    }
+    void waitUntilRead() {
+        const QDeadlineTimer limit(20'000);
+        while (detail.isReading() && !limit.hasExpired())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+        QCoreApplication::processEvents();
+        ASSERT_FALSE(detail.isReading());
+    }
+    ComponentModel& shown(Component wanted) const {
+        return *detail.components().at(static_cast<int>(wanted));
+    }
+    std::map<std::string, Kind> kinds(Component component) const {
+        std::map<std::string, Kind> result;
+        const ItemListModel& items = *shown(component).items();
+        for (int row = 0; row < items.count(); ++row)
+            result[items.data(items.index(row), ItemListModel::NameRole).toString().toStdString()] =
+                items.data(items.index(row), ItemListModel::KindRole).value<Kind>();
+        return result;
+    }
+    int rowOf(Component component, const std::string& name) const {
+        int row = 0;
+        while (shown(component).items()->item(row)->name != name)
+            ++row;
+        return row;
+    }
+
+    ProfileDetailModel detail;
+};
+
+TEST_F(ProfileDetailModelTest, count_SaysHowManyAreLinked) {
+    writeTree(home.path, {{".claude/skills/a/SKILL.md", ""},
+                          {".claude/skills/b/SKILL.md", ""},
+                          {".claude/rules/uno.md", ""},
+                          {".claude/skills/.hidden", ""}});
+    const Profile work = home.make("Lavoro");
+    writeFile(work.configDir / "skills/own/SKILL.md", "");
+    show("default");
+    EXPECT_EQ(shown(Component::skills).count(), "2 elementi");
+    EXPECT_EQ(shown(Component::rules).count(), "1 elemento");
+    EXPECT_EQ(shown(Component::agents).count(), "Nessun elemento");
+    EXPECT_FALSE(shown(Component::skills).hasModes());
+    show("lavoro");
+    EXPECT_EQ(shown(Component::skills).count(), "3 elementi · 2 unificati, 1 propri");
+    EXPECT_EQ(shown(Component::rules).count(), "1 elemento · 1 unificati, 0 propri");
+    EXPECT_TRUE(shown(Component::skills).hasModes());
+}
+
+TEST_F(ProfileDetailModelTest, items_TellWhereTheyComeFromAndCanBeRemoved) {
+    writeTree(home.path, {{".claude/agents/merged.md", ""}, {"elsewhere.md", "x"}});
+    const Profile work = home.make("Lavoro");
+    writeTree(work.configDir / "agents", {{"linked.md", "-> " + (home / "elsewhere.md").string()},
+                                          {"broken.md", "-> /nowhere"},
+                                          {"own.md", "mine"}});
+    show("lavoro");
+    EXPECT_EQ(kinds(Component::agents), (std::map<std::string, Kind>{{"merged.md", Kind::Merged},
+                                                                     {"linked.md", Kind::Linked},
+                                                                     {"broken.md", Kind::Broken},
+                                                                     {"own.md", Kind::Own}}));
+    for (const char* name : {"broken.md", "merged.md", "own.md"}) {
+        shown(Component::agents).remove(rowOf(Component::agents, name));
+        waitUntilRead();
+    }
+    shown(Component::agents).makeOwn(rowOf(Component::agents, "linked.md"));
+    waitUntilRead();
+    EXPECT_EQ(model().errorMessage(), "");
+    EXPECT_EQ(treeOf(work.configDir / "agents"), (Tree{{"linked.md", "x"}}));
+    EXPECT_EQ(kinds(Component::agents), (std::map<std::string, Kind>{{"linked.md", Kind::Own}}));
+    EXPECT_TRUE(fs::exists(home / ".claude/agents/merged.md"));
+}
+
+TEST_F(ProfileDetailModelTest, files_AreDescribedAsTheyAre) {
+    const auto descriptions = [&] {
+        QStringList all;
+        for (const ComponentModel* file : detail.components().sliced(5))
+            all += file->description() + '|' + file->openLabel();
+        return all;
+    };
+    show("default");
+    EXPECT_EQ(descriptions(),
+              (QStringList{"Nessun CLAUDE.md|Crea", "Nessuna impostazione personalizzata|Crea",
+                           "Nessun plugin|", "Nessun server MCP configurato|"}));
+    writeTree(home.path, {{".claude/CLAUDE.md", "x"},
+                          {".claude/settings.json", "{}"},
+                          {".claude/plugins/installed_plugins.json", "{}"},
+                          {".claude.json", R"({"mcpServers": {"a": {}, "b": {}}})"}});
+    model().reload();
+    waitUntilRead();
+    EXPECT_EQ(descriptions(), (QStringList{"File CLAUDE.md del profilo|Apri",
+                                           "settings.json del profilo (permessi, hook, plugin attivi)|Apri",
+                                           "Plugin e marketplace installati|", "2 server MCP|Apri"}));
+
+    const Profile work = home.make("Lavoro", {{Component::claudeMd, ShareMode::shared}});
+    show("lavoro");
+    const QString source = QString::fromStdString((home / ".claude/CLAUDE.md").string());
+    EXPECT_EQ(shown(Component::claudeMd).description(), "Collegato a " + source);
+    EXPECT_EQ(shown(Component::claudeMd).linkTarget(), source);
+    fs::remove(home / ".claude/CLAUDE.md");
+    model().reload();
+    waitUntilRead();
+    EXPECT_EQ(shown(Component::claudeMd).openLabel(), "") << "a new file would take the link's place";
+}
+
+TEST_F(ProfileDetailModelTest, accountChoices_AreTheProfilesWithAnAccount) {
+    home.store.create(request("Bea", home.builtIn()));
+    home.store.create(request("Alfa", home.builtIn(), "default"));
+    show("default");
+    EXPECT_EQ(detail.account(), "Cartella dati normale di Claude Desktop");
+    EXPECT_EQ(detail.accountChoices(), QStringList());
+    show("alfa");
+    EXPECT_EQ(detail.account(), "Usa l'account di «Principale»");
+    EXPECT_EQ(detail.accountChoices(), (QStringList{"Proprio", "Principale", "Bea"}));
+    EXPECT_EQ(detail.accountIndex(), 1);
+    detail.setAccount(2);
+    EXPECT_EQ(detail.account(), "Usa l'account di «Bea»");
+    EXPECT_EQ(detail.accountIndex(), 2);
+    detail.setAccount(9);
+    detail.setAccount(-1);
+    EXPECT_EQ(detail.accountIndex(), 2);
+    detail.setAccount(0);
+    EXPECT_EQ(detail.account(), "Account proprio — login al primo avvio");
+    fs::create_directories(home.store.desktopDataDir(*home.store.profile("alfa")));
+    model().reload();
+    EXPECT_EQ(detail.account(), "Cartella dati propria nel launcher");
+    EXPECT_EQ(detail.sessions(), "Nessuna sessione");
+}
+
+TEST_F(ProfileDetailModelTest, selection_ChangedMeanwhile_DropsWhatIsReadOfTheOther) {
+    for (int i = 0; i < 100; ++i)
+        writeFile(home / (".claude/skills/s" + std::to_string(i) + "/SKILL.md"), "");
+    home.store.create(request("Vuoto"));
+    show("vuoto");
+    model().select("default");
+    EXPECT_EQ(shown(Component::skills).count(), "") << "nothing is said before it is read";
+    model().select("vuoto");
+    waitUntilRead();
+    EXPECT_EQ(shown(Component::skills).count(), "Nessun elemento");
+    EXPECT_EQ(shown(Component::skills).items()->count(), 0);
+    model().select("");
+    waitUntilRead();
+    EXPECT_EQ(detail.profileId(), "");
+    EXPECT_EQ(shown(Component::skills).count(), "");
+}
+
+TEST_F(ProfileDetailModelTest, answers_ConcernTheProfileThatWasAskedAbout) {
+    writeFile(home / ".claude/settings.json", R"({"model": "opus"})");
+    const Profile work = home.make("Lavoro", {{Component::settings, ShareMode::none}});
+    const Profile other = home.make("Altro", {{Component::settings, ShareMode::none}});
+    show("altro");
+    shown(Component::settings).reimport("lavoro");
+    EXPECT_EQ(model().notice(), "Impostazioni e hook: reimportati");
+    EXPECT_TRUE(fs::exists(work.configDir / "settings.json"));
+    EXPECT_FALSE(fs::exists(other.configDir / "settings.json"));
+    detail.remove("lavoro");
+    EXPECT_FALSE(fs::exists(work.configDir));
+    EXPECT_TRUE(fs::exists(other.configDir));
+    EXPECT_EQ(detail.profileId(), "altro");
+
+    detail.remove("default");
+    EXPECT_NE(model().errorMessage(), "");
+    EXPECT_TRUE(fs::exists(home / ".claude"));
+    shown(Component::settings).reimport("default");
+    EXPECT_NE(model().errorMessage(), "") << "it has no source";
+}
+
+TEST_F(ProfileDetailModelTest, names_AreTrimmedAndNeverEmpty) {
+    home.make("Lavoro");
+    show("lavoro");
+    detail.setName("  Studio ");
+    detail.setSummary(" Uno\n");
+    detail.setName(" \t");
+    EXPECT_EQ(detail.name(), "Studio");
+    EXPECT_EQ(home.store.profile("lavoro")->meta.name, "Studio");
+    EXPECT_EQ(home.store.profile("lavoro")->meta.summary, "Uno");
+    const qint64 revision = model().revision();
+    detail.setSymbol(detail.symbol());
+    EXPECT_EQ(model().revision(), revision) << "nothing to save";
+}
+
+TEST_F(ProfileDetailModelTest, profileList_KeepsItsRowsWhileTheProfilesStay) {
+    Profile work = home.make("Lavoro");
+    ProfileListModel list;
+    list.setApp(&model());
+    int resets = 0;
+    QObject::connect(&list, &QAbstractItemModel::modelReset, [&] { ++resets; });
+    const auto role = [&](ProfileListModel::Role wanted) {
+        return list.data(list.index(list.indexOf("lavoro")), wanted).toString();
+    };
+    EXPECT_EQ(role(ProfileListModel::SubtitleRole), "Mai avviato");
+    home.store.markLaunched(work);
+    model().reload();
+    EXPECT_TRUE(role(ProfileListModel::SubtitleRole).startsWith("Avviato "));
+    EXPECT_EQ(role(ProfileListModel::WasLaunchedRole), "true");
+    EXPECT_EQ(role(ProfileListModel::SourceNameRole), "Principale");
+    EXPECT_EQ(resets, 0);
+    home.make("Altro");
+    model().reload();
+    EXPECT_EQ(resets, 1);
+    EXPECT_EQ(list.idNear(-1), "default");
+    EXPECT_EQ(list.idNear(99), "lavoro");
+}
+
+} // namespace
+} // namespace selvane::test

@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtTest
+import Selvane
+
+/// What the tests of the sheets do alike. The scene around it is the window; a warning is a failure.
+TestCase {
+    id: test
+
+    property Item scene: parent
+    property Sheet sheet: null
+
+    readonly property SignalSpy closed: SignalSpy { signalName: "closed" }
+
+    when: windowShown
+
+    function openSheet(component: Component, properties): void {
+        failOnWarning(/./)
+        test.sheet = createTemporaryObject(component, test.scene, properties ?? {}) as Sheet
+        closed.target = test.sheet
+        closed.clear()
+    }
+    /// Lets what layout and models owe the next frame be done.
+    function settle(): void {
+        test.scene.Window.window.update()
+        waitForRendering(test.scene)
+    }
+    function press(...keys): void {
+        for (const key of keys)
+            keyClick(key)
+        settle()
+    }
+    function focused(): Item {
+        return test.scene.Window.activeFocusItem
+    }
+    function nameOf(item: Item): string {
+        return item.Accessible.name
+    }
+    /// Presses Tab until the control of that name has the focus.
+    function tabTo(name: string): void {
+        for (let i = 0; i < 60 && nameOf(focused()) !== name; ++i)
+            keyClick(Qt.Key_Tab)
+        compare(nameOf(focused()), name)
+        settle()
+    }
+    function write(text: string): void {
+        for (const letter of text)
+            keyClick(letter)
+    }
+    function shows(text: string): bool {
+        return itemsOf(test.sheet).some(item => item.visible && item.text === text)
+    }
+    function itemsOf(item: Item): var {
+        const all = [item]
+        for (let i = 0; i < all.length; ++i) {
+            for (let child = 0; child < all[i].children.length; ++child)
+                all.push(all[i].children[child])
+        }
+        return all
+    }
+    /// Whether the whole item lies inside the window's margin and inside every view that it scrolls in.
+    function isInSight(item: Item): bool {
+        const margin = Theme.sheetMargin
+        const inWindow = item.mapToItem(test.scene, 0, 0, item.width, item.height)
+        if (inWindow.x < margin || inWindow.right > test.scene.width - margin || inWindow.y < margin
+                || inWindow.bottom > test.scene.height - margin)
+            return false
+        for (let view = item.parent; view !== test.scene; view = view.parent) {
+            const place = item.mapToItem(view, 0, 0, item.width, item.height)
+            if (view instanceof Flickable && (place.y < -0.5 || place.bottom > view.height + 0.5))
+                return false
+        }
+        return true
+    }
+    function confirm(): void {
+        verify(test.sheet.confirmEnabled)
+        keyClick(Qt.Key_Return)
+        tryCompare(closed, "count", 1)
+    }
+}

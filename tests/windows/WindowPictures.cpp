@@ -1,0 +1,202 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+//
+// window-pictures FOLDER [HOME]: one PNG of each window, sheet, alert and state, drawn from a made-up home.
+// HOME is its path, which pictures show; nothing may be there. Fails when a view warns of anything.
+
+#include <QDir>
+#include <QEventLoop>
+#include <QGuiApplication>
+#include <QImage>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QTextStream>
+#include <QTimer>
+
+#include "Views/LauncherApp.h"
+#include "artwork/Brand.h"
+#include "model/LauncherError.h"
+#include "windows/FakeBridge.h"
+#include "windows/PictureHome.h"
+
+namespace selvane::test {
+namespace {
+
+bool hasWarned = false;
+
+void noteWarnings(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
+    QTextStream(stderr) << message << '\n';
+    // Said by Qt itself where there is no desktop.
+    const bool isUsual = message.startsWith("QStandardPaths: XDG_RUNTIME_DIR") ||
+                         message.startsWith("This plugin does not support");
+    hasWarned = hasWarned || (type != QtDebugMsg && !isUsual);
+}
+
+/// Lets what is read on other threads arrive, and layout and animations come to their end.
+void settle() {
+    QEventLoop loop;
+    QTimer::singleShot(500, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+/// The application with its windows over one home.
+class Scene {
+public:
+    Scene(Home& home, QDir folder)
+        : m_folder(std::move(folder)),
+          m_preferences(QString::fromStdString((home / "preferences.conf").string())), m_updates(nullptr),
+          model(home.store, home.claude, m_bridge, m_preferences), launcher(model, m_updates) {}
+
+    void take(LauncherApp::WindowName name, const QString& picture) {
+        settle();
+        const QString file = m_folder.filePath(picture + ".png");
+        if (!launcher.window(name)->grabWindow().save(file))
+            qFatal("%s can't be written", qPrintable(file));
+    }
+    void resize(LauncherApp::WindowName name, const QSize& size) { launcher.window(name)->resize(size); }
+
+    /// Takes a picture with something open over a window.
+    void takeWith(LauncherApp::WindowName name, const QString& type, QVariantMap properties,
+                  const QString& picture) {
+        QQuickWindow* window = launcher.window(name);
+        QQmlComponent component(qmlEngine(window));
+        component.setData("import Selvane\n" + type.toUtf8() + " {}", {});
+        properties["parent"] = QVariant::fromValue(window->contentItem());
+        const std::unique_ptr<QObject> made(component.createWithInitialProperties(properties));
+        if (!made)
+            qFatal("%s", qPrintable(component.errorString()));
+        take(name, picture);
+    }
+
+private:
+    QDir m_folder;
+    FakeBridge m_bridge;
+    Preferences m_preferences;
+    Updates m_updates;
+
+public:
+    AppModel model;
+    LauncherApp launcher;
+};
+
+constexpr auto kPicker = LauncherApp::Picker;
+constexpr auto kManage = LauncherApp::Manage;
+
+/// The part of the management window that scrolls.
+void scrollDetail(QQuickWindow* window, double y) {
+    for (QQuickItem* view : window->contentItem()->findChildren<QQuickItem*>()) {
+        if (view->inherits("QQuickFlickable") && view->property("contentHeight").toDouble() > 2 * y)
+            view->setProperty("contentY", y);
+    }
+}
+
+void takePicker(Scene& scene) {
+    scene.model.select("lavoro");
+    scene.launcher.showPicker();
+    scene.take(kPicker, "picker");
+    scene.resize(kPicker, {720, 560});
+    scene.take(kPicker, "picker-narrow");
+    scene.resize(kPicker, {980, 660});
+}
+
+void takeManage(Scene& scene) {
+    scene.launcher.showManage();
+    scene.take(kManage, "manage");
+    scrollDetail(scene.launcher.window(kManage), 720);
+    scene.take(kManage, "manage-components");
+    scrollDetail(scene.launcher.window(kManage), 0);
+    scene.resize(kManage, {880, 600});
+    scene.take(kManage, "manage-narrow");
+    scene.resize(kManage, {1000, 700});
+    scene.model.select("");
+    scene.take(kManage, "manage-empty");
+    scene.model.select("lavoro");
+}
+
+void takeSheets(Scene& scene) {
+    const QVariant app = QVariant::fromValue(&scene.model);
+    scene.takeWith(kManage, "NewProfileSheet", {{"app", app}, {"initialSource", "default"}},
+                   "new-profile-sheet");
+    scene.takeWith(kManage, "NewProfileSheet", {{"app", app}}, "new-profile-sheet-empty");
+    scene.takeWith(kManage, "ImportSheet", {{"app", app}, {"target", "lavoro"}, {"component", "skills"}},
+                   "import-sheet");
+    scene.takeWith(kManage, "SessionImportSheet", {{"app", app}, {"target", "lavoro"}},
+                   "session-import-sheet");
+    scene.takeWith(kManage, "BackupSheet", {{"app", app}}, "backup-sheet");
+}
+
+void takeFeedback(Scene& scene) {
+    scene.takeWith(kManage, "AlertDialog",
+                   {{"title", "Spostare «Lavoro» nel Cestino?"},
+                    {"message", "La cartella del profilo con skill, regole, sessioni e memoria verrà "
+                                "spostata nel Cestino."},
+                    {"confirmText", "Sposta nel Cestino"},
+                    {"destructive", true}},
+                   "alert-delete");
+    scene.model.setNotice("Aggiunti 2, rimossi 1 collegamenti");
+    scene.take(kManage, "notice");
+    scene.model.clearNotice();
+
+    scene.launcher.showPicker();
+    scene.takeWith(kPicker, "BusyOverlay", {{"message", "Avvio di Claude con «Lavoro»…"}}, "busy");
+    scene.model.perform([&] {
+        throw LauncherError("L'account di «Lavoro» è già aperto in Claude: chiudilo "
+                            "prima.");
+    });
+    scene.take(kPicker, "alert-error");
+    scene.model.clearError();
+    scene.model.launch("lavoro");
+    scene.take(kPicker, "alert-account-open");
+    scene.model.cancelLaunch();
+}
+
+/// Both windows as they are with text half as large again.
+void takeLargeText(Scene& scene) {
+    QQmlComponent component(qmlEngine(scene.launcher.window(kPicker)));
+    component.setData("import QtQuick\nimport Selvane\nQtObject { readonly property QtObject theme: Theme }",
+                      {});
+    const std::unique_ptr<QObject> holder(component.create());
+    auto* theme = holder->property("theme").value<QObject*>();
+    theme->setProperty("textScale", 1.5);
+    scene.take(kPicker, "picker-large-text");
+    scene.take(kManage, "manage-large-text");
+    theme->setProperty("textScale", 1);
+}
+
+int takeAll(const QDir& folder, const std::string& place) {
+    {
+        PictureHome home(place);
+        Scene scene(home, folder);
+        takePicker(scene);
+        takeManage(scene);
+        takeSheets(scene);
+        takeFeedback(scene);
+        takeLargeText(scene);
+    }
+    Home fresh;
+    Scene scene(fresh, folder);
+    scene.launcher.showPicker();
+    scene.take(kPicker, "picker-first-start");
+    return hasWarned ? 1 : 0;
+}
+
+} // namespace
+} // namespace selvane::test
+
+int main(int argc, char** argv) {
+    // The same picture everywhere: no display, no graphics card.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QUICK_BACKEND", "software");
+    qInstallMessageHandler(selvane::test::noteWarnings);
+    const QGuiApplication application(argc, argv);
+    if (argc != 2 && argc != 3)
+        qFatal("usage: window-pictures FOLDER [HOME]");
+    const std::string place = argc == 3 ? argv[2] : "anna";
+    if (std::filesystem::exists(place))
+        qFatal("%s is there already", argv[2]);
+    QDir folder(QString::fromLocal8Bit(argv[1]));
+    folder.mkpath(".");
+    selvane::Brand::registerFonts();
+    return selvane::test::takeAll(folder, place);
+}

@@ -1,0 +1,152 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtTest
+import Selvane
+import SelvaneTest
+
+/// Two windows' feedback over one application, of which one is the key window's.
+Item {
+    id: scene
+
+    width: 800
+    height: 600
+
+    TestHome { id: home }
+    Component {
+        id: pair
+
+        Item {
+            property alias key: key
+            property alias other: other
+
+            anchors.fill: parent
+
+            FocusScope {
+                anchors.fill: parent
+                focus: true
+            }
+            LauncherFeedback {
+                id: other
+
+                app: home.app
+                isKey: false
+            }
+            LauncherFeedback {
+                id: key
+
+                app: home.app
+                isKey: true
+                noticeDuration: 800
+            }
+        }
+    }
+    SignalSpy { id: newProfile; signalName: "newProfileAsked" }
+
+    TestCase {
+        id: test
+
+        name: "Feedback"
+        when: windowShown
+
+        property Item windows: null
+        property LauncherFeedback key: null
+        property LauncherFeedback other: null
+
+        function init(): void {
+            home.begin()
+            windows = createTemporaryObject(pair, scene)
+            key = windows.key
+            other = windows.other
+        }
+
+        function notice(feedback: LauncherFeedback): string {
+            return findChild(feedback, "toast").text
+        }
+
+        function test_notice_OnlyInKeyWindow_GoesAfterAWhile_NewerOneStaysItsOwn(): void {
+            home.makeProfile("Lavoro")
+            home.app.sync("lavoro")
+            compare(notice(key), "Già sincronizzato")
+            compare(notice(other), "")
+            wait(500)
+            const again = Date.now()
+            home.app.sync("lavoro")
+            wait(500) // longer than the first one would have stayed
+            if (Date.now() - again < 700)
+                compare(notice(key), "Già sincronizzato")
+            tryVerify(() => notice(key) === "")
+            compare(home.app.notice, "")
+        }
+
+        function test_alerts_OneAtATime_ErrorFirst(): void {
+            home.makeProfile("Lavoro", {account: "default"})
+            home.openClaude("default")
+            home.app.launch("lavoro")
+            compare(key.alert.title, "Account già aperto in Claude")
+            verify(key.alert.message.startsWith("«Principale» usa lo stesso account Claude ed è aperto"))
+            verify(!other.alert)
+
+            home.app.setAccount("..", "lavoro") // no possible account
+            home.app.launch("lavoro")
+            compare(key.alert.title, "Errore")
+            keyClick(Qt.Key_Return)
+            compare(home.app.errorMessage, "")
+            compare(key.alert.title, "Account già aperto in Claude")
+            keyClick(Qt.Key_Escape)
+            compare(home.app.pendingLaunch, "")
+            tryVerify(() => !key.alert)
+            compare(home.asked().terminated, 0)
+        }
+
+        function test_accountOpen_Confirmed_ClosesAndLaunches(): void {
+            home.makeProfile("Lavoro", {account: "default"})
+            home.openClaude("default")
+            home.app.launch("lavoro")
+            keyClick(Qt.Key_Return)
+            tryVerify(() => home.asked().launches === 1)
+            compare(home.asked().terminated, 1)
+            tryVerify(() => home.asked().ends === 1)
+        }
+
+        function test_claudeStays_ForceIsOffered_AndNotTheDefault(): void {
+            home.makeProfile("Lavoro", {account: "default"})
+            home.openClaude("default")
+            home.ignoreTerminations(1000)
+            home.app.launch("lavoro")
+            home.app.confirmLaunch()
+            tryVerify(() => key.alert !== null && key.alert.title === "Claude non si è chiuso")
+            keyClick(Qt.Key_Return)
+            compare(home.app.offerForceQuit, "")
+            compare(home.asked().forced, 0)
+
+            home.app.launch("lavoro")
+            home.app.confirmLaunch()
+            tryVerify(() => home.app.offerForceQuit === "lavoro")
+            keyClick(Qt.Key_Tab)
+            keyClick(Qt.Key_Return)
+            tryVerify(() => home.asked().launches === 1)
+            verify(home.asked().forced > 0)
+        }
+
+        function test_newProfile_KeyWindowAnswers_NotOverAQuestion(): void {
+            newProfile.target = other
+            newProfile.clear()
+            other.offerNewProfile()
+            compare(newProfile.count, 0)
+            newProfile.target = key
+            newProfile.clear()
+            key.offerNewProfile()
+            compare(newProfile.count, 1)
+            home.makeProfile("Lavoro")
+            home.app.setAccount("..", "lavoro")
+            home.app.launch("lavoro")
+            compare(key.alert.title, "Errore")
+            key.offerNewProfile()
+            compare(newProfile.count, 1)
+        }
+    }
+}

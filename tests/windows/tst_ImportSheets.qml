@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtTest
+import Selvane
+import SelvaneTest
+
+Item {
+    id: scene
+
+    width: 900
+    height: 700
+
+    TestHome { id: home }
+    Component { id: items; ImportSheet { app: home.app; target: "lavoro"; component: "skills" } }
+    Component { id: sessions; SessionImportSheet { app: home.app; target: "lavoro" } }
+
+    SheetTestCase {
+        id: test
+
+        name: "ImportSheets"
+
+        function init(): void {
+            home.begin()
+        }
+        /// Afterwards, so that the profile doesn't have what is in the home by then.
+        function makeTarget(): void {
+            home.makeProfile("Lavoro", { modes: { skills: "none" } })
+        }
+        function openSessions(): void {
+            openSheet(sessions)
+            tryVerify(() => !shows("Lettura delle sessioni…"))
+            settle()
+        }
+
+        function test_copiesWhatWasTicked(): void {
+            for (const name of ["uno.md", "due.md", "tre.md"])
+                home.write(".claude/skills/" + name, name)
+            makeTarget()
+            home.write(".claude-profiles/lavoro/skills/uno.md", "own")
+            openSheet(items)
+            compare(nameOf(focused()), "due.md")
+            verify(!sheet.confirmEnabled)
+            press(Qt.Key_Down, Qt.Key_Space)
+            compare(sheet.confirmText, "Aggiungi 1")
+            tabTo("Separato (copia)")
+            press(Qt.Key_Space)
+            confirm()
+            compare(home.what(".claude-profiles/lavoro/skills/tre.md"), "tre.md")
+            compare(home.what(".claude-profiles/lavoro/skills/due.md"), "")
+            compare(home.what(".claude-profiles/lavoro/skills/uno.md"), "own")
+        }
+
+        function test_nothingNew(): void {
+            home.write(".claude/skills/uno.md", "1")
+            home.makeProfile("Lavoro")
+            home.makeProfile("Ospite", { modes: { skills: "none" } })
+            openSheet(items)
+            verify(shows("Niente da aggiungere") && !sheet.confirmEnabled)
+            compare(nameOf(focused()), "Profilo: Principale")
+            press(Qt.Key_Return)
+            verify(sheet.isOpen)
+            home.write(".claude-profiles/ospite/skills/nuova.md", "x")
+            press(Qt.Key_Space, Qt.Key_End, Qt.Key_Return)
+            verify(shows("nuova.md") && !shows("Niente da aggiungere"))
+        }
+
+        function test_longListIsOneStop(): void {
+            for (let i = 1000; i < 1500; ++i)
+                home.write(`.claude/skills/${i}.md`)
+            makeTarget()
+            openSheet(items)
+            press(Qt.Key_Space, Qt.Key_PageDown, Qt.Key_End)
+            compare(nameOf(focused()), "1499.md")
+            tryVerify(() => isInSight(focused()))
+            press(Qt.Key_Space, Qt.Key_Up, Qt.Key_Space)
+            compare(sheet.confirmText, "Aggiungi 3")
+            verify(itemsOf(sheet).filter(item => item instanceof CheckBoxRow).length < 40)
+            press(Qt.Key_Backtab)
+            compare(nameOf(focused()), "Profilo: Principale")
+            press(Qt.Key_Tab)
+            compare(nameOf(focused()), "1498.md")
+            press(Qt.Key_Tab)
+            compare(nameOf(focused()), "Unificato (collegamento)")
+        }
+
+        function test_sessionsAreSearchedAndImported(): void {
+            home.addSession("Modulo d'ordine", home.absolute("negozio"))
+            home.addSession("Sito", "/srv/Negozio")
+            home.addSession("Note", "/srv/note")
+            makeTarget()
+            openSheet(sessions)
+            verify(!shows("Nessuna sessione")) // while they are read
+            tryVerify(() => shows("0 di 3 selezionate"))
+            tryVerify(() => shows("~/negozio"))
+            verify(!sheet.confirmEnabled)
+            compare(nameOf(focused()), "Cerca")
+            write("negozio")
+            settle()
+            verify(!shows("Note") && shows("Sito"))
+            tabTo("Tutte")
+            press(Qt.Key_Space)
+            tabTo("Sito")
+            press(Qt.Key_Down)
+            compare(nameOf(focused()), "Modulo d'ordine")
+            press(Qt.Key_Space)
+            tabTo("Cerca")
+            press(Qt.Key_Backspace, Qt.Key_Z)
+            verify(shows("Nessuna sessione"))
+            verify(shows("1 di 3 selezionate"))
+            confirm()
+            compare(home.app.notice, "0 copiate, 1 aggiunte al prossimo avvio di «Lavoro»")
+        }
+
+        function test_escapeImportsNothing(): void {
+            home.addSession("Note", "/srv/note")
+            makeTarget()
+            openSessions()
+            tabTo("Note")
+            press(Qt.Key_Space, Qt.Key_Escape)
+            tryCompare(closed, "count", 1)
+            compare(home.app.notice, "")
+        }
+    }
+}

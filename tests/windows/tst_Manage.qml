@@ -1,0 +1,307 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtTest
+import Selvane
+import SelvaneTest
+
+Item {
+    id: scene
+
+    width: 1000
+    height: 700
+
+    TestHome { id: home }
+    Component {
+        id: viewComponent
+
+        ManageView {
+            anchors.fill: parent
+            app: home.app
+            updates: home.updates
+        }
+    }
+
+    TestCase {
+        name: "Manage"
+        when: windowShown
+
+        property ManageView view: null
+
+        function init(): void {
+            home.begin()
+            home.app.closeAfterLaunch = false
+        }
+        function show(profileId: string): void {
+            failOnWarning(/./)
+            home.app.select(profileId)
+            view = createTemporaryObject(viewComponent, scene)
+            view.forceActiveFocus()
+            if (profileId !== "")
+                tryVerify(() => list("Skill").component.count !== "")
+            waitForRendering(scene, 200)
+        }
+        function all(accepts: var, item = view): var {
+            if (!item.visible)
+                return []
+            let found = accepts(item) ? [item] : []
+            for (let i = 0; i < item.children.length; ++i)
+                found = found.concat(all(accepts, item.children[i]))
+            return found
+        }
+        function the(accepts: var): Item {
+            const found = all(accepts)
+            compare(found.length, 1)
+            return found[0]
+        }
+        function list(title: string): ItemList {
+            return the(item => item instanceof ItemList && item.component.title === title)
+        }
+        function button(label: string): Pressable {
+            return the(item => item instanceof Pressable && item.label === label)
+        }
+        function buttons(label: string): int {
+            return all(item => item instanceof Pressable && item.label === label).length
+        }
+        function press(...keys): void {
+            for (const key of keys)
+                keyClick(key)
+        }
+        /// Tab, until an item of the list has the focus.
+        function enter(items: ItemList): void {
+            for (let i = 0; i < 60 && !hasFocus(items); ++i)
+                keyClick(Qt.Key_Tab)
+            verify(hasFocus(items))
+        }
+        function hasFocus(item: Item): bool {
+            return all(inside => inside.activeFocus, item).length > 0
+        }
+        /// That the rows that exist are few, that they cover what is in sight, and that each is in its place.
+        function checkRows(items: ItemList, names: var): void {
+            waitForRendering(scene, 200)
+            const rows = all(item => item instanceof ItemRow, items)
+            verify(rows.length < 60)
+            for (const row of rows) {
+                compare(row.name, names[row.index])
+                compare(row.mapToItem(items, 0, 0).y, row.index * Theme.manage.itemHeight)
+            }
+            const last = items.within(items.visibleTop + items.visibleHeight) / Theme.manage.itemHeight
+            for (let i = Math.floor(items.within(items.visibleTop) / Theme.manage.itemHeight); i < last; ++i)
+                verify(rows.some(row => row.index === i))
+        }
+        function isInSight(item: Item): bool {
+            const y = item.mapToItem(scene, 0, 0).y
+            return y >= Theme.manage.toolBarHeight && y + item.height <= scene.height
+        }
+
+        function test_items_OnlyThoseInSightExist(): void {
+            let names = []
+            for (let i = 0; i < 2000; ++i) {
+                names.push("n" + String(i).padStart(4, "0") + ".md")
+                home.write(".claude/skills/" + names[i])
+            }
+            show("default")
+            const items = list("Skill")
+            compare(items.count, 2000)
+            checkRows(items, names)
+            enter(items)
+            press(Qt.Key_PageDown, Qt.Key_PageDown, Qt.Key_Down, Qt.Key_Up)
+            verify(items.currentRow > 20 && items.currentRow < 60)
+            checkRows(items, names)
+            press(Qt.Key_End)
+            compare(items.currentItem.name, "n1999.md")
+            verify(isInSight(items.currentItem))
+            checkRows(items, names)
+
+            home.write(".claude/skills/a.md")
+            home.app.reload()
+            tryCompare(items, "count", 2001)
+            verify(hasFocus(items))
+            compare(items.currentRow, 1999)
+            checkRows(items, ["a.md"].concat(names))
+            press(Qt.Key_Home)
+            verify(isInSight(items.currentItem))
+            checkRows(items, ["a.md"].concat(names))
+
+            home.makeProfile("Vuoto", {source: ""})
+            home.app.select("vuoto")
+            tryCompare(items.component, "count", "Nessun elemento")
+            compare(all(item => item instanceof ItemRow, items).length, 0)
+            verify(isInSight(button("Cambia icona")))
+        }
+
+        function test_itemMenu_ByKeys(): void {
+            home.write(".claude/agents/a.md", "a")
+            home.makeProfile("Lavoro")
+            home.write(".claude-profiles/lavoro/agents/own.md", "own")
+            show("lavoro")
+            const items = list("Agenti")
+            enter(items)
+            press(Qt.Key_Space, Qt.Key_Down, Qt.Key_Return) // Rendi propria
+            compare(home.what(".claude-profiles/lavoro/agents/a.md"), "a")
+            tryVerify(() => !items.currentItem.isLink)
+            press(Qt.Key_Down, Qt.Key_Return, Qt.Key_Down, Qt.Key_Return) // Mostra nel Finder
+            compare(home.asked().revealed, ["~/.claude-profiles/lavoro/agents/own.md"])
+            keyClick(Qt.Key_F10, Qt.ShiftModifier)
+            keyClick(Qt.Key_Return) // Sposta nel Cestino
+            compare(home.what(".claude-profiles/lavoro/agents/own.md"), "")
+            tryCompare(items, "count", 1)
+            verify(hasFocus(items))
+            compare(items.currentRow, 0)
+            press(Qt.Key_Menu, Qt.Key_Return)
+            tryCompare(items, "count", 0)
+            verify(hasFocus(view))
+            verify(!hasFocus(items))
+            compare(home.app.errorMessage, "")
+        }
+
+        function test_itemMenu_ClosesWhenTheItemsChange(): void {
+            home.write(".claude/agents/b.md")
+            show("default")
+            const items = list("Agenti")
+            enter(items)
+            press(Qt.Key_Space)
+            verify(items.menu.isOpen)
+            home.write(".claude/agents/a.md")
+            home.app.reload()
+            tryCompare(items, "count", 2)
+            verify(!items.menu.isOpen)
+            verify(hasFocus(items))
+        }
+
+        function test_sidebar_IsOneListOfFewRows(): void {
+            for (let i = 0; i < 200; ++i) {
+                const id = "p" + String(i).padStart(3, "0")
+                home.write(`.claude-profiles/${id}/.launcher.json`, `{"name": "${id}"}`)
+            }
+            home.app.reload()
+            show("default")
+            const rows = () => all(item => item instanceof ProfileRow)
+            const selected = () => the(item => item instanceof ProfileRow && item.isSelected)
+            verify(rows().length < 40)
+            press(Qt.Key_Up)
+            compare(home.app.selection, "default")
+            press(Qt.Key_Down, Qt.Key_Down)
+            compare(home.app.selection, "p001")
+            verify(selected().isRinged)
+            press(Qt.Key_End)
+            compare(home.app.selection, "p199")
+            tryVerify(() => isInSight(selected()))
+            verify(rows().length < 40)
+            const place = selected().ListView.view.contentY
+            home.app.reload()
+            waitForRendering(scene, 200)
+            compare(selected().name, "p199")
+            compare(selected().ListView.view.contentY, place)
+            press(Qt.Key_Menu, Qt.Key_Down, Qt.Key_Return)
+            compare(home.asked().revealed, ["~/.claude-profiles/p199"])
+            verify(hasFocus(selected().ListView.view))
+            keyClick(Qt.Key_F10, Qt.ShiftModifier)
+            press(Qt.Key_Up, Qt.Key_Return)
+            verify(view.hasSheet)
+        }
+
+        function test_whatIsOffered_DependsOnTheProfile(): void {
+            home.makeProfile("Lavoro", {account: "default"})
+            show("default")
+            compare(buttons("Sincronizza"), 0)
+            compare(buttons("Reimporta"), 0)
+            compare(all(item => item instanceof DropDown).length, 0)
+            compare(buttons("Apri"), 0)
+            compare(buttons("Crea"), 2)
+            verify(button("Verifica aggiornamenti").enabled)
+            home.app.select("lavoro")
+            compare(buttons("Sincronizza"), 1)
+            compare(buttons("Reimporta"), 3)
+            compare(all(item => item instanceof DropDown).length, 10)
+            compare(buttons("Avvia Claude  →"), 1)
+            const row = the(item => item instanceof ProfileRow && item.isSelected)
+            compare(row.Accessible.description, "Mai avviato, eredita da «Principale»")
+            home.openClaude("lavoro")
+            tryVerify(() => buttons("Mostra Claude  →") === 1)
+            compare(row.Accessible.description, "Mai avviato, eredita da «Principale», Aperto in Claude")
+        }
+
+        function test_launchShortcut_WaitsForNoSheet(): void {
+            show("default")
+            view.newProfile("")
+            keyClick(Qt.Key_Return, Qt.ControlModifier)
+            compare(home.asked().launches, 0)
+            keyClick(Qt.Key_Escape)
+            tryVerify(() => !view.hasSheet)
+            keyClick(Qt.Key_Return, Qt.ControlModifier)
+            tryVerify(() => home.asked().launches === 1)
+            tryCompare(home.app, "busyMessage", "")
+        }
+
+        function test_names_AreSavedOnReturnAlone(): void {
+            home.makeProfile("Lavoro")
+            show("lavoro")
+            const field = the(item => item instanceof HeaderField && item.label === "Nome")
+            const input = the(item => item instanceof TextInput && item.label === "Nome")
+            input.forceActiveFocus()
+            press(Qt.Key_A, Qt.Key_Escape)
+            compare(input.text, "Lavoro")
+            press(Qt.Key_B, Qt.Key_Return)
+            compare(field.value, "Lavorob")
+            press(Qt.Key_C, Qt.Key_Tab)
+            compare(home.app.selection, "lavoro")
+            compare(field.value, "Lavorob")
+            home.app.select("default")
+            compare(input.text, "Principale")
+            input.text = "  "
+            input.accepted()
+            compare(input.text, "Principale")
+        }
+
+        function test_delete_AsksFirst(): void {
+            home.write(".claude/CLAUDE.md", "x")
+            home.makeProfile("Lavoro")
+            show("lavoro")
+            mouseClick(button("Elimina"))
+            verify(the(item => item instanceof AlertDialog).title.includes("«Lavoro»"))
+            keyClick(Qt.Key_Return) // begins at "Annulla"
+            tryVerify(() => !view.hasSheet)
+            compare(home.what(".claude-profiles/lavoro"), "/")
+            mouseClick(button("Elimina"))
+            mouseClick(button("Sposta nel Cestino"))
+            compare(home.what(".claude-profiles/lavoro"), "")
+            compare(home.app.selection, "default")
+            tryVerify(() => !view.hasSheet)
+
+            mouseClick(button("Elimina"))
+            mouseClick(button("Sposta nel Cestino"))
+            verify(home.app.errorMessage !== "")
+            compare(home.what(".claude/CLAUDE.md"), "x")
+        }
+
+        function test_symbol_IsPickedInThePopover(): void {
+            show("default")
+            mouseClick(button("Cambia icona"))
+            press(Qt.Key_Right, Qt.Key_Space)
+            tryVerify(() => the(item => item instanceof GlyphButton).symbol === "briefcase")
+        }
+
+        function test_narrow_LosesLabelsNotButtons(): void {
+            scene.width = 880
+            show("default")
+            const toolButtons = all(item => item instanceof DetailToolButton)
+            compare(toolButtons.map(found => found.text + found.help),
+                    ["Comando terminale", "Nuovo profilo da questo", "Mostra nel Finder", "Elimina"])
+            scene.width = 1000
+            compare(toolButtons[3].text, "Elimina")
+        }
+
+        function test_noSelection_ShowsTheEmptyDetail(): void {
+            show("")
+            verify(the(item => item instanceof EmptyDetail))
+            compare(buttons("Elimina"), 0)
+            home.app.select("default")
+            compare(buttons("Elimina"), 1)
+            compare(all(item => item instanceof EmptyDetail).length, 0)
+        }
+    }
+}

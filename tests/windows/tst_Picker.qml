@@ -1,0 +1,143 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtTest
+import Selvane
+import SelvaneTest
+
+Item {
+    id: scene
+
+    width: 980
+    height: 660
+
+    TestHome { id: home }
+    Component {
+        id: pickerComponent
+
+        ProfilePicker {
+            id: view
+
+            anchors.fill: parent
+            app: home.app
+            picker: PickerModel { app: view.app }
+            Component.onCompleted: picker.begin()
+        }
+    }
+    SignalSpy { id: manageAsked; signalName: "manageAsked" }
+
+    TestCase {
+        id: test
+
+        name: "Picker"
+        when: windowShown
+
+        property ProfilePicker view: null
+
+        function init(): void {
+            home.begin()
+            home.makeProfile("Lavoro")
+            home.makeProfile("Studio")
+            home.app.closeAfterLaunch = false
+        }
+        function show(): void {
+            view = createTemporaryObject(pickerComponent, scene)
+            view.forceActiveFocus()
+            manageAsked.target = view
+            manageAsked.clear()
+        }
+        function tile(name: string): ProfileTile {
+            const strip = findChild(view, "strip")
+            for (let i = 0; i < strip.count; ++i) {
+                const found = strip.itemAtIndex(i)
+                if (found && found.name === name)
+                    return found
+            }
+            return null
+        }
+        function launchedInto(): string {
+            tryCompare(home.app, "busyMessage", "")
+            return home.asked().launches + " " + (home.app.errorMessage || "")
+        }
+
+        function test_keys_MoveAroundTheEnds_AndLaunch(): void {
+            show()
+            compare(view.picker.focused, "default")
+            keyClick(Qt.Key_Left)
+            compare(view.picker.focused, "studio")
+            keyClick(Qt.Key_Right)
+            keyClick(Qt.Key_Right)
+            compare(view.picker.focused, "lavoro")
+            keyClick(Qt.Key_Return)
+            compare(launchedInto(), "1 ")
+            keyClick(Qt.Key_3)
+            compare(launchedInto(), "2 ")
+            keyClick(Qt.Key_0)
+            keyClick(Qt.Key_4)
+            compare(launchedInto(), "2 ")
+            compare(home.app.selection, "default")
+        }
+
+        function test_pointer_FocusesLaunchesAndOpensSettings(): void {
+            show()
+            const work = tile("Lavoro")
+            mouseMove(work)
+            compare(view.picker.focused, "lavoro")
+            mouseClick(work, work.width - Theme.picker.tileGearMargin - 10, Theme.picker.tileGearMargin + 10)
+            compare(manageAsked.count, 1)
+            compare(home.app.selection, "lavoro")
+            compare(launchedInto(), "0 ")
+            mouseClick(work)
+            compare(launchedInto(), "1 ")
+        }
+
+        function test_menu_ByKeyAndPointer(): void {
+            show()
+            keyClick(Qt.Key_Right)
+            keyClick(Qt.Key_F10, Qt.ShiftModifier)
+            keyClick(Qt.Key_Down)
+            keyClick(Qt.Key_Down)
+            keyClick(Qt.Key_Return)
+            compare(manageAsked.count, 1)
+            compare(home.app.selection, "lavoro")
+
+            mouseClick(tile("Studio"), 50, 50, Qt.RightButton)
+            compare(launchedInto(), "0 ")
+            keyClick(Qt.Key_Up)
+            keyClick(Qt.Key_Return)
+            verify(view.sheet)
+            compare(view.sheet.initialSource, "studio")
+        }
+
+        function test_newProfile_StartsFromTheFocusedOne_OneSheetAtATime(): void {
+            show()
+            keyClick(Qt.Key_Right)
+            view.newProfile(view.picker.focused)
+            const sheet = view.sheet
+            compare(sheet.initialSource, "lavoro")
+            view.newProfile("default")
+            compare(view.sheet, sheet)
+            keyClick(Qt.Key_Escape)
+            tryVerify(() => view.sheet === null)
+            keyClick(Qt.Key_Left)
+            compare(view.picker.focused, "default")
+        }
+
+        function test_manyProfiles_FewTiles_TheFocusedOneInSight(): void {
+            for (let i = 0; i < 60; ++i)
+                home.makeProfile("Profilo " + String(i).padStart(3, "0"), {source: ""})
+            show()
+            keyClick(Qt.Key_Left)
+            const last = () => tile("Studio")
+            tryVerify(() => last() !== null)
+            tryVerify(() => last().mapToItem(view, last().width, 0).x < view.width - Theme.picker.stripFade)
+            verify(tile("Profilo 000") === null)
+            keyClick(Qt.Key_Right)
+            tryVerify(() => tile("Principale") && tile("Principale").mapToItem(view, 0, 0).x >= 0)
+            verify(last() === null)
+        }
+    }
+}
