@@ -158,6 +158,7 @@ set(views
   Views/NewProfileSheet.qml
   Views/PickerHint.qml
   Views/PickerMeasures.qml
+  Views/PickerPlaces.qml
   Views/PickerOverlays.qml
   Views/PickerWindow.qml
   Views/Popover.qml

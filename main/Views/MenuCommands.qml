@@ -26,16 +26,16 @@ Item {
         onActivated: commands.launcher.showPicker()
     }
     Shortcut {
-        sequences: [StandardKey.New]
+        sequence: "Ctrl+N"
         enabled: commands.isFree
         onActivated: commands.launcher.newProfile()
     }
     Shortcut {
-        sequences: [StandardKey.Close]
+        sequence: "Ctrl+W"
         onActivated: commands.target.close()
     }
     Shortcut {
-        sequences: [StandardKey.Quit]
+        sequence: "Ctrl+Q"
         onActivated: Qt.quit()
     }
 }

@@ -27,24 +27,8 @@ QtObject {
     readonly property real opticalMargin: 3 ///< moves the title's C to where it looks aligned
     readonly property real foliageTop: 108
 
-    /// Distances from the top, the footer's from the bottom; `height` is what they are drawn for.
-    component Places: QtObject {
-        required property real margin
-        required property real barTop
-        required property real overline
-        required property real titleHeight
-        required property real titleGap
-        required property real subtitleGap
-        required property real tileHeight
-        required property real footer
-        required property real below ///< from the tiles to the window's edge
-
-        readonly property real title: overline + measures.scaled(16) + 4
-        readonly property real subtitle: title + titleHeight + titleGap
-        readonly property real tiles: subtitle + measures.scaled(24) + subtitleGap
-        readonly property real height: tiles + tileHeight + below
-    }
-    readonly property Places full: Places {
+    readonly property PickerPlaces full: PickerPlaces {
+        textScale: measures.textScale
         margin: 36
         barTop: 24
         overline: 72 + measures.bar
@@ -55,7 +39,8 @@ QtObject {
         footer: 32
         below: 92 + measures.scaled(20)
     }
-    readonly property Places compact: Places {
+    readonly property PickerPlaces compact: PickerPlaces {
+        textScale: measures.textScale
         margin: 24
         barTop: 20
         overline: 48 + measures.bar

@@ -14,7 +14,7 @@ FocusScope {
     required property PickerModel picker
 
     readonly property bool isCompact: width < Theme.picker.fullWidth || height < Theme.picker.fullHeight
-    readonly property PickerMeasures.Places places: isCompact ? Theme.picker.compact : Theme.picker.full
+    readonly property PickerPlaces places: isCompact ? Theme.picker.compact : Theme.picker.full
     readonly property real columnWidth: Math.min(width - 2 * places.margin, Theme.picker.column)
     readonly property real columnLeft: (width - columnWidth) / 2
     /// Of the height that is left over, this part lies above the heading and the tiles.

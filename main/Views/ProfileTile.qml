@@ -63,13 +63,11 @@ Item {
         anchors.fill: parent
         hoverEnabled: true
         onEntered: tile.hovered()
-        acceptedButtons: Qt.LeftButton | Qt.RightButton
-        onClicked: mouse => {
-            if (mouse.button === Qt.RightButton)
-                tile.menuAsked(mouse.x, mouse.y)
-            else
-                tile.launched()
-        }
+        onClicked: tile.launched()
+    }
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: point => tile.menuAsked(point.position.x, point.position.y)
     }
     TileLabel {
         anchors.fill: parent

@@ -66,11 +66,18 @@ ListView {
     highlightFollowsCurrentItem: false
     keyNavigationEnabled: false
     onCurrentIndexChanged: showFocused()
-    onWidthChanged: Qt.callLater(strip.settle) // the margins follow
+    onWidthChanged: settling.restart()
 
     Accessible.role: Accessible.List
     Accessible.name: qsTr("Profili")
 
+    // The margins follow the width a moment later.
+    Timer {
+        id: settling
+
+        interval: 0
+        onTriggered: strip.settle()
+    }
     NumberAnimation on contentX {
         id: scrolling
 
