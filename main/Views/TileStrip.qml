@@ -115,7 +115,10 @@ ListView {
         onLaunched: strip.launched(tile.profileId)
         onSettingsAsked: strip.settingsAsked(tile.profileId)
         onHovered: strip.hovered(tile.profileId)
-        onMenuAsked: (x, y) => strip.openMenu(tile, x, y)
+        onMenuAsked: (x, y) => {
+            strip.hovered(tile.profileId)
+            strip.openMenu(tile, x, y)
+        }
     }
     Component {
         id: menuComponent

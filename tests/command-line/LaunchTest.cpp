@@ -1,80 +1,19 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include <algorithm>
-#include <chrono>
-#include <functional>
 #include <gtest/gtest.h>
-#include <signal.h>
-#include <stdexcept>
-#include <thread>
+#include <sstream>
 
-#include "platform/Json.h"
-#include "platform/ProcInfo.h"
-#include "support/Command.h"
 #include "support/Home.h"
+#include "support/InstalledClaude.h"
 
 namespace selvane::test {
 namespace {
 
 namespace fs = std::filesystem;
 
-/// A home with the stand-in installed as Claude Desktop. All its processes end with the test.
-class CommandLaunch : public testing::Test {
+class CommandLaunch : public testing::Test, protected InstalledClaude {
 protected:
-    CommandLaunch() {
-        writeFile(home / ".claude/settings.json", "{}");
-        installAs("claude-desktop");
-        writeEntry(program.string() + " --password-store=basic %U");
-    }
-    ~CommandLaunch() override {
-        while (!pids().empty()) {
-            for (const std::int32_t pid : pids())
-                kill(pid, SIGKILL);
-        }
-    }
-
-    void installAs(const std::string& name) {
-        program = home / "app/claude" / name;
-        fs::create_directories(program.parent_path());
-        fs::copy_file(SELVANE_STAND_IN, program);
-    }
-    void writeEntry(const std::string& command) const {
-        writeFile(home / ".local/share/applications/com.anthropic.Claude.desktop",
-                  "[Desktop Entry]\nType=Application\nName=Claude\nExec=" + command + "\n");
-    }
-
-    std::vector<std::int32_t> pids() const {
-        std::vector<std::int32_t> result;
-        for (const ProcInfo& process : ProcInfo::all()) {
-            if (process.path.starts_with(home.path().string() + "/"))
-                result.push_back(process.pid);
-        }
-        return result;
-    }
-    void waitUntil(const std::function<bool()>& holds) const {
-        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
-        while (!holds()) {
-            if (std::chrono::steady_clock::now() > deadline)
-                throw std::runtime_error("took too long"); // the destructor still ends what runs
-            std::this_thread::sleep_for(std::chrono::milliseconds(10));
-        }
-    }
-    /// Launches a profile; tells how Claude Desktop was started in that data folder.
-    Json launch(const std::string& id, const fs::path& data) const {
-        EXPECT_EQ(home.run({"launch", id}), Outcome{}) << id;
-        Json report;
-        waitUntil([&] {
-            const std::string text = readFile(data / "stand-in.json");
-            report = text.empty() ? Json::object() : json::parse(text, data);
-            return !text.empty() && ProcInfo::read(report["pid"]).has_value();
-        });
-        return report;
-    }
-    void quit(const Json& report) const {
-        kill(report["pid"], SIGTERM);
-        waitUntil([&] { return !ProcInfo::read(report["pid"]); });
-    }
     /// The lines of a command's output that concern this home: others may have Claude Desktop open too.
     std::string lines(const std::string& command, const std::string& beginning = "") const {
         std::istringstream output(home.output({command}));
@@ -88,12 +27,6 @@ protected:
     std::string openLine(const Json& report, const fs::path& data, const std::string& config) const {
         return "aperto pid=" + report["pid"].dump() + "\tdati=" + data.string() + "\tconfig=" + config + "\n";
     }
-    fs::path profile(const std::string& id) const { return home / ".claude-profiles" / id; }
-
-    CommandHome home;
-    fs::path program;
-    const fs::path normalData = home / ".config/Claude";
-    const fs::path lavoroData = home / ".claude-profiles/.desktop-data/lavoro";
 };
 
 TEST_F(CommandLaunch, EachProfileGetsItsFoldersAndNothingOfOurs) {
@@ -131,7 +64,7 @@ TEST_F(CommandLaunch, AnOpenAccountIsActivatedTakenOverAndGuarded) {
     const Json lavoro = launch("lavoro", lavoroData);
     const Json guest = launch("ospite", normalData);
     EXPECT_NE(guest["pid"], builtIn["pid"]);
-    EXPECT_FALSE(ProcInfo::read(builtIn["pid"]));
+    EXPECT_FALSE(isOpen(builtIn));
     EXPECT_EQ(guest["claudeConfigDir"], profile("ospite").string());
     const std::string lavoroLine = openLine(lavoro, lavoroData, profile("lavoro"));
     const std::string guestLine = openLine(guest, normalData, profile("ospite"));

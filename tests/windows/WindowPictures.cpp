@@ -85,8 +85,8 @@ constexpr auto kManage = LauncherApp::Manage;
 
 /// The part of the management window that scrolls.
 void scrollDetail(QQuickWindow* window, double y) {
-    for (QQuickItem* view : window->contentItem()->findChildren<QQuickItem*>()) {
-        if (view->inherits("QQuickFlickable") && view->property("contentHeight").toDouble() > 2 * y)
+    for (QQuickItem* view : window->findChildren<QQuickItem*>()) {
+        if (view->inherits("QQuickFlickable") && view->property("contentHeight").toDouble() > y + view->height())
             view->setProperty("contentY", y);
     }
 }
@@ -103,7 +103,7 @@ void takePicker(Scene& scene) {
 void takeManage(Scene& scene) {
     scene.launcher.showManage();
     scene.take(kManage, "manage");
-    scrollDetail(scene.launcher.window(kManage), 720);
+    scrollDetail(scene.launcher.window(kManage), 640);
     scene.take(kManage, "manage-components");
     scrollDetail(scene.launcher.window(kManage), 0);
     scene.resize(kManage, {880, 600});

@@ -18,7 +18,7 @@ set_target_properties(component-tests PROPERTIES AUTOMOC ON)
 target_link_libraries(component-tests PRIVATE selvane-views test-support Qt6::QuickTest)
 target_compile_definitions(component-tests PRIVATE QUICK_TEST_SOURCE_DIR="${CMAKE_CURRENT_LIST_DIR}")
 add_test(NAME component-tests COMMAND component-tests)
-set_tests_properties(component-tests PROPERTIES TIMEOUT 60)
+set_tests_properties(component-tests PROPERTIES TIMEOUT 240)
 
 add_executable(window-pictures
   ${CMAKE_CURRENT_LIST_DIR}/PictureHome.cpp
@@ -26,7 +26,7 @@ add_executable(window-pictures
 )
 target_link_libraries(window-pictures PRIVATE selvane-views test-support)
 add_test(NAME window-pictures COMMAND window-pictures ${CMAKE_CURRENT_BINARY_DIR}/pictures)
-set_tests_properties(window-pictures PROPERTIES TIMEOUT 60)
+set_tests_properties(window-pictures PROPERTIES TIMEOUT 120)
 
 # A colour that isn't in Theme.qml would be missed when the palette changes.
 add_test(NAME colours-only-in-theme

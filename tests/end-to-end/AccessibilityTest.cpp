@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include <algorithm>
+#include <set>
+
+#include "end-to-end/WindowsTest.h"
+
+namespace selvane::test {
+namespace {
+
+bool contains(const std::vector<Seen>& some, const Seen& wanted) {
+    return std::any_of(some.begin(), some.end(), [&](const Seen& each) { return each.isSameAs(wanted); });
+}
+
+std::vector<std::string> namesOf(const std::vector<Seen>& some) {
+    std::vector<std::string> names;
+    for (const Seen& each : some)
+        names.push_back(each.name());
+    return names;
+}
+
+/// Lists are walked with the arrows, their rows' buttons have a key of their own.
+bool isTabStop(const Seen& seen) {
+    return seen.is(ATSPI_STATE_ENABLED) && seen.is(ATSPI_STATE_FOCUSABLE) && seen.canBePressed() &&
+           seen.role() != ATSPI_ROLE_LIST_ITEM;
+}
+
+/// What can be used is a control, and everything tells what it is and what it is called.
+void expectNames(const RunningSelvane& selvane) {
+    const std::set<AtspiRole> controls = {
+        ATSPI_ROLE_PUSH_BUTTON, ATSPI_ROLE_CHECK_BOX, ATSPI_ROLE_RADIO_BUTTON, ATSPI_ROLE_COMBO_BOX,
+        ATSPI_ROLE_TEXT,        ATSPI_ROLE_LIST_ITEM, ATSPI_ROLE_LIST,         ATSPI_ROLE_LINK,
+    };
+    const auto all = selvane.everything();
+    EXPECT_GT(all.size(), 10U);
+    for (const Seen& seen : all) {
+        EXPECT_NE(seen.name(), "") << seen;
+        // Qt lets every text be focused.
+        const bool isText = seen.role() == ATSPI_ROLE_LABEL || seen.role() == ATSPI_ROLE_ALERT;
+        const bool isControl = seen.canBePressed() || (seen.is(ATSPI_STATE_FOCUSABLE) && !isText);
+        EXPECT_TRUE(!isControl || controls.contains(seen.role())) << seen;
+    }
+}
+
+TEST_F(Windows, ThePickerIsToldAndReachedByTheKeyboard) {
+    home.output({"create", "Lavoro", "--from", "default"});
+    home.output({"create", "Ospite", "--account", "default"});
+    launch("default", normalData);
+    auto selvane = start();
+    expectNames(selvane);
+    const std::vector<std::pair<std::string, std::string>> tiles = {
+        {"Principale", "Aperto, profilo 1 di 3"},
+        {"Lavoro", "Mai avviato, profilo 2 di 3"},
+        {"Ospite", "Mai avviato, profilo 3 di 3"},
+    };
+    for (const auto& [name, description] : tiles) {
+        EXPECT_EQ(selvane.waitForFocus(name).description(), description);
+        press({XK_Right});
+    }
+    selvane.waitForFocus("Principale");
+    EXPECT_EQ(namesOf(tabAround(selvane)),
+              std::vector<std::string>({"Principale", "Nuovo profilo", "Gestisci profili", "Impostazioni"}));
+}
+
+TEST_F(Manage, EverythingIsToldAndReachedByTheKeyboard) {
+    auto selvane = start();
+    selectLavoro(selvane);
+    expectNames(selvane);
+    std::vector<Seen> controls;
+    const auto stops = tabAround(selvane, [&](const Seen& stop) {
+        EXPECT_TRUE(stop.is(ATSPI_STATE_SHOWING) && stop.is(ATSPI_STATE_ENABLED)) << stop;
+        if (contains(controls, stop))
+            return;
+        // It has been scrolled to, and others with it.
+        for (const Seen& seen : selvane.everything()) {
+            if (isTabStop(seen) && !contains(controls, seen))
+                controls.push_back(seen);
+        }
+    });
+    expectNames(selvane);
+    EXPECT_GT(controls.size(), 40U);
+    for (const Seen& control : controls)
+        EXPECT_TRUE(contains(stops, control)) << control;
+}
+
+TEST_F(Manage, SheetsKeepTheKeyboardInside) {
+    writeFile(home / ".claude/skills/xlsx/SKILL.md", "testo");
+    home.environment["STAND_IN_OPTIONS"] = "--stand-in-session=Ricerca";
+    quit(launch("default", normalData));
+    auto selvane = start();
+    selectLavoro(selvane);
+    const std::vector<std::pair<std::string, std::string>> sheets = {
+        {"Esporta un backup", "Cosa salvare"},
+        {"Nuovo profilo da questo", "Nuovo profilo"},
+        {"Importa…", "Sessioni del tab Code"},
+        {"Aggiungi da un altro profilo…", "Aggiungi da un altro profilo"},
+    };
+    for (const auto& [button, title] : sheets) {
+        SCOPED_TRACE(title);
+        tabTo(selvane, button);
+        press({XK_space});
+        const Seen sheet = selvane.find(ATSPI_ROLE_DIALOG, title);
+        expectNames(selvane);
+        const auto stops = tabAround(selvane);
+        EXPECT_GT(stops.size(), 2U);
+        const auto inside = sheet.withDescendants();
+        for (const Seen& stop : stops)
+            EXPECT_TRUE(contains(inside, stop)) << stop;
+        press({XK_Escape});
+        selvane.waitUntilGone(ATSPI_ROLE_DIALOG, title);
+        selvane.waitForFocus(button);
+    }
+}
+
+} // namespace
+} // namespace selvane::test

@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "end-to-end/WindowsTest.h"
+
+namespace selvane::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+const std::string kAccountIsOpen = "Account già aperto in Claude";
+
+TEST_F(Windows, AProfileIsChosenByItsKeysAndLaunched) {
+    home.output({"create", "Lavoro", "--from", "default"});
+    auto selvane = start();
+    selvane.waitForFocus("Principale");
+    press({XK_Right});
+    selvane.waitForFocus("Lavoro");
+    press({XK_Return});
+    EXPECT_EQ(selvane.status(), 0);
+    const Json report = opened(lavoroData);
+    EXPECT_EQ(report["claudeConfigDir"], profile("lavoro").string());
+    EXPECT_EQ(report["arguments"],
+              Json({"--password-store=basic", "--user-data-dir=" + lavoroData.string()}));
+}
+
+TEST_F(Windows, WhatCannotBeLaunchedIsExplained) {
+    fs::remove(program);
+    auto selvane = start();
+    press({XK_Return});
+    const Seen alert = selvane.find(ATSPI_ROLE_ALERT, "Errore");
+    EXPECT_EQ(alert.description(), "Claude.app non trovata. Installala in /Applications.");
+    selvane.waitForFocus("OK");
+    press({XK_Return});
+    selvane.waitUntilGone(ATSPI_ROLE_ALERT, "Errore");
+    installAs("claude-desktop");
+    selvane.waitForFocus("Principale").press();
+    EXPECT_EQ(selvane.status(), 0);
+    EXPECT_EQ(opened(normalData)["claudeConfigDir"], Json());
+}
+
+TEST_F(Windows, AnOpenAccountIsTakenOverOnceThatIsConfirmed) {
+    home.output({"create", "Ospite", "--account", "default"});
+    const Json builtIn = launch("default", normalData);
+    auto selvane = start();
+    for (const auto answer : std::initializer_list<xcb_keysym_t>{XK_Escape, XK_Return}) {
+        press({'2'});
+        EXPECT_EQ(selvane.find(ATSPI_ROLE_ALERT, kAccountIsOpen).description(),
+                  "«Principale» usa lo stesso account Claude ed è aperto: per avviare «Ospite» va chiuso. Le "
+                  "sessioni in corso verranno interrotte.");
+        selvane.waitForFocus("Chiudi e riapri");
+        EXPECT_TRUE(isOpen(builtIn));
+        press({answer});
+        selvane.waitUntilGone(ATSPI_ROLE_ALERT, kAccountIsOpen);
+    }
+    EXPECT_EQ(selvane.status(), 0);
+    EXPECT_FALSE(isOpen(builtIn));
+    EXPECT_EQ(opened(normalData, builtIn)["claudeConfigDir"], profile("ospite").string());
+}
+
+TEST_F(Windows, ACopyThatStaysOpenIsClosedByForce) {
+    home.output({"create", "Ospite", "--account", "default"});
+    home.environment["STAND_IN_OPTIONS"] = "--stand-in-refuse-quit";
+    const Json builtIn = launch("default", normalData);
+    auto selvane = start();
+    press({'2'});
+    selvane.waitForFocus("Chiudi e riapri");
+    press({XK_Return});
+    selvane.find(ATSPI_ROLE_ALERT, "Chiusura di Claude…");
+    press({'1'}); // no second launch meanwhile
+    selvane.find(ATSPI_ROLE_ALERT, "Claude non si è chiuso");
+    EXPECT_TRUE(isOpen(builtIn));
+    selvane.waitForFocus("Annulla");
+    press({XK_Tab});
+    selvane.waitForFocus("Forza chiusura");
+    press({XK_Return});
+    EXPECT_EQ(selvane.status(), 0);
+    EXPECT_FALSE(isOpen(builtIn));
+    EXPECT_EQ(opened(normalData, builtIn)["claudeConfigDir"], profile("ospite").string());
+}
+
+} // namespace
+} // namespace selvane::test

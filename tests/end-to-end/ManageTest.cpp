@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "end-to-end/WindowsTest.h"
+#include "platform/Json.h"
+
+namespace selvane::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST_F(Manage, AModeIsChosenFromItsList) {
+    auto selvane = start();
+    selectLavoro(selvane);
+    tabTo(selvane, "Skill: Unificato");
+    press({XK_space});
+    selvane.waitForFocus("Unificato");
+    press({XK_Down});
+    selvane.waitForFocus("Separato");
+    press({XK_Return});
+    selvane.waitForFocus("Skill: Separato");
+    const fs::path skill = profile("lavoro") / "skills/pdf";
+    EXPECT_FALSE(fs::is_symlink(skill));
+    EXPECT_EQ(readFile(skill / "SKILL.md"), "testo");
+}
+
+TEST_F(Manage, AProfileIsRenamedAndItsCommandCopied) {
+    auto selvane = start();
+    selectLavoro(selvane);
+    tabTo(selvane, "Nome");
+    press({XK_Control_L, 'a'});
+    type("Studio 2");
+    press({XK_Return});
+    selvane.find(ATSPI_ROLE_LIST_ITEM, "Studio 2");
+    const fs::path record = profile("lavoro") / ".launcher.json";
+    EXPECT_EQ(json::parse(readFile(record), record)["name"], "Studio 2");
+
+    tabTo(selvane, "Comando terminale");
+    press({XK_space});
+    const Seen summary = tabTo(selvane, "Descrizione");
+    press({XK_Control_L, 'v'});
+    const fs::path helper = home / ".claude-profiles/bin/claude-profile";
+    waitUntil([&] { return summary.text() == "\"" + helper.string() + "\" lavoro"; }, "the pasted command");
+    EXPECT_TRUE(fs::exists(helper));
+}
+
+TEST_F(Manage, AProfileIsDeletedOnceThatIsConfirmed) {
+    const std::string question = "Spostare «Lavoro» nel Cestino?";
+    auto selvane = start();
+    selectLavoro(selvane);
+    tabTo(selvane, "Elimina");
+    press({XK_Return});
+    selvane.find(ATSPI_ROLE_ALERT, question);
+    selvane.waitForFocus("Annulla");
+    press({XK_Return});
+    selvane.waitUntilGone(ATSPI_ROLE_ALERT, question);
+    selvane.waitForFocus("Elimina");
+    EXPECT_TRUE(fs::exists(profile("lavoro")));
+
+    press({XK_Return});
+    selvane.waitForFocus("Annulla");
+    press({XK_Tab});
+    selvane.waitForFocus("Sposta nel Cestino");
+    press({XK_Return});
+    selvane.waitUntilGone(ATSPI_ROLE_LIST_ITEM, "Lavoro");
+    EXPECT_FALSE(fs::exists(profile("lavoro")));
+    EXPECT_TRUE(fs::is_symlink(home / ".local/share/Trash/files/lavoro/skills/pdf"));
+}
+
+} // namespace
+} // namespace selvane::test

@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <atspi/atspi.h>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "end-to-end/Program.h"
+
+namespace selvane::test {
+
+/// An object of a window as a screen reader sees it. One that has gone has no name, no states, no children.
+class Seen {
+public:
+    explicit Seen(AtspiAccessible* owned) : m_object(owned, &g_object_unref) {}
+
+    AtspiRole role() const;
+    std::string name() const;
+    std::string description() const;
+    std::string text() const; ///< of a field
+    bool is(AtspiStateType state) const;
+    guint processId() const;
+    bool isSameAs(const Seen& other) const;
+    bool canBePressed() const;
+    void press() const; ///< as assistive technology does
+    std::vector<Seen> children() const;
+    std::vector<Seen> withDescendants() const;
+
+    friend std::ostream& operator<<(std::ostream& out, const Seen& seen);
+
+private:
+    std::shared_ptr<AtspiAccessible> m_object;
+};
+
+/// Selvane's windows, from their start to their end.
+class RunningSelvane {
+public:
+    /// Waits until the picker has the keyboard. What it prints goes to files in `folder`.
+    RunningSelvane(const Environment& environment, const std::filesystem::path& folder);
+    RunningSelvane(const RunningSelvane&) = delete;
+    RunningSelvane& operator=(const RunningSelvane&) = delete;
+    ~RunningSelvane();
+
+    /// Everything that the window with the keyboard shows, itself first. Nothing while there is none.
+    std::vector<Seen> everything() const;
+    /// Waits until an object with this role and this name is shown.
+    Seen find(AtspiRole role, const std::string& name) const;
+    /// Waits until none is shown any more.
+    void waitUntilGone(AtspiRole role, const std::string& name) const;
+    /// Waits until the window with this title has the keyboard.
+    void waitForWindow(const std::string& title) const;
+    /// Waits until the keyboard has gone to an object with this name, and screen readers were told.
+    Seen waitForFocus(const std::string& name) const;
+    /// The same for any object but this one.
+    Seen waitForFocusAfter(const Seen& previous) const;
+    /// The object that has the keyboard now.
+    Seen focused() const;
+
+    /// Waits for its end.
+    int status() { return m_program.waitForEnd(); }
+
+private:
+    static void hear(AtspiEvent* event, void* self);
+    std::optional<Seen> toldFocus() const;
+    Seen waitForFocus(const std::function<bool(const Seen&)>& isWanted, const std::string& what) const;
+    std::optional<Seen> application() const;
+    std::optional<Seen> activeWindow() const;
+    std::string tree() const;
+    void waitFor(const std::function<bool()>& holds, const std::string& what) const;
+
+    mutable Program m_program;
+    AtspiEventListener* m_listener;
+    std::optional<Seen> m_focused; ///< what screen readers were told of last
+};
+
+} // namespace selvane::test

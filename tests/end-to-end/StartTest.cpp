@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "end-to-end/WindowsTest.h"
+
+namespace selvane::test {
+namespace {
+
+TEST_F(Windows, ASecondStartShowsThePickerOfTheFirst) {
+    auto selvane = start();
+    press({XK_Control_L, ','});
+    selvane.waitForWindow("Impostazioni");
+    EXPECT_EQ(home.run({}), Outcome{});
+    selvane.waitForWindow("Selvane");
+}
+
+TEST_F(Windows, ADisplayThatIsMissingIsNoCrash) {
+    const Outcome expected = failure("Nessuno schermo disponibile: senza, Selvane si usa con i suoi comandi");
+    home.environment["DISPLAY"] = ":9999";
+    EXPECT_EQ(home.run({}), expected);
+    home.environment.erase("DISPLAY");
+    EXPECT_EQ(home.run({}), expected);
+}
+
+} // namespace
+} // namespace selvane::test

@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <functional>
+#include <gtest/gtest.h>
+
+#include "end-to-end/Desktop.h"
+#include "end-to-end/RunningSelvane.h"
+#include "support/Home.h"
+#include "support/InstalledClaude.h"
+
+namespace selvane::test {
+
+/// A home with Claude Desktop's stand-in, on a desktop of its own.
+class Windows : public testing::Test, protected InstalledClaude {
+protected:
+    Windows() {
+        namespace fs = std::filesystem;
+        home.environment.merge(desktop().environment());
+        home.environment["XDG_RUNTIME_DIR"] = (home / "run").string();
+        fs::create_directory(home / "run");
+        fs::permissions(home / "run", fs::perms::owner_all);
+    }
+    /// Faults in the views are printed and go unnoticed otherwise.
+    void TearDown() override { EXPECT_EQ(readFile(home / "selvane.err"), ""); }
+
+    /// The windows, as they are until the end of the test or until they close.
+    RunningSelvane start() const { return {home.environment, home.path()}; }
+    static void press(const std::vector<xcb_keysym_t>& keys) { desktop().press(keys); }
+    static void type(const std::string& text) { desktop().type(text); }
+    /// Each object that the Tab key stops at, from the one that has the keyboard until that has it again.
+    static std::vector<Seen> tabAround(
+        const RunningSelvane& selvane, const std::function<void(const Seen&)>& atStop = [](const Seen&) {}) {
+        std::vector<Seen> stops = {selvane.focused()};
+        do {
+            press({XK_Tab});
+            stops.push_back(selvane.waitForFocusAfter(stops.back()));
+            atStop(stops.back());
+        } while (stops.size() < kMostStops && !stops.back().isSameAs(stops.front()));
+        stops.pop_back();
+        return stops;
+    }
+    /// Goes on with the Tab key, at most once around, to an object with this name.
+    static Seen tabTo(const RunningSelvane& selvane, const std::string& name) {
+        Seen stop = selvane.focused();
+        for (std::size_t i = 0; i < kMostStops && stop.name() != name; ++i) {
+            press({XK_Tab});
+            stop = selvane.waitForFocusAfter(stop);
+        }
+        EXPECT_EQ(stop.name(), name);
+        return stop;
+    }
+
+private:
+    static constexpr std::size_t kMostStops = 100;
+
+    /// What talks to the accessibility bus does so once in a process.
+    static Desktop& desktop() {
+        static Desktop instance;
+        return instance;
+    }
+};
+
+/// The management window, with a profile that inherits everything from the built-in one.
+class Manage : public Windows {
+protected:
+    Manage() {
+        writeFile(home / ".claude/skills/pdf/SKILL.md", "testo");
+        home.output({"create", "Lavoro", "--from", "default"});
+    }
+    static void selectLavoro(const RunningSelvane& selvane) {
+        press({XK_Control_L, ','});
+        selvane.waitForWindow("Impostazioni");
+        press({XK_Down});
+        selvane.waitForFocus("Lavoro");
+    }
+};
+
+} // namespace selvane::test
