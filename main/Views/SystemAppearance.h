@@ -22,7 +22,8 @@ class SystemAppearance : public QObject {
 public:
     explicit SystemAppearance(QObject* parent = nullptr);
 
-    /// Asks the desktop for its settings, without waiting for the answer. Before that, only the screen counts.
+    /// Asks the desktop for its settings, without waiting for the answer. Before that, only the screen
+    /// counts.
     void read();
 
     double textScale() const; ///< 1: as designed

@@ -86,7 +86,8 @@ constexpr auto kManage = LauncherApp::Manage;
 /// The part of the management window that scrolls.
 void scrollDetail(QQuickWindow* window, double y) {
     for (QQuickItem* view : window->findChildren<QQuickItem*>()) {
-        if (view->inherits("QQuickFlickable") && view->property("contentHeight").toDouble() > y + view->height())
+        if (view->inherits("QQuickFlickable") &&
+            view->property("contentHeight").toDouble() > y + view->height())
             view->setProperty("contentY", y);
     }
 }
