@@ -13,7 +13,7 @@ class FocusVisibility : public QObject {
     Q_OBJECT
     QML_ELEMENT
 
-    Q_PROPERTY(bool isVisible MEMBER m_isVisible NOTIFY isVisibleChanged)
+    Q_PROPERTY(bool isVisible MEMBER m_isVisible NOTIFY isVisibleChanged FINAL)
 
 public:
     explicit FocusVisibility(QObject* parent = nullptr);

@@ -33,26 +33,15 @@ IconWeight weightOf(PathIcon::Weight weight, qreal size) {
 PathIcon::PathIcon(QQuickItem* parent) : PaintedShape(parent) {
     connect(this, &PathIcon::shapeChanged, this, [this] {
         setSide(m_size);
-        if (isComponentComplete())
-            chooseShape();
+        emit changed();
     });
 }
 
-void PathIcon::componentComplete() {
-    PaintedShape::componentComplete();
-    chooseShape();
-}
-
-void PathIcon::chooseShape() {
+void PathIcon::paint(QPainter& painter) const {
     const std::string symbol = m_symbol.toStdString();
     const std::string name = m_name.toStdString();
     const std::string_view icon = name.empty() && !symbol.empty() ? iconForSymbol(symbol) : name;
-    m_path = iconPath(icon, weightOf(m_weight, m_size));
-    emit changed();
-}
-
-void PathIcon::paint(QPainter& painter) const {
-    fill(painter, m_path, kIconBox, m_color);
+    fill(painter, iconPath(icon, weightOf(m_weight, m_size)), kIconBox, m_color);
 }
 
 } // namespace selvane

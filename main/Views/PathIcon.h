@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <QPainterPath>
 #include <QString>
 
 #include "Views/PaintedShape.h"
@@ -33,16 +32,12 @@ signals:
 
 protected:
     void paint(QPainter& painter) const override;
-    void componentComplete() override;
 
 private:
-    void chooseShape();
-
     QString m_symbol;
     QString m_name;
     Weight m_weight = Automatic;
     qreal m_size = 0;
-    QPainterPath m_path;
 };
 
 } // namespace selvane

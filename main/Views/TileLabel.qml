@@ -41,14 +41,15 @@ Item {
         readonly property int lines: label.isCompact && label.hasOwnAccount ? 2 : 3
         readonly property bool hasPath: Theme.hasPaths(label.summary)
 
-        anchors { left: parent.left; right: parent.right; margins: Theme.space16 }
+        x: Theme.space16
         y: Theme.picker.tileSummaryTop
+        width: label.width - 2 * Theme.space16
+        height: lines * look.lineHeight
+        verticalAlignment: Text.AlignTop
         look: Theme.summary
         text: hasPath ? Theme.withPaths(label.summary, look) : label.summary
         textFormat: hasPath ? Text.RichText : Text.PlainText
-        // Only plain text can be cut by lines.
-        height: Math.min(implicitHeight, lines * look.lineHeight)
-        clip: hasPath
+        clip: hasPath // only plain text can be cut by lines
         color: Theme.textSoft
         wrapMode: Text.Wrap
         maximumLineCount: lines

@@ -80,12 +80,13 @@ std::vector<qreal> gaussian(qreal deviation) {
 QImage blurredAndTurned(const QImage& mask, const std::vector<qreal>& weights) {
     QImage result(mask.height(), mask.width(), QImage::Format_Alpha8);
     const int reach = static_cast<int>(weights.size() / 2);
+    const qreal* middle = weights.data() + reach;
     for (int y = 0; y < mask.height(); ++y) {
         const uchar* line = mask.constScanLine(y);
         for (int x = 0; x < mask.width(); ++x) {
             qreal sum = 0;
             for (int i = std::max(-reach, -x); i <= std::min(reach, mask.width() - 1 - x); ++i)
-                sum += weights[static_cast<std::size_t>(i + reach)] * line[x + i];
+                sum += middle[i] * line[x + i];
             result.scanLine(x)[y] = static_cast<uchar>(std::lround(sum));
         }
     }

@@ -10,20 +10,12 @@
 
 #include <fontconfig/fontconfig.h>
 
-#include <future>
-
 #include "platform/ModuleFolder.h"
 
 namespace selvane {
 namespace {
 
 constexpr int kBodySize = 13;
-
-/// What the system's fonts are and how they are set, which Qt would read as soon as it meets a font.
-std::future<void>& fontConfiguration() {
-    static std::future<void> reading = std::async(std::launch::async, [] { FcInit(); });
-    return reading;
-}
 
 } // namespace
 
@@ -32,12 +24,11 @@ Brand::Brand(QObject* parent) : QObject(parent) {
 }
 
 void Brand::prepareFonts() {
-    fontConfiguration();
+    FcInit();
 }
 
 void Brand::registerFonts() {
     static const bool registered = [] {
-        fontConfiguration().wait();
         const QDir folder(QString::fromStdString(modulePath("Fonts").string()));
         const QStringList kinds = {QStringLiteral("*.ttf"), QStringLiteral("*.woff2")};
         for (const QString& file : folder.entryList(kinds, QDir::Files, QDir::Name))

@@ -15,28 +15,28 @@ class Brand : public QObject {
     Q_OBJECT
     QML_ELEMENT
 
-    Q_PROPERTY(QString name MEMBER name CONSTANT)
-    Q_PROPERTY(QColor bg MEMBER bg CONSTANT)
-    Q_PROPERTY(QColor bg2 MEMBER bg2 CONSTANT)
-    Q_PROPERTY(QColor bg3 MEMBER bg3 CONSTANT)
-    Q_PROPERTY(QColor fg MEMBER fg CONSTANT)
-    Q_PROPERTY(QColor fg2 MEMBER fg2 CONSTANT)
-    Q_PROPERTY(QColor fg3 MEMBER fg3 CONSTANT)
-    Q_PROPERTY(QColor line MEMBER line CONSTANT)
-    Q_PROPERTY(QColor lineStrong MEMBER lineStrong CONSTANT)
-    Q_PROPERTY(QColor accent MEMBER accent CONSTANT)
-    Q_PROPERTY(QColor accent2 MEMBER accent2 CONSTANT)
-    Q_PROPERTY(QColor cool MEMBER cool CONSTANT)
-    Q_PROPERTY(QColor ok MEMBER ok CONSTANT)
-    Q_PROPERTY(QString displayFamily MEMBER displayFamily CONSTANT)
-    Q_PROPERTY(QString serifFamily MEMBER serifFamily CONSTANT)
-    Q_PROPERTY(QString monoFamily MEMBER monoFamily CONSTANT)
+    Q_PROPERTY(QString name MEMBER name CONSTANT FINAL)
+    Q_PROPERTY(QColor bg MEMBER bg CONSTANT FINAL)
+    Q_PROPERTY(QColor bg2 MEMBER bg2 CONSTANT FINAL)
+    Q_PROPERTY(QColor bg3 MEMBER bg3 CONSTANT FINAL)
+    Q_PROPERTY(QColor fg MEMBER fg CONSTANT FINAL)
+    Q_PROPERTY(QColor fg2 MEMBER fg2 CONSTANT FINAL)
+    Q_PROPERTY(QColor fg3 MEMBER fg3 CONSTANT FINAL)
+    Q_PROPERTY(QColor line MEMBER line CONSTANT FINAL)
+    Q_PROPERTY(QColor lineStrong MEMBER lineStrong CONSTANT FINAL)
+    Q_PROPERTY(QColor accent MEMBER accent CONSTANT FINAL)
+    Q_PROPERTY(QColor accent2 MEMBER accent2 CONSTANT FINAL)
+    Q_PROPERTY(QColor cool MEMBER cool CONSTANT FINAL)
+    Q_PROPERTY(QColor ok MEMBER ok CONSTANT FINAL)
+    Q_PROPERTY(QString displayFamily MEMBER displayFamily CONSTANT FINAL)
+    Q_PROPERTY(QString serifFamily MEMBER serifFamily CONSTANT FINAL)
+    Q_PROPERTY(QString monoFamily MEMBER monoFamily CONSTANT FINAL)
 
 public:
     /// Registers the fonts, so that no text is set before them.
     explicit Brand(QObject* parent = nullptr);
 
-    /// Begins with what takes longest about fonts, on another thread. Never needed.
+    /// Reads how the system sets fonts, which takes longest about them. Any thread may do it ahead.
     static void prepareFonts();
     /// Makes the font files of the "Fonts" folder known to this process; only the first call does anything.
     /// A missing folder leaves the system's own faces. Needs a QGuiApplication.

@@ -3,7 +3,6 @@
 
 #include "artwork/Shapes.h"
 
-#include <QPainterPathStroker>
 #include <QTransform>
 
 #include <algorithm>
@@ -15,6 +14,16 @@ namespace {
 
 QPainterPath turnedAbout(QPointF centre, const QPainterPath& path) {
     return QTransform(-1, 0, 0, -1, 2 * centre.x(), 2 * centre.y()).map(path);
+}
+
+constexpr qreal kLogoLine = 0.11;
+
+void addLogoRing(QPainterPath& path, QPointF centre) {
+    constexpr qreal kRadius = 0.19; // to the middle of the line
+    QPainterPath hole;
+    hole.addEllipse(centre, kRadius - kLogoLine / 2, kRadius - kLogoLine / 2);
+    path.addEllipse(centre, kRadius + kLogoLine / 2, kRadius + kLogoLine / 2);
+    path.addPath(hole.toReversed());
 }
 
 } // namespace
@@ -58,18 +67,13 @@ QPainterPath longLeafTipDown(const QRectF& box) {
 }
 
 QPainterPath makerLogo() {
-    QPainterPath strokes;
-    strokes.moveTo(0.19, 0.08);
-    strokes.lineTo(0.19, 0.92);
-    strokes.moveTo(0.19, 0.5);
-    strokes.lineTo(0.6, 0.5);
-    strokes.addEllipse(QPointF(0.62, 0.295), 0.19, 0.19);
-    strokes.addEllipse(QPointF(0.62, 0.705), 0.19, 0.19);
-    QPainterPathStroker stroker;
-    stroker.setWidth(0.11);
-    stroker.setCapStyle(Qt::FlatCap);
-    stroker.setCurveThreshold(0.001); // the square is small: without this circles become polygons
-    return stroker.createStroke(strokes);
+    QPainterPath path;
+    path.setFillRule(Qt::WindingFill);
+    path.addRect(0.19 - kLogoLine / 2, 0.08, kLogoLine, 0.84);
+    path.addRect(0.19, 0.5 - kLogoLine / 2, 0.41, kLogoLine);
+    addLogoRing(path, {0.62, 0.295});
+    addLogoRing(path, {0.62, 0.705});
+    return path;
 }
 
 } // namespace selvane

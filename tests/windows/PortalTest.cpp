@@ -1,12 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include <QDBusAbstractAdaptor>
 #include <QDBusArgument>
-#include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusObjectPath>
-#include <QDBusVariant>
 #include <QDeadlineTimer>
 #include <QGuiApplication>
 
@@ -15,63 +10,9 @@
 
 #include "Views/PortalSaveDialog.h"
 #include "Views/SystemAppearance.h"
+#include "windows/FakePortal.h"
 
 namespace selvane::test {
-
-constexpr auto kPath = "/org/freedesktop/portal/desktop";
-
-/// The desktop's side of the file dialog: records what it is asked, and answers when told.
-class FakeFileChooser : public QDBusAbstractAdaptor {
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.FileChooser")
-
-public:
-    explicit FakeFileChooser(QObject* desktop) : QDBusAbstractAdaptor(desktop) {}
-
-    QString title;
-    QVariantMap options;
-    QString sender;
-
-    void answer(uint response, const QVariantMap& results) const {
-        const QString path = QStringLiteral("%1/request/%2/%3")
-                                 .arg(kPath, QString(sender).mid(1).replace('.', '_'),
-                                      options.value("handle_token").toString());
-        QDBusMessage signal = QDBusMessage::createSignal(path, "org.freedesktop.portal.Request", "Response");
-        signal << response << results;
-        QDBusConnection("desktop").send(signal);
-    }
-
-public slots:
-    QDBusObjectPath SaveFile(const QString& /*parent*/, const QString& itsTitle,
-                             const QVariantMap& itsOptions, const QDBusMessage& call) {
-        title = itsTitle;
-        options = itsOptions;
-        sender = call.service();
-        return QDBusObjectPath("/as/announced");
-    }
-};
-
-/// The desktop's settings.
-class FakeSettings : public QDBusAbstractAdaptor {
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
-
-public:
-    explicit FakeSettings(QObject* desktop) : QDBusAbstractAdaptor(desktop) {}
-
-public slots:
-    QDBusVariant Read(const QString& /*group*/, const QString& key, const QDBusMessage& call) {
-        if (key == "text-scaling-factor")
-            return QDBusVariant(QVariant::fromValue(QDBusVariant(1.25)));
-        QDBusConnection("desktop").send(
-            call.createErrorReply("org.freedesktop.portal.Error.NotFound", "no such setting"));
-        call.setDelayedReply(true);
-        return {};
-    }
-
-signals:
-    void SettingChanged(const QString& group, const QString& key, const QDBusVariant& value);
-};
 
 namespace {
 
@@ -94,7 +35,7 @@ protected:
 
     void appear() {
         QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "desktop");
-        ASSERT_TRUE(bus.registerObject(kPath, &desktop));
+        ASSERT_TRUE(bus.registerObject(kPortalPath, &desktop));
         ASSERT_TRUE(bus.registerService("org.freedesktop.portal.Desktop"));
     }
     void ask() { dialog.ask(nullptr, "Salva", "/home/anna/Caffè e latte", "Copia.zip"); }
@@ -165,5 +106,3 @@ int main(int argc, char** argv) {
     const QGuiApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }
-
-#include "PortalTest.moc"
