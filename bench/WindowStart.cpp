@@ -19,6 +19,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -182,7 +183,7 @@ Start start(const std::string& program, Watcher& watcher) {
 /// The value that `part` of all lie below.
 double quantile(std::vector<double> values, double part) {
     std::sort(values.begin(), values.end());
-    return values[static_cast<std::size_t>(part * static_cast<double>(values.size() - 1) + 0.5)];
+    return values[static_cast<std::size_t>(std::lround(part * static_cast<double>(values.size() - 1)))];
 }
 
 std::vector<double> ratios(const std::vector<Start>& starts, const std::vector<Start>& base,

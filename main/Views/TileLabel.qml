@@ -44,12 +44,12 @@ Item {
         x: Theme.space16
         y: Theme.picker.tileSummaryTop
         width: label.width - 2 * Theme.space16
-        height: lines * look.lineHeight
-        verticalAlignment: Text.AlignTop
+        // Only plain text can be cut by lines.
+        height: Math.min(implicitHeight, lines * look.lineHeight)
+        clip: hasPath
         look: Theme.summary
         text: hasPath ? Theme.withPaths(label.summary, look) : label.summary
         textFormat: hasPath ? Text.RichText : Text.PlainText
-        clip: hasPath // only plain text can be cut by lines
         color: Theme.textSoft
         wrapMode: Text.Wrap
         maximumLineCount: lines

@@ -35,6 +35,7 @@ public:
         QDBusConnection("desktop").send(signal);
     }
 
+    // NOLINTBEGIN(readability-identifier-naming): the portal's own names
 public slots:
     QDBusObjectPath SaveFile(const QString& /*parent*/, const QString& itsTitle,
                              const QVariantMap& itsOptions, const QDBusMessage& call) {
@@ -43,6 +44,7 @@ public slots:
         sender = call.service();
         return QDBusObjectPath("/as/announced");
     }
+    // NOLINTEND(readability-identifier-naming)
 };
 
 /// The desktop's settings.
@@ -53,6 +55,7 @@ class FakeSettings : public QDBusAbstractAdaptor {
 public:
     explicit FakeSettings(QObject* desktop) : QDBusAbstractAdaptor(desktop) {}
 
+    // NOLINTBEGIN(readability-identifier-naming): the portal's own names
 public slots:
     QDBusVariant Read(const QString& /*group*/, const QString& key, const QDBusMessage& call) {
         if (key == "text-scaling-factor")
@@ -65,6 +68,7 @@ public slots:
 
 signals:
     void SettingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+    // NOLINTEND(readability-identifier-naming)
 };
 
 } // namespace selvane::test

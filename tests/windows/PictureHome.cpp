@@ -8,10 +8,10 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr int kSessions = 12;
+constexpr std::size_t kSessions = 12;
 constexpr int kPendingSessions = 2;
 
-std::string sessionRecord(int number, const std::string& title, const std::string& folder) {
+std::string sessionRecord(std::size_t number, const std::string& title, const std::string& folder) {
     const std::string text = std::to_string(number);
     return R"({"sessionId": "local_)" + text + R"(", "cliSessionId": "cli-)" + text + R"(", "title": ")" +
            title + R"(", "cwd": ")" + folder + R"(", "lastActivityAt": 17952)" + std::to_string(90 - number) +
@@ -54,7 +54,7 @@ void PictureHome::fillBuiltIn() const {
                                   "Note di rilascio 2.4",         "Migrazione a PostgreSQL 17",
                                   "Test che falliscono di notte", "Traduzioni della guida"};
     const char* const folders[] = {"~/progetti/negozio", "~/progetti/ricerca", "~/progetti/guida"};
-    for (int i = 0; i < kSessions; ++i)
+    for (std::size_t i = 0; i < kSessions; ++i)
         writeFile(sessions / ("local_" + std::to_string(i) + ".json"),
                   sessionRecord(i, titles[i % std::size(titles)], folders[i % std::size(folders)]));
 }

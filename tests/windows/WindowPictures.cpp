@@ -43,10 +43,10 @@ void settle() {
 /// The application with its windows over one home.
 class Scene {
 public:
-    Scene(Home& home, QDir folder)
-        : m_folder(std::move(folder)),
-          m_preferences(QString::fromStdString((home / "preferences.conf").string())), m_updates(nullptr),
-          model(home.store, home.claude, m_bridge, m_preferences), launcher(model, m_updates) {}
+    Scene(Home& home, const QDir& folder)
+        : m_folder(folder), m_preferences(QString::fromStdString((home / "preferences.conf").string())),
+          m_updates(nullptr), model(home.store, home.claude, m_bridge, m_preferences),
+          launcher(model, m_updates) {}
 
     void take(LauncherApp::WindowName name, const QString& picture) {
         settle();
