@@ -4,6 +4,8 @@
 #include "Views/LauncherApp.h"
 
 #include <QGuiApplication>
+#include <QIcon>
+#include <QPixmap>
 #include <QQmlComponent>
 #include <QQuickItem>
 #include <QStandardPaths>
@@ -20,12 +22,14 @@
 #include "Views/SingleInstance.h"
 #include "Views/SystemAppearance.h"
 #include "Views/SystemBridge.h"
+#include "artwork/AppIcon.h"
 #include "artwork/Brand.h"
 #include "model/LauncherError.h"
 
 namespace selvane {
 namespace {
 
+constexpr auto kNewProfileOption = "--new-profile";
 constexpr auto kNoDisplay = "Nessuno schermo disponibile: senza, Selvane si usa con i suoi comandi";
 
 void requireDisplay() {
@@ -45,6 +49,14 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/, co
 QString preferencesFile() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
            "/selvane/preferenze.conf";
+}
+
+/// For window managers that don't find the desktop entry.
+void setWindowIcon() {
+    QIcon icon;
+    for (const int size : {16, 32, 48, 128})
+        icon.addPixmap(QPixmap::fromImage(appIcon(size)));
+    QGuiApplication::setWindowIcon(icon);
 }
 
 /// By way of its module: a file opened by its place alone doesn't see the module's own types.
@@ -108,9 +120,30 @@ bool LauncherApp::isShown() const {
                        [](const auto& window) { return window && window->isVisible(); });
 }
 
-void LauncherApp::start() {
+void LauncherApp::offerNewProfile() {
+    // What answers is made after the window's first frame.
+    QQuickWindow* picker = window(Picker);
+    if (picker->property("isComplete").toBool())
+        emit newProfile();
+    else
+        connect(picker, SIGNAL(isCompleteChanged()), this, SIGNAL(newProfile()), Qt::UniqueConnection);
+}
+
+void LauncherApp::answerStart(const QByteArray& request) {
+    m_app.perform([&] {
+        show(Picker);
+        if (request == kNewProfileOption)
+            offerNewProfile();
+    });
+}
+
+void LauncherApp::start(const QByteArray& request) {
     show(Picker);
-    // After the first window: it is worth no delay.
+    if (request == kNewProfileOption)
+        offerNewProfile();
+    // After the first window: these are worth no delay.
+    const auto once = static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection);
+    connect(window(Picker), &QQuickWindow::frameSwapped, this, &setWindowIcon, once);
     m_engine.singletonInstance<SystemAppearance*>(qmlTypeId("Selvane", 1, 0, "SystemAppearance"))->read();
 }
 
@@ -137,9 +170,10 @@ int runLauncherApp(int argc, char** argv) {
     QGuiApplication application(argc, argv);
     qInstallMessageHandler(usual);
     QGuiApplication::setApplicationName(Brand::name);
-    QGuiApplication::setDesktopFileName(QStringLiteral("selvane"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.selvane.Selvane"));
+    const QByteArray request = argc > 1 ? argv[1] : "";
     SingleInstance instance;
-    if (!instance.claim())
+    if (!instance.claim(request))
         return 0;
     Brand::registerFonts();
 
@@ -154,11 +188,11 @@ int runLauncherApp(int argc, char** argv) {
     Updates updates(makeUpdater());
     LauncherApp launcher(model, updates);
 
-    QObject::connect(&instance, &SingleInstance::startedAgain, &launcher, &LauncherApp::showPicker);
+    QObject::connect(&instance, &SingleInstance::startedAgain, &launcher, &LauncherApp::answerStart);
     QObject::connect(&launcher, &LauncherApp::shownChanged, &bridge, &SystemBridge::setWatching);
     QObject::connect(&bridge, &SystemBridge::archiveWanted, &launcher, &LauncherApp::askForArchive);
     QObject::connect(&launcher, &LauncherApp::archiveChosen, &bridge, &SystemBridge::answerArchive);
-    launcher.start();
+    launcher.start(request);
     const int status = QGuiApplication::exec();
     QThreadPool::globalInstance()->waitForDone(); // what still reads uses the store
     return status;

@@ -39,7 +39,8 @@ public:
     Updates* updates() const { return &m_updates; }
     WindowName keyWindow() const { return m_keyWindow; }
     /// Opens the picker and follows the desktop's settings. Throws `LauncherError` when it can't be made.
-    void start();
+    /// `request` is what `answerStart` takes.
+    void start(const QByteArray& request = {});
     /// Null until it is first shown.
     QQuickWindow* window(WindowName name) const { return m_windows.at(name).get(); }
 
@@ -47,6 +48,8 @@ public slots:
     // Open a window or bring it to the front, with what is on disk now.
     void showPicker() { tryToShow(Picker); }
     void showManage() { tryToShow(Manage); }
+    /// Does what a start of Selvane with this argument asks for: "--new-profile", or anything else.
+    void answerStart(const QByteArray& request);
     /// Asks in the key window for a place; `archiveChosen` follows.
     void askForArchive(const QString& proposedPlace);
 
@@ -61,6 +64,7 @@ signals:
 
 private:
     void show(WindowName name);
+    void offerNewProfile();
     void tryToShow(WindowName name);
     std::unique_ptr<QQuickWindow> makeWindow(WindowName name);
     void setKeyWindow(WindowName name);
@@ -75,7 +79,8 @@ private:
 };
 
 /// Runs the windowed application to its end and returns its exit status. A second start brings the first
-/// one's picker to the front. Throws `LauncherError` when there is no display.
+/// one's picker to the front. With "--new-profile" the picker asks for a new profile at once. Throws
+/// `LauncherError` when there is no display.
 int runLauncherApp(int argc, char** argv);
 
 } // namespace selvane

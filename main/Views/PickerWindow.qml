@@ -11,6 +11,7 @@ Window {
     id: window
 
     required property LauncherApp launcher
+    readonly property bool isComplete: overlays.status === Loader.Ready
 
     width: Theme.picker.window.width
     height: Theme.picker.window.height

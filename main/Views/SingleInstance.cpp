@@ -10,6 +10,7 @@ namespace selvane {
 namespace {
 
 constexpr int kAnswerMilliseconds = 1000;
+constexpr qint64 kLongestRequest = 1000;
 
 /// In the user's own runtime folder, which no other user can enter.
 QString socketName() {
@@ -19,19 +20,29 @@ QString socketName() {
 
 } // namespace
 
-bool SingleInstance::claim() {
+void SingleInstance::hear(QLocalSocket* caller) {
+    connect(caller, &QLocalSocket::disconnected, this, [this, caller] {
+        emit startedAgain(caller->read(kLongestRequest));
+        caller->deleteLater();
+    });
+}
+
+bool SingleInstance::claim(const QByteArray& request) {
     const QString name = socketName();
     if (name.isEmpty())
         return true;
     QLocalSocket other;
     other.connectToServer(name);
-    if (other.waitForConnected(kAnswerMilliseconds))
+    if (other.waitForConnected(kAnswerMilliseconds)) {
+        other.write(request);
+        while (other.bytesToWrite() > 0 && other.waitForBytesWritten(kAnswerMilliseconds)) {
+        }
         return false;
+    }
     QLocalServer::removeServer(name); // left behind by one that was killed
     connect(&m_server, &QLocalServer::newConnection, this, [this] {
         while (QLocalSocket* caller = m_server.nextPendingConnection())
-            caller->deleteLater();
-        emit startedAgain();
+            hear(caller);
     });
     m_server.setSocketOptions(QLocalServer::UserAccessOption);
     m_server.listen(name);

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QByteArray>
 #include <QLocalServer>
 #include <QObject>
 
@@ -15,14 +16,16 @@ class SingleInstance : public QObject {
 public:
     using QObject::QObject;
 
-    /// Whether this process is the one. If not, the other has been told.
-    bool claim();
+    /// Whether this process is the one. If not, the other has been told, and of the `request` too.
+    bool claim(const QByteArray& request);
 
 signals:
-    /// Somebody has started Selvane again.
-    void startedAgain();
+    /// Somebody has started Selvane again, with this request.
+    void startedAgain(const QByteArray& request);
 
 private:
+    void hear(QLocalSocket* caller);
+
     QLocalServer m_server;
 };
 

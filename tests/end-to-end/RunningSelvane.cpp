@@ -49,6 +49,11 @@ void print(const Seen& seen, int depth, std::ostream& out) {
         print(child, depth + 1, out);
 }
 
+std::vector<std::string> commandLine(std::vector<std::string> arguments) {
+    arguments.insert(arguments.begin(), SELVANE_EXECUTABLE);
+    return arguments;
+}
+
 } // namespace
 
 guint Seen::processId() const {
@@ -125,8 +130,9 @@ std::ostream& operator<<(std::ostream& out, const Seen& seen) {
     return out << (seen.canBePressed() ? " pressable" : "");
 }
 
-RunningSelvane::RunningSelvane(const Environment& environment, const std::filesystem::path& folder)
-    : m_program({SELVANE_EXECUTABLE}, environment, folder),
+RunningSelvane::RunningSelvane(const Environment& environment, const std::filesystem::path& folder,
+                               std::vector<std::string> arguments)
+    : m_program(commandLine(std::move(arguments)), environment, folder),
       m_listener(atspi_event_listener_new(&hear, this, nullptr)) {
     atspi_event_listener_register(m_listener, kFocusEvent, nullptr);
     // Shortcuts and messages follow the first picture; that of messages can be seen to be there.

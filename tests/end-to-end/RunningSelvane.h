@@ -43,7 +43,8 @@ private:
 class RunningSelvane {
 public:
     /// Waits until the picker has the keyboard. What it prints goes to files in `folder`.
-    RunningSelvane(const Environment& environment, const std::filesystem::path& folder);
+    RunningSelvane(const Environment& environment, const std::filesystem::path& folder,
+                   std::vector<std::string> arguments = {});
     RunningSelvane(const RunningSelvane&) = delete;
     RunningSelvane& operator=(const RunningSelvane&) = delete;
     ~RunningSelvane();

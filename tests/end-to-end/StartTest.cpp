@@ -14,6 +14,18 @@ TEST_F(Windows, ASecondStartShowsThePickerOfTheFirst) {
     selvane.waitForWindow("Selvane");
 }
 
+TEST_F(Windows, AStartCanAskForANewProfile) {
+    auto selvane = start({"--new-profile"});
+    selvane.waitForFocus("Nome");
+    press({XK_Escape});
+    selvane.waitUntilGone(ATSPI_ROLE_DIALOG, "Nuovo profilo");
+    press({XK_Control_L, ','});
+    selvane.waitForWindow("Impostazioni");
+    EXPECT_EQ(home.run({"--new-profile"}), Outcome{});
+    selvane.waitForWindow("Selvane");
+    selvane.waitForFocus("Nome");
+}
+
 TEST_F(Windows, ADisplayThatIsMissingIsNoCrash) {
     const Outcome expected = failure("Nessuno schermo disponibile: senza, Selvane si usa con i suoi comandi");
     home.environment["DISPLAY"] = ":9999";

@@ -27,7 +27,9 @@ protected:
     void TearDown() override { EXPECT_EQ(readFile(home / "selvane.err"), ""); }
 
     /// The windows, as they are until the end of the test or until they close.
-    RunningSelvane start() const { return {home.environment, home.path()}; }
+    RunningSelvane start(std::vector<std::string> arguments = {}) const {
+        return {home.environment, home.path(), std::move(arguments)};
+    }
     static void press(const std::vector<xcb_keysym_t>& keys) { desktop().press(keys); }
     static void type(const std::string& text) { desktop().type(text); }
     /// Each object that the Tab key stops at, from the one that has the keyboard until that has it again.
