@@ -8,7 +8,9 @@
 #include <QPainterPath>
 #include <QRadialGradient>
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <vector>
 
 #include "artwork/Brand.h"
@@ -23,28 +25,47 @@ constexpr int kSmallestWithDepth = 64;
 
 /// Of the sizes below that: a grid on whose lines all edges lie.
 struct FlatDesign {
-    int smallest;
-    qreal grid;
+    int grid;
     QRectF body;
     qreal radius;
     const char* upper;
     const char* lower;
 };
 
+// The last one is for every size that is no multiple of a grid.
 const FlatDesign kFlatDesigns[] = {
     {32,
-     32,
      {3, 3, 26, 26},
      6,
      "M25,8H13A3.5,3.5 0 0 0 13,15H18A7,7 0 0 0 25,8Z",
      "M7,24H19A3.5,3.5 0 0 0 19,17H14A7,7 0 0 0 7,24Z"},
-    {0,
-     16,
+    {24,
+     {2, 2, 20, 20},
+     5,
+     "M19,6H9.5A2.5,2.5 0 0 0 9.5,11H14A5,5 0 0 0 19,6Z",
+     "M5,18H14.5A2.5,2.5 0 0 0 14.5,13H10A5,5 0 0 0 5,18Z"},
+    {22,
+     {1, 1, 20, 20},
+     5,
+     "M18,5H8.5A2.5,2.5 0 0 0 8.5,10H13A5,5 0 0 0 18,5Z",
+     "M4,17H13.5A2.5,2.5 0 0 0 13.5,12H9A5,5 0 0 0 4,17Z"},
+    {18,
+     {1, 1, 16, 16},
+     4,
+     "M15,4H7A2,2 0 0 0 7,8H11A4,4 0 0 0 15,4Z",
+     "M3,14H11A2,2 0 0 0 11,10H7A4,4 0 0 0 3,14Z"},
+    {16,
      {1, 1, 14, 14},
      3.5,
      "M13,3H6A2,2 0 0 0 6,7H9A4,4 0 0 0 13,3Z",
      "M3,13H10A2,2 0 0 0 10,9H7A4,4 0 0 0 3,13Z"},
 };
+
+const FlatDesign& flatDesign(int pixels) {
+    const auto* const last = std::end(kFlatDesigns) - 1;
+    return *std::find_if(std::begin(kFlatDesigns), last,
+                         [pixels](const FlatDesign& design) { return pixels % design.grid == 0; });
+}
 
 QPainterPath roundedRect(const QRectF& box, qreal radius) {
     QPainterPath path;
@@ -137,7 +158,7 @@ void paintWithDepth(QPainter& painter, int pixels) {
 }
 
 void paintFlat(QPainter& painter, int pixels) {
-    const FlatDesign& design = pixels >= kFlatDesigns[0].smallest ? kFlatDesigns[0] : kFlatDesigns[1];
+    const FlatDesign& design = flatDesign(pixels);
     painter.scale(pixels / design.grid, pixels / design.grid);
     painter.fillPath(roundedRect(design.body, design.radius), QColor("#1d2a25"));
     painter.fillPath(svgPath(design.upper), Brand::cool);
