@@ -5,6 +5,7 @@
 
 #include <string>
 #include <sys/stat.h>
+#include <tuple>
 #include <vector>
 
 #include "platform/FolderTrail.h"
@@ -64,7 +65,7 @@ Descriptor TreeRemoval::open(const std::string& name) const {
     constexpr int kFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
     Descriptor folder(::openat(m_trail.current(), name.c_str(), kFlags));
     if (!folder && errno == EACCES) {
-        static_cast<void>(::fchmodat(m_trail.current(), name.c_str(), S_IRWXU, AT_SYMLINK_NOFOLLOW));
+        std::ignore = ::fchmodat(m_trail.current(), name.c_str(), S_IRWXU, AT_SYMLINK_NOFOLLOW);
         folder = Descriptor(::openat(m_trail.current(), name.c_str(), kFlags));
     }
     if (!folder)
