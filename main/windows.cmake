@@ -3,7 +3,6 @@
 #
 # The windows and the drawing: a module that the executable loads when it needs them. All of Qt is here.
 
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Qml Quick Concurrent DBus Network)
 pkg_check_modules(FONTCONFIG REQUIRED IMPORTED_TARGET fontconfig)
 
 set(SELVANE_ASSETS ${CMAKE_SOURCE_DIR}/build/assets CACHE PATH "Fonts and icons, as script/assets leaves them")
@@ -34,8 +33,6 @@ add_custom_command(
   VERBATIM
 )
 add_custom_target(selvane-fonts DEPENDS ${font_folder}/.state)
-install(DIRECTORY ${SELVANE_ASSETS}/Fonts DESTINATION ${CMAKE_INSTALL_PREFIX}/lib/selvane)
-install(DIRECTORY ${SELVANE_ASSETS}/licences DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 # ---- Everything that is seen, and what it shows: to be linked by the module and by its tests
 

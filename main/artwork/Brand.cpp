@@ -29,7 +29,7 @@ void Brand::prepareFonts() {
 
 void Brand::registerFonts() {
     static const bool registered = [] {
-        const QDir folder(QString::fromStdString(modulePath("Fonts").string()));
+        const QDir folder(QString::fromStdString(resourcePath("Fonts").string()));
         const QStringList kinds = {QStringLiteral("*.ttf"), QStringLiteral("*.woff2")};
         for (const QString& file : folder.entryList(kinds, QDir::Files, QDir::Name))
             QFontDatabase::addApplicationFont(folder.filePath(file));

@@ -8,8 +8,12 @@
 
 namespace selvane {
 
-/// Where a module of the program lies: beside the running executable, as in a build tree, else in the
-/// `lib/selvane` of its installation. Says nothing about whether it is there.
+/// Where a module of this installation is, or would be: beside the executable as in a build tree, otherwise
+/// in
+/// `../lib/selvane`.
 std::filesystem::path modulePath(const std::string& fileName);
+
+/// The same for a file or folder that is no code: beside the executable, otherwise in `../share/selvane`.
+std::filesystem::path resourcePath(const std::string& name);
 
 } // namespace selvane

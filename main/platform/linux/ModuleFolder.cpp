@@ -7,13 +7,25 @@ namespace selvane {
 
 namespace fs = std::filesystem;
 
-fs::path modulePath(const std::string& fileName) {
+namespace {
+
+fs::path installedPath(const char* folder, const std::string& name) {
     std::error_code error;
-    const fs::path folder = fs::read_symlink("/proc/self/exe", error).parent_path();
-    fs::path beside = folder / fileName;
+    const fs::path here = fs::read_symlink("/proc/self/exe", error).parent_path();
+    fs::path beside = here / name;
     if (fs::exists(beside, error))
         return beside;
-    return folder.parent_path() / "lib/selvane" / fileName;
+    return here.parent_path() / folder / name;
+}
+
+} // namespace
+
+fs::path modulePath(const std::string& fileName) {
+    return installedPath("lib/selvane", fileName);
+}
+
+fs::path resourcePath(const std::string& name) {
+    return installedPath("share/selvane", name);
 }
 
 } // namespace selvane
