@@ -164,7 +164,7 @@ void FileManager::createFolders(const std::filesystem::path& folder, Privacy pri
 }
 
 void FileManager::createFolder(const std::filesystem::path& folder) const {
-    if (::mkdir(folder.c_str(), ACCESSPERMS) != 0)
+    if (::mkdir(folder.c_str(), S_IRWXU) != 0)
         fail("create folder", folder, errno);
 }
 

@@ -63,7 +63,8 @@ public:
 
     /// With all parents; fine when it exists, and then left as it is.
     void createFolders(const std::filesystem::path& folder, Privacy privacy = Privacy::inherited) const;
-    void createFolder(const std::filesystem::path& folder) const; ///< fails when anything is there
+    /// For its owner alone; fails when anything is there.
+    void createFolder(const std::filesystem::path& folder) const;
     /// Makes a symbolic link whose text is `target`. Fails when anything is at `link`.
     void createLink(const std::filesystem::path& target, const std::filesystem::path& link) const;
 

@@ -46,7 +46,7 @@ Profile ProfileStore::createFolder(const NewProfile& request, const std::string&
         profile.meta.source = request.from->id;
     profile.meta.account = request.account;
 
-    m_files.createFolders(m_root);
+    m_files.createFolders(m_root, Privacy::ownerOnly);
     while (profile.configDir.empty()) {
         profile.id = uniqueSlug(name);
         try {

@@ -44,7 +44,7 @@ ProfileStore::ProfileStore(const Environment& environment, const ClaudeApp& clau
       m_defaultGlobalJSON(location(environment, "CLAUDE_LAUNCHER_DEFAULT_JSON", m_home / ".claude.json")),
       m_testMode(environment.contains("CLAUDE_LAUNCHER_DESKTOP_DIR")) {
     try {
-        m_files.createFolders(m_root);
+        m_files.createFolders(m_root, Privacy::ownerOnly);
     } catch (const fs::filesystem_error&) { // what needs the root says so itself
     }
 }

@@ -1,0 +1,156 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+//
+// Configuration that others have made: what it names leads nowhere it shouldn't, and what it is called forges
+// nothing.
+
+#include <algorithm>
+#include <cctype>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include "support/Command.h"
+#include "support/Home.h"
+
+namespace selvane::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Fields and lines apart, only what can be seen.
+bool isPrintable(const std::string& output) {
+    return std::none_of(output.begin(), output.end(), [](unsigned char byte) {
+        return std::iscntrl(byte) != 0 && byte != '\n' && byte != '\t';
+    });
+}
+
+class Hostile : public testing::Test {
+protected:
+    Hostile() {
+        home.environment["CLAUDE_LAUNCHER_DESKTOP_DIR"] = (home / "dati").string();
+        writeFile(victim / "prezioso/file", "tenere");
+        fs::permissions(victim / "prezioso/file", fs::perms::owner_read);
+    }
+    void TearDown() override {
+        EXPECT_EQ(treeOf(victim), victimBefore);
+        struct stat status {};
+        ASSERT_EQ(stat((victim / "prezioso/file").c_str(), &status), 0);
+        EXPECT_EQ(status.st_mode & ALLPERMS, 0400U);
+    }
+
+    CommandHome home;
+    fs::path victim = home / "vittima";
+    Tree victimBefore = {{"prezioso", "/"}, {"prezioso/file", "tenere"}};
+    fs::path profile = home / ".claude-profiles/lavoro";
+};
+
+TEST_F(Hostile, LinksAmongItemsLeadNowhere) {
+    const fs::path skills = home / ".claude/skills";
+    writeFile(skills / "pdf/SKILL.md", "testo");
+    fs::create_directory_symlink(victim, skills / "pdf/dentro");
+    fs::create_directory_symlink("..", skills / "pdf/su");
+    fs::create_directory_symlink("giro", skills / "pdf/giro");
+    home.output({"create", "Lavoro", "--from", "default", "--mode", "skills=separate"});
+    EXPECT_EQ(fs::read_symlink(profile / "skills/pdf/dentro"), victim);
+    fs::create_directory_symlink("/", skills / "radice");
+    fs::create_directory_symlink("giro", skills / "giro");
+    for (const std::string mode : {"shared", "none", "shared", "none"}) {
+        EXPECT_EQ(home.run({"set-mode", "lavoro", "skills=" + mode}).status, 0) << mode;
+        EXPECT_EQ(home.run({"sync", "lavoro"}).status, 0) << mode;
+    }
+    const Outcome endless = home.run({"set-mode", "lavoro", "skills=separate"});
+    EXPECT_TRUE(endless.err.starts_with("Errore: /")) << endless;
+    EXPECT_EQ(home.run({"backup", home / "b.zip"}).status, 0);
+
+    // A folder of the profile that has become a link to somewhere else.
+    for (const std::string name : {"skills", "agents", "rules"}) {
+        fs::remove_all(profile / name);
+        fs::create_directory_symlink(victim, profile / name);
+    }
+    for (const std::string pair : {"skills=shared", "skills=separate", "skills=none", "rules=shared"})
+        home.run({"set-mode", "lavoro", pair});
+    home.run({"sync", "lavoro"});
+}
+
+TEST_F(Hostile, NamesForgeNoRecords) {
+    const fs::path skills = home / ".claude/skills";
+    for (const std::string name : {"a\ncommands\tfinto\town", "b\rc", "\x1b[2J\x1b]0;titolo\a", "d\u0085e"})
+        writeFile(skills / name, "");
+    home.output({"create", "Lavoro", "--from", "default"});
+    writeFile(
+        home / ".claude-profiles/strano/.launcher.json",
+        R"({"name": "X\n\u001b[31mdefault\tFinto", "source": "a\tb\nc", "excluded": {"skills": ["\n"]}})");
+    writeFile(home / "dati/claude-code-sessions/a/o/local_1.json",
+              R"({"sessionId": "s\n2\tfinta", "title": "\u001b[2Jtitolo\r", "cwd": "/x\ty"})");
+
+    for (const std::vector<std::string>& arguments : {std::vector<std::string>{"list"},
+                                                      {"items", "default"},
+                                                      {"items", "lavoro"},
+                                                      {"desktop-status"},
+                                                      {"sessions", "default"}}) {
+        const std::string output = home.output(arguments);
+        EXPECT_TRUE(isPrintable(output)) << output;
+    }
+    const std::string items = home.output({"items", "lavoro"});
+    EXPECT_EQ(std::count(items.begin(), items.end(), '\n'), 4);
+    EXPECT_EQ(std::count(items.begin(), items.end(), '\t'), 8);
+    const std::string sessions = home.output({"sessions", "default"});
+    EXPECT_EQ(std::count(sessions.begin(), sessions.end(), '\n'), 1);
+    EXPECT_EQ(std::count(sessions.begin(), sessions.end(), '\t'), 3);
+    const std::string profiles = home.output({"list"});
+    EXPECT_EQ(std::count(profiles.begin(), profiles.end(), '\n'), 3);
+    EXPECT_TRUE(isPrintable(home.run({"path", "a\x1b[2J\nb"}).err));
+}
+
+TEST_F(Hostile, SessionsStayInTheirFolders) {
+    const fs::path records = home / "dati/claude-code-sessions/a/o";
+    const std::string up = "../../../../../../../../" + victim.relative_path().string();
+    writeFile(records / "local_1.json", R"({"sessionId": ")" + up + R"(/s", "cliSessionId": ")" + up +
+                                            R"(/prezioso/file", "cwd": ")" + up + R"("})");
+    writeFile(records / "local_2.json",
+              R"({"sessionId": "/s2", "cliSessionId": "..", "priorCliSessionIds": ["../../b", "/etc/x"]})");
+    writeFile(home / ".claude/projects/..a/...jsonl", "trascrizione");
+    fs::create_directory_symlink(victim, home / ".claude/projects/fuori");
+    home.output({"create", "Lavoro"});
+    home.output({"create", "Altro"});
+    fs::create_directories(home / ".claude-profiles/.desktop-data/altro/claude-code-sessions/b/p");
+    home.run({"import-sessions", "default", "lavoro"});
+    home.run({"import-sessions", "default", "altro"});
+    for (const auto& entry : fs::recursive_directory_iterator(home.path())) {
+        const std::string path = entry.path().lexically_relative(home.path()).string();
+        EXPECT_TRUE(path.starts_with(".claude") || path.starts_with("dati") || path.starts_with("vittima") ||
+                    path.starts_with(".local"))
+            << path;
+    }
+}
+
+TEST_F(Hostile, NothingIsMadeMoreReadableThanItWas) {
+    const fs::path source = home / ".claude";
+    writeFile(source / "skills/pdf/chiave", "segreto");
+    writeFile(source / "settings.json", R"({"env": {"TOKEN": "segreto"}})");
+    writeFile(home / ".claude.json", R"({"mcpServers": {"a": {"env": {"TOKEN": "segreto"}}}})");
+    writeFile(home / "dati/config.json", "{}");
+    writeFile(home / "dati/claude-code-sessions/a/o/local_1.json", R"({"sessionId": "s1", "title": "t"})");
+    for (const fs::path& secret : {source / "skills/pdf", source / "skills/pdf/chiave",
+                                   source / "settings.json", home / ".claude.json"})
+        fs::permissions(secret, fs::is_directory(secret) ? fs::perms::owner_all : fs::perms(0600));
+    const Outcome outcome = home.shell(R"(
+        umask 0
+        "$selvane" create Lavoro --from default --mode skills=separate &&
+        "$selvane" import-sessions default lavoro && "$selvane" install-helper && "$selvane" sync lavoro &&
+        "$selvane" backup "$HOME/b.zip" && "$selvane" set-mode lavoro skills=none
+    )");
+    EXPECT_EQ(outcome.status, 0) << outcome;
+    EXPECT_EQ(fs::status(home / "b.zip").permissions(), fs::perms(0600));
+    EXPECT_EQ(fs::status(home / ".claude-profiles").permissions(), fs::perms::owner_all);
+    EXPECT_EQ(fs::status(profile).permissions(), fs::perms::owner_all);
+    for (const auto& entry : fs::recursive_directory_iterator(home / ".claude-profiles")) {
+        const std::string text = entry.is_regular_file() ? readFile(entry.path()) : "";
+        if (text.find("segreto") == std::string::npos && text.find("sessionId") == std::string::npos)
+            continue;
+        EXPECT_EQ(entry.symlink_status().permissions(), fs::perms(0600)) << entry.path();
+    }
+}
+
+} // namespace
+} // namespace selvane::test
