@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "store/SettingsPaths.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "model/ByteText.h"
+#include "platform/Json.h"
+
+namespace selvane {
+namespace {
+
+struct Replacement {
+    std::string from;
+    std::string to;
+};
+
+/// In one pass: what was put in is not looked at again, also where it begins like what is replaced.
+std::string replaced(std::string_view text, const std::vector<Replacement>& replacements) {
+    std::string result;
+    while (!text.empty()) {
+        const auto found =
+            std::find_if(replacements.begin(), replacements.end(),
+                         [&](const Replacement& candidate) { return text.starts_with(candidate.from); });
+        result += found == replacements.end() ? text.substr(0, 1) : std::string_view(found->to);
+        text.remove_prefix(found == replacements.end() ? 1 : found->from.size());
+    }
+    return result;
+}
+
+/// A text as it stands between the quotes of a JSON string.
+std::string jsonEscaped(const std::string& bytes, bool asciiOnly) {
+    const std::string quoted = Json(textFromBytes(bytes)).dump(-1, ' ', asciiOnly);
+    return quoted.substr(1, quoted.size() - 2);
+}
+
+bool needsEscapes(const std::string& text) {
+    return std::any_of(text.begin(), text.end(), [](char character) {
+        return character == '"' || character == '\\' || static_cast<unsigned char>(character) < ' ';
+    });
+}
+
+/// The spellings that a path can have inside a JSON string.
+std::vector<std::string> jsonSpellings(const std::filesystem::path& path) {
+    std::vector<std::string> spellings = {jsonEscaped(path.string(), false)};
+    // As it is, also where it is no UTF-8; but not so that it could end a string and begin another.
+    for (const std::string& spelling : {needsEscapes(path.string()) ? spellings.front() : path.string(),
+                                        jsonEscaped(path.string(), true)}) {
+        if (spelling != spellings.front())
+            spellings.push_back(spelling);
+    }
+    return spellings;
+}
+
+} // namespace
+
+std::string withRewrittenPaths(std::string_view text, const Profile& from, const Profile& to) {
+    const std::string target = jsonEscaped(to.configDir.string(), false);
+    std::vector<Replacement> replacements;
+    for (const std::string& source : jsonSpellings(from.configDir)) {
+        for (const std::string end : {"/", "\""})
+            replacements.push_back({source + end, target + end});
+    }
+    if (from.isDefault())
+        replacements.push_back({"~/.claude/", target + "/"});
+    return replaced(text, replacements);
+}
+
+} // namespace selvane
