@@ -158,9 +158,14 @@ void FileManager::createFolders(const std::filesystem::path& folder, Privacy pri
         std::filesystem::create_directories(folder);
         return;
     }
-    std::filesystem::create_directories(folder.parent_path());
-    if (::mkdir(folder.c_str(), S_IRWXU) != 0 && (errno != EEXIST || !std::filesystem::is_directory(folder)))
-        fail("create folder", folder, errno);
+    std::error_code error;
+    std::filesystem::create_directories(folder.parent_path(), error);
+    if (!error && ::mkdir(folder.c_str(), S_IRWXU) != 0)
+        error.assign(errno, std::generic_category());
+    if (error == std::errc::file_exists && !std::filesystem::is_directory(folder))
+        error = std::make_error_code(std::errc::not_a_directory);
+    if (error && error != std::errc::file_exists)
+        fail("create folder", folder, error.value());
 }
 
 void FileManager::createFolder(const std::filesystem::path& folder) const {

@@ -66,6 +66,10 @@ public:
             fail("create", target, error);
         setPlaced();
     }
+    /// Takes the name `target` away from it again, where that can be done.
+    void takeBack(const std::filesystem::path& target) {
+        m_isPlaced = files::renameExclusively(target, m_path) != 0;
+    }
 
 private:
     std::filesystem::path m_path;
@@ -115,8 +119,8 @@ void inherit(int file, const std::filesystem::path& old, mode_t mode, Privacy pr
     // One that can't be read keeps them to itself.
     const Descriptor origin(::open(old.c_str(), O_RDONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC));
     if (origin)
-        known = files::copyAttributes(origin.get(), file, *known);
-    if (known && privacy == Privacy::ownerOnly)
+        known = files::copyAttributes(origin.get(), file, *known, privacy);
+    else if (privacy == Privacy::ownerOnly)
         *known &= S_IRWXU;
     if (!known || ::fchmod(file, *known) != 0)
         fail("write", old, errno);
@@ -170,7 +174,8 @@ void FileManager::write(const std::filesystem::path& file, std::string_view byte
     writeAll(open.get(), bytes, file);
     if (replaces)
         inherit(open.get(), file, old.st_mode, privacy);
-    if (::fsync(open.get()) != 0 || ::rename(temporary.path().c_str(), file.c_str()) != 0)
+    // The old content must not be lost with a power cut before the new one is on the disk.
+    if ((replaces && ::fsync(open.get()) != 0) || ::rename(temporary.path().c_str(), file.c_str()) != 0)
         fail("write", file, errno);
     temporary.setPlaced();
 }
@@ -198,19 +203,16 @@ void FileManager::move(const std::filesystem::path& from, const std::filesystem:
         fail("move", origin, target, error);
     Temporary copied(target);
     copyBeside(origin, target, copied, Privacy::inherited);
+    // The target first: whatever ends this, the content has its name in one of the two places.
+    copied.place(target);
     // The origin goes in one step as well, or not at all: its folder may be read-only.
     const std::filesystem::path aside = newSibling(origin);
     error = files::renameExclusively(origin, aside);
     // Layered file systems can't rename some folders at all.
     const bool isAside = error == 0;
-    if (!isAside && error != EXDEV)
+    if (!isAside && error != EXDEV) {
+        copied.takeBack(target);
         fail("move", origin, error);
-    try {
-        copied.place(target);
-    } catch (...) {
-        if (isAside)
-            static_cast<void>(files::renameExclusively(aside, origin));
-        throw;
     }
     files::removeTree(isAside ? aside : origin, origin);
 }

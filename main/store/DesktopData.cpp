@@ -6,6 +6,7 @@
 #include <array>
 
 #include "model/LauncherError.h"
+#include "platform/FolderLock.h"
 #include "platform/Text.h"
 
 namespace selvane {
@@ -107,6 +108,7 @@ void ProfileStore::makeDesktopStore() {
 }
 
 void ProfileStore::restoreDesktopData() {
+    const FolderLock lock(m_root);
     const std::string owner = desktopLiveOwner();
     desktopFolder(owner); // a marker that names no account stops here, before anything is touched
     makeDesktopStore();
@@ -135,14 +137,28 @@ void ProfileStore::swapLiveData(const std::string& owner) {
                             ": i dati Desktop sono in uno stato inatteso, controlla a mano");
     if (m_files.exists(normal))
         m_files.move(normal, parked);
+    returnBuiltInData(owner);
+}
+
+/// The last steps, when the account of `owner` is parked. Either they succeed or it goes back.
+void ProfileStore::returnBuiltInData(const std::string& owner) {
+    const fs::path& normal = liveDesktopDir();
+    const fs::path parked = desktopFolder(owner);
     const fs::path builtIn = desktopFolder(std::string(Profile::kDefaultId));
-    if (!m_files.exists(builtIn))
-        return;
+    const fs::path marker = desktopStore() / kLiveMarkerName;
     try {
+        // The marker goes before the move: a run interrupted in between can be repeated. After the move it
+        // would name an account that isn't in the normal folder any more.
+        if (m_files.exists(marker))
+            m_files.removeFile(marker);
+        if (!m_files.exists(builtIn))
+            return;
         m_files.createFolders(normal.parent_path());
         m_files.move(builtIn, normal);
     } catch (const fs::filesystem_error&) {
         try {
+            if (!m_files.exists(marker))
+                m_files.write(marker, owner);
             if (m_files.exists(parked))
                 m_files.move(parked, normal);
         } catch (const fs::filesystem_error&) { // the first error is the one to tell

@@ -8,6 +8,7 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <map>
+#include <sys/inotify.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
@@ -399,18 +400,53 @@ TEST(FileManager, ReplaceTrashingNeedsACompleteSuccessor) {
     EXPECT_EQ(kFiles.entries(folder.path()).size(), 2U);
 }
 
+/// Tells which of the names in some folders were taken and given up, in that order.
+class NameWatch {
+public:
+    explicit NameWatch(const std::vector<fs::path>& folders) {
+        for (const fs::path& folder : folders)
+            EXPECT_GE(::inotify_add_watch(m_events, folder.c_str(), IN_MOVE), 0);
+    }
+    ~NameWatch() { ::close(m_events); }
+    NameWatch(const NameWatch&) = delete;
+    NameWatch& operator=(const NameWatch&) = delete;
+
+    /// Without the names of temporaries: "+name" taken, "-name" given up.
+    Names changes() const {
+        alignas(inotify_event) std::array<char, 8192> bytes = {};
+        const ssize_t size = ::read(m_events, bytes.data(), bytes.size());
+        Names result;
+        for (ssize_t at = 0; at < size;) {
+            const auto* event = reinterpret_cast<const inotify_event*>(bytes.data() + at);
+            const std::string name = event->name;
+            if (!name.starts_with(FileManager::kTemporaryPrefix))
+                result.push_back(((event->mask & IN_MOVED_TO) != 0 ? "+" : "-") + name);
+            at += static_cast<ssize_t>(sizeof *event + event->len);
+        }
+        return result;
+    }
+
+private:
+    int m_events = ::inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+};
+
 TEST(FileManager, MovesAcrossFileSystems) {
     const TemporaryFolder folder;
     struct stat memory = {};
     if (::stat("/dev/shm", &memory) != 0 || memory.st_dev == statusOf(folder.path()).st_dev)
         GTEST_SKIP() << "there is one file system only";
-    const fs::path origin = fs::path("/dev/shm") / folder.path().filename();
+    const fs::path elsewhere = fs::path("/dev/shm") / folder.path().filename();
+    kFiles.createFolder(elsewhere);
+    const fs::path origin = elsewhere / "origin";
     makeTree(origin);
     const auto before = picture(origin);
+    const NameWatch watch({elsewhere, folder.path()});
     kFiles.move(origin, folder / "moved");
+    EXPECT_EQ(watch.changes(), (Names{"+moved", "-origin"})) << "the tree had neither name in between";
     EXPECT_EQ(picture(folder / "moved"), before);
-    EXPECT_FALSE(kFiles.exists(origin));
+    EXPECT_EQ(kFiles.entries(elsewhere), Names{});
     EXPECT_EQ(kFiles.entries(folder.path()), Names{"moved"});
+    kFiles.removeTree(elsewhere);
 }
 
 TEST(ErrorText, NamesPathsAndReasonOnOneLine) {

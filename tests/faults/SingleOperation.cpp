@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+/// Runs one of the operations that no command reaches, and ends as a command does:
+///   single-operation make-own PROFILE COMPONENT ITEM
+///   single-operation remove PROFILE COMPONENT ITEM
+///   single-operation import-items FROM INTO COMPONENT link|copy   everything that INTO lacks
+///   single-operation delete PROFILE
+/// What is gone already counts as done, as for the windows, which no longer show it.
+
+#include <algorithm>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "model/LauncherError.h"
+#include "platform/Clock.h"
+#include "platform/ErrorText.h"
+#include "platform/Process.h"
+#include "platform/Workspace.h"
+#include "store/ProfileStore.h"
+
+namespace {
+
+using namespace selvane;
+using Words = std::vector<std::string>;
+
+std::optional<ComponentItem> itemNamed(const std::string& name, Component in, const Profile& profile,
+                                       const ProfileStore& store) {
+    for (ComponentItem& item : store.items(in, profile)) {
+        if (item.name == name)
+            return std::move(item);
+    }
+    return std::nullopt;
+}
+
+void importMissing(const Words& words, ProfileStore& store) {
+    const Profile from = store.profile(words.at(1)).value();
+    const Profile into = store.profile(words.at(2)).value();
+    const Component part = component(words.at(3)).value();
+    std::set<std::string> names;
+    for (const ComponentItem& item : store.items(part, from)) {
+        if (!item.isBroken && !itemNamed(item.name, part, into, store))
+            names.insert(item.name);
+    }
+    store.importItems(names, from, into, part, words.at(4) == "link");
+}
+
+void run(const Words& words, ProfileStore& store) {
+    const std::string& operation = words.at(0);
+    if (operation == "import-items")
+        return importMissing(words, store);
+    const auto profile = store.profile(words.at(1));
+    if (operation == "delete") {
+        if (profile)
+            store.deleteProfile(*profile);
+        return;
+    }
+    const Component part = component(words.at(2)).value();
+    const auto item = itemNamed(words.at(3), part, profile.value(), store);
+    if (item && operation == "make-own")
+        store.makeOwn(*item, *profile);
+    else if (item && operation == "remove")
+        store.remove(*item, *profile, part);
+    else if (item)
+        throw LauncherError("unknown operation " + operation);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        const Environment environment = currentEnvironment();
+        const auto workspace = makeWorkspace(ClaudeApp::identity(), environment);
+        SystemClock clock;
+        const ClaudeApp claude(*workspace, clock);
+        ProfileStore store(environment, claude);
+        run(Words(argv + 1, argv + argc), store);
+        return 0;
+    } catch (const std::exception& error) {
+        std::cerr << "Errore: " << describe(error) << '\n';
+        return 1;
+    }
+}

@@ -1,0 +1,179 @@
+# SPDX-FileCopyrightText: 2026 The Selvane developers
+# SPDX-License-Identifier: MIT
+"""Makes every system call with which Selvane changes files fail, one at a time. See script/faults."""
+
+import argparse
+import dataclasses
+import multiprocessing
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+
+import checking
+import home as homes
+import tracing
+from operations import OPERATIONS
+
+
+GOLDEN_RATIO = 0.618
+
+
+class Place:
+    """Where one process tries operations: a home at a fixed path, since links hold it, and its copies."""
+
+    def __init__(self, folder, build):
+        self.folder = pathlib.Path(folder)
+        self.home = homes.Home(self.folder / "home", build)
+        homes.fill(self.home)
+        self.keep("base")
+
+    def keep(self, name):
+        subprocess.run(["rm", "-rf", self.folder / name], check=True)
+        subprocess.run(["cp", "-a", self.home.path, self.folder / name], check=True)
+
+    def restore(self, name):
+        subprocess.run(["rm", "-rf", self.home.path], check=True)
+        subprocess.run(["cp", "-a", self.folder / name, self.home.path], check=True)
+
+
+@dataclasses.dataclass
+class Result:
+    operation: str
+    calls: int
+    tried: int
+    failures: list  # (name of the point, the call, problems)
+
+
+def again(operation, command, expectation, home, now):
+    """Runs the same command without a fault: what is wrong with its result."""
+    run = tracing.run(command, home)
+    if run.status != 0:
+        return [f"a second run fails: {run.err!r}"]
+    for words in operation.then:
+        tracing.run(home.command(words), home)
+    made = run.out.strip()
+    renamed = (made, operation.creates) if operation.creates else ("", "")
+    then = checking.scan(home, renamed)
+    problems = expectation.lost(then) + expectation.opened(then)
+    return problems + ["after a second run " + problem for problem in
+                       expectation.unlike(then, expectation.after, operation.loose, now)]
+
+
+def shown_leftovers(home, expectation, now):
+    """Whether a new temporary is shown as an item of a profile."""
+    if not any(checking.is_temporary(path) for path in now.keys() - expectation.before.keys()):
+        return []
+    listed = tracing.run(home.command(["selvane", "list"]), home)
+    profiles = [line.split("\t")[0] for line in listed.out.splitlines()]
+    shown = [tracing.run(home.command(["selvane", "items", profile]), home).out for profile in profiles]
+    return ["a temporary is shown as an item"] if ".selvane-" in "".join([listed.out, *shown]) else []
+
+
+def try_point(operation, place, expectation, point):
+    home = place.home
+    command = home.command(operation.command)
+    place.restore("before")
+    try:
+        run = tracing.run_with_fault(command, home, operation.setting, point)
+        if not any(str(home.path) in hit for hit in run.hits):
+            return ["the call was not reached"]
+        now = checking.scan(home)
+        problems = checking.problems_after(operation, expectation, run, point, now)
+        problems += shown_leftovers(home, expectation, now)
+        return problems + again(operation, command, expectation, home, now)
+    except (subprocess.TimeoutExpired, TimeoutError) as error:
+        return [f"doesn't end: {error}"]
+
+
+def run_without_fault(operation, place):
+    """Prepares the home and keeps it so. What is to be expected, and the calls that can fail."""
+    home = place.home
+    place.restore("base")
+    operation.prepare(home)
+    homes.make_old(home)
+    place.keep("before")
+    before = checking.scan(home)
+    own, others = tracing.calls(home.command(operation.command), home, operation.setting)
+    return checking.Expectation(before, checking.scan(home)), own + (others if operation.archive else [])
+
+
+def try_operation(number):
+    operation, options = OPERATIONS[number], _worker["options"]
+    if "place" not in _worker:
+        _worker["place"] = Place(tempfile.mkdtemp(prefix="p", dir=_worker["folder"]), options.build)
+    place = _worker["place"]
+    expectation, calls = run_without_fault(operation, place)
+    points = [fault for call in calls for fault in tracing.faults(call)]
+    if options.only:
+        points = [point for point in points if f"{operation.name}:{point}" == options.only]
+    elif options.quick:
+        # Another part of each operation: early ones, late ones, all kinds of faults.
+        points = [points[int(number * GOLDEN_RATIO % 1 * len(points))]]
+    failures = []
+    for point in points:
+        problems = try_point(operation, place, expectation, point)
+        if problems:
+            failures.append((f"{operation.name}:{point}", point.line, problems))
+    replaced = expectation.replaced()
+    if replaced != list(operation.edits):
+        failures.append((operation.name, "without any fault", [f"replaces {path}" for path in replaced]))
+    return Result(operation.name, len(calls), len(points), failures)
+
+
+_worker = {}  # the options of this process, and the place it works in
+
+
+def start_worker(options, folder):
+    tracing.adopt_orphans()
+    _worker.update(options=options, folder=folder)
+
+
+def row(*cells):
+    print("{:34} {:>6} {:>6} {:>6}".format(*cells), flush=True)
+
+
+def report(results):
+    """Prints the results as they come. Whether there are any, and none failed."""
+    started = time.monotonic()
+    row("operation", "calls", "tried", "failed")
+    calls = tried = failed = 0
+    for result in results:
+        row(result.operation, result.calls, result.tried, len(result.failures))
+        for name, call, problems in result.failures:
+            print(f"FAILED {name}\n    {call}", *problems[:8], sep="\n    ")
+        calls, tried, failed = calls + result.calls, tried + result.tried, failed + len(result.failures)
+    row(f"in all, in {time.monotonic() - started:.0f} s", calls, tried, failed)
+    return tried > 0 and failed == 0
+
+
+def arguments():
+    parser = argparse.ArgumentParser()
+    parser.add_argument("--build", required=True)
+    parser.add_argument("--quick", action="store_true")
+    parser.add_argument("--only", metavar="OPERATION[:CALL:N:ERROR]")
+    parser.add_argument("--in", dest="folder", default="/dev/shm" if os.access("/dev/shm", os.W_OK) else None)
+    parser.add_argument("--jobs", type=int, default=os.cpu_count())
+    return parser.parse_args()
+
+
+def main():
+    options = arguments()
+    wanted = (options.only or "").split(":")[0]
+    numbers = [number for number, operation in enumerate(OPERATIONS) if wanted in ("", operation.name)]
+    if options.only == wanted:
+        options.only = None
+    folder = tempfile.mkdtemp(prefix="selvane-faults-", dir=options.folder)
+    try:
+        with multiprocessing.Pool(options.jobs, start_worker, (options, folder)) as pool:
+            succeeded = report(pool.imap(try_operation, numbers))
+    finally:
+        shutil.rmtree(folder, ignore_errors=True)
+    sys.exit(0 if succeeded else 1)
+
+
+if __name__ == "__main__":
+    main()

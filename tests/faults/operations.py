@@ -1,0 +1,224 @@
+# SPDX-FileCopyrightText: 2026 The Selvane developers
+# SPDX-License-Identifier: MIT
+"""The operations that are tried: each a command line, and what is done to the home before it."""
+
+import dataclasses
+import typing
+
+from home import COLLECTIONS, DATA, NORMAL, PROFILES
+
+COPY = PROFILES + "copia/"
+WORK = PROFILES + "lavoro/"
+
+
+def _nothing(_home):
+    pass
+
+
+@dataclasses.dataclass(frozen=True)
+class Operation:
+    name: str
+    command: typing.Sequence[str]
+    prepare: typing.Callable = _nothing
+    then: typing.Sequence = ()       # further commands that complete an interrupted run, after the same one
+    loose: str = "$^"                # what may stay as it was when the rest has succeeded: it is no must
+    creates: str = ""                # the profile that is made; another run makes another one
+    leaves_nothing: bool = False     # when it fails, all is as before
+    moves: bool = False              # whole folders, maybe by way of another place
+    edits: typing.Sequence[str] = () # the user's files whose bytes it changes without keeping the old ones
+    archive: bool = False            # runs zip, which fails as well
+    gap: str = "$^"                  # what isn't there for a moment; never the user's only copy
+    setting: str = ""                # a fault, as strace takes it, that every run meets: a lesser file system
+
+
+def _creations():
+    shared = [f"{part}=shared" for part in (*COLLECTIONS, "CLAUDE.md")]
+    separate = [f"{part}=separate" for part in (*COLLECTIONS, "CLAUDE.md")]
+    nothing = [f"{part}=none" for part in (*COLLECTIONS, "CLAUDE.md", "settings", "plugins", "mcp")]
+    kinds = {"shared": shared, "separate": separate, "extend": ["CLAUDE.md=extend"], "none": nothing}
+    for kind, modes in kinds.items():
+        words = ["selvane", "create", "Nuovo", "--from", "default"]
+        words += [word for mode in modes for word in ("--mode", mode)]
+        yield Operation(f"create-{kind}", words, creates="nuovo", leaves_nothing=True)
+        # Seeding the account comes after the profile is complete, and what can't be copied is left out.
+        yield Operation(f"create-{kind}-account", [*words, "--account", "default"], creates="nuovo",
+                        loose=DATA + "nuovo/")
+    yield Operation("create-empty", ["selvane", "create", "Nuovo"], creates="nuovo", leaves_nothing=True)
+
+
+def _change_source(home):
+    """Something new, something renamed and something gone, for profiles that share."""
+    for part in COLLECTIONS:
+        home.put(f".claude/{part}/nuovo è «bello».md", "Nuovo.\n")
+    home.move(".claude/agents/collaudo.md", ".claude/agents/prove.md")
+    home.remove(".claude/skills/traduzione")
+    home.link(".claude/commands/interrotto.md", "@/dotfiles/interrotto.md")
+    home.put(WORK + "rules/selvane-profile.md", "An older note.\n")
+
+
+def _share_everything(home):
+    for part in COLLECTIONS:
+        home.set_mode("nulla", part, "shared")
+    home.remove(PROFILES + "nulla/skills", PROFILES + "nulla/rules")
+
+
+def _syncs():
+    yield Operation("sync", ["selvane", "sync", "lavoro"], _change_source)
+    yield Operation("sync-first", ["selvane", "sync", "nulla"], _share_everything)
+
+
+def _collection_modes():
+    profiles = {"shared": "lavoro", "separate": "copia", "none": "nulla"}
+    for before, profile in profiles.items():
+        for after in profiles:
+            if before != after:
+                # The mode is recorded first; the links that are missing come with the next sync or launch.
+                then = [("selvane", "sync", profile)] if after == "shared" else []
+                yield Operation(f"set-mode-skills-{before}-{after}",
+                                ["selvane", "set-mode", profile, f"skills={after}"], then=then)
+
+
+def _rules_modes():
+    def prepare(mode):
+        def change(home):
+            if mode != "extend":
+                home.run("selvane", "set-mode", "lavoro", f"CLAUDE.md={mode}")
+            if mode == "none":
+                home.put(WORK + "CLAUDE.md", "Messo qui a mano.\n", 0o600)
+        return change
+    for before in ("shared", "separate", "extend", "none"):
+        for after in ("shared", "separate", "extend", "none"):
+            if before != after:
+                yield Operation(f"set-mode-CLAUDE.md-{before}-{after}",
+                                ["selvane", "set-mode", "lavoro", f"CLAUDE.md={after}"], prepare(before))
+
+
+def _import_modes():
+    def prepare(home):
+        for part in ("settings", "plugins", "mcp"):
+            home.set_mode("copia", part, "none")
+
+    def add_servers(home):
+        prepare(home)
+        home.edit(COPY + ".claude.json", lambda state: state.update(mcpServers={"altro": {"command": "x"}}))
+
+    def without_servers(home):
+        prepare(home)
+        home.edit(COPY + ".claude.json", lambda state: state.pop("mcpServers"))
+    for part in ("settings", "plugins", "mcp"):
+        words = ["selvane", "set-mode", "copia", part]
+        yield Operation(f"set-mode-{part}-none", [*words[:3], f"{part}=none"])
+        yield Operation(f"set-mode-{part}-separate", [*words[:3], f"{part}=separate"],
+                        add_servers if part == "mcp" else prepare)
+    yield Operation("set-mode-mcp-merged", ["selvane", "set-mode", "copia", "mcp=separate"], without_servers,
+                    edits=[COPY + ".claude.json"])
+
+
+def _sessions():
+    def existing(home):
+        home.run("selvane", "import-sessions", "default", "lavoro")
+        home.remove(WORK + "projects/-progetti-negozio/cli-1")
+
+    def queued(home):
+        home.run("selvane", "import-sessions", "default", "vuoto")
+    words = ["selvane", "import-sessions", "default"]
+    yield Operation("import-sessions", [*words, "lavoro"])
+    yield Operation("import-sessions-existing", [*words, "lavoro"], existing)
+    yield Operation("import-sessions-one", [*words, "lavoro", "local_sessione-1"])
+    yield Operation("import-sessions-queued", [*words, "vuoto"])
+    yield Operation("import-sessions-queued-again", [*words, "vuoto"], queued)
+    yield Operation("import-sessions-transcripts", [*words, "ospite"])
+    yield Operation("import-sessions-from-account", ["selvane", "import-sessions", "lavoro", "copia"],
+                    lambda home: home.put(WORK + "projects/p/cli-11.jsonl", "riga\n"))
+
+
+def _launches():
+    # That a launch is recorded is no must, nor that the emptied queue is removed.
+    loose = rf"{PROFILES}(\.active|default\.json|[^/]*/\.launcher\.json|[^/]*/\.pending-sessions)$"
+    yield Operation("launch-with-queue", ["selvane", "launch", "lavoro"], _change_source, loose=loose)
+    yield Operation("launch-first", ["selvane", "launch", "vuoto"], loose=loose)
+    yield Operation("launch-built-in", ["selvane", "launch", "default"], loose=loose)
+
+
+def _helpers():
+    script = PROFILES + "bin/claude-profile"
+    yield Operation("install-helper", ["selvane", "install-helper"])
+    yield Operation("install-helper-again", ["selvane", "install-helper"],
+                    lambda home: home.put(script, "#!/bin/sh\n# older\n", 0o700))
+
+
+def _restorations():
+    words = ["selvane", "restore-desktop"]
+    account = DATA + "lavoro"
+
+    def swapped(home):
+        """As an earlier way of keeping accounts left them: Lavoro's data in the normal folder."""
+        home.move(NORMAL, DATA + "default")
+        home.move(account, NORMAL)
+        home.put(DATA + ".live", "lavoro")
+
+    def swapped_away(home):
+        """And then the normal folder was put away too."""
+        swapped(home)
+        home.move(NORMAL, account)
+
+    def swapped_alone(home):
+        swapped(home)
+        home.move(DATA + "default", "altrove")
+
+    def parked(home):
+        home.move(NORMAL, DATA + "default")
+
+    yield Operation("restore-desktop-clean", words, lambda home: home.move(DATA, "altrove"))
+    yield Operation("restore-desktop-parked", words, parked, moves=True)
+    yield Operation("restore-desktop-swapped", words, swapped, moves=True)
+    yield Operation("restore-desktop-swapped-away", words, swapped_away, moves=True)
+    yield Operation("restore-desktop-swapped-alone", words, swapped_alone, moves=True)
+    yield Operation("restore-desktop-across", words, swapped, moves=True,
+                    setting="renameat2:error=EXDEV:when=1")
+
+
+def _backups():
+    def earlier(home):
+        home.put("copie/a.zip", "an earlier archive", 0o600)
+        home.put("copie/a.zip.partial", "left by an interrupted run", 0o600)
+    for name, options in {"": [], "-principal": ["--solo-principale"], "-profiles": ["--solo-profili"]}.items():
+        yield Operation(f"backup{name}", ["selvane", "backup", "@/a.zip", *options], archive=name == "",
+                        leaves_nothing=True)
+    yield Operation("backup-replacing", ["selvane", "backup", "@/copie/a.zip"], earlier)
+
+
+def _single_operations():
+    def exclude(home):
+        home.edit(WORK + ".launcher.json", lambda record: record["excluded"].update(skills=["revisione"]))
+        home.remove(WORK + "skills/revisione")
+
+    def data_in_normal_folder(home):
+        home.move(NORMAL, DATA + "default")
+        home.move(DATA + "lavoro", NORMAL)
+        home.put(DATA + ".live", "lavoro")
+    own = ["operation", "make-own", "lavoro"]
+    yield Operation("make-own-file", [*own, "rules", "sicurezza.md"])
+    yield Operation("make-own-folder", [*own, "skills", "revisione"])
+    # Where names can't be exchanged, the link is gone for a moment, until the next sync when killed there.
+    folder = [*own, "skills", "revisione"]
+    yield Operation("make-own-in-steps", folder, setting="renameat2:error=EINVAL",
+                    gap=WORK + "skills/revisione$", then=[("selvane", "sync", "lavoro"), folder])
+    yield Operation("make-own-linked", [*own, "skills", "traduzione"])
+    # A link that was removed but not yet excluded comes back with the next sync, to be removed again.
+    link = ["operation", "remove", "lavoro", "skills", "revisione"]
+    yield Operation("remove-link", link, then=[("selvane", "sync", "lavoro"), link])
+    yield Operation("remove-own", ["operation", "remove", "lavoro", "skills", "solo qui"])
+    # What came in before a failure stays excluded until it is removed: it is there all the same.
+    yield Operation("import-items-links", ["operation", "import-items", "default", "lavoro", "skills", "link"],
+                    exclude, loose=WORK + r"\.launcher\.json$")
+    yield Operation("import-items-copies",
+                    ["operation", "import-items", "default", "nulla", "skills", "copy"])
+    yield Operation("delete", ["operation", "delete", "lavoro"])
+    yield Operation("delete-live", ["operation", "delete", "lavoro"], data_in_normal_folder, moves=True,
+                    then=[("selvane", "restore-desktop")])
+    yield Operation("delete-without-data", ["operation", "delete", "copia"])
+
+
+OPERATIONS = [*_creations(), *_syncs(), *_collection_modes(), *_rules_modes(), *_import_modes(), *_sessions(),
+              *_launches(), *_helpers(), *_restorations(), *_backups(), *_single_operations()]

@@ -1,0 +1,140 @@
+# SPDX-FileCopyrightText: 2026 The Selvane developers
+# SPDX-License-Identifier: MIT
+"""Runs a command under strace: to find the system calls that change files, and to make one of them fail."""
+
+import ctypes
+import dataclasses
+import os
+import re
+import subprocess
+import time
+
+KILL = "KILL"
+TIME_LIMIT = 30
+PR_SET_CHILD_SUBREAPER = 36
+
+# How each call is made to fail. EINVAL, EXDEV and EOPNOTSUPP stand for file systems that can do less.
+_MAKING = ("ENOSPC", "EACCES", "EIO")
+_REMOVING = ("EACCES", "EIO")
+_CHANGING = ("EPERM", "EIO")
+ERRORS = {
+    "open": _MAKING, "openat": _MAKING, "creat": _MAKING,
+    "write": ("ENOSPC", "EIO"), "pwrite64": ("ENOSPC", "EIO"), "writev": ("ENOSPC", "EIO"),
+    "copy_file_range": ("ENOSPC", "EIO", "EOPNOTSUPP"), "sendfile": ("ENOSPC", "EIO"),
+    "ioctl": ("ENOSPC", "EIO", "EOPNOTSUPP"),
+    "ftruncate": ("ENOSPC", "EIO"), "fallocate": ("ENOSPC", "EIO"),
+    "fsync": ("ENOSPC", "EIO"), "fdatasync": ("ENOSPC", "EIO"),
+    "rename": _MAKING, "renameat": _MAKING, "renameat2": (*_MAKING, "EINVAL", "EXDEV"),
+    "link": _MAKING, "linkat": _MAKING, "symlink": _MAKING, "symlinkat": _MAKING,
+    "mkdir": _MAKING, "mkdirat": _MAKING, "mknod": _MAKING, "mknodat": _MAKING,
+    "unlink": _REMOVING, "unlinkat": _REMOVING, "rmdir": _REMOVING,
+    "chmod": _CHANGING, "fchmod": _CHANGING, "fchmodat": _CHANGING,
+    "utimensat": _CHANGING,
+    "fsetxattr": ("ENOSPC", "EIO"), "fremovexattr": _CHANGING,
+}
+_OPENING = ("open", "openat", "creat")
+_BY_DESCRIPTOR = ("write", "pwrite64", "writev")
+_CALL = re.compile(r"(?:(\d+) +)?(\w+)\((.*)")
+
+
+@dataclasses.dataclass(frozen=True)
+class Point:
+    """The `number`th call of that name of a process, and how it fails."""
+    call: str
+    number: int
+    error: str
+    family: bool = False  # the processes that Selvane starts are followed too
+    line: str = ""        # what strace wrote about it
+
+    def __str__(self):
+        return f"{self.call}:{self.number}:{self.error}"
+
+
+@dataclasses.dataclass
+class Run:
+    status: int
+    out: str
+    err: str
+    hits: list  # the lines about the calls that a fault was injected into
+
+
+def is_change(call, arguments, home):
+    """Whether a call, as strace writes it, changes something in the home."""
+    if home not in (arguments.split(",")[0] if call in _BY_DESCRIPTOR else arguments):
+        return False
+    if call in _OPENING:
+        return any(flag in arguments for flag in ("O_CREAT", "O_WRONLY", "O_RDWR", "O_TRUNC"))
+    return call != "ioctl" or "FICLONE" in arguments
+
+
+def adopt_orphans():
+    """What a killed command leaves running becomes a child of this process, which can wait for it."""
+    ctypes.CDLL(None).prctl(PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0)
+
+
+def _wait_for_orphans():
+    until = time.monotonic() + TIME_LIMIT
+    while time.monotonic() < until:
+        try:
+            if os.waitpid(-1, os.WNOHANG)[0] == 0:
+                time.sleep(0.002)
+        except ChildProcessError:
+            return
+    raise TimeoutError("something that was started doesn't end")
+
+
+def run(command, home, options=()):
+    """Runs a command line to the end of all that it starts; with options under strace."""
+    log = home.path.parent / "strace.log"
+    log.unlink(missing_ok=True)
+    strace = ["strace", "-y", "-s", "1000", "-o", log, *options] if options else []
+    done = subprocess.run([*strace, *command], env=home.environment, cwd="/", capture_output=True,
+                          stdin=subprocess.DEVNULL, timeout=TIME_LIMIT, check=False)
+    _wait_for_orphans()
+    lines = log.read_text(errors="replace").splitlines() if options else []
+    return Run(done.returncode, done.stdout.decode(), done.stderr.decode(), lines)
+
+
+def _injections(*faults):
+    return [f"--inject={fault}" for fault in faults if fault]
+
+
+def calls(command, home, setting):
+    """The changing calls of Selvane itself and, apart, those of the programs that it starts, in one run."""
+    names = ",".join("?" + name for name in ERRORS)
+    done = run(command, home, ["-f", f"--trace={names}", *_injections(setting)])
+    if done.status != 0:
+        raise RuntimeError(f"{command} fails without any fault: {done.err}")
+    counts, own, others = {}, [], []
+    first = _CALL.match(done.hits[0]).group(1)
+    for line in done.hits:
+        match = _CALL.match(line)
+        if not match:
+            continue
+        process, call, arguments = match.groups()
+        number = counts[process, call] = counts.get((process, call), 0) + 1
+        if is_change(call, arguments, str(home.path)) and not setting.startswith(call + ":"):
+            (own if process == first else others).append(Point(call, number, "", process != first, line))
+    # A fault can't be aimed at one process of several: it must come after all calls of that name of Selvane,
+    # those of its tidying up included.
+    return own, [point for point in others if ERRORS[point.call] != _REMOVING
+                 and point.number > counts.get((first, point.call), 0)]
+
+
+def faults(point):
+    return [dataclasses.replace(point, error=error) for error in (*ERRORS[point.call], KILL)]
+
+
+def run_with_fault(command, home, setting, point):
+    kind = "signal=SIGKILL" if point.error == KILL else f"error={point.error}"
+    # Only what is traced can be made to fail.
+    traced = ",".join({point.call, setting.split(":")[0] or point.call})
+    options = [f"--trace={traced}", *_injections(setting, f"{point.call}:{kind}:when={point.number}")]
+    done = run(command, home, [*(["-f"] if point.family else []), *options])
+    if point.error == KILL:
+        # The last call before each end by the signal.
+        ends = [at for at, line in enumerate(done.hits) if "killed by SIGKILL" in line]
+        done.hits = [done.hits[at - 1] for at in ends]
+    else:
+        done.hits = [line for line in done.hits if "(INJECTED)" in line and point.call + "(" in line]
+    return done
