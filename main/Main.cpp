@@ -1,12 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <filesystem>
 #include <sstream>
+#include <streambuf>
 #include <string>
+#include <string_view>
 #include <unistd.h>
 #include <vector>
 
@@ -33,7 +36,7 @@ void occupyStandardStreams() {
 }
 
 /// Whether all was written, or the reader had enough of it.
-bool writeAll(int stream, const std::string& text) {
+bool writeAll(int stream, std::string_view text) {
     for (std::size_t done = 0; done < text.size();) {
         const ssize_t written = write(stream, text.data() + done, text.size() - done);
         if (written < 0 && errno != EINTR)
@@ -43,6 +46,34 @@ bool writeAll(int stream, const std::string& text) {
     return true;
 }
 
+/// Standard output, written piece by piece: a listing can be long.
+class Output final : public std::streambuf {
+public:
+    Output() { clear(); }
+
+    /// Writes what is left. 0, or the error that kept some of all this from being written.
+    int finish() {
+        if (m_error == 0 && !writeAll(STDOUT_FILENO, {pbase(), static_cast<std::size_t>(pptr() - pbase())}))
+            m_error = errno;
+        clear();
+        return m_error;
+    }
+
+protected:
+    int_type overflow(int_type character) override {
+        finish();
+        if (!traits_type::eq_int_type(character, traits_type::eof()))
+            sputc(traits_type::to_char_type(character));
+        return traits_type::not_eof(character);
+    }
+
+private:
+    void clear() { setp(m_bytes.data(), m_bytes.data() + m_bytes.size()); }
+
+    std::array<char, 65536> m_bytes;
+    int m_error = 0;
+};
+
 int runCommand(const std::vector<std::string>& arguments, WindowsModule& windows) {
     const Environment environment = currentEnvironment();
     const auto workspace = makeWorkspace(ClaudeApp::identity(), environment);
@@ -50,11 +81,12 @@ int runCommand(const std::vector<std::string>& arguments, WindowsModule& windows
     const ClaudeApp claude(*workspace, clock);
     ProfileStore store(environment, claude);
 
-    std::ostringstream out;
+    Output output;
+    std::ostream out(&output);
     std::ostringstream err;
     int status = CLI::run({arguments, store, claude, windows, out}, err);
-    if (!writeAll(STDOUT_FILENO, out.str())) {
-        const std::error_code reason(errno, std::generic_category());
+    if (const int error = output.finish(); error != 0) {
+        const std::error_code reason(error, std::generic_category());
         err << "Errore: " << describe(std::filesystem::filesystem_error("write", "uscita standard", reason))
             << '\n';
         status = 1;

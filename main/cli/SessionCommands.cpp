@@ -10,8 +10,9 @@ namespace selvane::CLI {
 
 void sessions(const Call& call) {
     const Profile owner = profile(call);
+    const std::vector<CodeSession> sessions = call.store.codeSessions(owner);
     const TranscriptIndex transcripts = call.store.transcripts(owner);
-    for (const CodeSession& session : call.store.codeSessions(owner)) {
+    for (const CodeSession& session : sessions) {
         call.out << field(session.id) << '\t' << field(session.title) << '\t' << field(session.cwd) << '\t'
                  << (transcripts.hasTranscript(session) ? "conversazione presente" : "solo voce") << '\n';
     }

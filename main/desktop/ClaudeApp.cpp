@@ -9,6 +9,7 @@
 #include <unordered_map>
 
 #include "model/LauncherError.h"
+#include "platform/FolderLock.h"
 #include "platform/Locations.h"
 #include "store/ProfileStore.h"
 
@@ -78,7 +79,6 @@ OpenConfiguration configuration(const Profile& profile, const fs::path& dataDir,
 
 /// Brings the files of a profile up to date for its launch; returns its data folder.
 fs::path prepared(const Profile& profile, ProfileStore& store) {
-    store.restoreDesktopData();
     const fs::path dataDir = store.desktopDataDir(profile);
     if (store.desktopDataInUse(dataDir))
         throw LauncherError("L'account di «" + profile.meta.name +
@@ -130,13 +130,14 @@ Application ClaudeApp::requireApplication() const {
     return std::move(*installed);
 }
 
-std::vector<RunningApplication> ClaudeApp::running() const {
-    return m_workspace.running();
+std::vector<ClaudeApp::Instance> ClaudeApp::instances(const fs::path& defaultDataDir) const {
+    return instancesAmong(ProcInfo::all(), defaultDataDir);
 }
 
-std::vector<ClaudeApp::Instance> ClaudeApp::instances(const fs::path& defaultDataDir) const {
+std::vector<ClaudeApp::Instance> ClaudeApp::instancesAmong(const std::vector<ProcInfo>& processes,
+                                                           const fs::path& defaultDataDir) const {
     std::vector<Instance> result;
-    for (const RunningApplication& app : running()) {
+    for (const RunningApplication& app : m_workspace.running(processes)) {
         Instance instance = instanceOf(app, defaultDataDir);
         // One that ended while it was read shows neither arguments nor environment, and would be taken for a
         // copy with the normal folder.
@@ -148,12 +149,13 @@ std::vector<ClaudeApp::Instance> ClaudeApp::instances(const fs::path& defaultDat
 
 std::vector<ProcInfo> ClaudeApp::processes(const fs::path& dataDir, const fs::path& defaultDataDir) const {
     const std::string folder = normalized(dataDir.string());
+    const std::vector<ProcInfo> all = ProcInfo::all();
     std::vector<std::int32_t> roots;
-    for (const Instance& instance : instances(defaultDataDir)) {
+    for (const Instance& instance : instancesAmong(all, defaultDataDir)) {
         if (instance.dataDir == folder)
             roots.push_back(instance.pid());
     }
-    std::vector<ProcInfo> result = processesOf(folder, roots, ProcInfo::all());
+    std::vector<ProcInfo> result = processesOf(folder, roots, all);
     // A command of ours may well name the folder; that is no use of it.
     std::erase_if(result, [self = getpid()](const ProcInfo& process) { return process.pid == self; });
     return result;
@@ -171,7 +173,7 @@ std::vector<ProcInfo> ClaudeApp::allProcesses(const std::vector<fs::path>& dataD
     // Copies started through a wrapper in a shared folder lie in none of these places: what runs the
     // executable of a main process belongs to it as well.
     std::set<std::string> executables;
-    for (const RunningApplication& main : running()) {
+    for (const RunningApplication& main : m_workspace.running(result)) {
         for (const ProcInfo& process : result) {
             if (process.pid == main.pid)
                 executables.insert(process.path);
@@ -216,6 +218,9 @@ bool ClaudeApp::quit(const std::vector<Instance>& instances, QuitKind kind, std:
 
 void ClaudeApp::launch(const Profile& profile, ProfileStore& store) const {
     const Application installed = requireApplication();
+    store.restoreDesktopData();
+    // One launch at a time: the next one must find this one's copy among the processes.
+    const FolderLock lock(store.desktopStore());
     const fs::path dataDir = prepared(profile, store);
     m_workspace.open(installed, configuration(profile, dataDir, store.liveDesktopDir()));
     store.markLaunched(profile);

@@ -54,7 +54,6 @@ public:
 
     std::optional<Application> application() const; ///< nothing when not installed
     Application requireApplication() const;         ///< throws when not installed
-    std::vector<RunningApplication> running() const;
     /// One per main process. Without a data-folder argument a copy uses `defaultDataDir`.
     std::vector<Instance> instances(const std::filesystem::path& defaultDataDir) const;
     /// Every process that belongs to that data folder, but this one.
@@ -72,6 +71,9 @@ public:
     void launch(const Profile& profile, ProfileStore& store) const;
 
 private:
+    std::vector<Instance> instancesAmong(const std::vector<ProcInfo>& processes,
+                                         const std::filesystem::path& defaultDataDir) const;
+
     Workspace& m_workspace;
     Clock& m_clock;
 };

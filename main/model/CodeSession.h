@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
@@ -17,7 +16,7 @@ struct CodeSession {
     std::string cwd;                        ///< working folder; empty when unknown
     std::optional<double> lastActivity;     ///< seconds since 1970
     std::vector<std::string> cliSessionIDs; ///< the Claude Code sessions whose transcripts belong to it
-    std::filesystem::path file;             ///< its record
+    std::string file;                       ///< the path of its record: one text, for there can be many
 
     bool operator==(const CodeSession&) const = default;
 };

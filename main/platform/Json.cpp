@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/Decimal.h"
 #include "platform/JsonNumbers.h"
 #include "platform/JsonSurrogates.h"
 
@@ -16,7 +17,6 @@ namespace selvane::json {
 
 namespace {
 
-constexpr std::size_t kDeepest = 512;
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 /// Marks a binary value, which JSON itself doesn't know, as the text of a number.
 constexpr std::uint64_t kNumberText = 1;
@@ -37,10 +37,9 @@ struct WrittenNumber {
 
 Json numberValue(std::string_view written) {
     if (written.find_first_of(".eE") != std::string_view::npos) {
-        double value = 0;
-        const auto result = std::from_chars(written.data(), written.data() + written.size(), value);
-        Json number = value;
-        if (result.ec == std::errc() && number.dump() == written)
+        const Decimal decimal = readDecimal(written);
+        Json number = decimal.value;
+        if (decimal.fits && number.dump() == written)
             return number;
     } else if (written != "-0") {
         std::int64_t value = 0;

@@ -15,13 +15,16 @@ namespace selvane {
 /// A JSON value that keeps the order of its keys, keys that occur twice, and numbers as they were written.
 using Json = nlohmann::ordered_json;
 
-/// A text that is no JSON (or is nested deeper than 512 levels). The message names the file.
+/// A text that is no JSON (or is nested deeper than `json::kDeepest`). The message names the file.
 class JsonError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
 
 namespace json {
+
+/// How deep arrays and objects may lie in each other.
+constexpr std::size_t kDeepest = 512;
 
 /// Parses `text`; `file` is only named in the `JsonError`.
 Json parse(std::string_view text, const std::filesystem::path& file);

@@ -95,9 +95,9 @@ void ProfileStore::fill(Profile& profile, const NewProfile& request) {
         const auto selected = request.selection.find(component);
         if (isCollection(component) && selected != request.selection.end() && request.from) {
             auto& excluded = profile.meta.excluded[key];
-            for (const std::string& item : itemNames(component, *request.from)) {
-                if (!selected->second.contains(item))
-                    excluded.push_back(item);
+            for (const ComponentItem& item : items(component, *request.from)) {
+                if (!selected->second.contains(item.name))
+                    excluded.push_back(item.name);
             }
             std::sort(excluded.begin(), excluded.end());
         }

@@ -5,33 +5,36 @@
 
 #include "model/LauncherError.h"
 #include "platform/Text.h"
+#include "store/ItemListing.h"
 
 namespace selvane {
 
 namespace fs = std::filesystem;
 
-std::vector<std::string> ProfileStore::itemNames(Component component, const Profile& profile) const {
-    std::vector<std::string> names = m_files.entriesIfReadable(profile.url(component));
-    std::erase_if(names, [component](const std::string& name) {
-        return name.starts_with('.') || (component == Component::rules && name == kProfileNoteName);
+ItemListing::ItemListing(Component component, const fs::path& path) : folder(OpenFolder::ifReadable(path)) {
+    if (folder)
+        entries = folder->entriesIfReadable();
+    std::erase_if(entries, [component](const FolderEntry& entry) {
+        return entry.name.starts_with('.') ||
+               (component == Component::rules && entry.name == ProfileStore::kProfileNoteName);
     });
-    std::vector<std::string> sorted;
-    sorted.reserve(names.size());
-    for (const std::size_t position : text::sortedOrder({names.begin(), names.end()}))
-        sorted.push_back(std::move(names[position]));
-    return sorted;
 }
 
 std::vector<ComponentItem> ProfileStore::items(Component component, const Profile& profile) const {
     const fs::path folder = profile.url(component);
+    const ItemListing listing(component, folder);
+    std::vector<std::string_view> names;
+    for (const FolderEntry& entry : listing.entries)
+        names.push_back(entry.name);
+
     std::vector<ComponentItem> result;
-    for (std::string& name : itemNames(component, profile)) {
-        ComponentItem item{std::move(name), {}, std::nullopt, false};
-        item.url = folder / item.name;
-        if (const auto target = m_files.linkTarget(item.url)) {
-            item.linkTarget = target->string();
-            item.isBroken = !m_files.existsFollowingLinks(item.url);
-        }
+    result.reserve(names.size());
+    for (const std::size_t position : text::sortedOrder(names)) {
+        const auto& [name, isLink] = listing.entries[position];
+        ComponentItem item{name, folder / name, std::nullopt, false};
+        if (isLink)
+            item.linkTarget = listing.folder->linkTarget(name);
+        item.isBroken = item.isLinked() && !listing.folder->existsFollowingLinks(name);
         result.push_back(std::move(item));
     }
     return result;
@@ -65,7 +68,7 @@ void ProfileStore::addItem(const ComponentItem& item, const Profile& to, Compone
     if (link)
         m_files.createLink(item.url, place);
     else
-        m_files.copy(m_files.resolved(item.url), place);
+        m_files.copy(item.isLinked() ? m_files.resolved(item.url) : item.url, place);
 }
 
 } // namespace selvane

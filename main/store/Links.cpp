@@ -7,6 +7,9 @@
 #include <unordered_set>
 
 #include "model/LauncherError.h"
+#include "platform/FolderLock.h"
+#include "platform/Text.h"
+#include "store/ItemListing.h"
 
 namespace selvane {
 namespace {
@@ -24,6 +27,40 @@ std::unordered_set<std::string> namesOf(const std::vector<ComponentItem>& items)
     return names;
 }
 
+/// The links below `origin`, which `offered` lists, that lead nowhere.
+std::vector<std::string> brokenLinks(const ItemListing& own, const ItemListing& offered,
+                                     std::string_view origin) {
+    std::unordered_set<std::string_view> there; // the listing says so: no need to look
+    for (const FolderEntry& entry : offered.entries) {
+        if (!entry.isLink)
+            there.insert(entry.name);
+    }
+    std::vector<std::string> broken;
+    for (const FolderEntry& entry : own.entries) {
+        const auto target = entry.isLink ? own.folder->linkTarget(entry.name) : std::nullopt;
+        if (target && target->starts_with(origin) &&
+            !there.contains(std::string_view(*target).substr(origin.size())) &&
+            !own.folder->existsFollowingLinks(entry.name))
+            broken.push_back(entry.name);
+    }
+    return broken;
+}
+
+std::vector<std::string> missingItems(const ItemListing& own, const ItemListing& offered,
+                                      const std::set<std::string>& excluded) {
+    std::unordered_set<std::string_view> present;
+    for (const FolderEntry& entry : own.entries)
+        present.insert(entry.name);
+    std::vector<std::string> missing;
+    for (const FolderEntry& entry : offered.entries) {
+        // One that leads nowhere itself would be dropped again by the next run.
+        if (!present.contains(entry.name) && !excluded.contains(entry.name) &&
+            (!entry.isLink || offered.folder->existsFollowingLinks(entry.name)))
+            missing.push_back(entry.name);
+    }
+    return missing;
+}
+
 void record(ShareMode mode, Component component, Profile& profile) {
     profile.meta.modes[std::string(rawValue(component))] = mode;
 }
@@ -31,6 +68,11 @@ void record(ShareMode mode, Component component, Profile& profile) {
 } // namespace
 
 SyncReport ProfileStore::sync(const Profile& profile) {
+    const FolderLock lock(profile.configDir);
+    return syncLinks(current(profile));
+}
+
+SyncReport ProfileStore::syncLinks(const Profile& profile) {
     writeProfileNote(profile);
     SyncReport report;
     const auto source = sourceOf(profile);
@@ -39,24 +81,32 @@ SyncReport ProfileStore::sync(const Profile& profile) {
     for (const Component component : kComponents) {
         if (!isCollection(component) || profile.mode(component) != ShareMode::shared)
             continue;
-        const std::vector<ComponentItem> own = items(component, profile);
-        for (const ComponentItem& item : own) {
-            if (item.isBroken && isLinked(item, *source, component) && m_files.removeLink(item.url))
-                report.removed.push_back(reportLine(component, item.name));
-        }
-        // Names just removed count as present: none is dropped and made again in one run.
-        const auto present = namesOf(own);
-        const auto excluded = profile.excluded(component);
-        for (const std::string& name : itemNames(component, *source)) {
-            const std::filesystem::path origin = source->url(component) / name;
-            // One that leads nowhere itself would be dropped again by the next run.
-            if (present.contains(name) || excluded.contains(name) || !m_files.existsFollowingLinks(origin))
-                continue;
-            m_files.createLink(origin, freePlace(name, profile, component));
-            report.added.push_back(reportLine(component, name));
-        }
+        syncCollection(component, profile, *source, report);
     }
     return report;
+}
+
+void ProfileStore::syncCollection(Component component, const Profile& profile, const Profile& source,
+                                  SyncReport& report) {
+    const fs::path folder = profile.url(component);
+    const std::string origin = source.url(component).native() + "/";
+    const ItemListing offered(component, origin);
+    const ItemListing own(component, folder);
+    for (const std::string& name : text::sorted(brokenLinks(own, offered, origin))) {
+        if (own.folder->removeLink(name))
+            report.removed.push_back(reportLine(component, name));
+    }
+    // Names just removed count as present: none is dropped and made again in one run.
+    const std::vector<std::string> missing = missingItems(own, offered, profile.excluded(component));
+    if (missing.empty())
+        return;
+    requireOwnFolder(component, profile);
+    m_files.createFolders(folder);
+    const OpenFolder target(folder);
+    for (const std::string& name : text::sorted(missing)) {
+        target.createLink(origin + name, name);
+        report.added.push_back(reportLine(component, name));
+    }
 }
 
 Profile ProfileStore::setMode(ShareMode mode, Component component, const Profile& profile) {
@@ -66,7 +116,8 @@ Profile ProfileStore::setMode(ShareMode mode, Component component, const Profile
     if (!allows(component, mode))
         throw LauncherError("Modalità non valida: " + std::string(rawValue(component)) + "=" +
                             std::string(rawValue(mode)));
-    Profile changed = profile;
+    const FolderLock lock(profile.configDir);
+    Profile changed = current(profile);
     if (changed.mode(component) == mode)
         return changed;
     if (isCollection(component)) {
@@ -87,7 +138,7 @@ void ProfileStore::setCollectionMode(ShareMode mode, Component component, Profil
     if (mode == ShareMode::shared) {
         record(mode, component, profile);
         saveMeta(profile);
-        sync(profile);
+        syncLinks(profile);
         return;
     }
     for (const ComponentItem& item : items(component, profile)) {
@@ -122,7 +173,8 @@ void ProfileStore::copyMissing(Component component, const Profile& to, const Pro
 
 Profile ProfileStore::remove(const ComponentItem& item, const Profile& from, Component component) {
     requireOwnFolder(component, from);
-    Profile changed = from;
+    const FolderLock lock(from.configDir);
+    Profile changed = current(from);
     // Looked at again: since it was listed, another program may have put a file in the place of the link.
     if (!m_files.removeLink(item.url)) {
         m_files.moveToTrash(item.url);
@@ -141,6 +193,7 @@ Profile ProfileStore::remove(const ComponentItem& item, const Profile& from, Com
 
 Profile ProfileStore::importItems(const std::set<std::string>& names, const Profile& source,
                                   const Profile& into, Component component, bool link) {
+    const FolderLock lock(into.configDir);
     std::set<std::string> imported;
     for (const ComponentItem& item : items(component, source)) {
         if (!names.contains(item.name))
@@ -148,7 +201,7 @@ Profile ProfileStore::importItems(const std::set<std::string>& names, const Prof
         addItem(item, into, component, link);
         imported.insert(item.name);
     }
-    Profile changed = into;
+    Profile changed = current(into);
     const auto excluded = changed.meta.excluded.find(std::string(rawValue(component)));
     if (excluded != changed.meta.excluded.end())
         std::erase_if(excluded->second, [&](const std::string& name) { return imported.contains(name); });

@@ -3,6 +3,7 @@
 
 #include "store/ProfileStore.h"
 
+#include "platform/FolderLock.h"
 #include "platform/Locations.h"
 #include "platform/Text.h"
 
@@ -120,12 +121,22 @@ void ProfileStore::saveMeta(const Profile& profile) {
     m_files.write(file, encoded(profile.meta));
 }
 
+/// As its record is by now: it may have been edited since `profile` was loaded.
+Profile ProfileStore::current(const Profile& profile) const {
+    return this->profile(profile.id).value_or(profile);
+}
+
+Profile ProfileStore::changeMeta(const Profile& profile, const std::function<void(ProfileMeta&)>& change) {
+    const FolderLock lock(profile.configDir);
+    Profile changed = current(profile);
+    change(changed.meta);
+    saveMeta(changed);
+    return changed;
+}
+
 void ProfileStore::markLaunched(const Profile& profile) {
     try {
-        // Read again: the record may have been edited since the launch began.
-        Profile current = this->profile(profile.id).value_or(profile);
-        current.meta.lastLaunched = currentTimestamp();
-        saveMeta(current);
+        changeMeta(profile, [](ProfileMeta& meta) { meta.lastLaunched = currentTimestamp(); });
     } catch (const std::exception&) { // a launch never fails because of its record
     }
     try {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <mutex>
 #include <optional>
@@ -39,7 +40,8 @@ struct NewProfile {
 ///
 /// Operations throw `LauncherError` for what is the program's own business and pass file-system and JSON
 /// errors on; what a failed operation had already finished stays. Listings never fail: what can't be read is
-/// left out. Paths are absolute and always spelled the same way.
+/// left out. Of several Selvanes that change one profile at once, each waits for the one before. Paths are
+/// absolute and always spelled the same way.
 class ProfileStore {
 public:
     static constexpr std::string_view kMetaFileName = ".launcher.json";
@@ -63,6 +65,8 @@ public:
     std::vector<Profile> loadAll() const; ///< the built-in profile, then the others by name
     std::optional<Profile> profile(std::string_view id) const;
     void saveMeta(const Profile& profile);
+    /// Changes the record as it is by now, which may not be how it was when `profile` was loaded.
+    Profile changeMeta(const Profile& profile, const std::function<void(ProfileMeta&)>& change);
     void markLaunched(const Profile& profile);   ///< never fails
     std::optional<std::string> activeID() const; ///< may name a profile that is gone
     bool exists(const std::filesystem::path& path) const { return m_files.exists(path); }
@@ -123,6 +127,7 @@ private:
     Profile loadDefault() const;
     std::optional<Profile> loadProfile(const std::string& id) const;
     std::optional<Profile> sourceOf(const Profile& profile) const;
+    Profile current(const Profile& profile) const;
 
     std::string uniqueSlug(const std::string& name) const;
     Profile createFolder(const NewProfile& request, const std::string& name);
@@ -133,7 +138,9 @@ private:
     void applyClaudeMd(ShareMode mode, const Profile& to, const Profile& from);
     void changeClaudeMd(ShareMode mode, const Profile& profile, const Profile& source);
 
-    std::vector<std::string> itemNames(Component component, const Profile& profile) const;
+    SyncReport syncLinks(const Profile& profile);
+    void syncCollection(Component component, const Profile& profile, const Profile& source,
+                        SyncReport& report);
     void requireOwnFolder(Component component, const Profile& profile) const;
     std::filesystem::path freePlace(const std::string& name, const Profile& in, Component component);
     void setCollectionMode(ShareMode mode, Component component, Profile& profile, const Profile& source);
@@ -143,6 +150,7 @@ private:
     std::filesystem::path desktopFolder(const std::string& owner) const;
     void makeDesktopStore();
     void swapLiveData(const std::string& owner);
+    void returnBuiltInData(const std::string& owner);
 
     std::vector<std::filesystem::path> sessionFolders(const std::filesystem::path& dataDir) const;
     void copyTranscripts(const CodeSession& session, const TranscriptIndex& from, const Profile& target);

@@ -4,11 +4,11 @@
 #include "store/ProfileStore.h"
 
 #include <algorithm>
-#include <array>
 #include <limits>
 
-#include "platform/Json.h"
+#include "platform/FolderLock.h"
 #include "platform/SessionRecord.h"
+#include "store/SessionHandover.h"
 
 namespace selvane {
 namespace {
@@ -17,11 +17,6 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view kSessionsFolder = "claude-code-sessions";
 constexpr std::string_view kQueueFolder = ".pending-sessions";
-
-/// They describe connections and tools of the account that a record leaves.
-constexpr std::array<std::string_view, 6> kAccountBoundKeys = {
-    "remoteMcpServersConfig", "enabledMcpTools",           "toolSurfaceSnapshot",
-    "promptAppendSnapshot",   "remoteControlAutoEligible", "steeredByRemoteClient"};
 
 bool isHidden(const std::string& name) {
     return name.starts_with('.');
@@ -33,8 +28,8 @@ fs::file_time_type modDate(const fs::path& path) {
     return failure ? fs::file_time_type::min() : time;
 }
 
-std::optional<CodeSession> parseSession(const fs::path& file, SessionRecordReader& reader) {
-    auto record = reader.read(file.string());
+std::optional<CodeSession> parseSession(const std::string& file, SessionRecordReader& reader) {
+    auto record = reader.read(file);
     if (!record || record->isArchived)
         return std::nullopt;
     CodeSession session{.id = std::move(record->sessionId),
@@ -50,16 +45,6 @@ std::optional<CodeSession> parseSession(const fs::path& file, SessionRecordReade
     std::move(record->priorCliSessionIds.begin(), record->priorCliSessionIds.end(),
               std::back_inserter(session.cliSessionIDs));
     return session;
-}
-
-/// The bytes of a record for another account. Only an object has keys to lose.
-std::string withoutAccount(const fs::path& file, const std::string& bytes) {
-    Json record = json::parse(bytes, file);
-    if (!record.is_object())
-        return bytes;
-    for (const std::string_view key : kAccountBoundKeys)
-        json::remove(record, key);
-    return json::serialized(record);
 }
 
 } // namespace
@@ -89,10 +74,12 @@ std::vector<CodeSession> ProfileStore::codeSessions(const Profile& profile) cons
     std::vector<CodeSession> sessions;
     SessionRecordReader reader;
     for (const fs::path& folder : sessionFolders(desktopDataDir(profile))) {
-        for (const std::string& name : m_files.entriesIfReadable(folder)) {
+        const std::vector<std::string> names = m_files.entriesIfReadable(folder);
+        sessions.reserve(sessions.size() + names.size());
+        for (const std::string& name : names) {
             if (!name.starts_with("local_") || !name.ends_with(".json"))
                 continue;
-            if (auto session = parseSession(folder / name, reader))
+            if (auto session = parseSession(folder.native() + "/" + name, reader))
                 sessions.push_back(std::move(*session));
         }
     }
@@ -132,6 +119,7 @@ void ProfileStore::copyTranscripts(const CodeSession& session, const TranscriptI
 
 ImportCount ProfileStore::importSessions(const std::vector<CodeSession>& sessions, const Profile& source,
                                          const Profile& target) {
+    const FolderLock lock(target.configDir);
     const bool sameAccount = source.accountOwner() == target.accountOwner();
     const bool sameConfiguration = source.configDir == target.configDir;
     const fs::path data = desktopDataDir(target);
@@ -148,8 +136,8 @@ ImportCount ProfileStore::importSessions(const std::vector<CodeSession>& session
             ++count.copied;
             continue;
         }
-        const std::string bytes = withoutAccount(session.file, m_files.read(session.file));
-        const fs::path place = destination / session.file.filename();
+        const std::string bytes = withoutAccount(m_files.read(session.file), session.file);
+        const fs::path place = destination / fs::path(session.file).filename();
         if (!canPlace)
             m_files.createFolders(destination);
         if (!canPlace || !m_files.exists(place)) {
@@ -162,6 +150,7 @@ ImportCount ProfileStore::importSessions(const std::vector<CodeSession>& session
 }
 
 int ProfileStore::flushPendingSessions(const Profile& profile) {
+    const FolderLock lock(profile.configDir);
     const fs::path queue = profile.configDir / kQueueFolder;
     const std::vector<std::string> queued = m_files.entriesIfReadable(queue);
     if (queued.empty())

@@ -3,10 +3,13 @@
 
 #include "platform/Json.h"
 
+#include <array>
 #include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
+
+#include "platform/JsonMembers.h"
 
 namespace selvane {
 namespace {
@@ -124,6 +127,28 @@ TEST(JsonTest, changesKeysInTheirPlace) {
     json::remove(value, "c");
     json::remove(value, "a");
     EXPECT_EQ(json::serialized(value), "{\n  \"b\": 2\n}\n");
+}
+
+TEST(JsonTest, leavesOutMembersAsEditingTheValueDoes) {
+    const std::array<std::string_view, 2> names = {"a", "b"};
+    const std::string deep = "{\"z\": " + std::string(511, '[') + std::string(511, ']') + "}";
+    for (const std::string& text : {
+             R"({"a": [1, {"b": "]}\""}], "z": {"a": -0.50, "b": []}, "b": 1E400})"s,
+             R"( { "z" : [ [ ] , { } , null , "\\" , "\"" ] , "a" : {} , "z" : 1 , "y" : true } )"s,
+             R"({"\u0061": 1, "z": "", "aa": {"x": [1, [2, 3], {"y": {}}]}, "a": "last"})"s,
+             R"({"a": "only"})"s,
+             "{}"s,
+             deep,
+         }) {
+        Json value = json::parse(text, "f");
+        for (const std::string_view name : names)
+            json::remove(value, name);
+        EXPECT_EQ(json::withoutMembers(text, names), json::serialized(value)) << text;
+    }
+    EXPECT_EQ(json::withoutMembers(R"({"z": ["\/", 1.0]})", names),
+              "{\n  \"z\": [\n    \"\\/\",\n    1.0\n  ]\n}\n");
+    EXPECT_EQ(json::withoutMembers("[1]", names), std::nullopt);
+    EXPECT_EQ(json::withoutMembers("{\"z\": [" + deep + "]}", names), std::nullopt);
 }
 
 TEST(JsonTest, refusesToWriteWhatIsNoUtf8) {
