@@ -155,9 +155,9 @@ void AppModel::setAccount(const QString& account, const QString& id) {
     if (current == nullptr)
         return;
     perform([&] {
-        Profile changed = *current;
-        changed.meta.account = account.isEmpty() ? std::nullopt : std::optional(account.toStdString());
-        m_store.saveMeta(changed);
+        m_store.changeMeta(*current, [&](ProfileMeta& meta) {
+            meta.account = account.isEmpty() ? std::nullopt : std::optional(account.toStdString());
+        });
     });
 }
 

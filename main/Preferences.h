@@ -6,25 +6,30 @@
 #include <QSettings>
 #include <QString>
 
+#include <memory>
+#include <utility>
+
 namespace selvane {
 
-/// What the windows remember between two starts: one file in the user's configuration folder.
+/// What the windows remember between two starts.
 class Preferences {
 public:
-    /// `file` is made when something is first written.
-    explicit Preferences(const QString& file) : m_settings(file, QSettings::IniFormat) {}
+    explicit Preferences(std::unique_ptr<QSettings> settings) : m_settings(std::move(settings)) {}
+    /// In a file, which is made when something is first written.
+    explicit Preferences(const QString& file)
+        : Preferences(std::make_unique<QSettings>(file, QSettings::IniFormat)) {}
 
-    bool closeAfterLaunch() const { return m_settings.value(kCloseAfterLaunch, true).toBool(); }
-    void setCloseAfterLaunch(bool value) { m_settings.setValue(kCloseAfterLaunch, value); }
+    bool closeAfterLaunch() const { return m_settings->value(kCloseAfterLaunch, true).toBool(); }
+    void setCloseAfterLaunch(bool value) { m_settings->setValue(kCloseAfterLaunch, value); }
 
-    QString lastSelection() const { return m_settings.value(kLastSelection, "default").toString(); }
-    void setLastSelection(const QString& id) { m_settings.setValue(kLastSelection, id); }
+    QString lastSelection() const { return m_settings->value(kLastSelection, "default").toString(); }
+    void setLastSelection(const QString& id) { m_settings->setValue(kLastSelection, id); }
 
 private:
     static constexpr auto kCloseAfterLaunch = "closeAfterLaunch";
     static constexpr auto kLastSelection = "lastSelection";
 
-    QSettings m_settings;
+    std::unique_ptr<QSettings> m_settings;
 };
 
 } // namespace selvane

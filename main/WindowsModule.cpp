@@ -20,7 +20,7 @@ using RenderFunction = bool (*)(const char* folder, void (*fail)(void* context, 
 } // namespace
 
 void* WindowsModule::function(const char* name) {
-    const std::filesystem::path file = modulePath("libselvane-windows.so");
+    const std::filesystem::path file = modulePath("libselvane-windows" SELVANE_MODULE_SUFFIX);
     if (!std::filesystem::exists(file))
         throw LauncherError("Il modulo delle finestre non è installato: " + file.string());
     if (m_module == nullptr)

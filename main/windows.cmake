@@ -3,8 +3,6 @@
 #
 # The windows and the drawing: a module that the executable loads when it needs them. All of Qt is here.
 
-pkg_check_modules(FONTCONFIG REQUIRED IMPORTED_TARGET fontconfig)
-
 set(SELVANE_ASSETS ${CMAKE_SOURCE_DIR}/build/assets CACHE PATH "Fonts and icons, as script/assets leaves them")
 set(icon_list ${CMAKE_SOURCE_DIR}/resources/icons.txt)
 if(NOT EXISTS ${SELVANE_ASSETS}/.state)
@@ -34,6 +32,43 @@ add_custom_command(
 )
 add_custom_target(selvane-fonts DEPENDS ${font_folder}/.state)
 
+# ---- What depends on the system
+
+if(APPLE)
+  set(system_views
+    Views/macos/AccessibilitySettings.mm
+    Views/macos/MenuBar.mm
+    Views/macos/NotificationWatch.mm
+    Views/macos/PanelSaveDialog.mm
+    Views/macos/SystemShell.mm
+    artwork/macos/SystemSymbol.mm
+  )
+  set(system_libraries "-framework AppKit" "-framework UniformTypeIdentifiers")
+  # The updater, where its framework is there; SELVANE_SPARKLE_FOLDER helps to find it.
+  set(SELVANE_SPARKLE_FOLDER "" CACHE PATH "The folder of Sparkle.framework, for an application that updates itself")
+  find_library(SPARKLE_FRAMEWORK Sparkle HINTS ${SELVANE_SPARKLE_FOLDER})
+  if(SPARKLE_FRAMEWORK)
+    list(APPEND system_views Views/macos/SparkleUpdater.mm)
+    list(APPEND system_libraries ${SPARKLE_FRAMEWORK})
+  else()
+    message(STATUS "Without Sparkle.framework the application doesn't update itself")
+    list(APPEND system_views Views/NoUpdater.cpp)
+  endif()
+else()
+  find_package(Qt6 6.4 REQUIRED COMPONENTS DBus)
+  set(system_views
+    Views/NoUpdater.cpp
+    Views/PortalSaveDialog.cpp
+    Views/PortalSaveDialog.h
+    Views/linux/PortalSettings.cpp
+    Views/linux/PortalSettings.h
+    Views/linux/ProcessWatch.cpp
+    Views/linux/SystemShell.cpp
+    artwork/NoSystemSymbol.cpp
+  )
+  set(system_libraries Qt6::DBus)
+endif()
+
 # ---- Everything that is seen, and what it shows: to be linked by the module and by its tests
 
 add_library(selvane-views STATIC
@@ -48,17 +83,17 @@ add_library(selvane-views STATIC
   artwork/SvgPath.cpp
   Views/LauncherApp.cpp
   Views/LauncherApp.h
-  Views/PortalSaveDialog.cpp
-  Views/PortalSaveDialog.h
+  Views/ApplicationWatch.h
+  Views/SaveDialog.h
   Views/SingleInstance.cpp
   Views/SingleInstance.h
   Views/SystemBridge.cpp
   Views/SystemBridge.h
+  ${system_views}
   ${icon_table}
 )
 target_link_libraries(selvane-views PUBLIC
-  selvane-core Qt6::Core Qt6::Gui Qt6::Qml Qt6::Quick Qt6::Concurrent Qt6::DBus Qt6::Network
-  PkgConfig::FONTCONFIG)
+  selvane-core Qt6::Core Qt6::Gui Qt6::Qml Qt6::Quick Qt6::Concurrent Qt6::Network ${system_libraries})
 target_include_directories(selvane-views PRIVATE ${CMAKE_BINARY_DIR}/generated)
 # Registers types by the names of their headers alone.
 target_include_directories(selvane-views PRIVATE Views artwork)
@@ -230,4 +265,12 @@ set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS -w)
 add_library(selvane-windows MODULE Views/Entry.cpp)
 target_link_libraries(selvane-windows PRIVATE selvane-views)
 # Whatever else the module would offer to others makes it slower to load.
-target_link_options(selvane-windows PRIVATE -Wl,--exclude-libs,ALL)
+if(APPLE)
+  foreach(entry run_windows render_icon render_dmg_background)
+    target_link_options(selvane-windows PRIVATE -Wl,-exported_symbol,_selvane_${entry})
+  endforeach()
+  # Sparkle lies beside the module in the bundle.
+  set_target_properties(selvane-windows PROPERTIES BUILD_RPATH @loader_path)
+else()
+  target_link_options(selvane-windows PRIVATE -Wl,--exclude-libs,ALL)
+endif()

@@ -4,11 +4,8 @@
 #include "Views/LauncherApp.h"
 
 #include <QGuiApplication>
-#include <QIcon>
-#include <QPixmap>
 #include <QQmlComponent>
 #include <QQuickItem>
-#include <QStandardPaths>
 #include <QThreadPool>
 #include <QTimer>
 
@@ -22,7 +19,7 @@
 #include "Views/SingleInstance.h"
 #include "Views/SystemAppearance.h"
 #include "Views/SystemBridge.h"
-#include "artwork/AppIcon.h"
+#include "Views/SystemShell.h"
 #include "artwork/Brand.h"
 #include "model/LauncherError.h"
 
@@ -32,31 +29,12 @@ namespace {
 constexpr auto kNewProfileOption = "--new-profile";
 constexpr auto kNoDisplay = "Nessuno schermo disponibile: senza, Selvane si usa con i suoi comandi";
 
-void requireDisplay() {
-    const bool isChosen = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
-    if (!isChosen && qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
-        throw LauncherError(kNoDisplay);
-}
-
 /// A display that is named but doesn't answer: Qt would abort the process.
 void endWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& /*message*/) {
     if (type != QtFatalMsg)
         return;
     std::fprintf(stderr, "Errore: %s\n", kNoDisplay);
     std::_Exit(EXIT_FAILURE);
-}
-
-QString preferencesFile() {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-           "/selvane/preferenze.conf";
-}
-
-/// For window managers that don't find the desktop entry.
-void setWindowIcon() {
-    QIcon icon;
-    for (const int size : {16, 32, 48, 128})
-        icon.addPixmap(QPixmap::fromImage(appIcon(size)));
-    QGuiApplication::setWindowIcon(icon);
 }
 
 /// By way of its module: a file opened by its place alone doesn't see the module's own types.
@@ -141,9 +119,9 @@ void LauncherApp::start(const QByteArray& request) {
     show(Picker);
     if (request == kNewProfileOption)
         offerNewProfile();
-    // After the first window: these are worth no delay.
+    // After the first window: what follows is worth no delay.
     const auto once = static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection);
-    connect(window(Picker), &QQuickWindow::frameSwapped, this, &setWindowIcon, once);
+    connect(window(Picker), &QQuickWindow::frameSwapped, this, &LauncherApp::begun, once);
     m_engine.singletonInstance<SystemAppearance*>(qmlTypeId("Selvane", 1, 0, "SystemAppearance"))->read();
 }
 
@@ -165,7 +143,8 @@ void LauncherApp::askForArchive(const QString& proposedPlace) {
 }
 
 int runLauncherApp(int argc, char** argv) {
-    requireDisplay();
+    if (!hasDisplay())
+        throw LauncherError(kNoDisplay);
     const QtMessageHandler usual = qInstallMessageHandler(endWithoutDisplay);
     QGuiApplication application(argc, argv);
     qInstallMessageHandler(usual);
@@ -182,11 +161,12 @@ int runLauncherApp(int argc, char** argv) {
     SystemClock clock;
     const ClaudeApp claude(*workspace, clock);
     ProfileStore store(environment, claude);
-    Preferences preferences(preferencesFile());
-    SystemBridge bridge(claude);
+    Preferences preferences(openSettings());
+    SystemBridge bridge(*workspace);
     AppModel model(store, claude, bridge, preferences);
     Updates updates(makeUpdater());
     LauncherApp launcher(model, updates);
+    const std::unique_ptr<QObject> shell = makeSystemShell(launcher);
 
     QObject::connect(&instance, &SingleInstance::startedAgain, &launcher, &LauncherApp::answerStart);
     QObject::connect(&launcher, &LauncherApp::shownChanged, &bridge, &SystemBridge::setWatching);

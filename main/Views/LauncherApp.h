@@ -57,6 +57,8 @@ signals:
     /// "Nuovo profilo…" was chosen: the key window answers it.
     void newProfile();
     void keyWindowChanged();
+    /// The picker's first frame has been shown.
+    void begun();
     /// Whether any window can be seen now.
     void shownChanged(bool isShown);
     /// As typed; empty when the question was cancelled.

@@ -6,14 +6,16 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// The shortcuts of the application's menu commands, and those that close a window and the application.
+/// The shortcuts of the application's menu commands, and those that close a window and the application. Where
+/// the system shows a menu bar, its items have these keys.
 Item {
     id: commands
 
     required property LauncherApp launcher
     required property Window target
 
-    readonly property bool isFree: launcher.app.busyMessage === ""
+    readonly property bool hasMenuBar: Qt.platform.os === "osx"
+    readonly property bool isFree: !hasMenuBar && launcher.app.busyMessage === ""
 
     Shortcut {
         sequence: "Ctrl+,"
@@ -32,10 +34,12 @@ Item {
     }
     Shortcut {
         sequence: "Ctrl+W"
+        enabled: !commands.hasMenuBar
         onActivated: commands.target.close()
     }
     Shortcut {
         sequence: "Ctrl+Q"
+        enabled: !commands.hasMenuBar
         onActivated: Qt.quit()
     }
 }

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QImage>
 #include <QString>
 
 #include "Views/PaintedShape.h"
@@ -10,7 +11,8 @@
 namespace selvane {
 
 /// An icon in one colour, by the system symbol that a profile, a component or a control names, or by its own
-/// name where no such symbol exists. An unknown symbol shows a person.
+/// name where no such symbol exists. The system draws the symbols that it has; of the others, an unknown one
+/// shows a person.
 class PathIcon : public selvane::PaintedShape {
     Q_OBJECT
     QML_ELEMENT
@@ -34,10 +36,14 @@ protected:
     void paint(QPainter& painter) const override;
 
 private:
+    void readSystemSymbol();
+    void paintSystemSymbol(QPainter& painter) const;
+
     QString m_symbol;
     QString m_name;
     Weight m_weight = Automatic;
     qreal m_size = 0;
+    QImage m_systemSymbol; ///< null where the table's icon stands for it
 };
 
 } // namespace selvane

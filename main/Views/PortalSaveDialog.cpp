@@ -72,6 +72,10 @@ Q_DECLARE_METATYPE(selvane::FileFilter)
 
 namespace selvane {
 
+std::unique_ptr<SaveDialog> makeSaveDialog() {
+    return std::make_unique<PortalSaveDialog>();
+}
+
 void PortalSaveDialog::ask(const QWindow* parent, const QString& title, const QString& folder,
                            const QString& name) {
     qDBusRegisterMetaType<FilterRule>();

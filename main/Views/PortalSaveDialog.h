@@ -3,29 +3,21 @@
 
 #pragma once
 
-#include <QObject>
-#include <QString>
-#include <QUrl>
 #include <QVariantMap>
-#include <QWindow>
+
+#include "Views/SaveDialog.h"
 
 namespace selvane {
 
-/// The desktop's own dialog for a new zip archive, asked for through its portal.
-class PortalSaveDialog : public QObject {
+/// The dialog of the desktop's portal.
+class PortalSaveDialog final : public SaveDialog {
     Q_OBJECT
 
 public:
-    using QObject::QObject;
+    using SaveDialog::SaveDialog;
 
-    /// Shows it before `parent`, which may be null. Ends with exactly one of the signals, always later; being
-    /// asked again forgets the first question.
-    void ask(const QWindow* parent, const QString& title, const QString& folder, const QString& name);
-
-signals:
-    void chosen(const QUrl& file);
-    void cancelled();
-    void unavailable(); ///< this desktop has none
+    void ask(const QWindow* parent, const QString& title, const QString& folder,
+             const QString& name) override;
 
 private slots:
     void respond(uint response, const QVariantMap& results);

@@ -209,7 +209,7 @@ void ProfileDetailModel::change(const std::function<void(ProfileMeta&)>& edit) {
     Profile changed = *m_profile;
     edit(changed.meta);
     if (changed != *m_profile)
-        m_app->perform([&] { m_app->store().saveMeta(changed); });
+        m_app->perform([&] { m_app->store().changeMeta(*m_profile, edit); });
 }
 
 void ProfileDetailModel::setName(const QString& name) {

@@ -53,8 +53,7 @@ void SessionImportForm::show(std::vector<CodeSession> sessions) {
     m_sessions = std::move(sessions);
     std::vector<ChoiceListModel::Entry> entries;
     for (const CodeSession& session : m_sessions)
-        entries.push_back(
-            {session.file.string(), QString::fromStdString(session.title), folderOf(session), false});
+        entries.push_back({session.file, QString::fromStdString(session.title), folderOf(session), false});
     m_choices.setEntries(std::move(entries));
 }
 
@@ -66,7 +65,7 @@ void SessionImportForm::submit() {
         return;
     std::vector<CodeSession> chosen;
     for (const CodeSession& session : m_sessions) {
-        if (files.contains(session.file.string()))
+        if (files.contains(session.file))
             chosen.push_back(session);
     }
     // Copies: importing reloads the profiles that these point to.

@@ -4,7 +4,8 @@
 #include "Views/SingleInstance.h"
 
 #include <QLocalSocket>
-#include <QStandardPaths>
+
+#include "Views/SystemShell.h"
 
 namespace selvane {
 namespace {
@@ -12,9 +13,8 @@ namespace {
 constexpr int kAnswerMilliseconds = 1000;
 constexpr qint64 kLongestRequest = 1000;
 
-/// In the user's own runtime folder, which no other user can enter.
 QString socketName() {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    const QString folder = sessionFolder();
     return folder.isEmpty() ? QString() : folder + "/selvane";
 }
 

@@ -3,10 +3,10 @@
 
 #pragma once
 
-#include <QDBusPendingCall>
-#include <QDBusVariant>
 #include <QObject>
 #include <QQmlEngine>
+
+#include <memory>
 
 namespace selvane {
 
@@ -28,16 +28,20 @@ public:
 
     double textScale() const; ///< 1: as designed
     bool reducedMotion() const { return m_reducedMotion; }
+    void setTextFactor(double factor);
+    void setReducedMotion(bool reduced);
 
 signals:
     void changed();
 
-private slots:
-    void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
-
 private:
     double m_textFactor = 1;
     bool m_reducedMotion = false;
+    std::unique_ptr<QObject> m_settings;
 };
+
+/// Hands over the desktop's settings, now or as soon as they are known, and what changes of them, as long as
+/// the object lives. `appearance` must live longer.
+std::unique_ptr<QObject> followDesktop(SystemAppearance& appearance);
 
 } // namespace selvane

@@ -5,9 +5,6 @@
 
 #include <QClipboard>
 #include <QCoreApplication>
-#include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
@@ -16,13 +13,12 @@
 
 #include <utility>
 
+#include "Views/SystemShell.h"
+
 namespace selvane {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr int kFirstLookMilliseconds = 200; // once the window is there
-constexpr int kLookMilliseconds = 2000;
 
 QUrl fileUrl(const fs::path& path) {
     return QUrl::fromLocalFile(
@@ -35,14 +31,14 @@ fs::path pathOf(const QString& file) {
 
 } // namespace
 
-SystemBridge::SystemBridge(const ClaudeApp& claude) : m_claude(claude) {
-    connect(&m_saveDialog, &PortalSaveDialog::chosen, this,
+SystemBridge::SystemBridge(Workspace& workspace)
+    : m_watch(makeApplicationWatch(workspace)), m_saveDialog(makeSaveDialog()) {
+    connect(m_saveDialog.get(), &SaveDialog::chosen, this,
             [this](const QUrl& file) { finishArchive(pathOf(file.toLocalFile())); });
-    connect(&m_saveDialog, &PortalSaveDialog::cancelled, this, [this] { finishArchive(std::nullopt); });
-    connect(&m_saveDialog, &PortalSaveDialog::unavailable, this,
+    connect(m_saveDialog.get(), &SaveDialog::cancelled, this, [this] { finishArchive(std::nullopt); });
+    connect(m_saveDialog.get(), &SaveDialog::unavailable, this,
             [this] { emit archiveWanted(m_proposedArchive); });
-    m_timer.setInterval(kLookMilliseconds);
-    connect(&m_timer, &QTimer::timeout, this, &SystemBridge::look);
+    connect(m_watch.get(), &ApplicationWatch::changed, this, &SystemBridge::claudeCopiesChanged);
 }
 
 void SystemBridge::endApplication() {
@@ -54,23 +50,7 @@ void SystemBridge::copyToClipboard(const QString& text) {
 }
 
 void SystemBridge::reveal(const fs::path& item) {
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    const auto openFolder = [folder = item.parent_path()] { QDesktopServices::openUrl(fileUrl(folder)); };
-    if (!bus.isConnected()) {
-        openFolder();
-        return;
-    }
-    auto call =
-        QDBusMessage::createMethodCall("org.freedesktop.FileManager1", "/org/freedesktop/FileManager1",
-                                       "org.freedesktop.FileManager1", "ShowItems");
-    call << QStringList{fileUrl(item).toString(QUrl::FullyEncoded)} << QString();
-    auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(call), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [watcher, openFolder] {
-        // Where no file manager answers to that, at least the folder is opened.
-        if (watcher->isError())
-            openFolder();
-        watcher->deleteLater();
-    });
+    revealItem(item);
 }
 
 void SystemBridge::open(const fs::path& file) {
@@ -84,7 +64,7 @@ void SystemBridge::askForArchive(const QString& proposedName,
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     const QString folder = QFileInfo(documents).isDir() ? documents : QDir::homePath();
     m_proposedArchive = folder + '/' + proposedName;
-    m_saveDialog.ask(QGuiApplication::focusWindow(), tr("Salva il backup"), folder, proposedName);
+    m_saveDialog->ask(QGuiApplication::focusWindow(), tr("Salva il backup"), folder, proposedName);
 }
 
 void SystemBridge::answerArchive(const QString& typed) {
@@ -103,25 +83,6 @@ void SystemBridge::answerArchive(const QString& typed) {
 void SystemBridge::finishArchive(std::optional<fs::path> place) {
     if (const auto done = std::exchange(m_archiveDone, nullptr))
         done(std::move(place));
-}
-
-void SystemBridge::setWatching(bool watches) {
-    if (!watches) {
-        m_timer.stop();
-        return;
-    }
-    if (m_timer.isActive())
-        return;
-    m_timer.start();
-    QTimer::singleShot(kFirstLookMilliseconds, this, &SystemBridge::look);
-}
-
-void SystemBridge::look() {
-    std::vector<RunningApplication> copies = m_claude.running();
-    if (copies == m_copies)
-        return;
-    m_copies = std::move(copies);
-    emit claudeCopiesChanged();
 }
 
 } // namespace selvane

@@ -3,13 +3,11 @@
 
 #pragma once
 
-#include <QTimer>
-
-#include <vector>
+#include <memory>
 
 #include "DesktopBridge.h"
-#include "Views/PortalSaveDialog.h"
-#include "desktop/ClaudeApp.h"
+#include "Views/ApplicationWatch.h"
+#include "Views/SaveDialog.h"
 
 namespace selvane {
 
@@ -18,7 +16,8 @@ class SystemBridge final : public DesktopBridge {
     Q_OBJECT
 
 public:
-    explicit SystemBridge(const ClaudeApp& claude);
+    /// `workspace` must live longer.
+    explicit SystemBridge(Workspace& workspace);
 
     void endApplication() override;
     void copyToClipboard(const QString& text) override;
@@ -27,8 +26,8 @@ public:
     void askForArchive(const QString& proposedName,
                        std::function<void(std::optional<std::filesystem::path>)> done) override;
 
-    /// Looks for started and ended copies of Claude Desktop from time to time, while a window is shown.
-    void setWatching(bool watches);
+    /// Whether to tell of started and ended copies of Claude Desktop: while a window is shown.
+    void setWatching(bool watches) { m_watch->setWatching(watches); }
     /// The answer to `archiveWanted`: a path as typed, from the home folder on where it is relative; empty
     /// when the user has cancelled.
     void answerArchive(const QString& typed);
@@ -37,13 +36,10 @@ signals:
     void archiveWanted(const QString& proposedPlace);
 
 private:
-    void look();
     void finishArchive(std::optional<std::filesystem::path> place);
 
-    const ClaudeApp& m_claude;
-    QTimer m_timer;
-    std::optional<std::vector<RunningApplication>> m_copies; ///< none before the first look
-    PortalSaveDialog m_saveDialog;
+    const std::unique_ptr<ApplicationWatch> m_watch;
+    const std::unique_ptr<SaveDialog> m_saveDialog;
     QString m_proposedArchive;
     std::function<void(std::optional<std::filesystem::path>)> m_archiveDone;
 };

@@ -7,10 +7,6 @@
 
 namespace selvane {
 
-std::unique_ptr<Updater> makeUpdater() {
-    return nullptr;
-}
-
 Updates::Updates(std::unique_ptr<Updater> updater, QObject* parent)
     : QObject(parent), m_updater(std::move(updater)) {
     if (m_updater)

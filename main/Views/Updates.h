@@ -27,7 +27,7 @@ signals:
     void canCheckChanged();
 };
 
-/// That of this platform, already started; null where packages bring new versions, as on Linux.
+/// That of this installation, already started; null where new versions come in another way.
 std::unique_ptr<Updater> makeUpdater();
 
 /// The updates of the application as the windows see them. Without an updater nothing is available and

@@ -8,8 +8,6 @@
 #include <QFontDatabase>
 #include <QGuiApplication>
 
-#include <fontconfig/fontconfig.h>
-
 #include "platform/ModuleFolder.h"
 
 namespace selvane {
@@ -21,10 +19,6 @@ constexpr int kBodySize = 13;
 
 Brand::Brand(QObject* parent) : QObject(parent) {
     registerFonts();
-}
-
-void Brand::prepareFonts() {
-    FcInit();
 }
 
 void Brand::registerFonts() {

@@ -36,8 +36,6 @@ public:
     /// Registers the fonts, so that no text is set before them.
     explicit Brand(QObject* parent = nullptr);
 
-    /// Reads how the system sets fonts, which takes longest about them. Any thread may do it ahead.
-    static void prepareFonts();
     /// Makes the font files of the "Fonts" folder known to this process; only the first call does anything.
     /// A missing folder leaves the system's own faces. Needs a QGuiApplication.
     static void registerFonts();

@@ -7,8 +7,9 @@
 
 #include <algorithm>
 #include <cctype>
-#include <charconv>
 #include <cmath>
+
+#include "platform/Decimal.h"
 
 namespace selvane {
 namespace {
@@ -48,11 +49,10 @@ private:
 
     qreal number() {
         skipSeparators();
-        double value = 0;
-        const auto [end, error] = std::from_chars(m_rest.data(), m_rest.data() + m_rest.size(), value);
-        m_isBroken = m_isBroken || error != std::errc();
-        m_rest.remove_prefix(static_cast<std::size_t>(end - m_rest.data()));
-        return value;
+        const Decimal decimal = readDecimal(m_rest);
+        m_isBroken = m_isBroken || !decimal.fits;
+        m_rest.remove_prefix(decimal.length);
+        return decimal.value;
     }
 
     // Flags are single digits, often without anything between them and what follows.

@@ -3,9 +3,11 @@
 
 #pragma once
 
+#include <array>
+#include <ctime>
 #include <filesystem>
 #include <optional>
-#include <sys/types.h>
+#include <sys/stat.h>
 
 #include "platform/FileManager.h"
 
@@ -20,11 +22,16 @@ void copyTree(const std::filesystem::path& from, const std::filesystem::path& to
 
 /// Copies the user's extended attributes and the access lists of one open file to another. Returns the bits
 /// of `mode` that then mean at `to` what they mean at `from`; nothing, and `errno`, on failure. File systems
-/// that keep no attributes are no failure.
-std::optional<mode_t> copyAttributes(int from, int to, mode_t mode);
+/// that keep no attributes are no failure. An `ownerOnly` copy gives nobody else anything.
+std::optional<mode_t> copyAttributes(int from, int to, mode_t mode, Privacy privacy);
 /// Drops the access list that a new file has got from its folder, which would give others what its mode
 /// denies them.
 void dropInheritedAccess(int file);
+
+/// When a file was last read and last changed, as `utimensat` takes them.
+std::array<timespec, 2> timesOf(const struct stat& status);
+/// Makes a FIFO, socket or device like the one of that status, for its owner alone. Returns 0 or the error.
+int makeSpecial(int folder, const char* name, const struct stat& status);
 
 /// Gives `from` the name `to`. Returns 0 or the error, EEXIST when anything is at `to`.
 int renameExclusively(const std::filesystem::path& from, const std::filesystem::path& to);

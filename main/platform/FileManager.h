@@ -54,7 +54,7 @@ public:
     std::optional<std::string> readIfPossible(const std::filesystem::path& file) const;
     /// Replaces `file` whole or leaves it as it was. A file that is replaced hands its mode on; a new one
     /// gets 0600 when it is `ownerOnly`, else 0644 less the creation mask. A link at `file` is replaced,
-    /// never followed. The folder must exist.
+    /// never followed. The folder must exist. Waits for the disk when something is replaced.
     void write(const std::filesystem::path& file, std::string_view bytes,
                Privacy privacy = Privacy::inherited) const;
     void setMode(const std::filesystem::path& file, mode_t mode) const;

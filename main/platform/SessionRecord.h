@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace selvane {
@@ -19,6 +20,10 @@ struct SessionRecord {
     std::optional<std::string> cliSessionId;
     std::vector<std::string> priorCliSessionIds; ///< empty unless all elements are texts
 };
+
+/// Whether `text` is JSON as the standard has it, told quickly. False as well for some of what `json::parse`
+/// takes beyond that: halves of surrogate pairs, numbers that no machine number holds, a byte order mark.
+bool isStrictJson(std::string_view text);
 
 /// Reads session records quickly; one reader serves many files and reuses its memory.
 class SessionRecordReader {

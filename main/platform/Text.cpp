@@ -7,7 +7,7 @@
 #include <array>
 #include <numeric>
 
-#include "platform/linux/Services.h"
+#include "platform/Services.h"
 
 namespace selvane::text {
 
@@ -111,6 +111,14 @@ std::vector<std::size_t> sortedOrder(const std::vector<std::string_view>& names)
     return order;
 }
 
+std::vector<std::string> sorted(std::vector<std::string> names) {
+    std::vector<std::string> result;
+    result.reserve(names.size());
+    for (const std::size_t position : sortedOrder({names.begin(), names.end()}))
+        result.push_back(std::move(names[position]));
+    return result;
+}
+
 std::string folded(std::string_view name) {
     std::string result;
     services().fold(name.data(), name.size(), append, &result);
@@ -150,9 +158,15 @@ std::string singleLine(std::string_view text) {
     std::string result;
     result.reserve(text.size());
     while (!text.empty()) {
-        const std::size_t length = controlLength(text);
-        result += length > 0 ? kReplacementCharacter : text.substr(0, 1);
-        text.remove_prefix(std::max<std::size_t>(length, 1));
+        std::size_t plain = 0;
+        while (plain < text.size() && controlLength(text.substr(plain)) == 0)
+            ++plain;
+        result += text.substr(0, plain);
+        text.remove_prefix(plain);
+        if (!text.empty()) {
+            result += kReplacementCharacter;
+            text.remove_prefix(controlLength(text));
+        }
     }
     return result;
 }

@@ -16,6 +16,8 @@ namespace selvane::text {
 
 /// Positions of `names` in ascending Italian order without regard to case; equal names keep their order.
 std::vector<std::size_t> sortedOrder(const std::vector<std::string_view>& names);
+/// `names` in that order.
+std::vector<std::string> sorted(std::vector<std::string> names);
 
 /// `name` folded to lower case without diacritics, every character that is no letter, mark or number
 /// replaced by "-". Letters of any script stay.

@@ -12,6 +12,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/ProcInfo.h"
 #include "platform/Process.h"
 
 namespace selvane {
@@ -27,7 +28,8 @@ struct Application {
     std::filesystem::path executable;   ///< what is started, which may be a shell wrapper
     std::vector<std::string> arguments; ///< those of the installation itself, given at every start
     std::filesystem::path entry;        ///< its desktop entry; empty when found on PATH
-    std::filesystem::path folder;       ///< its own folder; empty when it only has a shared one (a `bin`)
+    std::filesystem::path
+        folder; ///< its own folder, on macOS its bundle; empty when it only has a shared one (a `bin`)
     std::filesystem::path workingFolder;
 
     bool operator==(const Application&) const = default;
@@ -56,8 +58,8 @@ public:
 
     /// Nothing when it is not installed.
     virtual std::optional<Application> application() = 0;
-    /// Main processes only, in the order of the process list.
-    virtual std::vector<RunningApplication> running() = 0;
+    /// Those of all processes that are main processes of the application, in the same order.
+    virtual std::vector<RunningApplication> running(const std::vector<ProcInfo>& processes) = 0;
     /// Starts a new copy, also when others run. Throws when it can't be started.
     virtual void open(const Application& application, const OpenConfiguration& configuration) = 0;
 

@@ -5,6 +5,7 @@
 
 #include "model/LauncherError.h"
 #include "platform/Json.h"
+#include "store/SettingsPaths.h"
 #include "support/Home.h"
 
 namespace selvane {
@@ -175,6 +176,15 @@ TEST(Imports, importSettings_PathWithQuotesAndAccents_IsRewrittenOnce) {
                 << root << asciiOnly;
         }
     }
+}
+
+TEST(Imports, withRewrittenPaths_FolderNamedLikeJson_JoinsNoTexts) {
+    const auto profileAt = [](const std::string& id, const char* folder) { return Profile{id, {}, folder}; };
+    const Profile target = profileAt("p", "/b");
+    for (const std::string text : {R"(["/a","/x"])", R"(["/a\\","/x"])"})
+        EXPECT_EQ(withRewrittenPaths(text, profileAt("default", "/a\",\""), target), text);
+    EXPECT_EQ(withRewrittenPaths(R"(["/a\",\"/x"])", profileAt("default", "/a\",\""), target), R"(["/b/x"])");
+    EXPECT_EQ(withRewrittenPaths("[\"/\xe9/x\"]", profileAt("default", "/\xe9"), target), R"(["/b/x"])");
 }
 
 TEST(Imports, import_OverOwnFiles_MovesThemToTheTrash) {

@@ -90,6 +90,7 @@ TEST_F(Links, sync_OtherEntries_AreLeftAlone) {
               (Tree{{"uno.md", link("uno.md")}, {"due", "a file now"}, {"altrove", "-> /nowhere"}}));
     EXPECT_TRUE(treeOf(profile.url(Component::commands)).empty());
     profile.meta.source = "assente";
+    home.store.saveMeta(profile);
     writeFile(home / ".claude/agents/b", "");
     EXPECT_TRUE(home.store.sync(profile).isEmpty());
 }
@@ -125,6 +126,27 @@ TEST_F(Links, setMode_Collection_MakesEachTransition) {
     EXPECT_EQ(takeTrash(), Tree{});
     EXPECT_EQ(treeOf(source("")),
               (Tree{{"uno.md", "uno"}, {"due", "/"}, {"due/a", "due"}, {"tre.md", "tre"}}));
+}
+
+TEST_F(Links, change_OfARecordThatAnotherChangedSince_KeepsBoth) {
+    const Profile stale = profile;
+    setMode(none, Component::agents);
+    const auto record = [&] { return home.store.profile("lavoro")->meta; };
+    home.store.remove(item("tre.md"), stale, Component::skills);
+    EXPECT_EQ(record().excluded, (std::map<std::string, Texts>{{"skills", {"tre.md"}}}));
+    home.store.setMode(separate, Component::commands, stale);
+    home.store.importItems({"tre.md"}, home.builtIn(), stale, Component::skills, true);
+    home.store.changeMeta(stale, [](ProfileMeta& meta) { meta.name = "Studio"; });
+    ProfileMeta expected = stale.meta;
+    expected.name = "Studio";
+    expected.modes["agents"] = none;
+    expected.modes["commands"] = separate;
+    expected.excluded["skills"] = {};
+    EXPECT_EQ(record(), expected);
+
+    setMode(none);
+    home.store.sync(stale);
+    EXPECT_EQ(skills(), Tree{}) << "links that another has just removed don't come back";
 }
 
 TEST_F(Links, setMode_NotPossible_ChangesNothing) {

@@ -80,6 +80,10 @@ protected:
 
     std::unique_ptr<Workspace> workspace() const { return makeWorkspace(m_identity, m_environment); }
 
+    std::vector<RunningApplication> runningApplications() const {
+        return workspace()->running(ProcInfo::all());
+    }
+
     /// Everything that runs from the test's folder, helpers included.
     std::vector<ProcInfo> processes() const {
         std::vector<ProcInfo> processes = ProcInfo::all();
@@ -121,7 +125,7 @@ TEST_F(RunningApplicationTest, OpensFromPathAndQuits) {
     EXPECT_EQ(application->executable, m_root / "bin" / m_name);
     EXPECT_EQ(application->folder, m_root / "app");
     EXPECT_TRUE(application->entry.empty());
-    EXPECT_TRUE(workspace()->running().empty());
+    EXPECT_TRUE(runningApplications().empty());
 
     application->arguments = {"--own"};
     OpenConfiguration configuration;
@@ -137,7 +141,7 @@ TEST_F(RunningApplicationTest, OpensFromPathAndQuits) {
     EXPECT_EQ(told["isSessionLeader"], true);
     EXPECT_EQ(told["workingFolder"], m_root.string());
 
-    const std::vector<RunningApplication> running = workspace()->running();
+    const std::vector<RunningApplication> running = runningApplications();
     ASSERT_EQ(running.size(), 1U);
     EXPECT_EQ(told["pid"], running[0].pid);
     const std::optional<ProcInfo> process = ProcInfo::read(running[0].pid);
@@ -149,14 +153,14 @@ TEST_F(RunningApplicationTest, OpensFromPathAndQuits) {
 
     workspace()->terminate(running[0]);
     EXPECT_TRUE(eventually([&] { return workspace()->isTerminated(running[0]); }));
-    EXPECT_TRUE(workspace()->running().empty());
+    EXPECT_TRUE(runningApplications().empty());
     EXPECT_TRUE(processes().empty());
 }
 
 TEST_F(RunningApplicationTest, EndsOneThatRefusesToQuitOnlyByForce) {
     m_environment["STAND_IN_OPTIONS"] = "--stand-in-refuse-quit";
     open({m_executable, {}, {}, m_root / "app", {}});
-    const std::vector<RunningApplication> running = workspace()->running();
+    const std::vector<RunningApplication> running = runningApplications();
     ASSERT_EQ(running.size(), 1U);
 
     const RunningApplication earlier{running[0].pid, running[0].startTime - 1};
@@ -164,7 +168,7 @@ TEST_F(RunningApplicationTest, EndsOneThatRefusesToQuitOnlyByForce) {
     workspace()->forceTerminate(earlier);
     workspace()->terminate(running[0]);
     std::this_thread::sleep_for(std::chrono::milliseconds(100));
-    EXPECT_EQ(workspace()->running(), running);
+    EXPECT_EQ(runningApplications(), running);
 
     workspace()->forceTerminate(running[0]);
     EXPECT_TRUE(eventually([&] { return workspace()->isTerminated(running[0]); }));
@@ -176,7 +180,7 @@ TEST_F(RunningApplicationTest, IsRecognisedAfterItsExecutableWasReplaced) {
     const nlohmann::json told = open({m_executable, {}, {}, m_root / "app", {}});
     fs::remove(m_executable);
     install(m_executable);
-    const std::vector<RunningApplication> running = workspace()->running();
+    const std::vector<RunningApplication> running = runningApplications();
     ASSERT_EQ(running.size(), 1U);
     EXPECT_EQ(told["pid"], running[0].pid);
     EXPECT_EQ(ProcInfo::read(running[0].pid)->path, m_executable);
@@ -194,7 +198,7 @@ TEST_F(RunningApplicationTest, IsRecognisedBehindAWrapper) {
         fs::remove_all(m_root / "data");
         const nlohmann::json told = open(application);
         EXPECT_EQ(told["workingFolder"], application.workingFolder.string());
-        const std::vector<RunningApplication> running = workspace()->running();
+        const std::vector<RunningApplication> running = runningApplications();
         ASSERT_EQ(running.size(), 1U) << script;
         EXPECT_EQ(told["pid"], running[0].pid) << script;
         workspace()->terminate(running[0]);

@@ -40,7 +40,7 @@ struct FakeWorkspace final : Workspace {
     std::vector<std::int32_t> activated;
 
     std::optional<Application> application() override { return installed; }
-    std::vector<RunningApplication> running() override { return apps; }
+    std::vector<RunningApplication> running(const std::vector<ProcInfo>&) override { return apps; }
     void open(const Application&, const OpenConfiguration& configuration) override;
     void terminate(const RunningApplication& app) override;
     void forceTerminate(const RunningApplication& app) override;

@@ -51,7 +51,9 @@ int copyAttribute(int from, int to, const char* name) {
 
 } // namespace
 
-std::optional<mode_t> copyAttributes(int from, int to, mode_t mode) {
+std::optional<mode_t> copyAttributes(int from, int to, mode_t mode, Privacy privacy) {
+    if (privacy == Privacy::ownerOnly)
+        mode &= S_IRWXU; // which an access list can't exceed: the group's bits are the most that it gives
     const ssize_t needed = ::flistxattr(from, nullptr, 0);
     if (needed == 0 || (needed < 0 && isUnsupported(errno)))
         return mode;
@@ -81,6 +83,15 @@ void dropInheritedAccess(int file) {
     // No failure matters: there is none, or there can be none.
     static_cast<void>(::fremovexattr(file, kAccessList));
     static_cast<void>(::fremovexattr(file, kDefaultAccessList));
+}
+
+std::array<timespec, 2> timesOf(const struct stat& status) {
+    return {status.st_atim, status.st_mtim};
+}
+
+int makeSpecial(int folder, const char* name, const struct stat& status) {
+    const mode_t kind = status.st_mode & S_IFMT;
+    return ::mknodat(folder, name, kind | S_IRUSR | S_IWUSR, status.st_rdev) == 0 ? 0 : errno;
 }
 
 } // namespace selvane::files

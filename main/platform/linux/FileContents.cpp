@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/linux/FileContents.h"
+#include "platform/FileContents.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -35,7 +35,33 @@ int writeAt(int to, const char* bytes, std::size_t count, off_t offset) {
 
 } // namespace
 
-int ContentCopier::copy(int from, int to, const struct stat& status) {
+class ContentCopier::System {
+public:
+    /// Copies all of `from`, whose status is given, to the empty `to`. Returns 0 or an error.
+    int copy(int from, int to, const struct stat& status);
+
+private:
+    bool clone(int from, int to);
+    int copyDataOfSparse(int from, int to, off_t size);
+    int copyRange(int from, int to, off_t offset, off_t end);
+    int copyThroughMemory(int from, int to, off_t offset, off_t end);
+
+    bool m_canClone = true;
+    bool m_canCopyRanges = true;
+    std::unique_ptr<char[]> m_buffer;
+};
+
+ContentCopier::ContentCopier() : m_system(std::make_unique<System>()) {}
+ContentCopier::~ContentCopier() = default;
+
+int ContentCopier::copy(int from, const struct stat& status, int folder, const char* name,
+                        Privacy /*privacy*/, Descriptor& to) {
+    constexpr int kFlags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+    to = Descriptor(::openat(folder, name, kFlags, S_IRUSR | S_IWUSR));
+    return to ? m_system->copy(from, to.get(), status) : errno;
+}
+
+int ContentCopier::System::copy(int from, int to, const struct stat& status) {
     // Files of /proc say that they are empty, and only reading tells.
     if (status.st_size == 0)
         return copyThroughMemory(from, to, 0, kToTheEnd);
@@ -46,7 +72,7 @@ int ContentCopier::copy(int from, int to, const struct stat& status) {
     return copyRange(from, to, 0, status.st_size);
 }
 
-bool ContentCopier::clone(int from, int to) {
+bool ContentCopier::System::clone(int from, int to) {
     if (!m_canClone)
         return false;
     if (::ioctl(to, FICLONE, from) == 0)
@@ -57,7 +83,7 @@ bool ContentCopier::clone(int from, int to) {
 }
 
 /// Disk images are mostly holes: their copy must not take their nominal size.
-int ContentCopier::copyDataOfSparse(int from, int to, off_t size) {
+int ContentCopier::System::copyDataOfSparse(int from, int to, off_t size) {
     off_t end = 0;
     while (end < size) {
         const off_t data = ::lseek(from, end, SEEK_DATA);
@@ -73,7 +99,7 @@ int ContentCopier::copyDataOfSparse(int from, int to, off_t size) {
     return ::ftruncate(to, size) == 0 ? 0 : errno;
 }
 
-int ContentCopier::copyRange(int from, int to, off_t offset, off_t end) {
+int ContentCopier::System::copyRange(int from, int to, off_t offset, off_t end) {
     while (m_canCopyRanges && offset < end) {
         off_t in = offset;
         off_t out = offset;
@@ -91,7 +117,7 @@ int ContentCopier::copyRange(int from, int to, off_t offset, off_t end) {
     return offset < end ? copyThroughMemory(from, to, offset, end) : 0;
 }
 
-int ContentCopier::copyThroughMemory(int from, int to, off_t offset, off_t end) {
+int ContentCopier::System::copyThroughMemory(int from, int to, off_t offset, off_t end) {
     if (m_buffer == nullptr)
         m_buffer = std::make_unique_for_overwrite<char[]>(kBufferSize);
     while (offset < end) {

@@ -12,7 +12,7 @@
 #include <fstream>
 #include <string_view>
 
-#include "platform/linux/Services.h"
+#include "platform/linux/DesktopServices.h"
 
 namespace selvane {
 namespace {
@@ -99,7 +99,7 @@ std::optional<Application> findEntry(const std::string& id) {
         if (entry.workingFolder != nullptr)
             application.workingFolder = entry.workingFolder;
     };
-    if (!services().desktopEntry(id.c_str(), receive, &found) || found.words.empty())
+    if (!desktopServices().desktopEntry(id.c_str(), receive, &found) || found.words.empty())
         return std::nullopt;
     found.application.executable = found.words.front();
     found.application.arguments.assign(found.words.begin() + 1, found.words.end());

@@ -112,12 +112,12 @@ private:
             return {};
         std::size_t filled = 0;
         for (;;) {
-            if (filled == m_buffer.size())
-                m_buffer.resize(m_buffer.size() * 2);
             const ssize_t count = ::read(file.get(), m_buffer.data() + filled, m_buffer.size() - filled);
-            if (count <= 0)
+            filled += count > 0 ? static_cast<std::size_t>(count) : 0;
+            // The kernel fills the buffer as far as there is something to tell: room left means the end.
+            if (count <= 0 || filled < m_buffer.size())
                 return {m_buffer.data(), filled};
-            filled += static_cast<std::size_t>(count);
+            m_buffer.resize(m_buffer.size() * 2);
         }
     }
 
@@ -164,10 +164,10 @@ std::vector<ProcInfo> ProcInfo::all() {
     std::vector<ProcInfo> processes;
     ProcReader reader;
     reader.forEachName([&](const char* name) {
-        const auto pid = parseNumber<std::int32_t>(name);
-        if (!pid || !reader.open(name))
+        const auto number = parseNumber<std::int32_t>(name);
+        if (!number || !reader.open(name))
             return;
-        if (std::optional<ProcInfo> process = reader.info(*pid))
+        if (std::optional<ProcInfo> process = reader.info(*number))
             processes.push_back(std::move(*process));
     });
     return processes;

@@ -63,7 +63,7 @@ public:
 
 private:
     bool isCandidate(const ProcInfo& process) const {
-        const std::string name = fs::path(process.path).filename();
+        const std::string_view name = std::string_view(process.path).substr(process.path.rfind('/') + 1);
         const bool isOurs =
             liesInFolder(process) || name == m_identity.executableName || isStartedByEntry(process);
         return isOurs && !isHelperExecutable(name) && !isInterpreter(name) && !hasTypeArgument(process) &&

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/linux/Services.h"
+#include "platform/linux/DesktopServices.h"
 
 #include <dlfcn.h>
 
@@ -13,7 +13,6 @@ namespace selvane {
 namespace {
 
 constexpr const char* kModuleName = "libselvane-services.so";
-using TableFunction = const Services* (*)();
 
 [[noreturn]] void fail(const std::filesystem::path& module) {
     const char* const reason = dlerror();
@@ -23,22 +22,34 @@ using TableFunction = const Services* (*)();
                         module.parent_path().string() + " (" + (reason != nullptr ? reason : "") + ")");
 }
 
-const Services& load() {
+void* loadModule() {
     const std::filesystem::path module = modulePath(kModuleName);
     void* const handle = dlopen(module.c_str(), RTLD_LAZY | RTLD_LOCAL);
     if (handle == nullptr)
         fail(module);
-    const auto table = reinterpret_cast<TableFunction>(dlsym(handle, "selvane_services"));
-    if (table == nullptr)
-        fail(module);
-    return *table();
+    return handle;
+}
+
+/// What the module's function of that name hands out.
+template <typename Table>
+const Table& table(const char* function) {
+    static void* const module = loadModule();
+    const auto hand = reinterpret_cast<const Table* (*)()>(dlsym(module, function));
+    if (hand == nullptr)
+        fail(modulePath(kModuleName));
+    return *hand();
 }
 
 } // namespace
 
 const Services& services() {
-    static const Services& table = load();
-    return table;
+    static const auto& known = table<Services>("selvane_services");
+    return known;
+}
+
+const DesktopServices& desktopServices() {
+    static const auto& known = table<DesktopServices>("selvane_desktop_services");
+    return known;
 }
 
 } // namespace selvane

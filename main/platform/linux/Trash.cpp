@@ -8,7 +8,7 @@
 #include "model/LauncherError.h"
 #include "platform/ErrorText.h"
 #include "platform/Text.h"
-#include "platform/linux/Services.h"
+#include "platform/linux/DesktopServices.h"
 
 namespace selvane {
 
@@ -17,7 +17,7 @@ void moveToTrash(const std::filesystem::path& path) {
     const auto append = [](void* context, const char* bytes, std::size_t count) {
         static_cast<std::string*>(context)->append(bytes, count);
     };
-    if (const int error = services().trash(path.c_str(), append, &message); error != 0)
+    if (const int error = desktopServices().trash(path.c_str(), append, &message); error != 0)
         throw LauncherError(text::singleLine(path.string()) + ": non può essere spostato nel Cestino (" +
                             describe(std::error_code(error, std::generic_category())) + ")");
 }

@@ -10,10 +10,10 @@
 #include "model/LauncherError.h"
 #include "platform/Descriptor.h"
 #include "platform/ProcInfo.h"
+#include "platform/linux/DesktopServices.h"
 #include "platform/linux/InstalledApplication.h"
 #include "platform/linux/ProcStat.h"
 #include "platform/linux/RunningApplications.h"
-#include "platform/linux/Services.h"
 
 namespace selvane {
 namespace {
@@ -50,9 +50,9 @@ public:
 
     std::optional<Application> application() override { return findApplication(m_identity, m_environment); }
 
-    std::vector<RunningApplication> running() override {
+    std::vector<RunningApplication> running(const std::vector<ProcInfo>& processes) override {
         const std::optional<Application> installed = application();
-        return mainProcesses(ProcInfo::all(), m_identity, installed ? installed->folder : fs::path());
+        return mainProcesses(processes, m_identity, installed ? installed->folder : fs::path());
     }
 
     void open(const Application& application, const OpenConfiguration& configuration) override {
@@ -70,7 +70,7 @@ public:
 
     void activate(const RunningApplication& app) override {
         try {
-            services().raiseWindow(app.pid);
+            desktopServices().raiseWindow(app.pid);
         } catch (const LauncherError&) {
             // Without the services the window stays where it is, as on a display that can't raise it.
             return;

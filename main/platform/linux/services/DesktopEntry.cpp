@@ -9,8 +9,8 @@
 
 #include <glib.h>
 
+#include "platform/linux/services/DesktopFunctions.h"
 #include "platform/linux/services/FieldCodes.h"
-#include "platform/linux/services/Functions.h"
 
 namespace selvane::module {
 

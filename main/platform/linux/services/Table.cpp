@@ -1,20 +1,22 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/linux/services/Functions.h"
+#include "platform/services/Table.h"
+#include "platform/linux/services/DesktopFunctions.h"
 
-extern "C" __attribute__((visibility("default"))) const selvane::Services* selvane_services() {
-    static constexpr selvane::Services kTable{
-        .sortKey = selvane::module::sortKey,
-        .fold = selvane::module::fold,
-        .longDate = selvane::module::longDate,
-        .relativeDate = selvane::module::relativeDate,
+extern "C" {
+
+__attribute__((visibility("default"))) const selvane::Services* selvane_services() {
+    return &selvane::module::kTable;
+}
+
+__attribute__((visibility("default"))) const selvane::DesktopServices* selvane_desktop_services() {
+    static constexpr selvane::DesktopServices kTable{
         .trash = selvane::module::trash,
         .desktopEntry = selvane::module::desktopEntry,
         .raiseWindow = selvane::module::raiseWindow,
-        .newSessionReader = selvane::module::newSessionReader,
-        .deleteSessionReader = selvane::module::deleteSessionReader,
-        .readSession = selvane::module::readSession,
     };
     return &kTable;
 }
+
+} // extern "C"

@@ -6,7 +6,7 @@
 
 #include <gio/gio.h>
 
-#include "platform/linux/services/Functions.h"
+#include "platform/linux/services/DesktopFunctions.h"
 
 namespace selvane::module {
 

@@ -10,7 +10,7 @@
 
 #include <xcb/xcb.h>
 
-#include "platform/linux/services/Functions.h"
+#include "platform/linux/services/DesktopFunctions.h"
 
 namespace selvane::module {
 

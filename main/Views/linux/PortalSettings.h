@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QDBusVariant>
+#include <QObject>
+
+#include "Views/SystemAppearance.h"
+
+namespace selvane {
+
+/// The settings of the desktop, as its portal hands them to applications.
+class PortalSettings : public QObject {
+    Q_OBJECT
+
+public:
+    /// Asks for them, without waiting for the answer.
+    explicit PortalSettings(SystemAppearance& appearance);
+
+private slots:
+    void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+
+private:
+    SystemAppearance& m_appearance;
+};
+
+} // namespace selvane

@@ -1,0 +1,114 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "Views/SystemShell.h"
+
+#import <AppKit/AppKit.h>
+
+#include <QStandardPaths>
+
+#include <sys/stat.h>
+
+#include "Views/LauncherApp.h"
+#import "Views/macos/MenuBar.h"
+#include "artwork/Brand.h"
+#import "platform/macos/FoundationTypes.h"
+
+/// Answers when the user opens the application again, from the Dock or the Finder: the system starts no
+/// second one.
+@interface SelvaneReopening : NSObject
+- (instancetype)initWithLauncher:(selvane::LauncherApp*)launcher;
+- (void)handleReopen:(NSAppleEventDescriptor*)event withReplyEvent:(NSAppleEventDescriptor*)reply;
+@end
+
+@implementation SelvaneReopening {
+    selvane::LauncherApp* m_launcher;
+}
+
+- (instancetype)initWithLauncher:(selvane::LauncherApp*)launcher {
+    self = [super init];
+    if (self != nil)
+        m_launcher = launcher;
+    return self;
+}
+
+- (void)handleReopen:(NSAppleEventDescriptor*)event withReplyEvent:(NSAppleEventDescriptor*)reply {
+    m_launcher->answerStart({});
+}
+
+@end
+
+namespace selvane {
+namespace {
+
+MenuCommands commandsOf(LauncherApp& launcher) {
+    const auto isFree = [&launcher] { return launcher.app()->busyMessage().isEmpty(); };
+    return {
+        .checkForUpdates = {[&launcher] { launcher.updates()->checkNow(); },
+                            [&launcher] { return launcher.updates()->canCheck(); }},
+        .showSettings = {[&launcher] { launcher.showManage(); }, isFree},
+        .newProfile = {[&launcher] { emit launcher.newProfile(); }, isFree},
+        .showPicker = {[&launcher] { launcher.showPicker(); }, isFree},
+    };
+}
+
+/// The menu bar, and the answer to being opened again.
+class MacShell final : public QObject {
+public:
+    explicit MacShell(LauncherApp& launcher)
+        : m_menuTarget([[SelvaneMenuTarget alloc] initWithCommands:commandsOf(launcher)]),
+          m_reopening([[SelvaneReopening alloc] initWithLauncher:&launcher]) {
+        installMenuBar(m_menuTarget, Brand::name);
+        // Not before AppKit has put its own answer in place, at the start of the event loop.
+        connect(&launcher, &LauncherApp::begun, this, &MacShell::listen);
+    }
+    ~MacShell() override {
+        [NSAppleEventManager.sharedAppleEventManager removeEventHandlerForEventClass:kCoreEventClass
+                                                                          andEventID:kAEReopenApplication];
+    }
+
+private:
+    void listen() {
+        [NSAppleEventManager.sharedAppleEventManager setEventHandler:m_reopening
+                                                         andSelector:@selector(handleReopen:withReplyEvent:)
+                                                       forEventClass:kCoreEventClass
+                                                          andEventID:kAEReopenApplication];
+    }
+
+    SelvaneMenuTarget* m_menuTarget; // kept here: the menu and the event manager don't
+    SelvaneReopening* m_reopening;
+};
+
+} // namespace
+
+/// Not, for example, by way of ssh alone.
+bool hasDisplay() {
+    const CFDictionaryRef session = CGSessionCopyCurrentDictionary();
+    if (session == nullptr)
+        return qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+    CFRelease(session);
+    return true;
+}
+
+/// The user defaults of the bundle, whose identifier is made of these two names.
+std::unique_ptr<QSettings> openSettings() {
+    return std::make_unique<QSettings>(QSettings::NativeFormat, QSettings::UserScope,
+                                       QStringLiteral("selvane.org"), QStringLiteral("Selvane"));
+}
+
+/// The system gives each user one of their own.
+QString sessionFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::TempLocation);
+}
+
+std::unique_ptr<QObject> makeSystemShell(LauncherApp& launcher) {
+    return std::make_unique<MacShell>(launcher);
+}
+
+void revealItem(const std::filesystem::path& item) {
+    struct stat status = {};
+    const bool isFolder = ::lstat(item.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+    [NSWorkspace.sharedWorkspace activateFileViewerSelectingURLs:@[ macos::urlOf(item, isFolder) ]];
+}
+
+} // namespace selvane

@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/FileContents.h"
+
+#include <cerrno>
+#include <copyfile.h>
+#include <sys/clonefile.h>
+
+namespace selvane::files {
+namespace {
+
+/// A file with such a flag would hand it to its clone, which then could neither be finished nor removed.
+constexpr unsigned int kLocks = UF_IMMUTABLE | UF_APPEND | SF_IMMUTABLE | SF_APPEND;
+
+} // namespace
+
+class ContentCopier::System {
+public:
+    /// By descriptor, so that what is cloned is what was looked at. Returns 0 or an error.
+    int clone(int from, int folder, const char* name, Descriptor& to);
+    int copyData(int from, int folder, const char* name, Descriptor& to) const;
+
+    bool canClone(const struct stat& status) const { return m_canClone && (status.st_flags & kLocks) == 0; }
+
+private:
+    bool m_canClone = true;
+};
+
+int ContentCopier::System::clone(int from, int folder, const char* name, Descriptor& to) {
+    if (::fclonefileat(from, folder, name, CLONE_NOOWNERCOPY) != 0) {
+        // Other errors may concern this file alone; copying it tells which.
+        m_canClone = errno != ENOTSUP && errno != EXDEV;
+        return errno;
+    }
+    to = Descriptor(::openat(folder, name, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    if (to)
+        return 0;
+    const int error = errno;
+    ::unlinkat(folder, name, 0);
+    return error;
+}
+
+int ContentCopier::System::copyData(int from, int folder, const char* name, Descriptor& to) const {
+    constexpr int kFlags = O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+    to = Descriptor(::openat(folder, name, kFlags, S_IRUSR | S_IWUSR));
+    if (!to)
+        return errno;
+    // Holes stay holes where that is possible.
+    constexpr copyfile_flags_t kWhat = COPYFILE_DATA | COPYFILE_DATA_SPARSE;
+    return ::fcopyfile(from, to.get(), nullptr, kWhat) == 0 ? 0 : errno;
+}
+
+ContentCopier::ContentCopier() : m_system(std::make_unique<System>()) {}
+ContentCopier::~ContentCopier() = default;
+
+int ContentCopier::copy(int from, const struct stat& status, int folder, const char* name, Privacy privacy,
+                        Descriptor& to) {
+    // A clone can be read by whoever can read its origin, from its first moment on.
+    const bool maybe = privacy == Privacy::inherited && m_system->canClone(status);
+    if (maybe && m_system->clone(from, folder, name, to) == 0)
+        return 0;
+    return m_system->copyData(from, folder, name, to);
+}
+
+} // namespace selvane::files

@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/ProcInfo.h"
+
+#include <sys/sysctl.h>
+
+#include <algorithm>
+#include <array>
+
+#include "platform/ProcessArguments.h"
+#include "platform/macos/ProcessStart.h"
+
+namespace selvane {
+namespace {
+
+std::optional<std::string> executableOf(std::int32_t pid) {
+    std::array<char, PROC_PIDPATHINFO_MAXSIZE> path = {};
+    if (::proc_pidpath(pid, path.data(), static_cast<std::uint32_t>(path.size())) < 1)
+        return std::nullopt;
+    return path.data();
+}
+
+/// Empty when the kernel refuses it, as for another user's process.
+std::string argumentsArea(std::int32_t pid) {
+    std::array<int, 3> name = {CTL_KERN, KERN_PROCARGS2, pid};
+    constexpr auto kParts = static_cast<unsigned int>(name.size());
+    std::size_t size = 0;
+    if (::sysctl(name.data(), kParts, nullptr, &size, nullptr, 0) != 0)
+        return {};
+    std::string area(size, '\0');
+    if (::sysctl(name.data(), kParts, area.data(), &size, nullptr, 0) != 0)
+        return {};
+    area.resize(std::min(size, area.size()));
+    return area;
+}
+
+} // namespace
+
+std::optional<proc_bsdinfo> processStatus(std::int32_t pid) {
+    static_assert(sizeof(proc_bsdinfo) == PROC_PIDTBSDINFO_SIZE);
+    proc_bsdinfo status = {};
+    constexpr int kSize = sizeof status;
+    if (::proc_pidinfo(pid, PROC_PIDTBSDINFO, 0, &status, kSize) != kSize)
+        return std::nullopt;
+    return status;
+}
+
+std::uint64_t startTimeOf(const proc_bsdinfo& status) {
+    constexpr std::uint64_t kMicroseconds = 1'000'000;
+    return status.pbi_start_tvsec * kMicroseconds + status.pbi_start_tvusec;
+}
+
+std::optional<ProcInfo> ProcInfo::read(std::int32_t pid) {
+    std::optional<std::string> path = executableOf(pid);
+    if (!path)
+        return std::nullopt;
+    ProcInfo info;
+    info.pid = pid;
+    info.path = std::move(*path);
+    if (const auto status = processStatus(pid)) {
+        info.ppid = static_cast<std::int32_t>(status->pbi_ppid);
+        info.startTime = startTimeOf(*status);
+    }
+    ProcessArguments started = processArguments(argumentsArea(pid));
+    info.args = std::move(started.args);
+    info.env = std::move(started.env);
+    return info;
+}
+
+std::vector<ProcInfo> ProcInfo::all() {
+    const int expected = ::proc_listallpids(nullptr, 0);
+    if (expected < 1)
+        return {};
+    // Some may start between the two calls.
+    std::vector<pid_t> pids(2 * static_cast<std::size_t>(expected));
+    const int listed = ::proc_listallpids(pids.data(), static_cast<int>(pids.size() * sizeof(pid_t)));
+    pids.resize(std::min(pids.size(), static_cast<std::size_t>(std::max(listed, 0))));
+    std::vector<ProcInfo> processes;
+    for (const pid_t pid : pids) {
+        std::optional<ProcInfo> process = pid > 0 ? read(pid) : std::nullopt;
+        if (process)
+            processes.push_back(std::move(*process));
+    }
+    return processes;
+}
+
+} // namespace selvane

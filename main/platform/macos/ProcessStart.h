@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include <libproc.h>
+
+namespace selvane {
+
+/// What the kernel tells of a process of this user; nothing when there is none, or when it has ended and only
+/// its exit status is left.
+std::optional<proc_bsdinfo> processStatus(std::int32_t pid);
+
+/// Microseconds since 1970.
+std::uint64_t startTimeOf(const proc_bsdinfo& status);
+
+} // namespace selvane

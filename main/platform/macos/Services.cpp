@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/Services.h"
+
+#include "platform/services/Table.h"
+
+namespace selvane {
+
+/// No module: the libraries lie in the bundle, and the core is linked to them.
+const Services& services() {
+    return module::kTable;
+}
+
+} // namespace selvane

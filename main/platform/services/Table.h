@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/services/Functions.h"
+
+namespace selvane::module {
+
+inline constexpr Services kTable{
+    .sortKey = sortKey,
+    .fold = fold,
+    .longDate = longDate,
+    .relativeDate = relativeDate,
+    .newSessionReader = newSessionReader,
+    .deleteSessionReader = deleteSessionReader,
+    .readSession = readSession,
+    .isStrictJson = isStrictJson,
+};
+
+} // namespace selvane::module

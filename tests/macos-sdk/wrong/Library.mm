@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+// The C++ library of macOS reads no floating-point numbers in this way.
+
+#include <charconv>
+#include <string_view>
+
+double number(std::string_view text) {
+    double value = 0;
+    std::from_chars(text.data(), text.data() + text.size(), value);
+    return value;
+}

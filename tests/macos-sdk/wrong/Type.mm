@@ -1,0 +1,11 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+// A path is no URL.
+
+#import <AppKit/AppKit.h>
+
+void reveal(NSString* path) {
+    NSURL* url = path;
+    [NSWorkspace.sharedWorkspace activateFileViewerSelectingURLs:@[ url ]];
+}
