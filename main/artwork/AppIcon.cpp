@@ -159,7 +159,8 @@ void paintWithDepth(QPainter& painter, int pixels) {
 
 void paintFlat(QPainter& painter, int pixels) {
     const FlatDesign& design = flatDesign(pixels);
-    painter.scale(pixels / design.grid, pixels / design.grid);
+    const qreal scale = static_cast<qreal>(pixels) / design.grid;
+    painter.scale(scale, scale);
     painter.fillPath(roundedRect(design.body, design.radius), QColor("#1d2a25"));
     painter.fillPath(svgPath(design.upper), Brand::cool);
     painter.fillPath(svgPath(design.lower), Brand::accent);
