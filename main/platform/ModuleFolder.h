@@ -16,4 +16,12 @@ std::filesystem::path modulePath(const std::string& fileName);
 /// a macOS bundle in `../Resources`.
 std::filesystem::path resourcePath(const std::string& name);
 
+/// What tells one system's installations from another's.
+struct InstallationLayout {
+    std::filesystem::path executable; ///< of this process, links resolved
+    const char* modules;              ///< as seen from the folder above the executable's
+    const char* resources;            ///< likewise
+};
+InstallationLayout installationLayout();
+
 } // namespace selvane

@@ -5,27 +5,11 @@
 
 namespace selvane {
 
-namespace fs = std::filesystem;
-
-namespace {
-
-fs::path installedPath(const char* folder, const std::string& name) {
+InstallationLayout installationLayout() {
     std::error_code error;
-    const fs::path here = fs::read_symlink("/proc/self/exe", error).parent_path();
-    fs::path beside = here / name;
-    if (fs::exists(beside, error))
-        return beside;
-    return here.parent_path() / folder / name;
-}
-
-} // namespace
-
-fs::path modulePath(const std::string& fileName) {
-    return installedPath("lib/selvane", fileName);
-}
-
-fs::path resourcePath(const std::string& name) {
-    return installedPath("share/selvane", name);
+    return {.executable = std::filesystem::read_symlink("/proc/self/exe", error),
+            .modules = "lib/selvane",
+            .resources = "share/selvane"};
 }
 
 } // namespace selvane

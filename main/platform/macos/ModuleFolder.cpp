@@ -30,23 +30,10 @@ fs::path executable() {
     return error ? fs::path(path) : resolved;
 }
 
-fs::path bundledPath(const char* folder, const std::string& name) {
-    const fs::path here = executable().parent_path();
-    std::error_code error;
-    fs::path beside = here / name;
-    if (fs::exists(beside, error))
-        return beside;
-    return here.parent_path() / folder / name;
-}
-
 } // namespace
 
-fs::path modulePath(const std::string& fileName) {
-    return bundledPath("Frameworks", fileName);
-}
-
-fs::path resourcePath(const std::string& name) {
-    return bundledPath("Resources", name);
+InstallationLayout installationLayout() {
+    return {.executable = executable(), .modules = "Frameworks", .resources = "Resources"};
 }
 
 } // namespace selvane
