@@ -23,7 +23,8 @@ struct ProcessArguments {
 /// and the environment. Without a path in it there are neither arguments nor an environment.
 ///
 /// Empty arguments can't be told from padding: they are left out, and then as many of the first variables are
-/// taken for arguments. A variable without "=" is left out; of two with the same name the later one counts.
+/// taken for arguments. Bytes that are no UTF-8 are replaced by U+FFFD. A variable without "=" is left out;
+/// of two with the same name the later one counts.
 ProcessArguments processArguments(std::string_view area);
 
 } // namespace selvane

@@ -43,9 +43,9 @@ TEST(ProcessArguments, read_OddAreas_GiveWhatIsThere) {
         {area(2, "/bin/a\0a\0\0A=1\0B=2\0"s), {{"a", "A=1"}, {{"B", "2"}}}, "an empty argument"},
         {area(0, "/bin/a\0A=1\0"s), {{}, {{"A", "1"}}}, "no arguments"},
         {area(-1, "/bin/a\0A=1\0"s), {{}, {{"A", "1"}}}, "less than none"},
-        {area(1, "/bin/a\0\xff\xfe\0=x\0"s),
-         {{"\xff\xfe"}, {{"", "x"}}},
-         "bytes, and a variable without a name"},
+        {area(1, "/bin/a\0è\xff\xc3\0=x\0"s),
+         {{"è\uFFFD\uFFFD"}, {{"", "x"}}},
+         "no UTF-8, and a variable without a name"},
     };
     for (const auto& [bytes, expected, why] : cases)
         EXPECT_EQ(processArguments(bytes), expected) << why;

@@ -7,6 +7,7 @@
 #include <cstring>
 
 #include "Fuzzing.h"
+#include "platform/Text.h"
 
 namespace selvane::fuzz {
 namespace {
@@ -39,11 +40,13 @@ void check(std::string_view area) {
     std::memcpy(&count, area.data(), std::min(sizeof count, area.size()));
     require(process.args.size() <= static_cast<std::size_t>(std::max(count, 0)) || area.size() < 5,
             "no more arguments than said");
-    require(sizeOf(process) <= area.size(), "no more than the area holds");
+    const std::string text = text::repaired(area);
+    require(text::isUtf8(text) && (text == area) == text::isUtf8(area), "what is no UTF-8 is replaced");
+    require(sizeOf(process) <= text.size(), "no more than the area holds");
     for (const std::string& argument : process.args)
-        require(!argument.empty() && area.find(argument) != area.npos, "arguments stand in the area");
+        require(!argument.empty() && text.find(argument) != text.npos, "arguments stand in the area");
     for (const auto& [name, value] : process.env)
-        require(area.find(name + "=" + value) != area.npos && name.find('=') == name.npos,
+        require(text.find(name + "=" + value) != text.npos && name.find('=') == name.npos,
                 "variables stand in the area");
     require(processArguments(areaOf(process)) == process, "a process of them is read the same");
 }
