@@ -9,6 +9,7 @@
 #include <QFutureWatcher>
 #include <QtConcurrent>
 
+#include <algorithm>
 #include <utility>
 
 #include "platform/ErrorText.h"
@@ -155,12 +156,14 @@ void AppModel::runLaunch(LaunchPlan plan, LaunchStep step) {
     });
 }
 
-/// On the working thread. Whether all copies have really gone: main processes and helpers.
+/// On the working thread. Whether all copies have really gone: main processes and helpers. When another
+/// Selvane has opened the next one meanwhile, launching tells so.
 bool AppModel::quitAll(const LaunchPlan& plan, bool force) const {
     const auto haveGone = [&] {
-        return plan.restores
-                   ? m_claude.allProcesses({m_store.liveDesktopDir(), m_store.desktopStore()}).empty()
-                   : !m_store.desktopDataInUse(m_store.desktopDataDir(plan.profile));
+        if (plan.restores)
+            return m_claude.allProcesses({m_store.liveDesktopDir(), m_store.desktopStore()}).empty();
+        return std::ranges::all_of(plan.toClose,
+                                   [&](const auto& copy) { return m_store.hasLeft(copy, plan.profile); });
     };
     return m_claude.quit(plan.toClose, force ? ClaudeApp::QuitKind::forced : ClaudeApp::QuitKind::polite,
                          ClaudeApp::kQuitTimeout, haveGone);

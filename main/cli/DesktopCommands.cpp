@@ -19,13 +19,9 @@ void launch(const Call& call) {
             return;
         }
         call.claude.requireApplication(); // or nothing could take the place of what is closed
-        // The data folder stays busy until the helper processes have ended too. There is nothing to wait for
-        // when another Selvane has opened the next copy meanwhile: launching tells so.
-        const auto isDone = [&] {
-            const auto now = store.instance(target);
-            return (now && now != open) || !store.desktopDataInUse(store.desktopDataDir(target));
-        };
-        if (!call.claude.quit({*open}, ClaudeApp::QuitKind::polite, ClaudeApp::kQuitTimeout, isDone))
+        // When another copy has taken its place meanwhile, launching tells so.
+        const auto hasLeft = [&] { return store.hasLeft(*open, target); };
+        if (!call.claude.quit({*open}, ClaudeApp::QuitKind::polite, ClaudeApp::kQuitTimeout, hasLeft))
             throw LauncherError("Claude non si è chiuso");
     }
     call.claude.launch(target, store);

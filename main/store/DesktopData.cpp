@@ -76,6 +76,11 @@ bool ProfileStore::runs(const ClaudeApp::Instance& instance, const Profile& prof
     return config == ClaudeApp::normalized(profile.configDir.string());
 }
 
+bool ProfileStore::hasLeft(const ClaudeApp::Instance& copy, const Profile& profile) const {
+    const std::optional<ClaudeApp::Instance> now = instance(profile);
+    return (now && *now != copy) || !desktopDataInUse(desktopDataDir(profile));
+}
+
 std::set<std::string> ProfileStore::runningProfileIDs() const {
     std::set<std::string> ids;
     const std::vector<ClaudeApp::Instance> instances = claudeInstances();

@@ -105,6 +105,9 @@ public:
     std::vector<ClaudeApp::Instance> claudeInstances() const;
     std::optional<ClaudeApp::Instance> instance(const Profile& usingAccountOf) const;
     bool runs(const ClaudeApp::Instance& instance, const Profile& profile) const;
+    /// Whether `copy` and its helper processes have left the profile's account. So they have for certain when
+    /// another Selvane has opened the next copy with it.
+    bool hasLeft(const ClaudeApp::Instance& copy, const Profile& profile) const;
     std::set<std::string> runningProfileIDs() const;
     bool needsDesktopRestore() const;
     void restoreDesktopData();

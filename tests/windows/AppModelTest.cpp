@@ -183,6 +183,17 @@ TEST_F(AppModelLaunch, launch_CopyThatStays_IsOfferedToBeForced) {
     EXPECT_EQ(home.workspace.openings.size(), 1U);
 }
 
+TEST_F(AppModelLaunch, launch_AccountOpenedAgainMeanwhile_LeavesThatCopyAlone) {
+    open({});
+    home.workspace.whenEnded = [this] { open({{"CLAUDE_CONFIG_DIR", "/altrove"}}); };
+    model().launch("ospite");
+    model().confirmLaunch();
+    waitUntilIdle();
+    EXPECT_TRUE(model().errorMessage().contains("è già aperto")) << model().errorMessage().toStdString();
+    EXPECT_EQ(model().offerForceQuit(), "");
+    EXPECT_TRUE(home.workspace.openings.empty());
+}
+
 TEST_F(AppModelLaunch, launch_AccountsToRestore_ClosesEveryCopyFirst) {
     writeTree(home.path,
               {{".claude-profiles/.desktop-data/.live", "ospite"}, {".config/Claude/Cookies", "theirs"}});
