@@ -49,10 +49,24 @@ std::unique_ptr<QObject> make(QQmlEngine& engine, const char* type, const QVaria
     return made;
 }
 
+/// Loads the first window's types on the engine's thread, while this one has other things to do.
+class EarlyLoading {
+public:
+    explicit EarlyLoading(QQmlEngine& engine) : m_picker(&engine) {
+        m_picker.loadUrl(QUrl(QStringLiteral("qrc:/qt-project.org/imports/Selvane/PickerWindow.qml")),
+                         QQmlComponent::Asynchronous);
+    }
+    /// Does what only this thread can do for the loading.
+    static void serve() { QCoreApplication::sendPostedEvents(); }
+
+private:
+    QQmlComponent m_picker;
+};
+
 } // namespace
 
-LauncherApp::LauncherApp(AppModel& app, Updates& updates) : m_app(app), m_updates(updates) {
-    qml_register_types_Selvane();
+LauncherApp::LauncherApp(QQmlEngine& engine, AppModel& app, Updates& updates)
+    : m_engine(engine), m_app(app), m_updates(updates) {
     connect(&m_engine, &QQmlEngine::quit, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
     // Commands may have changed the profiles while another application was in front.
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
@@ -154,8 +168,9 @@ int runLauncherApp(int argc, char** argv) {
     SingleInstance instance;
     if (!instance.claim(request))
         return 0;
-    Brand::registerFonts();
-
+    qml_register_types_Selvane();
+    QQmlEngine engine;
+    const EarlyLoading loading(engine);
     const Environment environment = currentEnvironment();
     const auto workspace = makeWorkspace(ClaudeApp::identity(), environment);
     SystemClock clock;
@@ -163,10 +178,14 @@ int runLauncherApp(int argc, char** argv) {
     ProfileStore store(environment, claude);
     Preferences preferences(openSettings());
     SystemBridge bridge(*workspace);
+    EarlyLoading::serve();
+    Brand::registerFonts();
+    EarlyLoading::serve();
     AppModel model(store, claude, bridge, preferences);
     Updates updates(makeUpdater());
-    LauncherApp launcher(model, updates);
+    LauncherApp launcher(engine, model, updates);
     const std::unique_ptr<QObject> shell = makeSystemShell(launcher);
+    EarlyLoading::serve();
 
     QObject::connect(&instance, &SingleInstance::startedAgain, &launcher, &LauncherApp::answerStart);
     QObject::connect(&launcher, &LauncherApp::shownChanged, &bridge, &SystemBridge::setWatching);

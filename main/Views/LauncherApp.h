@@ -31,8 +31,8 @@ public:
     enum WindowName { Picker, Manage };
     Q_ENUM(WindowName)
 
-    /// What it is given must live longer.
-    LauncherApp(AppModel& app, Updates& updates);
+    /// What it is given must live longer. `engine` makes the windows; the QML module must be known by now.
+    LauncherApp(QQmlEngine& engine, AppModel& app, Updates& updates);
     ~LauncherApp() override;
 
     AppModel* app() const { return &m_app; }
@@ -72,9 +72,9 @@ private:
     void setKeyWindow(WindowName name);
     bool isShown() const;
 
+    QQmlEngine& m_engine;
     AppModel& m_app;
     Updates& m_updates;
-    QQmlEngine m_engine;
     std::array<std::unique_ptr<QQuickWindow>, 2> m_windows;
     WindowName m_keyWindow = Picker;
     bool m_wasLeft = false; ///< another application has been in front since the last look

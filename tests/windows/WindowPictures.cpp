@@ -15,6 +15,7 @@
 #include <QTimer>
 
 #include "Views/LauncherApp.h"
+#include "Views/QmlModule.h"
 #include "artwork/Brand.h"
 #include "model/LauncherError.h"
 #include "windows/FakeBridge.h"
@@ -46,7 +47,7 @@ public:
     Scene(Home& home, const QDir& folder)
         : m_folder(folder), m_preferences(QString::fromStdString((home / "preferences.conf").string())),
           m_updates(nullptr), model(home.store, home.claude, m_bridge, m_preferences),
-          launcher(model, m_updates) {}
+          launcher(m_engine, model, m_updates) {}
 
     void take(LauncherApp::WindowName name, const QString& picture) {
         settle();
@@ -74,6 +75,7 @@ private:
     FakeBridge m_bridge;
     Preferences m_preferences;
     Updates m_updates;
+    QQmlEngine m_engine;
 
 public:
     AppModel model;
@@ -191,6 +193,7 @@ int main(int argc, char** argv) {
     qputenv("QT_QUICK_BACKEND", "software");
     qInstallMessageHandler(selvane::test::noteWarnings);
     const QGuiApplication application(argc, argv);
+    qml_register_types_Selvane();
     if (argc != 2 && argc != 3)
         qFatal("usage: window-pictures FOLDER [HOME]");
     const std::string place = argc == 3 ? argv[2] : "anna";
