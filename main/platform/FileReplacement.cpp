@@ -189,6 +189,10 @@ void FileManager::copy(const std::filesystem::path& from, const std::filesystem:
     temporary.place(target);
 }
 
+void FileManager::copyDirectly(const std::filesystem::path& from, const std::filesystem::path& to) const {
+    files::copyTree(from, to, to, Privacy::inherited);
+}
+
 void FileManager::move(const std::filesystem::path& from, const std::filesystem::path& to) const {
     const std::filesystem::path origin = withoutEndingSlash(from);
     const std::filesystem::path target = withoutEndingSlash(to);

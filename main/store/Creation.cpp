@@ -7,6 +7,7 @@
 
 #include "model/LauncherError.h"
 #include "platform/Text.h"
+#include "store/ItemListing.h"
 #include "store/Slug.h"
 
 namespace selvane {
@@ -120,12 +121,27 @@ void ProfileStore::apply(Component component, ShareMode mode, const Profile& to,
     case Component::mcp:
         return importMCP(to, from);
     default:
-        break;
+        return fillCollection(component, mode, to, from);
     }
+}
+
+/// For a new profile alone. Until that is complete nobody uses it, so that its items are made without
+/// detours.
+void ProfileStore::fillCollection(Component component, ShareMode mode, const Profile& to,
+                                  const Profile& from) {
+    const fs::path origin = from.url(component);
+    const fs::path place = to.url(component);
+    const ItemListing offered(component, origin);
+    const OpenFolder folder(place);
     const std::set<std::string> excluded = to.excluded(component);
-    for (const ComponentItem& item : items(component, from)) {
-        if (!excluded.contains(item.name))
-            addItem(item, to, component, mode == ShareMode::shared);
+    for (const FolderEntry& entry : offered.entries) {
+        const fs::path item = origin / entry.name;
+        if (excluded.contains(entry.name))
+            continue;
+        if (mode == ShareMode::shared)
+            folder.createLink(item.string(), entry.name);
+        else
+            m_files.copyDirectly(entry.isLink ? m_files.resolved(item) : item, place / entry.name);
     }
 }
 

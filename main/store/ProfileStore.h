@@ -136,6 +136,7 @@ private:
     Profile createFolder(const NewProfile& request, const std::string& name);
     void fill(Profile& profile, const NewProfile& request);
     void apply(Component component, ShareMode mode, const Profile& to, const Profile& from);
+    void fillCollection(Component component, ShareMode mode, const Profile& to, const Profile& from);
     void rewritePaths(const std::filesystem::path& file, const Profile& from, const Profile& to);
 
     void applyClaudeMd(ShareMode mode, const Profile& to, const Profile& from);
