@@ -426,7 +426,8 @@ class Growth:
         cells = " | ".join(microseconds(cost) for cost in self.costs)
         met = "" if self.ratio() <= GROWTH_LIMIT else ", missed"
         unit = self.group.growth_unit or self.group.unit
-        return f"| {self.line.work} | {self.group.size:,} {unit} | {cells} | {self.ratio():.2f}{met} | {self.ratio_of_other()} |"
+        return (f"| {self.line.work} | {self.group.size:,} {unit} | {cells} | {self.ratio():.2f}{met} | "
+                f"{self.ratio_of_other()} |")
 
 
 def milliseconds(seconds):
@@ -454,8 +455,8 @@ def document(bench, machine_kind, handwritten):
         "| work | size | compared with | Selvane | the other | Selvane / other | target |",
         "|---|---|---|---|---|---|---|", *[result.row() for result in bench.results], "",
         "## Growth", "",
-        f"The cost per unit at 1, 4 and 16 times a size; at 16 times it is to be at most {GROWTH_LIMIT} times the first.",
-        "The files are smaller than in the first table where 16 times as many would be too much to write.",
+        f"The cost per unit at 1, 4 and 16 times a size; at 16 times it is to be at most {GROWTH_LIMIT} times the",
+        "first. The files are smaller than in the first table where 16 times as many would be too much to write.",
         "The last column is the growth of the program that the work is compared with, where the file system sets the",
         "pace of both.", "",
         "| work | 1× | cost at 1× | at 4× | at 16× | 16× / 1× | the other's |", "|---|---|---|---|---|---|---|",

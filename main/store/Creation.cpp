@@ -140,8 +140,10 @@ void ProfileStore::fillCollection(Component component, ShareMode mode, const Pro
             continue;
         if (mode == ShareMode::shared)
             folder.createLink(item.string(), entry.name);
+        else if (entry.isLink)
+            m_files.copy(m_files.resolved(item), place / entry.name); // which may be around the profile
         else
-            m_files.copyDirectly(entry.isLink ? m_files.resolved(item) : item, place / entry.name);
+            m_files.copyDirectly(item, place / entry.name);
     }
 }
 
