@@ -103,10 +103,10 @@ void ProfileStore::fill(Profile& profile, const NewProfile& request) {
             std::sort(excluded.begin(), excluded.end());
         }
 
-        if (isCollection(component))
-            m_files.createFolders(profile.url(component));
         if (request.from && mode != ShareMode::none)
             apply(component, mode, profile, *request.from);
+        else if (isCollection(component))
+            m_files.createFolders(profile.url(component));
     }
 }
 
@@ -125,26 +125,27 @@ void ProfileStore::apply(Component component, ShareMode mode, const Profile& to,
     }
 }
 
-/// For a new profile alone. Until that is complete nobody uses it, so that its items are made without
-/// detours.
+/// Makes the folder of a new profile, complete: so its items need no temporaries of their own.
 void ProfileStore::fillCollection(Component component, ShareMode mode, const Profile& to,
                                   const Profile& from) {
     const fs::path origin = from.url(component);
-    const fs::path place = to.url(component);
     const ItemListing offered(component, origin);
-    const OpenFolder folder(place);
     const std::set<std::string> excluded = to.excluded(component);
-    for (const FolderEntry& entry : offered.entries) {
-        const fs::path item = origin / entry.name;
-        if (excluded.contains(entry.name))
-            continue;
-        if (mode == ShareMode::shared)
-            folder.createLink(item.string(), entry.name);
-        else if (entry.isLink)
-            m_files.copy(m_files.resolved(item), place / entry.name); // which may be around the profile
-        else
-            m_files.copyDirectly(item, place / entry.name);
-    }
+    m_files.replaceTrashing(to.url(component), [&](const fs::path& temporary) {
+        m_files.createFolders(temporary);
+        const OpenFolder folder(temporary);
+        for (const FolderEntry& entry : offered.entries) {
+            const fs::path item = origin / entry.name;
+            if (excluded.contains(entry.name))
+                continue;
+            if (mode == ShareMode::shared)
+                folder.createLink(item.string(), entry.name);
+            else if (entry.isLink) // to a folder that may be around the profile
+                m_files.copy(m_files.resolved(item), temporary / entry.name);
+            else
+                m_files.copyDirectly(item, temporary / entry.name);
+        }
+    });
 }
 
 } // namespace selvane

@@ -54,6 +54,9 @@ TEST_F(Hostile, LinksAmongItemsLeadNowhere) {
     EXPECT_EQ(fs::read_symlink(profile / "skills/pdf/dentro"), victim);
     fs::create_directory_symlink("/", skills / "radice");
     fs::create_directory_symlink("giro", skills / "giro");
+    const Outcome around = home.run({"create", "Intorno", "--from", "default", "--mode", "skills=separate"});
+    EXPECT_TRUE(around.err.starts_with("Errore: /")) << around;
+    EXPECT_FALSE(fs::exists(home / ".claude-profiles/intorno"));
     for (const std::string mode : {"shared", "none", "shared", "none"}) {
         EXPECT_EQ(home.run({"set-mode", "lavoro", "skills=" + mode}).status, 0) << mode;
         EXPECT_EQ(home.run({"sync", "lavoro"}).status, 0) << mode;
