@@ -12,6 +12,7 @@ namespace selvane {
 void ProfileStore::deleteProfile(const Profile& profile) {
     if (profile.isDefault())
         throw LauncherError("Il profilo principale non può essere eliminato");
+    const FolderLock lock = locked(profile);
     std::vector<Profile> others = loadAll();
     std::erase_if(others, [&](const Profile& other) { return other.configDir == profile.configDir; });
     const auto anyOther = [&](auto&& depends) { return std::any_of(others.begin(), others.end(), depends); };

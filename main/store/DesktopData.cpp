@@ -6,7 +6,6 @@
 #include <array>
 
 #include "model/LauncherError.h"
-#include "platform/FolderLock.h"
 #include "platform/Text.h"
 
 namespace selvane {

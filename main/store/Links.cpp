@@ -7,7 +7,6 @@
 #include <unordered_set>
 
 #include "model/LauncherError.h"
-#include "platform/FolderLock.h"
 #include "platform/Text.h"
 #include "store/ItemListing.h"
 
@@ -68,7 +67,7 @@ void record(ShareMode mode, Component component, Profile& profile) {
 } // namespace
 
 SyncReport ProfileStore::sync(const Profile& profile) {
-    const FolderLock lock(profile.configDir);
+    const FolderLock lock = locked(profile);
     return syncLinks(current(profile));
 }
 
@@ -116,7 +115,7 @@ Profile ProfileStore::setMode(ShareMode mode, Component component, const Profile
     if (!allows(component, mode))
         throw LauncherError("Modalità non valida: " + std::string(rawValue(component)) + "=" +
                             std::string(rawValue(mode)));
-    const FolderLock lock(profile.configDir);
+    const FolderLock lock = locked(profile);
     Profile changed = current(profile);
     if (changed.mode(component) == mode)
         return changed;
@@ -173,7 +172,7 @@ void ProfileStore::copyMissing(Component component, const Profile& to, const Pro
 
 Profile ProfileStore::remove(const ComponentItem& item, const Profile& from, Component component) {
     requireOwnFolder(component, from);
-    const FolderLock lock(from.configDir);
+    const FolderLock lock = locked(from);
     Profile changed = current(from);
     // Looked at again: since it was listed, another program may have put a file in the place of the link.
     if (!m_files.removeLink(item.url)) {
@@ -193,7 +192,7 @@ Profile ProfileStore::remove(const ComponentItem& item, const Profile& from, Com
 
 Profile ProfileStore::importItems(const std::set<std::string>& names, const Profile& source,
                                   const Profile& into, Component component, bool link) {
-    const FolderLock lock(into.configDir);
+    const FolderLock lock = locked(into);
     std::set<std::string> imported;
     for (const ComponentItem& item : items(component, source)) {
         if (!names.contains(item.name))

@@ -3,7 +3,7 @@
 
 #include "store/ProfileStore.h"
 
-#include "platform/FolderLock.h"
+#include "model/LauncherError.h"
 #include "platform/Locations.h"
 #include "platform/Text.h"
 
@@ -121,13 +121,21 @@ void ProfileStore::saveMeta(const Profile& profile) {
     m_files.write(file, encoded(profile.meta));
 }
 
+FolderLock ProfileStore::locked(const Profile& profile) const {
+    FolderLock lock(profile.configDir);
+    // Writing would make its folder again, with nothing else in it.
+    if (!profile.isDefault() && !m_files.existsFollowingLinks(profile.configDir))
+        throw LauncherError("Il profilo \"" + profile.meta.name + "\" è stato eliminato nel frattempo");
+    return lock;
+}
+
 /// As its record is by now: it may have been edited since `profile` was loaded.
 Profile ProfileStore::current(const Profile& profile) const {
     return this->profile(profile.id).value_or(profile);
 }
 
 Profile ProfileStore::changeMeta(const Profile& profile, const std::function<void(ProfileMeta&)>& change) {
-    const FolderLock lock(profile.configDir);
+    const FolderLock lock = locked(profile);
     Profile changed = current(profile);
     change(changed.meta);
     saveMeta(changed);

@@ -20,6 +20,7 @@
 #include "model/Profile.h"
 #include "model/SyncReport.h"
 #include "platform/FileManager.h"
+#include "platform/FolderLock.h"
 #include "platform/Process.h"
 #include "store/TranscriptIndex.h"
 
@@ -130,6 +131,8 @@ private:
     Profile loadDefault() const;
     std::optional<Profile> loadProfile(const std::string& id) const;
     std::optional<Profile> sourceOf(const Profile& profile) const;
+    /// To itself among all Selvanes. Throws when the profile has been deleted.
+    FolderLock locked(const Profile& profile) const;
     Profile current(const Profile& profile) const;
 
     std::string uniqueSlug(const std::string& name) const;

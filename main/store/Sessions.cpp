@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <limits>
 
-#include "platform/FolderLock.h"
 #include "platform/SessionRecord.h"
 #include "store/SessionHandover.h"
 
@@ -119,7 +118,7 @@ void ProfileStore::copyTranscripts(const CodeSession& session, const TranscriptI
 
 ImportCount ProfileStore::importSessions(const std::vector<CodeSession>& sessions, const Profile& source,
                                          const Profile& target) {
-    const FolderLock lock(target.configDir);
+    const FolderLock lock = locked(target);
     const bool sameAccount = source.accountOwner() == target.accountOwner();
     const bool sameConfiguration = source.configDir == target.configDir;
     const fs::path data = desktopDataDir(target);
@@ -150,7 +149,7 @@ ImportCount ProfileStore::importSessions(const std::vector<CodeSession>& session
 }
 
 int ProfileStore::flushPendingSessions(const Profile& profile) {
-    const FolderLock lock(profile.configDir);
+    const FolderLock lock = locked(profile);
     const fs::path queue = profile.configDir / kQueueFolder;
     const std::vector<std::string> queued = m_files.entriesIfReadable(queue);
     if (queued.empty())

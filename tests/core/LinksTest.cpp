@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <thread>
+
 #include "model/LauncherError.h"
 #include "support/Home.h"
 
@@ -241,6 +244,18 @@ TEST_F(Links, remove_ThenImport_ExcludesAndTakesBack) {
     profile = home.store.importItems({"uno.md"}, home.builtIn(), profile, Component::skills, false);
     EXPECT_EQ(skills(), (Tree{{"tre.md", link("tre.md")}, {"due", link("due")}, {"uno.md", "uno"}}));
     EXPECT_EQ(home.store.profile("lavoro")->meta.excluded["skills"], Texts{});
+}
+
+TEST_F(Links, sync_DeletedWhileItWaits_LeavesNothing) {
+    std::optional<FolderLock> others(std::in_place, profile.configDir);
+    std::string message;
+    std::thread waiting([&] { message = messageOf([&] { home.store.sync(profile); }); });
+    std::this_thread::sleep_for(std::chrono::milliseconds(50)); // likely enough to have it wait
+    fs::rename(profile.configDir, home / "cestino");
+    others.reset();
+    waiting.join();
+    EXPECT_EQ(message, "Il profilo \"Lavoro\" è stato eliminato nel frattempo");
+    EXPECT_FALSE(fs::exists(profile.configDir));
 }
 
 TEST_F(Links, deleteProfile_OthersDepend_IsRefused) {
