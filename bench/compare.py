@@ -18,7 +18,7 @@ from typing import Callable
 import homes
 
 FACTORS = [1, 4, 16]
-GROWTH_ROUNDS = {1: 5, 4: 3, 16: 2}
+GROWTH_ROUNDS = {1: 5, 4: 4, 16: 3}
 GROWTH_LIMIT = 1.2
 MEMORY_LIMIT_MB = 64
 HANDWRITTEN = "<!-- What follows is written by hand; script/bench keeps it. -->"
@@ -290,7 +290,7 @@ def groups(programs):
                  programs.processes_of_system, rounds=21),
         ], growth_fill=lambda home, size: homes.bare(home), around=programs.sleepers),
         Group(lambda home, size: homes.files(home, size, size * 268_435), 4000, "files of 268 KB", [
-            Line("backup", "`backup`", "the bare `zip` call", 1.03, programs.backup, programs.zip, rounds=5,
+            Line("backup", "`backup`", "the bare `zip` call", 1.03, programs.backup, programs.zip, rounds=9,
                  memory_matters=True, other_is_part=True, other_grows=True),
         ], growth_fill=lambda home, size: homes.files(home, size, size * 16_000), growth_unit="files of 16 KB"),
     ]
@@ -354,7 +354,9 @@ class Bench:
                     works = [work, line.other(home)] if line.other_grows else [work]
                     rounds = [[self.runner.timed(each) for each in works] for _ in range(GROWTH_ROUNDS[factor])]
                     for side, times in enumerate(zip(*rounds)):
-                        costs[line.key][side].append(statistics.median(times) / size)
+                        # The least of them: whatever else goes on only adds to it, most of all the writing of
+                        # what earlier rounds have left.
+                        costs[line.key][side].append(min(times) / size)
                     if factor == FACTORS[-1]:
                         self.memory.append((f"{line.work}, {size:,} {group.growth_unit or group.unit}", peak,
                                             line.memory_matters))
@@ -455,8 +457,8 @@ def document(bench, machine_kind, handwritten):
         "| work | size | compared with | Selvane | the other | Selvane / other | target |",
         "|---|---|---|---|---|---|---|", *[result.row() for result in bench.results], "",
         "## Growth", "",
-        f"The cost per unit at 1, 4 and 16 times a size; at 16 times it is to be at most {GROWTH_LIMIT} times the",
-        "first. The files are smaller than in the first table where 16 times as many would be too much to write.",
+        "The least cost per unit at 1, 4 and 16 times a size; at 16 times it is to be at most "
+        f"{GROWTH_LIMIT} times the first.", "The files are smaller than in the first table where 16 times as many would be too much to write.",
         "The last column is the growth of the program that the work is compared with, where the file system sets the",
         "pace of both.", "",
         "| work | 1× | cost at 1× | at 4× | at 16× | 16× / 1× | the other's |", "|---|---|---|---|---|---|---|",
