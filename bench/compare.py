@@ -458,9 +458,10 @@ def document(bench, machine_kind, handwritten):
         "|---|---|---|---|---|---|---|", *[result.row() for result in bench.results], "",
         "## Growth", "",
         "The least cost per unit at 1, 4 and 16 times a size; at 16 times it is to be at most "
-        f"{GROWTH_LIMIT} times the first.", "The files are smaller than in the first table where 16 times as many would be too much to write.",
-        "The last column is the growth of the program that the work is compared with, where the file system sets the",
-        "pace of both.", "",
+        f"{GROWTH_LIMIT} times the first.",
+        "The files are smaller than in the first table where 16 times as many would be too much to write. The last",
+        "column is the growth of the program that the work is compared with, where the file system sets the pace of",
+        "both.", "",
         "| work | 1× | cost at 1× | at 4× | at 16× | 16× / 1× | the other's |", "|---|---|---|---|---|---|---|",
         *[growth.row() for growth in bench.growth], "",
         "## Peak memory", "",
