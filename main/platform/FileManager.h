@@ -73,8 +73,8 @@ public:
     /// anything is at `to`.
     void copy(const std::filesystem::path& from, const std::filesystem::path& to,
               Privacy privacy = Privacy::inherited) const;
-    /// The same, but not through a temporary sibling: for a folder that nobody uses yet. What was copied
-    /// before a failure stays.
+    /// The same, but not through a temporary sibling: into a folder that is itself still temporary. What was
+    /// copied before a failure stays.
     void copyDirectly(const std::filesystem::path& from, const std::filesystem::path& to) const;
     /// Moves to another name, also across file systems. Fails when anything is at `to`.
     void move(const std::filesystem::path& from, const std::filesystem::path& to) const;
