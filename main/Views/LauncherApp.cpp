@@ -49,20 +49,6 @@ std::unique_ptr<QObject> make(QQmlEngine& engine, const char* type, const QVaria
     return made;
 }
 
-/// Loads the first window's types on the engine's thread, while this one has other things to do.
-class EarlyLoading {
-public:
-    explicit EarlyLoading(QQmlEngine& engine) : m_picker(&engine) {
-        m_picker.loadUrl(QUrl(QStringLiteral("qrc:/qt-project.org/imports/Selvane/PickerWindow.qml")),
-                         QQmlComponent::Asynchronous);
-    }
-    /// Does what only this thread can do for the loading.
-    static void serve() { QCoreApplication::sendPostedEvents(); }
-
-private:
-    QQmlComponent m_picker;
-};
-
 } // namespace
 
 LauncherApp::LauncherApp(QQmlEngine& engine, AppModel& app, Updates& updates)
@@ -170,7 +156,11 @@ int runLauncherApp(int argc, char** argv) {
         return 0;
     qml_register_types_Selvane();
     QQmlEngine engine;
-    const EarlyLoading loading(engine);
+    // Loaded on the engine's own thread, while this one has other things to do. Now and then it needs this one.
+    const QQmlComponent loading(&engine,
+                                QUrl(QStringLiteral("qrc:/qt-project.org/imports/Selvane/PickerWindow.qml")),
+                                QQmlComponent::Asynchronous);
+    const auto serveLoading = [] { QCoreApplication::sendPostedEvents(); };
     const Environment environment = currentEnvironment();
     const auto workspace = makeWorkspace(ClaudeApp::identity(), environment);
     SystemClock clock;
@@ -178,14 +168,14 @@ int runLauncherApp(int argc, char** argv) {
     ProfileStore store(environment, claude);
     Preferences preferences(openSettings());
     SystemBridge bridge(*workspace);
-    EarlyLoading::serve();
+    serveLoading();
     Brand::registerFonts();
-    EarlyLoading::serve();
+    serveLoading();
     AppModel model(store, claude, bridge, preferences);
     Updates updates(makeUpdater());
     LauncherApp launcher(engine, model, updates);
     const std::unique_ptr<QObject> shell = makeSystemShell(launcher);
-    EarlyLoading::serve();
+    serveLoading();
 
     QObject::connect(&instance, &SingleInstance::startedAgain, &launcher, &LauncherApp::answerStart);
     QObject::connect(&launcher, &LauncherApp::shownChanged, &bridge, &SystemBridge::setWatching);
