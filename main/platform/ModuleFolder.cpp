@@ -9,24 +9,25 @@ namespace fs = std::filesystem;
 
 namespace {
 
-fs::path installedPath(const char* InstallationLayout::*folder, const std::string& name) {
-    const InstallationLayout layout = installationLayout();
+fs::path installedPath(const InstallationLayout& layout, const char* folder, const std::string& name) {
     const fs::path here = layout.executable.parent_path();
     std::error_code error;
     fs::path beside = here / name;
     if (fs::exists(beside, error))
         return beside;
-    return here.parent_path() / layout.*folder / name;
+    return here.parent_path() / folder / name;
 }
 
 } // namespace
 
 fs::path modulePath(const std::string& fileName) {
-    return installedPath(&InstallationLayout::modules, fileName);
+    const InstallationLayout layout = installationLayout();
+    return installedPath(layout, layout.modules, fileName);
 }
 
 fs::path resourcePath(const std::string& name) {
-    return installedPath(&InstallationLayout::resources, name);
+    const InstallationLayout layout = installationLayout();
+    return installedPath(layout, layout.resources, name);
 }
 
 } // namespace selvane
