@@ -12,19 +12,9 @@
 
 #include "support/Home.h"
 #include "support/InstalledClaude.h"
+#include "support/Pointers.h"
 
 namespace selvane::test {
-namespace {
-
-std::vector<char*> pointers(std::vector<std::string>& words) {
-    std::vector<char*> result;
-    for (std::string& word : words)
-        result.push_back(word.data());
-    result.push_back(nullptr);
-    return result;
-}
-
-} // namespace
 
 Program::Program(std::vector<std::string> words, const Environment& environment,
                  const std::filesystem::path& folder)

@@ -10,6 +10,7 @@
 #include <unistd.h>
 
 #include "support/Home.h"
+#include "support/Pointers.h"
 
 namespace selvane::test {
 namespace {
@@ -18,14 +19,6 @@ namespace fs = std::filesystem;
 
 constexpr const char* kNobody = "65534";
 constexpr unsigned kTimeLimit = 60; ///< seconds
-
-std::vector<char*> pointers(std::vector<std::string>& words) {
-    std::vector<char*> result;
-    for (std::string& word : words)
-        result.push_back(word.data());
-    result.push_back(nullptr);
-    return result;
-}
 
 void redirect(int stream, const fs::path& file) {
     const int descriptor = open(file.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0666);
@@ -46,6 +39,7 @@ Outcome failure(const std::string& message) {
 CommandHome::CommandHome() {
     environment["HOME"] = path().string();
     environment["PATH"] = (*this / "bin").string();
+    environment["XDG_RUNTIME_DIR"] = m_session.path().string();
     environment["XDG_DATA_DIRS"] = (*this / "share").string();
     // Reports of the sanitizers must not be taken for a clean end.
     environment["ASAN_OPTIONS"] = "exitcode=99";
@@ -89,7 +83,8 @@ Outcome CommandHome::runUnprivileged(const std::vector<std::string>& arguments) 
         fs::copy_file(built.parent_path() / name, programs / name);
     for (const auto& entry : fs::recursive_directory_iterator(path()))
         EXPECT_EQ(lchown(entry.path().c_str(), 65534, 65534), 0);
-    EXPECT_EQ(lchown(path().c_str(), 65534, 65534), 0);
+    for (const fs::path& folder : {path(), m_session.path()})
+        EXPECT_EQ(lchown(folder.c_str(), 65534, 65534), 0);
 
     std::vector<std::string> words = {"/usr/bin/setpriv",
                                       "--reuid",
