@@ -161,7 +161,7 @@ void AppModel::runLaunch(LaunchPlan plan, LaunchStep step) {
 bool AppModel::quitAll(const LaunchPlan& plan, bool force) const {
     const auto haveGone = [&] {
         if (plan.restores)
-            return m_claude.allProcesses({m_store.liveDesktopDir(), m_store.desktopStore()}).empty();
+            return m_claude.allProcesses(m_store.dataFolders()).empty();
         return std::ranges::all_of(plan.toClose,
                                    [&](const auto& copy) { return m_store.hasLeft(copy, plan.profile); });
     };

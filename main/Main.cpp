@@ -78,7 +78,7 @@ int runCommand(const std::vector<std::string>& arguments, WindowsModule& windows
     const Environment environment = currentEnvironment();
     const auto workspace = makeWorkspace(ClaudeApp::identity(), environment);
     SystemClock clock;
-    const ClaudeApp claude(*workspace, clock);
+    const ClaudeApp claude(*workspace, clock, environment);
     ProfileStore store(environment, claude);
 
     Output output;

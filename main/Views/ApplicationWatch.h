@@ -5,9 +5,11 @@
 
 #include <QObject>
 
+#include <functional>
 #include <memory>
+#include <vector>
 
-#include "platform/Workspace.h"
+#include "desktop/OpenCopies.h"
 
 namespace selvane {
 
@@ -24,7 +26,8 @@ signals:
     void changed();
 };
 
-/// `workspace` must live longer.
-std::unique_ptr<ApplicationWatch> makeApplicationWatch(Workspace& workspace);
+/// `look` says which copies run. It may be called on any thread, one call at a time, until the application's
+/// threads have ended.
+std::unique_ptr<ApplicationWatch> makeApplicationWatch(std::function<std::vector<OpenCopy>()> look);
 
 } // namespace selvane

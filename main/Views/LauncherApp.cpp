@@ -164,10 +164,10 @@ int runLauncherApp(int argc, char** argv) {
     const Environment environment = currentEnvironment();
     const auto workspace = makeWorkspace(ClaudeApp::identity(), environment);
     SystemClock clock;
-    const ClaudeApp claude(*workspace, clock);
+    const ClaudeApp claude(*workspace, clock, environment);
     ProfileStore store(environment, claude);
     Preferences preferences(openSettings());
-    SystemBridge bridge(*workspace);
+    SystemBridge bridge([&store] { return store.claudeInstances(); });
     serveLoading();
     Brand::registerFonts();
     serveLoading();

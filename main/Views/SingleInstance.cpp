@@ -3,9 +3,10 @@
 
 #include "Views/SingleInstance.h"
 
+#include <QFile>
 #include <QLocalSocket>
 
-#include "Views/SystemShell.h"
+#include "platform/RuntimeFolder.h"
 
 namespace selvane {
 namespace {
@@ -14,8 +15,8 @@ constexpr int kAnswerMilliseconds = 1000;
 constexpr qint64 kLongestRequest = 1000;
 
 QString socketName() {
-    const QString folder = sessionFolder();
-    return folder.isEmpty() ? QString() : folder + "/selvane";
+    const auto folder = runtimeFolder(currentEnvironment());
+    return folder ? QFile::decodeName((*folder / "windows").c_str()) : QString();
 }
 
 } // namespace

@@ -31,8 +31,8 @@ fs::path pathOf(const QString& file) {
 
 } // namespace
 
-SystemBridge::SystemBridge(Workspace& workspace)
-    : m_watch(makeApplicationWatch(workspace)), m_saveDialog(makeSaveDialog()) {
+SystemBridge::SystemBridge(std::function<std::vector<OpenCopy>()> look)
+    : m_watch(makeApplicationWatch(std::move(look))), m_saveDialog(makeSaveDialog()) {
     connect(m_saveDialog.get(), &SaveDialog::chosen, this,
             [this](const QUrl& file) { finishArchive(pathOf(file.toLocalFile())); });
     connect(m_saveDialog.get(), &SaveDialog::cancelled, this, [this] { finishArchive(std::nullopt); });

@@ -16,8 +16,8 @@ class SystemBridge final : public DesktopBridge {
     Q_OBJECT
 
 public:
-    /// `workspace` must live longer.
-    explicit SystemBridge(Workspace& workspace);
+    /// `look` says which copies of Claude Desktop run; see `makeApplicationWatch`.
+    explicit SystemBridge(std::function<std::vector<OpenCopy>()> look);
 
     void endApplication() override;
     void copyToClipboard(const QString& text) override;

@@ -20,9 +20,6 @@ bool hasDisplay();
 /// Where this system keeps what the user prefers.
 std::unique_ptr<QSettings> openSettings();
 
-/// A folder for what lasts as long as the session and that no other user can enter; empty when there is none.
-QString sessionFolder();
-
 /// What the system has around the windows, such as a menu bar. Lasts as long as the object; `launcher` must
 /// live longer.
 std::unique_ptr<QObject> makeSystemShell(LauncherApp& launcher);

@@ -9,6 +9,11 @@
 #include "model/LauncherError.h"
 
 namespace selvane::CLI {
+namespace {
+
+constexpr std::string_view kUnknown = "non si sa";
+
+} // namespace
 
 void launch(const Call& call) {
     const Profile target = profile(call);
@@ -44,8 +49,11 @@ void desktopStatus(const Call& call) {
         }
     }
     for (const ClaudeApp::Instance& instance : store.claudeInstances()) {
-        call.out << "aperto pid=" << instance.pid() << "\tdati=" << field(instance.dataDir)
-                 << "\tconfig=" << field(instance.config.value_or("~/.claude")) << '\n';
+        const std::string config =
+            instance.isConfigKnown ? instance.config.value_or("~/.claude") : std::string(kUnknown);
+        call.out << "aperto pid=" << instance.pid()
+                 << "\tdati=" << field(instance.dataDir.empty() ? kUnknown : instance.dataDir)
+                 << "\tconfig=" << field(config) << '\n';
     }
     if (failure)
         std::rethrow_exception(failure);
@@ -58,7 +66,7 @@ void restoreDesktop(const Call& call) {
 
 void processes(const Call& call) {
     const ProfileStore& store = call.store;
-    for (const ProcInfo& process : call.claude.allProcesses({store.liveDesktopDir(), store.desktopStore()}))
+    for (const ProcInfo& process : call.claude.allProcesses(store.dataFolders()))
         call.out << process.pid << '\t' << field(process.path) << '\n';
 }
 

@@ -6,11 +6,12 @@
 #include <algorithm>
 #include <set>
 #include <unistd.h>
-#include <unordered_map>
 
+#include "desktop/ClaudeArguments.h"
 #include "model/LauncherError.h"
 #include "platform/FolderLock.h"
-#include "platform/Locations.h"
+#include "platform/Machine.h"
+#include "platform/ProcessFamily.h"
 #include "store/ProfileStore.h"
 
 namespace selvane {
@@ -21,45 +22,6 @@ namespace fs = std::filesystem;
 constexpr int kMaximumAncestors = 31;
 constexpr std::string_view kConfigDirVariable = "CLAUDE_CONFIG_DIR";
 constexpr std::string_view kMacInstallPrefix = "/Applications/Claude.app/";
-
-using ProcessMap = std::unordered_map<std::int32_t, const ProcInfo*>;
-
-bool namesFolder(const std::string& argument, const std::string& folder) {
-    return argument.find(folder + "/") != std::string::npos || argument.ends_with("=" + folder);
-}
-
-bool descendsFrom(const std::vector<std::int32_t>& roots, const ProcInfo& process, const ProcessMap& map) {
-    const ProcInfo* current = &process;
-    for (int generation = 0; generation <= kMaximumAncestors; ++generation) {
-        if (std::find(roots.begin(), roots.end(), current->pid) != roots.end())
-            return true;
-        const auto parent = map.find(current->ppid);
-        if (parent == map.end())
-            return false;
-        current = parent->second;
-    }
-    return false;
-}
-
-ClaudeApp::Instance instanceOf(const RunningApplication& app, const fs::path& defaultDataDir) {
-    ClaudeApp::Instance instance{app, defaultDataDir.string(), std::nullopt};
-    if (const auto process = ProcInfo::read(app.pid)) {
-        // A copy that was started with another home has its normal folder there.
-        if (process->env.contains("HOME"))
-            instance.dataDir = applicationDataFolder(process->env, "Claude", [] { return true; }).string();
-        const auto argument =
-            std::find_if(process->args.begin(), process->args.end(), [](const std::string& candidate) {
-                return candidate.starts_with(ClaudeApp::kDataDirSwitch);
-            });
-        if (argument != process->args.end() && argument->size() > ClaudeApp::kDataDirSwitch.size())
-            instance.dataDir = argument->substr(ClaudeApp::kDataDirSwitch.size());
-        const auto config = process->env.find(std::string(kConfigDirVariable));
-        if (config != process->env.end() && !config->second.empty())
-            instance.config = ClaudeApp::normalized(config->second);
-    }
-    instance.dataDir = ClaudeApp::normalized(instance.dataDir);
-    return instance;
-}
 
 /// What belongs to Selvane, or to the copy that Selvane was started from, must not reach a new copy.
 bool isWithheld(std::string_view variable) {
@@ -73,16 +35,13 @@ OpenConfiguration configuration(const Profile& profile, const fs::path& dataDir,
     if (!profile.isDefault())
         result.environment[std::string(kConfigDirVariable)] = profile.configDir.string();
     if (dataDir != normalDir)
-        result.arguments = {std::string(ClaudeApp::kDataDirSwitch) + dataDir.string()};
+        result.arguments = {std::string(kDataDirSwitch) + dataDir.string()};
     return result;
 }
 
 /// Brings the files of a profile up to date for its launch; returns its data folder.
 fs::path prepared(const Profile& profile, ProfileStore& store) {
     const fs::path dataDir = store.desktopDataDir(profile);
-    if (store.desktopDataInUse(dataDir))
-        throw LauncherError("L'account di «" + profile.meta.name +
-                            "» è già aperto in Claude: chiudilo prima.");
     store.sync(profile);
     store.flushPendingSessions(profile);
     FileManager().createFolders(dataDir, Privacy::ownerOnly);
@@ -92,15 +51,15 @@ fs::path prepared(const Profile& profile, ProfileStore& store) {
 } // namespace
 
 std::vector<ProcInfo> processesOf(const std::string& dataDir, const std::vector<std::int32_t>& roots,
-                                  const std::vector<ProcInfo>& all) {
-    ProcessMap map;
-    for (const ProcInfo& process : all)
-        map.emplace(process.pid, &process);
+                                  const std::vector<ProcInfo>& all, const DataFolders& folders) {
+    const ProcessFamily family(all);
+    const auto isRoot = [&](const ProcInfo& process) {
+        return std::find(roots.begin(), roots.end(), process.pid) != roots.end();
+    };
     std::vector<ProcInfo> result;
     for (const ProcInfo& process : all) {
-        const bool names = std::any_of(process.args.begin(), process.args.end(),
-                                       [&](const std::string& arg) { return namesFolder(arg, dataDir); });
-        if (process.path.starts_with(dataDir + "/") || names || descendsFrom(roots, process, map))
+        if (process.path.starts_with(dataDir + "/") || namesDataFolder(process, dataDir, folders) ||
+            isRoot(process) || family.ancestor(process, isRoot, kMaximumAncestors) != nullptr)
             result.push_back(process);
     }
     return result;
@@ -110,14 +69,8 @@ ApplicationIdentity ClaudeApp::identity() {
     return {{std::string(kBundleId), "com.anthropic.Claude", "claude-desktop"}, "claude-desktop"};
 }
 
-ClaudeApp::ClaudeApp(Workspace& workspace, Clock& clock) : m_workspace(workspace), m_clock(clock) {}
-
-std::string ClaudeApp::normalized(const std::string& path) {
-    std::string result = fs::absolute(path).lexically_normal().string();
-    while (result.size() > 1 && result.ends_with('/'))
-        result.pop_back();
-    return result;
-}
+ClaudeApp::ClaudeApp(Workspace& workspace, Clock& clock, const Environment& environment)
+    : m_workspace(workspace), m_clock(clock), m_notes(environment) {}
 
 std::optional<Application> ClaudeApp::application() const {
     return m_workspace.application();
@@ -130,61 +83,74 @@ Application ClaudeApp::requireApplication() const {
     return std::move(*installed);
 }
 
-std::vector<ClaudeApp::Instance> ClaudeApp::instances(const fs::path& defaultDataDir) const {
-    return instancesAmong(ProcInfo::all(), defaultDataDir);
-}
-
-std::vector<ClaudeApp::Instance> ClaudeApp::instancesAmong(const std::vector<ProcInfo>& processes,
-                                                           const fs::path& defaultDataDir) const {
-    std::vector<Instance> result;
-    for (const RunningApplication& app : m_workspace.running(processes)) {
-        Instance instance = instanceOf(app, defaultDataDir);
-        // One that ended while it was read shows neither arguments nor environment, and would be taken for a
-        // copy with the normal folder.
-        if (!m_workspace.isTerminated(app))
-            result.push_back(std::move(instance));
+CopyEvidence ClaudeApp::evidence(const std::vector<ProcInfo>& processes, std::vector<LaunchNote> notes,
+                                 const DataFolders& folders) const {
+    CopyEvidence evidence = {
+        processes,           m_workspace.running(processes), std::move(notes), {}, hostName(), folders,
+        &ProcInfo::openFiles};
+    for (const std::string& folder : folders.all()) {
+        if (auto lock = DataFolderLock::read(folder))
+            evidence.locks.push_back(std::move(*lock));
     }
-    return result;
+    return evidence;
 }
 
-std::vector<ProcInfo> ClaudeApp::processes(const fs::path& dataDir, const fs::path& defaultDataDir) const {
-    const std::string folder = normalized(dataDir.string());
-    const std::vector<ProcInfo> all = ProcInfo::all();
+ClaudeApp::Look ClaudeApp::look(const DataFolders& folders) const {
+    // The notes first: a copy that one of them tells of has started by the time the processes are read.
+    std::vector<LaunchNote> notes = m_notes.all();
+    Look look = {ProcInfo::all(), {}};
+    const ProcessFamily family(look.processes);
+    std::erase_if(notes, [&](const LaunchNote& note) {
+        const bool isRunning = std::ranges::any_of(
+            look.processes, [&](const ProcInfo& process) { return belongsTo(note.opened, process, family); });
+        if (!isRunning)
+            m_notes.remove(note);
+        return !isRunning;
+    });
+    look.copies = openCopies(evidence(look.processes, std::move(notes), folders));
+    // One that ended while it was read may have shown only a part of what it was.
+    std::erase_if(look.copies, [&](const Instance& copy) { return m_workspace.isTerminated(copy.app); });
+    return look;
+}
+
+std::vector<ClaudeApp::Instance> ClaudeApp::instances(const DataFolders& folders) const {
+    return look(folders).copies;
+}
+
+std::vector<ProcInfo> ClaudeApp::processes(const fs::path& dataDir, const DataFolders& folders) const {
+    const std::string folder = normalizedPath(dataDir.string());
+    const Look now = look(folders);
     std::vector<std::int32_t> roots;
-    for (const Instance& instance : instancesAmong(all, defaultDataDir)) {
+    for (const Instance& instance : now.copies) {
         if (instance.dataDir == folder)
             roots.push_back(instance.pid());
     }
-    std::vector<ProcInfo> result = processesOf(folder, roots, all);
+    std::vector<ProcInfo> result = processesOf(folder, roots, now.processes, folders);
     // A command of ours may well name the folder; that is no use of it.
     std::erase_if(result, [self = getpid()](const ProcInfo& process) { return process.pid == self; });
     return result;
 }
 
-std::vector<ProcInfo> ClaudeApp::allProcesses(const std::vector<fs::path>& dataDirs) const {
-    std::vector<std::string> prefixes;
-    for (const fs::path& dataDir : dataDirs)
-        prefixes.push_back(normalized(dataDir.string()) + "/");
-    prefixes.emplace_back(kMacInstallPrefix);
+std::vector<ProcInfo> ClaudeApp::allProcesses(const DataFolders& folders) const {
+    std::vector<std::string> prefixes = {folders.normal() + "/", folders.accountsFolder() + "/",
+                                         std::string(kMacInstallPrefix)};
     if (const auto installed = application(); installed && !installed->folder.empty())
         prefixes.push_back(installed->folder.string() + "/");
 
-    std::vector<ProcInfo> result = ProcInfo::all();
+    Look now = look(folders);
     // Copies started through a wrapper in a shared folder lie in none of these places: what runs the
     // executable of a main process belongs to it as well.
     std::set<std::string> executables;
-    for (const RunningApplication& main : m_workspace.running(result)) {
-        for (const ProcInfo& process : result) {
-            if (process.pid == main.pid)
-                executables.insert(process.path);
-        }
+    for (const ProcInfo& process : now.processes) {
+        if (std::ranges::count(now.copies, process.pid, &Instance::pid) > 0)
+            executables.insert(process.path);
     }
-    std::erase_if(result, [&](const ProcInfo& process) {
+    std::erase_if(now.processes, [&](const ProcInfo& process) {
         return !executables.contains(process.path) &&
                std::none_of(prefixes.begin(), prefixes.end(),
                             [&](const std::string& prefix) { return process.path.starts_with(prefix); });
     });
-    return result;
+    return std::move(now.processes);
 }
 
 void ClaudeApp::activate(const Instance& instance) const {
@@ -221,9 +187,64 @@ void ClaudeApp::launch(const Profile& profile, ProfileStore& store) const {
     store.restoreDesktopData();
     // One launch at a time: the next one must find this one's copy among the processes.
     const FolderLock lock(store.desktopStore());
+    requireFree(profile, store);
     const fs::path dataDir = prepared(profile, store);
-    m_workspace.open(installed, configuration(profile, dataDir, store.liveDesktopDir()));
+    LaunchNote note;
+    note.profile = profile.id;
+    note.dataDir = normalizedPath(dataDir.string());
+    if (!profile.isDefault())
+        note.config = normalizedPath(profile.configDir.string());
+    note.opened = m_workspace.open(installed, configuration(profile, dataDir, store.liveDesktopDir()));
+    if (!store.testMode()) {
+        m_notes.add(note);
+        awaitCopy(note, profile, store);
+    }
     store.markLaunched(profile);
+}
+
+/// Throws while a copy has the profile's account. The helpers of one that has just ended are waited for.
+void ClaudeApp::requireFree(const Profile& profile, const ProfileStore& store) const {
+    const auto deadline = m_clock.now() + kLeavingTimeout;
+    while (store.desktopDataInUse(store.desktopDataDir(profile))) {
+        if (m_clock.now() >= deadline || store.instance(profile))
+            throw LauncherError("L'account di «" + profile.meta.name +
+                                "» è già aperto in Claude: chiudilo prima.");
+        m_clock.sleep(kOpeningPollInterval);
+    }
+}
+
+/// Looks until the new copy shows the data folder it was given. Its own word counts here: the note says what
+/// it should be.
+void ClaudeApp::awaitCopy(const LaunchNote& note, const Profile& profile, const ProfileStore& store) const {
+    const auto deadline = m_clock.now() + kOpeningTimeout;
+    for (;;) {
+        const bool isLast = m_clock.now() >= deadline;
+        const DataFolders folders = store.dataFolders();
+        const std::vector<ProcInfo> processes = ProcInfo::all();
+        const ProcessFamily family(processes);
+        const CopyEvidence evidence = this->evidence(processes, {}, folders);
+        for (const Instance& copy : openCopies(evidence)) {
+            const ProcInfo* process = family.find(copy.pid());
+            const bool isOurs = process != nullptr && belongsTo(note.opened, *process, family);
+            if (copy.dataDir.empty() || (!isOurs && copy.dataDir != note.dataDir))
+                continue;
+            // Arguments alone may be those of a wrapper on the way.
+            const bool isProven = usesDataFolder(evidence, copy.pid(), copy.dataDir);
+            if (!isProven && !isLast)
+                continue;
+            const bool hasOtherConfig = copy.isConfigKnown && copy.config != note.config;
+            if (copy.dataDir == note.dataDir && !hasOtherConfig)
+                return;
+            m_notes.remove(note);
+            const std::string what = copy.dataDir != note.dataDir ? "l'account" : "la configurazione";
+            throw LauncherError("Claude si è aperto, ma non con " + what + " di «" + profile.meta.name +
+                                "»: controlla come viene avviato (" +
+                                requireApplication().executable.string() + ")");
+        }
+        if (isLast)
+            return;
+        m_clock.sleep(kOpeningPollInterval);
+    }
 }
 
 } // namespace selvane

@@ -20,14 +20,14 @@ constexpr int kWatchMilliseconds = 300;
 constexpr int kLookMilliseconds = 5;
 constexpr int kNotStarted = 127;
 
-void send(int report, Failure::Stage stage, int value) {
-    const Failure failure = {stage, value};
+void send(int report, Message::Stage stage, int value) {
+    const Message message = {stage, value};
     // Less than PIPE_BUF goes as one piece. With no reader left there is nobody to tell.
-    while (::write(report, &failure, sizeof failure) < 0 && errno == EINTR) {
+    while (::write(report, &message, sizeof message) < 0 && errno == EINTR) {
     }
 }
 
-[[noreturn]] void giveUp(int report, Failure::Stage stage, int error) {
+[[noreturn]] void giveUp(int report, Message::Stage stage, int error) {
     send(report, stage, error);
     ::_exit(kNotStarted);
 }
@@ -46,12 +46,12 @@ void resetSignals() {
 void dropFiles(int report) {
     const int null = ::open("/dev/null", O_RDWR | O_CLOEXEC);
     if (null < 0)
-        giveUp(report, Failure::Stage::executable, errno);
+        giveUp(report, Message::Stage::executable, errno);
     for (int stream = 0; stream <= 2; ++stream) {
         // Onto itself it would keep being closed on exec.
         const int result = stream == null ? ::fcntl(null, F_SETFD, 0) : ::dup2(null, stream);
         if (result < 0)
-            giveUp(report, Failure::Stage::executable, errno);
+            giveUp(report, Message::Stage::executable, errno);
     }
     const auto kept = static_cast<unsigned int>(report);
     closeBetween(3, kept - 1);
@@ -70,11 +70,11 @@ void writeNumber(char* text, unsigned int number) {
 
 [[noreturn]] void execute(const Plan& plan, int report) {
     if (*plan.folder != '\0' && ::chdir(plan.folder) != 0)
-        giveUp(report, Failure::Stage::folder, errno);
+        giveUp(report, Message::Stage::folder, errno);
     if (plan.pidText != nullptr)
         writeNumber(plan.pidText, static_cast<unsigned int>(::getpid()));
     ::execve(plan.executable, plan.arguments, plan.environment);
-    giveUp(report, Failure::Stage::executable, errno);
+    giveUp(report, Message::Stage::executable, errno);
 }
 
 /// Reports a failure within the first moments. Looks now and then: there is no waitpid() with a time limit.
@@ -83,7 +83,7 @@ void watch(pid_t child, int report) {
         int status = 0;
         if (waitFor(child, status, WNOHANG) == child) {
             if (exitStatus(status) != 0)
-                send(report, Failure::Stage::exit, exitStatus(status));
+                send(report, Message::Stage::exit, exitStatus(status));
             return;
         }
         ::poll(nullptr, 0, kLookMilliseconds);
@@ -122,7 +122,7 @@ void becomeAttached(const Plan& plan, int report, pid_t parent) {
     dropFiles(report);
     ::umask(S_IRWXG | S_IRWXO);
     if (!endWith(parent, report))
-        giveUp(report, Failure::Stage::executable, errno);
+        giveUp(report, Message::Stage::executable, errno);
     execute(plan, report);
 }
 
@@ -131,11 +131,12 @@ void startAndWatch(const Plan& plan, int report) {
     dropFiles(report);
     const pid_t child = forkPlainly();
     if (child < 0)
-        giveUp(report, Failure::Stage::executable, errno);
+        giveUp(report, Message::Stage::executable, errno);
     if (child == 0) {
         ::setsid();
         execute(plan, report);
     }
+    send(report, Message::Stage::started, child);
     watch(child, report);
     ::_exit(0);
 }

@@ -11,11 +11,11 @@
 /// thread may have held any lock, so that everything is prepared before.
 namespace selvane::process {
 
-/// What a child tells through its pipe when something goes wrong.
-struct Failure {
-    enum class Stage : int { folder, executable, exit };
+/// What a child tells through its pipe: what it has started, and what went wrong.
+struct Message {
+    enum class Stage : int { started, folder, executable, exit };
     Stage stage;
-    int value; ///< an errno, for `exit` the exit status
+    int value; ///< a process id, an errno, for `exit` the exit status
 };
 
 /// A program to start.

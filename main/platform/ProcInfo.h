@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <map>
 #include <optional>
@@ -15,6 +16,7 @@ namespace selvane {
 struct ProcInfo {
     std::int32_t pid = 0;
     std::int32_t ppid = 0;       ///< 0 when it couldn't be read
+    std::int32_t session = 0;    ///< pid of the process session's leader; 0 when it couldn't be read
     std::uint64_t startTime = 0; ///< tells a process from a later one with the same pid; 0 when unknown
     std::string path;            ///< absolute path of the executable, also when it was replaced since
     std::vector<std::string> args;
@@ -24,6 +26,10 @@ struct ProcInfo {
     static std::optional<ProcInfo> read(std::int32_t pid);
     /// Every readable process, in the order of the kernel's list.
     static std::vector<ProcInfo> all();
+    /// The paths of the files that a process has open; empty when it can't be asked.
+    static std::vector<std::string> openFiles(std::int32_t pid);
+    /// The `startTime` of a process that starts at that moment.
+    static std::uint64_t startTimeAt(std::chrono::system_clock::time_point moment);
 
     bool operator==(const ProcInfo&) const = default;
 };

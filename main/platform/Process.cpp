@@ -13,6 +13,7 @@
 #include "model/LauncherError.h"
 #include "platform/ChildProcess.h"
 #include "platform/Descriptor.h"
+#include "platform/ProcInfo.h"
 
 namespace selvane {
 
@@ -102,24 +103,24 @@ Pipe makePipe(const std::filesystem::path& executable) {
     return pipe;
 }
 
-/// Waits until the child has got on without a failure, or has told one.
-std::optional<Failure> receive(Pipe& pipe) {
+/// The next thing that the child tells; nothing when it has got on.
+std::optional<Message> receive(Pipe& pipe) {
     pipe.writing.close();
-    Failure failure = {};
+    Message message = {};
     ssize_t size = -1;
     do {
-        size = ::read(pipe.reading.get(), &failure, sizeof failure);
+        size = ::read(pipe.reading.get(), &message, sizeof message);
     } while (size < 0 && errno == EINTR);
-    return size == sizeof failure ? std::optional(failure) : std::nullopt;
+    return size == sizeof message ? std::optional(message) : std::nullopt;
 }
 
-[[noreturn]] void raise(const Failure& failure, const std::filesystem::path& executable,
+[[noreturn]] void raise(const Message& failure, const std::filesystem::path& executable,
                         const std::filesystem::path& folder) {
-    if (failure.stage == Failure::Stage::exit)
+    if (failure.stage == Message::Stage::exit)
         throw LauncherError("«" + executable.filename().native() +
                             "» si è chiuso subito dopo l'avvio (stato " + std::to_string(failure.value) +
                             ")");
-    files::fail("start", failure.stage == Failure::Stage::folder ? folder : executable, failure.value);
+    files::fail("start", failure.stage == Message::Stage::folder ? folder : executable, failure.value);
 }
 
 /// Whoever started this process may have it ignore the end of its children: no exit status would be kept.
@@ -144,7 +145,7 @@ int run(const std::filesystem::path& executable, const std::vector<std::string>&
         becomeAttached(plan, pipe.writing.get(), self);
     if (child < 0)
         files::fail("start", executable, errno);
-    const std::optional<Failure> failure = receive(pipe);
+    const std::optional<Message> failure = receive(pipe);
     int status = 0;
     const pid_t ended = waitFor(child, status, 0);
     if (failure)
@@ -154,25 +155,36 @@ int run(const std::filesystem::path& executable, const std::vector<std::string>&
     return exitStatus(status);
 }
 
-void startDetached(const std::filesystem::path& executable, const std::vector<std::string>& arguments,
-                   const Environment& environment, const std::filesystem::path& folder,
-                   const std::string& pidVariable) {
+Started startDetached(const std::filesystem::path& executable, const std::vector<std::string>& arguments,
+                      const Environment& environment, const std::filesystem::path& folder,
+                      const std::string& pidVariable) {
     const Texts words(commandLine(executable, arguments));
     const Texts variables(environmentTexts(environment, pidVariable));
     char* const pidText =
         pidVariable.empty() ? nullptr : variables.data()[0] + pidVariable.size() + 1; // behind "="
     const Plan plan = {executable.c_str(), folder.c_str(), words.data(), variables.data(), pidText};
     Pipe pipe = makePipe(executable);
+    Started started = {0, ProcInfo::startTimeAt(std::chrono::system_clock::now())};
     const pid_t child = forkQuietly();
     if (child == 0)
         startAndWatch(plan, pipe.writing.get());
     if (child < 0)
         files::fail("start", executable, errno);
-    const std::optional<Failure> failure = receive(pipe);
+    std::optional<Message> failure;
+    while (const std::optional<Message> message = receive(pipe)) {
+        if (message->stage == Message::Stage::started) {
+            started.pid = message->value;
+            if (const auto process = ProcInfo::read(started.pid)) // a wrapper may have ended already
+                started.startTime = process->startTime;
+        } else if (!failure) {
+            failure = message; // the end that follows from it is told as well
+        }
+    }
     int status = 0;
     waitFor(child, status, 0);
     if (failure)
         raise(*failure, executable, folder);
+    return started;
 }
 
 } // namespace process

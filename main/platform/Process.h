@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <map>
 #include <string>
@@ -26,13 +27,18 @@ namespace process {
 int run(const std::filesystem::path& executable, const std::vector<std::string>& arguments,
         const Environment& environment, const std::filesystem::path& folder);
 
+struct Started {
+    std::int32_t pid = 0;        ///< also the number of its session
+    std::uint64_t startTime = 0; ///< at the latest, as `ProcInfo::startTime`
+};
+
 /// Starts a program that outlives this process: a session of its own, standard streams to the null device,
 /// no other file of ours open. Throws `std::filesystem::filesystem_error` when it can't be started, and
 /// `LauncherError` when it ends with a failure within its first moments.
 /// `pidVariable`, when not empty, is set in its environment to its own process id.
-void startDetached(const std::filesystem::path& executable, const std::vector<std::string>& arguments,
-                   const Environment& environment, const std::filesystem::path& folder,
-                   const std::string& pidVariable = {});
+Started startDetached(const std::filesystem::path& executable, const std::vector<std::string>& arguments,
+                      const Environment& environment, const std::filesystem::path& folder,
+                      const std::string& pidVariable = {});
 
 } // namespace process
 } // namespace selvane

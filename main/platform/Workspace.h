@@ -43,6 +43,14 @@ struct RunningApplication {
     bool operator==(const RunningApplication&) const = default;
 };
 
+/// What was started to open an application: the application itself, or a wrapper that leads to it.
+struct OpenedApplication {
+    RunningApplication app;
+    std::int32_t session = 0; ///< the process session made for it; 0 where none is made
+
+    bool operator==(const OpenedApplication&) const = default;
+};
+
 /// How a new copy is opened.
 struct OpenConfiguration {
     std::vector<std::string> arguments;
@@ -61,7 +69,8 @@ public:
     /// Those of all processes that are main processes of the application, in the same order.
     virtual std::vector<RunningApplication> running(const std::vector<ProcInfo>& processes) = 0;
     /// Starts a new copy, also when others run. Throws when it can't be started.
-    virtual void open(const Application& application, const OpenConfiguration& configuration) = 0;
+    virtual OpenedApplication open(const Application& application,
+                                   const OpenConfiguration& configuration) = 0;
 
     virtual void terminate(const RunningApplication& app) = 0;      ///< asks it to quit
     virtual void forceTerminate(const RunningApplication& app) = 0; ///< ends it at once

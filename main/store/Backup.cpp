@@ -147,7 +147,7 @@ std::vector<fs::path> ProfileStore::desktopFolders(const std::vector<fs::path>& 
 }
 
 BackupResult ProfileStore::backup(BackupScope scope, const fs::path& archive) {
-    const fs::path target = ClaudeApp::normalized(archive.string());
+    const fs::path target = normalizedPath(archive.string());
     const std::vector<fs::path> sources = backupSources(scope);
     if (sources.empty())
         throw LauncherError("Non c'è niente da salvare");

@@ -52,16 +52,50 @@ bool ProfileStore::hasDesktopData(const Profile& profile) const {
     return m_files.exists(desktopDataDir(profile));
 }
 
+DataFolders ProfileStore::dataFolders() const {
+    std::vector<std::string> accounts = m_files.entriesIfReadable(desktopStore());
+    std::erase_if(accounts, [](const std::string& name) { return !Profile::isPossibleId(name); });
+    return {liveDesktopDir(), desktopStore(), accounts};
+}
+
 bool ProfileStore::desktopDataInUse(const fs::path& folder) const {
-    return !m_testMode && !m_claude.processes(folder, liveDesktopDir()).empty();
+    return !m_testMode && !m_claude.processes(folder, dataFolders()).empty();
 }
 
 std::vector<ClaudeApp::Instance> ProfileStore::claudeInstances() const {
-    return m_testMode ? std::vector<ClaudeApp::Instance>{} : m_claude.instances(liveDesktopDir());
+    if (m_testMode)
+        return {};
+    std::vector<ClaudeApp::Instance> copies = m_claude.instances(dataFolders());
+    for (ClaudeApp::Instance& copy : copies) {
+        if (!copy.isConfigKnown)
+            assumeConfig(copy);
+    }
+    return copies;
+}
+
+/// When nothing tells a copy's configuration, it is that of the one profile that uses its account, if there
+/// is just one.
+void ProfileStore::assumeConfig(ClaudeApp::Instance& copy) const {
+    std::vector<Profile> users;
+    for (Profile& profile : loadAll()) {
+        if (usesDataFolder(profile, copy.dataDir))
+            users.push_back(std::move(profile));
+    }
+    if (users.size() != 1)
+        return;
+    copy.isConfigKnown = true;
+    if (!users.front().isDefault())
+        copy.config = normalizedPath(users.front().configDir.string());
+}
+
+/// `folder` is normalized. A record that names no possible account uses none.
+bool ProfileStore::usesDataFolder(const Profile& profile, const std::string& folder) const {
+    return Profile::isPossibleId(profile.accountOwner()) &&
+           normalizedPath(desktopDataDir(profile).string()) == folder;
 }
 
 std::optional<ClaudeApp::Instance> ProfileStore::instance(const Profile& usingAccountOf) const {
-    const std::string folder = ClaudeApp::normalized(desktopDataDir(usingAccountOf).string());
+    const std::string folder = normalizedPath(desktopDataDir(usingAccountOf).string());
     for (const ClaudeApp::Instance& candidate : claudeInstances()) {
         if (candidate.dataDir == folder)
             return candidate;
@@ -70,14 +104,18 @@ std::optional<ClaudeApp::Instance> ProfileStore::instance(const Profile& usingAc
 }
 
 bool ProfileStore::runs(const ClaudeApp::Instance& instance, const Profile& profile) const {
+    if (!instance.isConfigKnown)
+        return false;
     // A copy started by hand has no configuration folder of its own: it uses the built-in profile's.
-    const std::string config = instance.config.value_or(ClaudeApp::normalized(m_defaultDir.string()));
-    return config == ClaudeApp::normalized(profile.configDir.string());
+    const std::string config = instance.config.value_or(normalizedPath(m_defaultDir.string()));
+    return config == normalizedPath(profile.configDir.string());
 }
 
 bool ProfileStore::hasLeft(const ClaudeApp::Instance& copy, const Profile& profile) const {
+    if (!desktopDataInUse(desktopDataDir(profile)))
+        return true;
     const std::optional<ClaudeApp::Instance> now = instance(profile);
-    return (now && *now != copy) || !desktopDataInUse(desktopDataDir(profile));
+    return now && now->app != copy.app;
 }
 
 std::set<std::string> ProfileStore::runningProfileIDs() const {
@@ -86,11 +124,8 @@ std::set<std::string> ProfileStore::runningProfileIDs() const {
     if (instances.empty())
         return ids;
     for (const Profile& profile : loadAll()) {
-        if (!Profile::isPossibleId(profile.accountOwner()))
-            continue;
-        const std::string folder = ClaudeApp::normalized(desktopDataDir(profile).string());
         for (const ClaudeApp::Instance& candidate : instances) {
-            if (candidate.dataDir == folder && runs(candidate, profile))
+            if (runs(candidate, profile) && usesDataFolder(profile, candidate.dataDir))
                 ids.insert(profile.id);
         }
     }
@@ -118,7 +153,7 @@ void ProfileStore::restoreDesktopData() {
     makeDesktopStore();
     if (!needsDesktopRestore())
         return;
-    if (!m_testMode && !m_claude.allProcesses({liveDesktopDir(), desktopStore()}).empty())
+    if (!m_testMode && !m_claude.allProcesses(dataFolders()).empty())
         throw LauncherError(
             "Per passare alle istanze separate Claude va chiuso una volta: chiudilo e riprova.");
     swapLiveData(owner);

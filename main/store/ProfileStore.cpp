@@ -50,17 +50,19 @@ ProfileStore::ProfileStore(const Environment& environment, const ClaudeApp& clau
     }
 }
 
-const fs::path& ProfileStore::liveDesktopDir() const {
-    std::call_once(m_liveDesktopDirOnce, [this] {
-        const auto entry = m_environment.find("CLAUDE_LAUNCHER_DESKTOP_DIR");
-        if (entry != m_environment.end() && !entry->second.empty()) {
-            m_liveDesktopDir = spelled(entry->second);
-            return;
-        }
-        const auto isInstalled = [this] { return m_claude.application().has_value(); };
-        m_liveDesktopDir = spelled(applicationDataFolder(m_environment, "Claude", isInstalled));
-    });
-    return m_liveDesktopDir;
+fs::path ProfileStore::liveDesktopDir() const {
+    const std::lock_guard guard(m_liveDesktopDirMutex);
+    if (!m_liveDesktopDir.empty())
+        return m_liveDesktopDir;
+    const auto entry = m_environment.find("CLAUDE_LAUNCHER_DESKTOP_DIR");
+    if (entry != m_environment.end() && !entry->second.empty())
+        return m_liveDesktopDir = spelled(entry->second);
+    bool isSettled = true; // installing the application can still change it
+    const auto isInstalled = [&] { return isSettled = m_claude.application().has_value(); };
+    fs::path folder = spelled(applicationDataFolder(m_environment, "Claude", isInstalled));
+    if (isSettled)
+        m_liveDesktopDir = folder;
+    return folder;
 }
 
 fs::path ProfileStore::globalJSON(const Profile& profile) const {

@@ -57,7 +57,7 @@ public:
     const std::filesystem::path& defaultDir() const { return m_defaultDir; }
     const std::filesystem::path& defaultGlobalJSON() const { return m_defaultGlobalJSON; }
     /// The data folder that Claude Desktop uses when it is started without saying otherwise.
-    const std::filesystem::path& liveDesktopDir() const;
+    std::filesystem::path liveDesktopDir() const;
     /// Against a substitute data folder: processes are never looked at, Claude Desktop counts as not running.
     bool testMode() const { return m_testMode; }
     std::filesystem::path globalJSON(const Profile& profile) const;
@@ -102,9 +102,11 @@ public:
     std::string desktopLiveOwner() const; ///< as recorded, which may be no valid account
     std::filesystem::path desktopDataDir(const Profile& profile) const;
     bool hasDesktopData(const Profile& profile) const;
+    DataFolders dataFolders() const; ///< the normal one and every account's, whoever uses it
     bool desktopDataInUse(const std::filesystem::path& folder) const;
     std::vector<ClaudeApp::Instance> claudeInstances() const;
     std::optional<ClaudeApp::Instance> instance(const Profile& usingAccountOf) const;
+    /// False for every profile when the copy's configuration can't be told.
     bool runs(const ClaudeApp::Instance& instance, const Profile& profile) const;
     /// Whether `copy` and its helper processes have left the profile's account. So they have for certain when
     /// another Selvane has opened the next copy with it.
@@ -155,6 +157,8 @@ private:
     std::string profileNote(const Profile& profile) const;
 
     std::filesystem::path desktopFolder(const std::string& owner) const;
+    void assumeConfig(ClaudeApp::Instance& copy) const;
+    bool usesDataFolder(const Profile& profile, const std::string& folder) const;
     void makeDesktopStore();
     void swapLiveData(const std::string& owner);
     void returnBuiltInData(const std::string& owner);
@@ -173,8 +177,8 @@ private:
     std::filesystem::path m_defaultGlobalJSON;
     bool m_testMode;
     // Found out when first asked for: it can mean looking for the installed application.
-    mutable std::once_flag m_liveDesktopDirOnce;
-    mutable std::filesystem::path m_liveDesktopDir;
+    mutable std::mutex m_liveDesktopDirMutex;
+    mutable std::filesystem::path m_liveDesktopDir; ///< empty while it isn't settled
 };
 
 } // namespace selvane

@@ -162,7 +162,7 @@ TEST(Concurrency, AWindowAndCommands_KeepEachOthersChanges) {
     home.output({"create", "Lavoro", "--from", "default"});
     FakeWorkspace workspace;
     FakeClock clock;
-    const ClaudeApp claude(workspace, clock);
+    const ClaudeApp claude(workspace, clock, home.environment);
     ProfileStore window(home.environment, claude);
     for (int round = 0; round < rounds(); ++round) {
         const Profile shown = *window.profile("lavoro");

@@ -76,7 +76,7 @@ TEST_F(CommandLaunch, AnOpenAccountIsActivatedTakenOverAndGuarded) {
 
     std::string expected;
     for (const std::int32_t pid : pids())
-        expected += std::to_string(pid) + "\t" + program.string() + "\n";
+        expected += std::to_string(pid) + "\t" + ProcInfo::read(pid)->path + "\n";
     EXPECT_EQ(lines("processes"), expected);
 
     const Outcome refused = failure("Per un backup affidabile Claude va chiuso: chiudilo e riprova.");
@@ -85,7 +85,7 @@ TEST_F(CommandLaunch, AnOpenAccountIsActivatedTakenOverAndGuarded) {
     quit(guest);
     EXPECT_EQ(home.run({"backup", home / "b.zip"}), refused);
     EXPECT_FALSE(fs::exists(home / "b.zip"));
-    EXPECT_EQ(home.run({"backup", home / "b.zip", "--solo-principale"}).status, 0);
+    waitUntil([&] { return home.run({"backup", home / "b.zip", "--solo-principale"}).status == 0; });
     quit(lavoro);
     waitUntil([&] { return pids().empty(); });
 }

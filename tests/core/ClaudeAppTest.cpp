@@ -44,13 +44,16 @@ TEST(ClaudeApp, processesOf_Rules_TellWhoBelongs) {
                                        process(50, 1, "/bin/x", {"--log=/a/b/log"}),
                                        process(51, 1, "/bin/x", {"y", "--something=/a/b"}),
                                        process(52, 1, "/bin/x", {"/a/bc", "/a/b", "=/a/b ", "=/x/a/b"}),
+                                       process(70, 1, "/c", {"/c --type=x --user-data-dir=/a/b --lang=it"}),
+                                       process(71, 1, "/c", {"/c --type=x --user-data-dir=/a/b 2 --lang=it"}),
                                        process(60, 61, "/bin/loop"),
                                        process(61, 60, "/bin/loop")};
-    EXPECT_EQ(pidsOf(processesOf("/a/b", {10}, all)), (Pids{99, 10, 30, 40, 50, 51}));
+    const DataFolders folders("/normal", "/a", {"b", "b 2"});
+    EXPECT_EQ(pidsOf(processesOf("/a/b", {10}, all, folders)), (Pids{99, 10, 30, 40, 50, 51, 70}));
     std::vector<ProcInfo> chain;
     for (std::int32_t generation = 0; generation <= 33; ++generation)
         chain.push_back(process(generation, generation - 1, "/bin/x"));
-    EXPECT_EQ(processesOf("/a/b", {0}, chain), std::vector<ProcInfo>(chain.begin(), chain.begin() + 32))
+    EXPECT_EQ(processesOf("/a/b", {0}, chain, folders), std::vector<ProcInfo>(chain.begin(), chain.begin() + 32))
         << "31 ancestors";
 }
 

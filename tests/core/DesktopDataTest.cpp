@@ -204,7 +204,7 @@ TEST(DesktopData, runningCopies_OfTwoProfilesOfOneAccount_AreToldApart) {
         {"--user-data-dir=" + data.parent_path().string() + "/./lavoro/", "--user-data-dir=/x"},
         {{"CLAUDE_CONFIG_DIR", ospite.configDir.string() + "/"}});
     const RunningProcess plain({}, {});
-    home.workspace.apps = {{plain.pid(), 1}, {copy.pid(), 2}};
+    home.workspace.apps = {plain.app(), copy.app()};
     EXPECT_EQ(home.store.runningProfileIDs(), (std::set<std::string>{"default", "ospite"}));
     EXPECT_EQ(home.store.instance(lavoro)->pid(), copy.pid());
     EXPECT_EQ(home.store.instance(home.builtIn())->pid(), plain.pid());
@@ -217,6 +217,22 @@ TEST(DesktopData, runningCopies_OfTwoProfilesOfOneAccount_AreToldApart) {
               "L'account di \"Lavoro\" è aperto in Claude: chiudilo prima");
 }
 
+TEST(DesktopData, runningCopies_WithoutAnEnvironment_AreThoseOfTheOnlyProfileThatTheyCanBe) {
+    Home home(Home::Processes::seen);
+    const Profile lavoro = home.make("Lavoro");
+    const RunningProcess copy({"--user-data-dir=" + home.store.desktopDataDir(lavoro).string()}, {});
+    home.workspace.apps = {copy.app()};
+    EXPECT_EQ(home.store.runningProfileIDs(), std::set<std::string>{"lavoro"});
+    EXPECT_TRUE(home.store.runs(*home.store.instance(lavoro), lavoro));
+    const Profile guest = home.store.create(request("Ospite", {}, "lavoro"));
+    EXPECT_EQ(home.store.runningProfileIDs(), std::set<std::string>());
+    const auto unknown = home.store.instance(guest);
+    ASSERT_TRUE(unknown);
+    EXPECT_FALSE(unknown->isConfigKnown);
+    for (const Profile& profile : home.store.loadAll())
+        EXPECT_FALSE(home.store.runs(*unknown, profile)) << profile.id;
+}
+
 TEST(DesktopData, deleteProfile_AccountInTheNormalFolder_IsParkedFirst) {
     Home home(Home::Processes::seen);
     const Profile lavoro = home.make("Lavoro");
@@ -226,7 +242,7 @@ TEST(DesktopData, deleteProfile_AccountInTheNormalFolder_IsParkedFirst) {
                {".claude-profiles/.desktop-data/default/Cookies", "mine"}});
     {
         const RunningProcess copy({}, {});
-        home.workspace.apps = {{copy.pid(), 1}};
+        home.workspace.apps = {copy.app()};
         EXPECT_EQ(messageOf([&] { home.store.deleteProfile(lavoro); }),
                   "Per passare alle istanze separate Claude va chiuso una volta: chiudilo e riprova.");
         EXPECT_EQ(readFile(home.store.liveDesktopDir() / "Cookies"), "lavoro");

@@ -117,6 +117,7 @@ protected:
 TEST_F(RunningApplicationTest, OpensFromPathAndQuits) {
     fs::create_symlink(m_executable, m_root / "bin" / m_name);
     m_environment["CLAUDE_LAUNCHER_HOME"] = "/elsewhere";
+    m_environment["STAND_IN_OPTIONS"] = "--stand-in-keep-title";
     m_environment["XDG_CURRENT_DESKTOP"] = "Example";
     m_environment["GIO_LAUNCHED_DESKTOP_FILE"] = "/usr/share/applications/terminal.desktop";
     m_environment["GIO_LAUNCHED_DESKTOP_FILE_PID"] = "1";
@@ -187,6 +188,7 @@ TEST_F(RunningApplicationTest, IsRecognisedAfterItsExecutableWasReplaced) {
 }
 
 TEST_F(RunningApplicationTest, IsRecognisedBehindAWrapper) {
+    m_environment["STAND_IN_OPTIONS"] = "--stand-in-keep-title"; // the variables of the start tell
     const fs::path electron = m_root / "lib/electron";
     const fs::path wrapper = m_root / "bin/wrapper";
     install(electron);

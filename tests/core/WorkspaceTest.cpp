@@ -21,6 +21,7 @@ ProcInfo process(std::int32_t pid, std::int32_t ppid, std::string path,
     arguments.insert(arguments.begin(), path);
     return {pid,
             ppid,
+            pid,
             1000U + static_cast<std::uint64_t>(pid),
             std::move(path),
             std::move(arguments),

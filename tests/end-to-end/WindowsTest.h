@@ -17,11 +17,7 @@ namespace selvane::test {
 class Windows : public testing::Test, protected InstalledClaude {
 protected:
     Windows() {
-        namespace fs = std::filesystem;
         home.environment.merge(desktop().environment());
-        home.environment["XDG_RUNTIME_DIR"] = (home / "run").string();
-        fs::create_directory(home / "run");
-        fs::permissions(home / "run", fs::perms::owner_all);
     }
     /// Faults in the views are printed and go unnoticed otherwise.
     void TearDown() override { EXPECT_EQ(readFile(home / "selvane.err"), ""); }

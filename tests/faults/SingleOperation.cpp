@@ -73,7 +73,7 @@ int main(int argc, char** argv) {
         const Environment environment = currentEnvironment();
         const auto workspace = makeWorkspace(ClaudeApp::identity(), environment);
         SystemClock clock;
-        const ClaudeApp claude(*workspace, clock);
+        const ClaudeApp claude(*workspace, clock, environment);
         ProfileStore store(environment, claude);
         run(Words(argv + 1, argv + argc), store);
         return 0;

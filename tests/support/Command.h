@@ -51,6 +51,7 @@ private:
     Outcome runProgram(const std::vector<std::string>& words) const;
 
     TemporaryFolder m_folder;
+    TemporaryFolder m_session; ///< its runtime folder
 };
 
 } // namespace selvane::test

@@ -15,7 +15,9 @@ namespace {
 namespace fs = std::filesystem;
 
 Environment homeEnvironment(const fs::path& home, Home::Processes processes) {
-    Environment environment = {{"HOME", home.string()}};
+    const fs::path run = home.parent_path() / "run";
+    makePrivate(run);
+    Environment environment = {{"HOME", home.string()}, {"XDG_RUNTIME_DIR", run.string()}};
     if (processes == Home::Processes::ignored)
         environment["CLAUDE_LAUNCHER_DESKTOP_DIR"] = (home / ".config/Claude").string();
     return environment;
@@ -26,6 +28,11 @@ fs::path trashFolder() {
 }
 
 } // namespace
+
+void makePrivate(const fs::path& folder) {
+    fs::create_directories(folder);
+    fs::permissions(folder, fs::perms::owner_all);
+}
 
 void writeFile(const fs::path& file, const std::string& content) {
     fs::create_directories(file.parent_path());
@@ -64,11 +71,12 @@ Tree treeOf(const fs::path& folder) {
     return tree;
 }
 
-void FakeWorkspace::open(const Application&, const OpenConfiguration& configuration) {
+OpenedApplication FakeWorkspace::open(const Application&, const OpenConfiguration& configuration) {
     if (refusesToOpen)
         throw std::runtime_error("refused");
     whenOpening();
     openings.push_back(configuration);
+    return {};
 }
 
 void FakeWorkspace::terminate(const RunningApplication& app) {
@@ -104,7 +112,8 @@ NewProfile request(const std::string& name, const std::optional<Profile>& from,
 }
 
 Home::Home(Processes processes, const std::string& name)
-    : path(folder / name), store(homeEnvironment(path, processes), claude) {
+    : path(folder / name), claude(workspace, clock, homeEnvironment(path, processes)),
+      store(homeEnvironment(path, processes), claude) {
     fs::create_directories(path);
     fs::remove_all(trashFolder());
 }

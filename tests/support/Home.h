@@ -20,6 +20,7 @@ namespace selvane::test {
 /// The entries below a folder with what they are: "text" of a file, "-> target" of a link, "/" of a folder.
 using Tree = std::map<std::string, std::string>;
 
+void makePrivate(const std::filesystem::path& folder); ///< for its owner alone; made where it is missing
 void writeFile(const std::filesystem::path& file, const std::string& content); ///< makes its folders too
 void writeTree(const std::filesystem::path& folder, const Tree& tree);         ///< adds it to what is there
 std::string readFile(const std::filesystem::path& file);                       ///< "" when it isn't there
@@ -41,7 +42,7 @@ struct FakeWorkspace final : Workspace {
 
     std::optional<Application> application() override { return installed; }
     std::vector<RunningApplication> running(const std::vector<ProcInfo>&) override { return apps; }
-    void open(const Application&, const OpenConfiguration& configuration) override;
+    OpenedApplication open(const Application&, const OpenConfiguration& configuration) override;
     void terminate(const RunningApplication& app) override;
     void forceTerminate(const RunningApplication& app) override;
     bool isTerminated(const RunningApplication& app) override;
@@ -70,7 +71,7 @@ struct Home {
     std::filesystem::path path;
     FakeWorkspace workspace;
     FakeClock clock;
-    ClaudeApp claude{workspace, clock};
+    ClaudeApp claude;
     ProfileStore store;
 
     std::filesystem::path operator/(const std::filesystem::path& below) const { return path / below; }

@@ -42,6 +42,8 @@ void InstalledClaude::installAs(const std::string& name) {
     program = home / "app/claude" / name;
     fs::create_directories(program.parent_path());
     fs::copy_file(SELVANE_STAND_IN, program);
+    fs::remove(program.parent_path() / "chrome_crashpad_handler");
+    fs::create_hard_link(program, program.parent_path() / "chrome_crashpad_handler");
 }
 
 void InstalledClaude::writeEntry(const std::string& command) const {

@@ -7,17 +7,19 @@
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
+#include <linux/close_range.h>
 #include <string>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
 
-#include "platform/Process.h"
+#include "platform/Workspace.h"
+#include "support/Pointers.h"
 
 namespace selvane::test {
 
-/// A real process with these arguments and this environment, which does nothing for as long as this object
-/// lives.
+/// A real process with these arguments and this environment, which does nothing and has no file open for as
+/// long as this object lives.
 class RunningProcess {
 public:
     RunningProcess(const std::vector<std::string>& arguments, const Environment& environment) {
@@ -33,6 +35,9 @@ public:
         m_pid = fork();
         if (m_pid == 0) {
             dup2(input[0], STDIN_FILENO);
+            close(STDOUT_FILENO);
+            close(STDERR_FILENO);
+            close_range(STDERR_FILENO + 1, ~0U, CLOSE_RANGE_CLOEXEC);
             execve("/bin/sh", pointers(texts).data(), pointers(variables).data());
             _exit(127);
         }
@@ -51,16 +56,9 @@ public:
     }
 
     pid_t pid() const { return m_pid; }
+    RunningApplication app() const { return {m_pid, ProcInfo::read(m_pid)->startTime}; }
 
 private:
-    static std::vector<char*> pointers(std::vector<std::string>& texts) {
-        std::vector<char*> result;
-        for (std::string& text : texts)
-            result.push_back(text.data());
-        result.push_back(nullptr);
-        return result;
-    }
-
     pid_t m_pid = 0;
     int m_input = -1;
 };

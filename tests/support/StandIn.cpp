@@ -2,14 +2,20 @@
 // SPDX-License-Identifier: MIT
 
 /// Behaves as an Electron application does as far as Selvane can see it: one main process for each data
-/// folder, helpers of the same executable, signals, and the files of a login and of its sessions. It tells in
-/// `stand-in.json` in its data folder how it was started. By itself it ends after ten minutes.
+/// folder, helpers of the same executable, signals, and the files of a login and of its sessions. Like the
+/// real one on a desktop with a session bus, its processes join their arguments to one text and wipe their
+/// environment. Where there is a `chrome_crashpad_handler` beside it, that leaves the family and keeps its
+/// environment. It tells in `stand-in.json` in its data folder how it was started. By itself it ends after
+/// ten minutes.
 ///
 /// Options, as arguments or separated by spaces in STAND_IN_OPTIONS:
 ///   --user-data-dir=FOLDER     the data folder, else $XDG_CONFIG_HOME/Claude or $HOME/.config/Claude
 ///   --stand-in-session=TITLE   adds a session with that title; may be given several times
 ///   --stand-in-no-login        leaves out the folders of a login
 ///   --stand-in-refuse-quit     ignores the request to quit
+///   --stand-in-keep-title      leaves the main process's arguments and environment as they were
+///   --stand-in-no-lock         makes no lock in the data folder
+///   --stand-in-no-files        keeps no file of the data folder open
 
 #include <nlohmann/json.hpp>
 
@@ -25,6 +31,7 @@
 #include <array>
 #include <cerrno>
 #include <chrono>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -150,19 +157,53 @@ pid_t startHelper(Words arguments, Words environment) {
     ::_exit(127);
 }
 
-/// As helpers look that have rewritten their title: one text for all arguments, and no environment.
-void startRetitledHelper(const Words& arguments) {
-    std::string title;
-    for (const std::string& argument : arguments)
-        title += (title.empty() ? "" : " ") + argument;
-    startHelper({title}, {});
-}
-
 Words inheritedEnvironment() {
     Words variables;
     for (char** each = environ; *each != nullptr; ++each)
         variables.emplace_back(*each);
     return variables;
+}
+
+/// Joins this process's arguments to one text and wipes its environment, as others see them. This process
+/// itself keeps a copy of its environment.
+void rewriteTitle(int argc, char** argv) {
+    std::string title = argv[0];
+    for (int i = 1; i < argc; ++i)
+        title.append(" ").append(argv[i]);
+    char* end = argv[argc - 1] + std::strlen(argv[argc - 1]) + 1;
+    static Words copies;
+    copies = inheritedEnvironment();
+    for (char** each = environ; *each != nullptr; ++each)
+        end = std::max(end, *each + std::strlen(*each) + 1);
+    static std::vector<char*> environment;
+    environment = pointers(copies);
+    environ = environment.data();
+    std::memset(argv[0], 0, static_cast<std::size_t>(end - argv[0]));
+    title.copy(argv[0], title.size());
+}
+
+/// It stays behind for a moment when the others have ended, and is nobody's child.
+void startCrashHandler(const fs::path& data) {
+    const fs::path handler = fs::read_symlink("/proc/self/exe").parent_path() / "chrome_crashpad_handler";
+    if (!fs::exists(handler))
+        return;
+    Words arguments = {handler, "--database=" + (data / "Crashpad").native(),
+                       "--main=" + std::to_string(::getpid())};
+    const pid_t between = ::fork();
+    if (between == 0) {
+        ::setsid();
+        if (::fork() == 0)
+            ::execve(arguments[0].c_str(), pointers(arguments).data(), environ);
+        ::_exit(0);
+    }
+    ::waitpid(between, nullptr, 0);
+}
+
+int runCrashHandler(const Words& words) {
+    const std::string main = "/proc/" + words.back().substr(words.back().rfind('=') + 1) + "/exe";
+    while (::access(main.c_str(), F_OK) == 0)
+        ::usleep(20'000);
+    return 0;
 }
 
 std::vector<pid_t> startHelpers(const fs::path& data) {
@@ -179,16 +220,17 @@ std::vector<pid_t> startHelpers(const fs::path& data) {
     };
 }
 
-int runHelper(const Words& words) {
+int runHelper(const Words& words, int argc, char** argv) {
     if (words.size() > 2 && words[1] == "--type=zygote")
-        startRetitledHelper({words[0], "--type=renderer", words[2], "--lang=it"});
+        startHelper({words[0], "--type=renderer", words[2], "--lang=it"}, inheritedEnvironment());
+    if (!variable("ELECTRON_RUN_AS_NODE"))
+        rewriteTitle(argc, argv);
     for (;;)
         ::pause();
 }
 
 bool isHelper(const Words& words) {
-    return variable("ELECTRON_RUN_AS_NODE") || (words.size() > 1 && words[1].starts_with("--type=")) ||
-           (!words.empty() && words[0].find(" --type=") != std::string::npos);
+    return variable("ELECTRON_RUN_AS_NODE") || (words.size() > 1 && words[1].starts_with("--type="));
 }
 
 // What the main process leaves in its data folder.
@@ -268,18 +310,23 @@ void endHelpers(const std::vector<pid_t>& helpers) {
     }
 }
 
-int runMain(const Words& arguments) {
+int runMain(const Words& arguments, int argc, char** argv) {
     const Options options(arguments);
     const fs::path data = dataFolder(options);
     fs::create_directories(data);
-    if (!takeLock(data / "SingletonLock"))
+    const bool hasLock = !options.has("--stand-in-no-lock");
+    if (hasLock && !takeLock(data / "SingletonLock"))
         return 0;
+    std::ofstream log;
+    if (!options.has("--stand-in-no-files"))
+        log.open(data / "main.log");
 
     sigset_t requests;
     ::sigemptyset(&requests);
     ::sigaddset(&requests, SIGTERM);
     ::sigaddset(&requests, SIGINT);
     ::sigprocmask(SIG_BLOCK, &requests, nullptr);
+    startCrashHandler(data);
     ::prctl(PR_SET_CHILD_SUBREAPER, 1);
     const std::vector<pid_t> helpers = startHelpers(data);
 
@@ -289,11 +336,15 @@ int runMain(const Words& arguments) {
         fs::create_directories(login);
     for (const std::string& title : titles)
         writeSession(login, title);
-    writeWhole(data / "stand-in.json", report(arguments));
+    const Json told = report(arguments);
+    if (!options.has("--stand-in-keep-title"))
+        rewriteTitle(argc, argv);
+    writeWhole(data / "stand-in.json", told);
 
     waitForEnd(options.has("--stand-in-refuse-quit"));
     endHelpers(helpers);
-    fs::remove(data / "SingletonLock");
+    if (hasLock)
+        fs::remove(data / "SingletonLock");
     return 0;
 }
 
@@ -302,9 +353,11 @@ int runMain(const Words& arguments) {
 int main(int argc, char** argv) {
     try {
         const Words words(argv, argv + argc);
+        if (fs::read_symlink("/proc/self/exe").filename() == "chrome_crashpad_handler")
+            return runCrashHandler(words);
         if (isHelper(words))
-            return runHelper(words);
-        return runMain({words.begin() + 1, words.end()});
+            return runHelper(words, argc, argv);
+        return runMain({words.begin() + 1, words.end()}, argc, argv);
     } catch (const std::exception& error) {
         std::cerr << "stand-in: " << error.what() << '\n';
         return 1;

@@ -21,7 +21,7 @@ protected:
         const std::string folder = home.store.liveDesktopDir();
         m_copy = std::make_unique<RunningProcess>(std::vector<std::string>{"--user-data-dir=" + folder},
                                                   environment);
-        home.workspace.apps = {{m_copy->pid(), 1}};
+        home.workspace.apps = {m_copy->app()};
     }
 
 private:
@@ -132,7 +132,7 @@ TEST_F(AppModelLaunch, launch_NothingOpen_StartsAndEndsIfWanted) {
 }
 
 TEST_F(AppModelLaunch, launch_AlreadyOpen_OnlyComesForward) {
-    open({});
+    open({{"PATH", "/bin"}});
     model().setCloseAfterLaunch(false);
     model().launch("default");
     EXPECT_EQ(home.workspace.activated.size(), 1U);
@@ -144,7 +144,7 @@ TEST_F(AppModelLaunch, launch_AlreadyOpen_OnlyComesForward) {
 }
 
 TEST_F(AppModelLaunch, launch_AccountOpenElsewhere_AsksThenReplacesTheCopy) {
-    open({});
+    open({{"PATH", "/bin"}});
     EXPECT_EQ(model().running(), std::set<std::string>{"default"});
     model().launch("ospite");
     EXPECT_EQ(model().pendingLaunch(), "ospite");
@@ -184,7 +184,7 @@ TEST_F(AppModelLaunch, launch_CopyThatStays_IsOfferedToBeForced) {
 }
 
 TEST_F(AppModelLaunch, launch_AccountOpenedAgainMeanwhile_LeavesThatCopyAlone) {
-    open({});
+    open({{"PATH", "/bin"}});
     home.workspace.whenEnded = [this] { open({{"CLAUDE_CONFIG_DIR", "/altrove"}}); };
     model().launch("ospite");
     model().confirmLaunch();
@@ -197,7 +197,7 @@ TEST_F(AppModelLaunch, launch_AccountOpenedAgainMeanwhile_LeavesThatCopyAlone) {
 TEST_F(AppModelLaunch, launch_AccountsToRestore_ClosesEveryCopyFirst) {
     writeTree(home.path,
               {{".claude-profiles/.desktop-data/.live", "ospite"}, {".config/Claude/Cookies", "theirs"}});
-    open({});
+    open({{"PATH", "/bin"}});
     model().launch("default");
     EXPECT_EQ(model().property("closeMessage").toString(),
               "Per passare alle istanze separate Claude va chiuso una volta e riaperto con «Principale». Le "
@@ -212,7 +212,7 @@ TEST_F(AppModelLaunch, launch_AccountsToRestore_ClosesEveryCopyFirst) {
 
 TEST_F(AppModelLaunch, running_FollowsTheDesktop) {
     model();
-    open({});
+    open({{"PATH", "/bin"}});
     EXPECT_TRUE(model().running().empty());
     emit bridge.claudeCopiesChanged();
     EXPECT_EQ(model().running(), std::set<std::string>{"default"});

@@ -99,8 +99,8 @@ void PictureHome::launched(const std::string& id, std::chrono::hours ago) {
 void PictureHome::openInClaude(const Profile& profile) {
     const auto data = store.desktopDataDir(profile);
     m_copy = std::make_unique<RunningProcess>(std::vector<std::string>{"--user-data-dir=" + data.string()},
-                                              Environment{});
-    workspace.apps = {{m_copy->pid(), 1}};
+                                              Environment{{"PATH", "/bin"}});
+    workspace.apps = {m_copy->app()};
 }
 
 } // namespace selvane::test

@@ -109,13 +109,13 @@ void TestHome::addSession(const QString& title, const QString& folder) {
 void TestHome::openClaude(const QString& profileId) {
     const Profile& profile = *app()->profile(profileId);
     Place& here = place();
-    Environment environment;
+    Environment environment = {{"PATH", "/bin"}};
     if (!profile.isDefault())
         environment["CLAUDE_CONFIG_DIR"] = profile.configDir.string();
     here.claude = std::make_unique<RunningProcess>(
         std::vector<std::string>{"--user-data-dir=" + here.home.store.desktopDataDir(profile).string()},
         environment);
-    here.home.workspace.apps = {{here.claude->pid(), 1}};
+    here.home.workspace.apps = {here.claude->app()};
     here.home.workspace.whenEnded = [&here] {
         here.claude.reset();
         emit here.bridge.claudeCopiesChanged();

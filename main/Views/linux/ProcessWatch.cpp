@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
+#include <QFutureWatcher>
 #include <QTimer>
+#include <QtConcurrent>
 
 #include <optional>
-#include <vector>
 
 #include "Views/ApplicationWatch.h"
 
@@ -14,12 +15,15 @@ namespace {
 constexpr int kFirstLookMilliseconds = 200; // once the window is there
 constexpr int kLookMilliseconds = 2000;
 
-/// Looks at the processes from time to time.
+using Copies = std::vector<OpenCopy>;
+
+/// Looks at the processes from time to time, on another thread.
 class ProcessWatch final : public ApplicationWatch {
 public:
-    explicit ProcessWatch(Workspace& workspace) : m_workspace(workspace) {
+    explicit ProcessWatch(std::function<Copies()> look) : m_look(std::move(look)) {
         m_timer.setInterval(kLookMilliseconds);
         connect(&m_timer, &QTimer::timeout, this, &ProcessWatch::look);
+        connect(&m_watcher, &QFutureWatcherBase::finished, this, [this] { take(m_watcher.result()); });
     }
 
     void setWatching(bool watches) override {
@@ -35,22 +39,27 @@ public:
 
 private:
     void look() {
-        std::vector<RunningApplication> copies = m_workspace.running(ProcInfo::all());
+        if (!m_watcher.isRunning())
+            m_watcher.setFuture(QtConcurrent::run(m_look));
+    }
+
+    void take(Copies copies) {
         if (copies == m_copies)
             return;
         m_copies = std::move(copies);
         emit changed();
     }
 
-    Workspace& m_workspace;
+    const std::function<Copies()> m_look;
     QTimer m_timer;
-    std::optional<std::vector<RunningApplication>> m_copies; ///< none before the first look
+    QFutureWatcher<Copies> m_watcher;
+    std::optional<Copies> m_copies; ///< none before the first look
 };
 
 } // namespace
 
-std::unique_ptr<ApplicationWatch> makeApplicationWatch(Workspace& workspace) {
-    return std::make_unique<ProcessWatch>(workspace);
+std::unique_ptr<ApplicationWatch> makeApplicationWatch(std::function<Copies()> look) {
+    return std::make_unique<ProcessWatch>(std::move(look));
 }
 
 } // namespace selvane

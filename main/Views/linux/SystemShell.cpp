@@ -45,10 +45,6 @@ std::unique_ptr<QSettings> openSettings() {
     return std::make_unique<QSettings>(folder + "/selvane/preferenze.conf", QSettings::IniFormat);
 }
 
-QString sessionFolder() {
-    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-}
-
 std::unique_ptr<QObject> makeSystemShell(LauncherApp& launcher) {
     auto shell = std::make_unique<QObject>();
     QObject::connect(&launcher, &LauncherApp::begun, shell.get(), &setWindowIcon);

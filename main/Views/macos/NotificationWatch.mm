@@ -42,7 +42,7 @@ private:
 
 } // namespace
 
-std::unique_ptr<ApplicationWatch> makeApplicationWatch(Workspace& /*workspace*/) {
+std::unique_ptr<ApplicationWatch> makeApplicationWatch(std::function<std::vector<OpenCopy>()> /*look*/) {
     return std::make_unique<NotificationWatch>();
 }
 

@@ -96,11 +96,6 @@ std::unique_ptr<QSettings> openSettings() {
                                        QStringLiteral("selvane.org"), QStringLiteral("Selvane"));
 }
 
-/// The system gives each user one of their own.
-QString sessionFolder() {
-    return QStandardPaths::writableLocation(QStandardPaths::TempLocation);
-}
-
 std::unique_ptr<QObject> makeSystemShell(LauncherApp& launcher) {
     return std::make_unique<MacShell>(launcher);
 }

@@ -5,8 +5,10 @@
 
 #include <fcntl.h>
 #include <limits.h>
+#include <time.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <string_view>
@@ -85,6 +87,7 @@ public:
         info.path = std::move(*path);
         if (const std::optional<ProcStat> status = stat()) {
             info.ppid = status->ppid;
+            info.session = status->session;
             info.startTime = status->startTime;
         }
         info.args = splitArguments(contents("cmdline"));
@@ -92,13 +95,30 @@ public:
         return info;
     }
 
+    std::vector<std::string> openFiles() const {
+        const files::Descriptor folder(::openat(m_process.get(), "fd", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+        std::vector<std::string> paths;
+        std::array<char, PATH_MAX> target;
+        files::forEachEntry(folder.get(), [&](const char* name, unsigned char) {
+            const std::string_view path = readLink(folder.get(), name, target);
+            if (path.starts_with('/'))
+                paths.emplace_back(path);
+        });
+        return paths;
+    }
+
 private:
+    /// Empty when that fails. The kernel gives no longer text than fits.
+    static std::string_view readLink(int folder, const char* name, std::array<char, PATH_MAX>& target) {
+        const ssize_t size = ::readlinkat(folder, name, target.data(), target.size());
+        return {target.data(), static_cast<std::size_t>(std::max<ssize_t>(size, 0))};
+    }
+
     std::optional<std::string> executable() const {
-        std::array<char, PATH_MAX> target; // the kernel gives no longer one
-        const ssize_t size = ::readlinkat(m_process.get(), "exe", target.data(), target.size());
-        if (size <= 0 || target[0] != '/')
+        std::array<char, PATH_MAX> target;
+        std::string_view path = readLink(m_process.get(), "exe", target);
+        if (!path.starts_with('/'))
             return std::nullopt;
-        std::string_view path(target.data(), static_cast<std::size_t>(size));
         // The application was upgraded while it runs.
         if (path.ends_with(kDeletedMark))
             path.remove_suffix(kDeletedMark.size());
@@ -133,7 +153,8 @@ std::optional<ProcStat> ProcStat::parse(std::string_view line) {
     const std::size_t nameEnd = line.rfind(')');
     if (nameEnd == std::string_view::npos)
         return std::nullopt;
-    constexpr std::size_t kState = 3, kParent = 4, kStartTime = 22; // as the kernel counts the fields
+    constexpr std::size_t kState = 3, kParent = 4, kSession = 6,
+                          kStartTime = 22; // as the kernel counts the fields
     std::array<std::string_view, kStartTime + 1> fields;
     std::size_t position = nameEnd + 1;
     for (std::size_t field = kState; field <= kStartTime; ++field) {
@@ -144,10 +165,11 @@ std::optional<ProcStat> ProcStat::parse(std::string_view line) {
         position = end;
     }
     const auto parent = parseNumber<std::int32_t>(fields[kParent]);
+    const auto session = parseNumber<std::int32_t>(fields[kSession]);
     const auto startTime = parseNumber<std::uint64_t>(fields[kStartTime]);
-    if (fields[kState].size() != 1 || !parent || !startTime)
+    if (fields[kState].size() != 1 || !parent || !session || !startTime)
         return std::nullopt;
-    return ProcStat{fields[kState].front(), *parent, *startTime};
+    return ProcStat{fields[kState].front(), *parent, *session, *startTime};
 }
 
 std::optional<ProcStat> ProcStat::read(std::int32_t pid) {
@@ -171,6 +193,22 @@ std::vector<ProcInfo> ProcInfo::all() {
             processes.push_back(std::move(*process));
     });
     return processes;
+}
+
+std::vector<std::string> ProcInfo::openFiles(std::int32_t pid) {
+    ProcReader reader;
+    return reader.open(std::to_string(pid).c_str()) ? reader.openFiles() : std::vector<std::string>();
+}
+
+/// The kernel counts from the boot, in ticks.
+std::uint64_t ProcInfo::startTimeAt(std::chrono::system_clock::time_point moment) {
+    using namespace std::chrono;
+    timespec sinceBoot = {};
+    ::clock_gettime(CLOCK_BOOTTIME, &sinceBoot);
+    const nanoseconds uptime = seconds(sinceBoot.tv_sec) + nanoseconds(sinceBoot.tv_nsec);
+    const nanoseconds then = uptime - (system_clock::now() - moment);
+    const auto ticks = duration<double>(then).count() * static_cast<double>(::sysconf(_SC_CLK_TCK));
+    return ticks < 0 ? 0 : static_cast<std::uint64_t>(ticks);
 }
 
 } // namespace selvane

@@ -13,6 +13,7 @@ namespace selvane {
 struct ProcStat {
     char state = 0;
     std::int32_t ppid = 0;
+    std::int32_t session = 0;
     std::uint64_t startTime = 0;
 
     bool isEnded() const { return state == 'Z' || state == 'X'; } ///< only its exit status is left

@@ -4,11 +4,10 @@
 #include "platform/linux/RunningApplications.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <string_view>
-#include <unordered_map>
 
+#include "platform/MainProcess.h"
+#include "platform/ProcessFamily.h"
 #include "platform/linux/InstalledApplication.h"
 
 namespace selvane {
@@ -16,46 +15,21 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::array<std::string_view, 2> kHelperExecutables = {"chrome_crashpad_handler", "chrome-sandbox"};
-/// Prefixes: versions follow, as in "python3.11".
-constexpr std::array<std::string_view, 8> kInterpreters = {"bash", "busybox", "dash", "node",
-                                                           "perl", "python",  "sh",   "zsh"};
-
-bool isHelperExecutable(std::string_view name) {
-    return std::find(kHelperExecutables.begin(), kHelperExecutables.end(), name) != kHelperExecutables.end();
-}
-
-bool isInterpreter(std::string_view name) {
-    return std::any_of(kInterpreters.begin(), kInterpreters.end(), [&](std::string_view interpreter) {
-        return name.starts_with(interpreter) &&
-               name.find_first_not_of("0123456789.", interpreter.size()) == std::string_view::npos;
-    });
-}
-
-/// A helper that has rewritten its title shows all arguments in the first one, joined by spaces.
-bool hasTypeArgument(const ProcInfo& process) {
-    const auto isType = [](const std::string& argument) { return argument.starts_with("--type="); };
-    return std::any_of(process.args.begin(), process.args.end(), isType) ||
-           (!process.args.empty() && process.args.front().find(" --type=") != std::string::npos);
-}
-
 /// The rules for one application over one list of processes.
 class Recognition {
 public:
     Recognition(const std::vector<ProcInfo>& processes, const ApplicationIdentity& identity,
                 const fs::path& folder)
-        : m_processes(processes), m_identity(identity) {
+        : m_processes(processes), m_identity(identity), m_family(processes) {
         if (!folder.empty())
             m_folder = (folder / "").native();
-        for (const ProcInfo& process : processes)
-            m_byPid.emplace(process.pid, &process);
     }
 
     std::vector<RunningApplication> mainProcesses() const {
         std::vector<RunningApplication> applications;
         for (const ProcInfo& process : m_processes) {
             const auto isMain = [this](const ProcInfo& ancestor) { return isCandidate(ancestor); };
-            if (isCandidate(process) && !hasAncestor(process, isMain))
+            if (isCandidate(process) && m_family.ancestor(process, isMain) == nullptr)
                 applications.push_back({process.pid, process.startTime});
         }
         return applications;
@@ -66,8 +40,7 @@ private:
         const std::string_view name = std::string_view(process.path).substr(process.path.rfind('/') + 1);
         const bool isOurs =
             liesInFolder(process) || name == m_identity.executableName || isStartedByEntry(process);
-        return isOurs && !isHelperExecutable(name) && !isInterpreter(name) && !hasTypeArgument(process) &&
-               !process.env.contains("ELECTRON_RUN_AS_NODE");
+        return isOurs && canBeMainProcess(process);
     }
 
     /// Programs among the application's resources are started by others too, such as a browser that talks
@@ -93,28 +66,13 @@ private:
         const auto isStarted = [pid = std::string_view(started->second)](const ProcInfo& ancestor) {
             return std::to_string(ancestor.pid) == pid;
         };
-        return isStarted(process) || hasAncestor(process, isStarted);
-    }
-
-    /// Processes come and go while the list is read, so that a reused pid can close a circle.
-    template <typename Test>
-    bool hasAncestor(const ProcInfo& process, Test test) const {
-        auto parent = m_byPid.find(process.ppid);
-        for (std::size_t steps = 0; parent != m_byPid.end() && steps < m_processes.size(); ++steps) {
-            const ProcInfo& ancestor = *parent->second;
-            if (ancestor.pid == process.pid)
-                return false;
-            if (test(ancestor))
-                return true;
-            parent = m_byPid.find(ancestor.ppid);
-        }
-        return false;
+        return isStarted(process) || m_family.ancestor(process, isStarted) != nullptr;
     }
 
     const std::vector<ProcInfo>& m_processes;
     const ApplicationIdentity& m_identity;
     std::string m_folder; ///< with a slash at its end; empty when unknown
-    std::unordered_map<std::int32_t, const ProcInfo*> m_byPid;
+    const ProcessFamily m_family;
 };
 
 } // namespace

@@ -55,13 +55,14 @@ public:
         return mainProcesses(processes, m_identity, installed ? installed->folder : fs::path());
     }
 
-    void open(const Application& application, const OpenConfiguration& configuration) override {
+    OpenedApplication open(const Application& application, const OpenConfiguration& configuration) override {
         std::vector<std::string> arguments = application.arguments;
         arguments.insert(arguments.end(), configuration.arguments.begin(), configuration.arguments.end());
         const bool hasEntry = !application.entry.empty();
-        process::startDetached(application.executable, arguments,
-                               startEnvironment(application, configuration), startFolder(application),
-                               hasEntry ? kEntryPidVariable : "");
+        const process::Started started = process::startDetached(
+            application.executable, arguments, startEnvironment(application, configuration),
+            startFolder(application), hasEntry ? kEntryPidVariable : "");
+        return {{started.pid, started.startTime}, started.pid};
     }
 
     void terminate(const RunningApplication& app) override { sendSignal(app, SIGTERM); }

@@ -4,6 +4,7 @@
 #include "platform/ProcInfo.h"
 
 #include <sys/sysctl.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <array>
@@ -62,6 +63,7 @@ std::optional<ProcInfo> ProcInfo::read(std::int32_t pid) {
         info.ppid = static_cast<std::int32_t>(status->pbi_ppid);
         info.startTime = startTimeOf(*status);
     }
+    info.session = std::max(::getsid(pid), 0);
     ProcessArguments started = processArguments(argumentsArea(pid));
     info.args = std::move(started.args);
     info.env = std::move(started.env);
@@ -83,6 +85,32 @@ std::vector<ProcInfo> ProcInfo::all() {
             processes.push_back(std::move(*process));
     }
     return processes;
+}
+
+std::vector<std::string> ProcInfo::openFiles(std::int32_t pid) {
+    const int expected = ::proc_pidinfo(pid, PROC_PIDLISTFDS, 0, nullptr, 0);
+    if (expected <= 0)
+        return {};
+    constexpr std::size_t kSpare = 64; // some may be opened between the two calls
+    std::vector<proc_fdinfo> files(static_cast<std::size_t>(expected) / sizeof(proc_fdinfo) + kSpare);
+    const int listed = ::proc_pidinfo(pid, PROC_PIDLISTFDS, 0, files.data(),
+                                      static_cast<int>(files.size() * sizeof(proc_fdinfo)));
+    files.resize(static_cast<std::size_t>(std::max(listed, 0)) / sizeof(proc_fdinfo));
+    std::vector<std::string> paths;
+    for (const proc_fdinfo& file : files) {
+        vnode_fdinfowithpath info = {};
+        constexpr int kSize = sizeof info;
+        if (file.proc_fdtype == PROX_FDTYPE_VNODE &&
+            ::proc_pidfdinfo(pid, file.proc_fd, PROC_PIDFDVNODEPATHINFO, &info, kSize) == kSize)
+            paths.emplace_back(info.pvip.vip_path);
+    }
+    return paths;
+}
+
+/// The kernel tells the time of day, in microseconds.
+std::uint64_t ProcInfo::startTimeAt(std::chrono::system_clock::time_point moment) {
+    const auto since = std::chrono::duration_cast<std::chrono::microseconds>(moment.time_since_epoch());
+    return static_cast<std::uint64_t>(std::max<std::int64_t>(since.count(), 0));
 }
 
 } // namespace selvane

@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <csignal>
 #include <set>
+#include <variant>
 
 #include "model/LauncherError.h"
 #import "platform/macos/FoundationTypes.h"
@@ -34,6 +35,11 @@ bool isAlive(const RunningApplication& app) {
 NSRunningApplication* systemApplication(const RunningApplication& app) {
     NSRunningApplication* found = [NSRunningApplication runningApplicationWithProcessIdentifier:app.pid];
     return isAlive(app) ? found : nil;
+}
+
+RunningApplication runningApplication(pid_t pid) {
+    const auto status = processStatus(pid);
+    return {pid, status ? startTimeOf(*status) : 0};
 }
 
 NSArray<NSString*>* listOf(const std::vector<std::string>& texts) {
@@ -63,20 +69,23 @@ NSWorkspaceOpenConfiguration* systemConfiguration(const OpenConfiguration& confi
     return result;
 }
 
-/// Opens and waits. Returns why it failed, if it did. The answer comes on a queue of the system's own, so
+/// Opens and waits. Returns what was opened, or why it failed. The answer comes on a queue of the system's own, so
 /// that waiting is safe on any thread, with or without a run loop.
-std::optional<std::string> openAndWait(NSURL* application, NSWorkspaceOpenConfiguration* configuration) {
-    __block std::optional<std::string> failure;
+std::variant<RunningApplication, std::string> openAndWait(NSURL* application,
+                                                          NSWorkspaceOpenConfiguration* configuration) {
+    __block std::variant<RunningApplication, std::string> result;
     dispatch_semaphore_t answered = dispatch_semaphore_create(0);
     [NSWorkspace.sharedWorkspace openApplicationAtURL:application
                                         configuration:configuration
                                     completionHandler:^(NSRunningApplication* opened, NSError* error) {
                                       if (opened == nil)
-                                          failure = macos::reasonOf(error);
+                                          result = macos::reasonOf(error);
+                                      else
+                                          result = runningApplication(opened.processIdentifier);
                                       dispatch_semaphore_signal(answered);
                                     }];
     dispatch_semaphore_wait(answered, DISPATCH_TIME_FOREVER);
-    return failure;
+    return result;
 }
 
 class MacWorkspace final : public Workspace {
@@ -113,13 +122,15 @@ public:
         return result;
     }
 
-    void open(const Application& application, const OpenConfiguration& configuration) override {
-        std::optional<std::string> failure;
+    OpenedApplication open(const Application& application,
+                           const OpenConfiguration& configuration) override {
+        std::variant<RunningApplication, std::string> result;
         @autoreleasepool {
-            failure = openAndWait(urlOf(application.folder, true), systemConfiguration(configuration));
+            result = openAndWait(urlOf(application.folder, true), systemConfiguration(configuration));
         }
-        if (failure)
+        if (const auto* failure = std::get_if<std::string>(&result))
             throw LauncherError("«" + application.folder.stem().string() + "» non si apre: " + *failure);
+        return {std::get<RunningApplication>(result), 0};
     }
 
     void terminate(const RunningApplication& app) override {

@@ -9,9 +9,12 @@
 #include <sys/param.h>
 #include <sys/types.h>
 
+#define PROC_PIDLISTFDS 1
 #define PROC_PIDTBSDINFO 3
 #define PROC_PIDTBSDINFO_SIZE (sizeof(struct proc_bsdinfo))
 #define PROC_PIDPATHINFO_MAXSIZE (4 * 1024)
+#define PROC_PIDFDVNODEPATHINFO 2
+#define PROX_FDTYPE_VNODE 1
 #define MAXCOMLEN 16
 
 struct proc_bsdinfo {
@@ -40,8 +43,36 @@ struct proc_bsdinfo {
 };
 static_assert(sizeof(struct proc_bsdinfo) == 136, "the size that the kernel fills");
 
+struct proc_fdinfo {
+    int32_t proc_fd;
+    uint32_t proc_fdtype;
+};
+
+struct proc_fileinfo {
+    uint32_t fi_openflags;
+    uint32_t fi_status;
+    int64_t fi_offset;
+    int32_t fi_type;
+    uint32_t fi_guardflags;
+};
+
+struct vnode_info {
+    unsigned char vi_bytes[152]; // of which nothing is used
+};
+
+struct vnode_info_path {
+    struct vnode_info vip_vi;
+    char vip_path[MAXPATHLEN];
+};
+
+struct vnode_fdinfowithpath {
+    struct proc_fileinfo pfi;
+    struct vnode_info_path pvip;
+};
+
 extern "C" {
 int proc_listallpids(void* buffer, int size);
 int proc_pidinfo(int pid, int flavor, uint64_t arg, void* buffer, int size);
+int proc_pidfdinfo(int pid, int fd, int flavor, void* buffer, int size);
 int proc_pidpath(int pid, void* buffer, uint32_t size);
 }

@@ -10,3 +10,5 @@
 #include_next <unistd.h>
 #undef environ
 #undef pipe2
+
+#define _CS_DARWIN_USER_TEMP_DIR 65537

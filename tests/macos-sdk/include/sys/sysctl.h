@@ -12,3 +12,4 @@
 
 extern "C" int sysctl(int* name, unsigned int parts, void* value, size_t* size, void* newValue,
                       size_t newSize);
+extern "C" int sysctlbyname(const char* name, void* value, size_t* size, void* newValue, size_t newSize);

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "desktop/ClaudeArguments.h"
+
+#include <algorithm>
+
+namespace selvane {
+namespace {
+
+/// Separate arguments begin with the program; whatever follows the joined ones is empty.
+bool areJoined(const std::vector<std::string>& arguments) {
+    return !arguments.empty() && arguments.front().find(" --") != std::string::npos &&
+           std::all_of(arguments.begin() + 1, arguments.end(),
+                       [](const std::string& argument) { return argument.empty(); });
+}
+
+} // namespace
+
+std::optional<std::string> dataDirArgument(const ProcInfo& process, const DataFolders& folders) {
+    if (areJoined(process.args)) {
+        const std::string_view text = process.args.front();
+        const std::size_t found = text.find(" " + std::string(kDataDirSwitch));
+        if (found == std::string_view::npos)
+            return std::nullopt;
+        return folders.named(text.substr(found + 1 + kDataDirSwitch.size()));
+    }
+    for (const std::string& argument : process.args) {
+        if (argument.starts_with(kDataDirSwitch) && argument.size() > kDataDirSwitch.size())
+            return normalizedPath(argument.substr(kDataDirSwitch.size()));
+    }
+    return std::nullopt;
+}
+
+bool namesDataFolder(const ProcInfo& process, const std::string& folder, const DataFolders& folders) {
+    if (areJoined(process.args)) {
+        const std::string_view text = process.args.front();
+        for (std::size_t at = text.find('='); at != std::string_view::npos; at = text.find('=', at + 1)) {
+            if (folders.named(text.substr(at + 1)) == folder)
+                return true;
+        }
+    }
+    return std::any_of(process.args.begin(), process.args.end(), [&](const std::string& argument) {
+        return argument.find(folder + "/") != std::string::npos || argument.ends_with("=" + folder);
+    });
+}
+
+} // namespace selvane

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "desktop/DataFolders.h"
+
+#include <algorithm>
+
+namespace selvane {
+
+namespace fs = std::filesystem;
+
+std::string normalizedPath(const std::string& path) {
+    std::string result = fs::absolute(path).lexically_normal().string();
+    while (result.size() > 1 && result.ends_with('/'))
+        result.pop_back();
+    return result;
+}
+
+DataFolders::DataFolders(const fs::path& normal, const fs::path& accountsFolder,
+                         const std::vector<std::string>& accounts)
+    : m_normal(normalizedPath(normal.string())), m_accountsFolder(normalizedPath(accountsFolder.string())),
+      m_all({m_normal}) {
+    for (const std::string& account : accounts)
+        m_all.push_back(m_accountsFolder + "/" + account);
+    std::sort(m_all.begin(), m_all.end(),
+              [](const std::string& a, const std::string& b) { return a.size() > b.size(); });
+}
+
+std::string DataFolders::holding(std::string_view file) const {
+    for (const std::string& folder : m_all) {
+        if (file.starts_with(folder) && file.substr(folder.size()).starts_with('/'))
+            return folder;
+    }
+    return {};
+}
+
+std::string DataFolders::named(std::string_view text) const {
+    for (const std::string& folder : m_all) {
+        if (!text.starts_with(folder))
+            continue;
+        const std::string_view rest = text.substr(folder.size());
+        const std::size_t end = rest.find_first_not_of('/');
+        if (end == std::string_view::npos || rest[end] == ' ')
+            return folder;
+    }
+    return {};
+}
+
+} // namespace selvane

@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "desktop/LaunchNotes.h"
+
+#include <filesystem>
+#include <string_view>
+
+#include "model/ByteText.h"
+#include "platform/FileManager.h"
+#include "platform/Json.h"
+#include "platform/Machine.h"
+#include "platform/RuntimeFolder.h"
+
+namespace selvane {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view kPrefix = "launch-";
+
+std::string nameOf(const LaunchNote& note) {
+    return std::string(kPrefix) + std::to_string(note.opened.app.pid) + ".json";
+}
+
+std::string serialized(const LaunchNote& note) {
+    const Json config = note.config ? Json(textFromBytes(*note.config)) : Json(nullptr);
+    return json::serialized({{"pid", note.opened.app.pid},
+                             {"startTime", note.opened.app.startTime},
+                             {"session", note.opened.session},
+                             {"boot", bootId()},
+                             {"profile", textFromBytes(note.profile)},
+                             {"dataDir", textFromBytes(note.dataDir)},
+                             {"configDir", config}});
+}
+
+/// Throws when the record isn't one of ours, and gives nothing when it is of an earlier run of the system.
+std::optional<LaunchNote> parsed(const std::string& record, const fs::path& file) {
+    const Json object = json::parse(record, file);
+    if (object.at("boot").get<std::string>() != bootId())
+        return std::nullopt;
+    LaunchNote note;
+    note.opened.app = {object.at("pid").get<std::int32_t>(), object.at("startTime").get<std::uint64_t>()};
+    note.opened.session = object.at("session").get<std::int32_t>();
+    note.profile = bytesFromText(object.at("profile").get<std::string>());
+    note.dataDir = bytesFromText(object.at("dataDir").get<std::string>());
+    if (const Json& config = object.at("configDir"); !config.is_null())
+        note.config = bytesFromText(config.get<std::string>());
+    return note;
+}
+
+void removeIfPossible(const fs::path& file) {
+    std::error_code ignored;
+    fs::remove(file, ignored);
+}
+
+} // namespace
+
+void LaunchNotes::add(const LaunchNote& note) const {
+    try {
+        if (const auto folder = runtimeFolder(m_environment))
+            FileManager().write(*folder / nameOf(note), serialized(note), Privacy::ownerOnly);
+    } catch (const fs::filesystem_error&) { // the copy runs all the same
+    }
+}
+
+void LaunchNotes::remove(const LaunchNote& note) const {
+    if (const auto folder = runtimeFolder(m_environment))
+        removeIfPossible(*folder / nameOf(note));
+}
+
+std::vector<LaunchNote> LaunchNotes::all() const {
+    const auto folder = runtimeFolder(m_environment);
+    if (!folder)
+        return {};
+    const FileManager files;
+    std::vector<LaunchNote> notes;
+    for (const std::string& name : files.entriesIfReadable(*folder)) {
+        const fs::path file = *folder / name;
+        if (!name.starts_with(kPrefix))
+            continue;
+        try {
+            std::optional<LaunchNote> note = parsed(files.read(file), file);
+            if (note)
+                notes.push_back(std::move(*note));
+            else
+                removeIfPossible(file);
+        } catch (const std::exception&) { // no note of ours, or gone meanwhile
+            continue;
+        }
+    }
+    return notes;
+}
+
+} // namespace selvane

@@ -1,0 +1,334 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "desktop/OpenCopies.h"
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+#include "desktop/ClaudeArguments.h"
+#include "platform/Locations.h"
+#include "platform/MainProcess.h"
+#include "platform/ProcessFamily.h"
+
+namespace selvane {
+namespace {
+
+constexpr std::string_view kConfigDirVariable = "CLAUDE_CONFIG_DIR";
+
+const std::string* variable(const ProcInfo& process, std::string_view name) {
+    const auto found = process.env.find(std::string(name));
+    return found == process.env.end() || found->second.empty() ? nullptr : &found->second;
+}
+
+/// An environment that was wiped holds nothing, or a part of the process's title.
+bool hasEnvironment(const ProcInfo& process) {
+    return variable(process, "HOME") || variable(process, "PATH") || variable(process, kConfigDirVariable);
+}
+
+/// Servers and tools are often started with the few variables that every program needs. Those of the session
+/// show that all were handed on.
+bool hasSessionEnvironment(const ProcInfo& process) {
+    return variable(process, "DISPLAY") || variable(process, "WAYLAND_DISPLAY") ||
+           variable(process, "DBUS_SESSION_BUS_ADDRESS") || variable(process, "XDG_RUNTIME_DIR");
+}
+
+bool isCrashHandler(const ProcInfo& process) {
+    return process.path.ends_with("/chrome_crashpad_handler");
+}
+
+/// Weighs the evidence for one look at the machine.
+class Weighing {
+public:
+    explicit Weighing(const CopyEvidence& evidence)
+        : m_evidence(evidence), m_folders(evidence.folders), m_family(evidence.processes) {}
+
+    std::vector<OpenCopy> copies() {
+        addLocked();
+        addNoted();
+        addRecognised();
+        addRelatives();
+        for (auto& [pid, copy] : m_copies)
+            copy.dataDir = dataDirOf(copy);
+        dropOvertaken();
+        std::vector<OpenCopy> result;
+        for (const ProcInfo& process : m_evidence.processes) {
+            if (const auto copy = m_copies.find(process.pid); copy != m_copies.end())
+                result.push_back(finished(copy->second));
+        }
+        return result;
+    }
+
+    bool isHolder(const DataFolderLock& lock, const ProcInfo& process) const {
+        if (lock.host != m_evidence.host || lock.pid != process.pid || !canBeMainProcess(process))
+            return false;
+        const bool wasThere = process.startTime != 0 && process.startTime <= lock.madeBefore;
+        return wasThere || heldBy(process.pid).contains(lock.folder);
+    }
+
+    /// The known data folders in which a process has files open.
+    std::set<std::string> heldBy(std::int32_t pid) const {
+        std::set<std::string> folders;
+        for (const std::string& file : m_evidence.openFiles(pid)) {
+            if (std::string folder = m_folders.holding(file); !folder.empty())
+                folders.insert(std::move(folder));
+        }
+        return folders;
+    }
+
+private:
+    struct Copy {
+        const ProcInfo& process;
+        std::set<std::string> locked; ///< folders whose lock it holds
+        const LaunchNote* note = nullptr;
+        std::string dataDir;
+    };
+
+    Copy& add(const ProcInfo& process) {
+        return m_copies.try_emplace(process.pid, Copy{process, {}, nullptr, {}}).first->second;
+    }
+    bool isCopy(const ProcInfo& process) const { return m_copies.contains(process.pid); }
+    bool isBelowCopy(const ProcInfo& process) const {
+        return m_family.ancestor(process, [this](const ProcInfo& each) { return isCopy(each); }) != nullptr;
+    }
+
+    void addLocked() {
+        for (const DataFolderLock& lock : m_evidence.locks) {
+            const ProcInfo* holder = m_family.find(lock.pid);
+            if (holder != nullptr && isHolder(lock, *holder))
+                add(*holder).locked.insert(lock.folder);
+        }
+    }
+
+    void addNoted() {
+        for (const LaunchNote& note : m_evidence.notes) {
+            if (const ProcInfo* main = mainOf(note))
+                add(*main).note = &note;
+        }
+    }
+
+    /// Wrappers may lie between what was opened and the main process, and may have ended.
+    const ProcInfo* mainOf(const LaunchNote& note) const {
+        const auto isMember = [&](const ProcInfo& each) {
+            return belongsTo(note.opened, each, m_family) && canBeMainProcess(each);
+        };
+        const auto topmost = [&](const auto& test) -> const ProcInfo* {
+            const auto isWanted = [&](const ProcInfo& each) { return isMember(each) && test(each); };
+            for (const ProcInfo& process : m_evidence.processes) {
+                if (isWanted(process) && m_family.ancestor(process, isWanted) == nullptr)
+                    return &process;
+            }
+            return nullptr;
+        };
+        if (const ProcInfo* locked = topmost([this](const ProcInfo& each) { return isCopy(each); }))
+            return locked;
+        if (const ProcInfo* known = topmost([this](const ProcInfo& each) { return isRecognised(each); }))
+            return known;
+        return topmost([](const ProcInfo&) { return true; });
+    }
+    bool isRecognised(const ProcInfo& process) const {
+        return std::ranges::count(m_evidence.recognised, process.pid, &RunningApplication::pid) > 0;
+    }
+
+    void addRecognised() {
+        for (const RunningApplication& app : m_evidence.recognised) {
+            const ProcInfo* process = m_family.find(app.pid);
+            if (process != nullptr && !isBelowCopy(*process))
+                add(*process);
+        }
+    }
+
+    /// Others that run the executable of a copy. It may be one that other applications run too, so these need
+    /// a proof of their own.
+    void addRelatives() {
+        std::set<std::string_view> executables;
+        for (const auto& [pid, copy] : m_copies)
+            executables.insert(copy.process.path);
+        for (const ProcInfo& process : m_evidence.processes) {
+            if (executables.contains(process.path) && canBeMainProcess(process) && !isBelowCopy(process) &&
+                !isCopy(process) && usesKnownFolder(process))
+                add(process);
+        }
+    }
+    bool usesKnownFolder(const ProcInfo& process) const {
+        const std::optional<std::string> named = dataDirArgument(process, m_folders);
+        return named ? std::ranges::count(m_folders.all(), *named) > 0 : !heldBy(process.pid).empty();
+    }
+
+    /// What an application without an argument for it uses: the normal folder of its own home.
+    std::string normalFolderOf(const Copy& copy) const {
+        const ProcInfo* source = environmentOf(copy);
+        for (const ProcInfo* process : m_family.descendants(copy.process.pid)) {
+            if (source == nullptr && hasSessionEnvironment(*process))
+                source = process;
+        }
+        if (source == nullptr || variable(*source, "HOME") == nullptr)
+            return m_folders.normal();
+        return normalizedPath(applicationDataFolder(source->env, "Claude", [] { return true; }).string());
+    }
+
+    std::string dataDirOf(const Copy& copy) const {
+        std::set<std::string> claims = copy.locked;
+        if (copy.note != nullptr)
+            claims.insert(copy.note->dataDir);
+        const bool isReadable = !copy.process.args.empty();
+        const std::optional<std::string> argument = dataDirArgument(copy.process, m_folders);
+        if (argument)
+            claims.insert(*argument);
+        else if (isReadable && !claims.empty())
+            claims.insert(normalFolderOf(copy));
+        if (claims.size() == 1 && !claims.begin()->empty())
+            return *claims.begin();
+
+        const std::set<std::string> held = heldByCopy(copy);
+        if (held.size() == 1)
+            return *held.begin();
+        if (!copy.locked.empty())
+            return *copy.locked.begin();
+        if (copy.note != nullptr)
+            return copy.note->dataDir;
+        if (argument || !isReadable)
+            return argument.value_or("");
+        const std::string normal = normalFolderOf(copy);
+        const bool isElsewhere =
+            isLocked(normal) || (normal == m_folders.normal() && showsFiles(copy.process.pid));
+        return isElsewhere ? "" : normal;
+    }
+
+    /// A copy that shows its files shows some of its data folder.
+    bool showsFiles(std::int32_t pid) const {
+        return std::ranges::any_of(m_evidence.openFiles(pid),
+                                   [](const std::string& file) { return !file.starts_with("/dev/"); });
+    }
+
+    std::set<std::string> heldByCopy(const Copy& copy) const {
+        std::set<std::string> held = heldBy(copy.process.pid);
+        if (held.empty()) {
+            for (const ProcInfo* process : m_family.descendants(copy.process.pid))
+                held.merge(heldBy(process->pid));
+        }
+        return held;
+    }
+    bool isLocked(const std::string& folder) const {
+        return std::any_of(m_copies.begin(), m_copies.end(),
+                           [&](const auto& entry) { return entry.second.locked.contains(folder); });
+    }
+
+    /// A folder is used by the copy that has its lock. Another one is about to end, or only led to it.
+    void dropOvertaken() {
+        std::set<std::string> locked;
+        for (const auto& [pid, copy] : m_copies)
+            locked.insert(copy.locked.begin(), copy.locked.end());
+        std::erase_if(m_copies, [&](const auto& entry) {
+            const Copy& copy = entry.second;
+            const bool isOvertaken = locked.contains(copy.dataDir) && !copy.locked.contains(copy.dataDir);
+            return isOvertaken || (copy.dataDir.empty() && leadsToCopy(copy));
+        });
+    }
+
+    bool leadsToCopy(const Copy& copy) const {
+        const auto below = m_family.descendants(copy.process.pid);
+        return std::any_of(below.begin(), below.end(),
+                           [this](const ProcInfo* process) { return isCopy(*process); });
+    }
+
+    OpenCopy finished(const Copy& copy) const {
+        OpenCopy result = {{copy.process.pid, copy.process.startTime}, copy.dataDir, {}, true};
+        if (const ProcInfo* source = environmentOf(copy)) {
+            if (const std::string* config = variable(*source, kConfigDirVariable))
+                result.config = normalizedPath(*config);
+        } else if (copy.note != nullptr && copy.note->dataDir == copy.dataDir) {
+            result.config = copy.note->config;
+        } else {
+            setConfigFromDescendants(result);
+        }
+        return result;
+    }
+
+    void setConfigFromDescendants(OpenCopy& copy) const {
+        copy.isConfigKnown = false;
+        for (const ProcInfo* process : m_family.descendants(copy.pid())) {
+            if (const std::string* config = variable(*process, kConfigDirVariable)) {
+                copy.config = normalizedPath(*config);
+                copy.isConfigKnown = true;
+                return;
+            }
+            copy.isConfigKnown = copy.isConfigKnown || hasSessionEnvironment(*process);
+        }
+    }
+
+    /// The process whose environment is that of the copy's main process, as it was when it started: the main
+    /// process, or its crash handler, which leaves its parent and keeps its environment.
+    const ProcInfo* environmentOf(const Copy& copy) const {
+        if (hasEnvironment(copy.process))
+            return &copy.process;
+        for (const ProcInfo& process : m_evidence.processes) {
+            if (isCrashHandler(process) && hasEnvironment(process) && isHandlerOf(copy, process))
+                return &process;
+        }
+        return nullptr;
+    }
+    bool isHandlerOf(const Copy& copy, const ProcInfo& handler) const {
+        const auto isMain = [&](const ProcInfo& each) { return each.pid == copy.process.pid; };
+        if (m_family.ancestor(handler, isMain) != nullptr || isNamedByHelper(copy, handler.pid))
+            return true;
+        if (handler.startTime < copy.process.startTime)
+            return false;
+        const std::string* starter = variable(handler, "GIO_LAUNCHED_DESKTOP_FILE_PID");
+        const bool writesThere =
+            std::any_of(handler.args.begin(), handler.args.end(), [&](const std::string& argument) {
+                constexpr std::string_view kDatabase = "--database=";
+                return argument.starts_with(kDatabase) && !copy.dataDir.empty() &&
+                       m_folders.holding(std::string_view(argument).substr(kDatabase.size())) == copy.dataDir;
+            });
+        return writesThere || (starter != nullptr && *starter == std::to_string(copy.process.pid));
+    }
+
+    /// Helpers are told where to report a crash.
+    bool isNamedByHelper(const Copy& copy, std::int32_t handler) const {
+        const std::string argument = "--crashpad-handler-pid=" + std::to_string(handler);
+        const auto names = [&](const std::string& text) {
+            const std::size_t found = text.find(argument);
+            const std::size_t end = found + argument.size();
+            return found != std::string::npos && (end == text.size() || text[end] == ' ');
+        };
+        const auto below = m_family.descendants(copy.process.pid);
+        return std::any_of(below.begin(), below.end(), [&](const ProcInfo* process) {
+            return std::any_of(process->args.begin(), process->args.end(), names);
+        });
+    }
+
+    const CopyEvidence& m_evidence;
+    const DataFolders& m_folders;
+    const ProcessFamily m_family;
+    std::map<std::int32_t, Copy> m_copies; ///< by pid
+};
+
+} // namespace
+
+std::vector<OpenCopy> openCopies(const CopyEvidence& evidence) {
+    return Weighing(evidence).copies();
+}
+
+bool usesDataFolder(const CopyEvidence& evidence, std::int32_t pid, const std::string& folder) {
+    const Weighing weighing(evidence);
+    const auto isProof = [&](const DataFolderLock& lock) {
+        const auto process = std::ranges::find(evidence.processes, pid, &ProcInfo::pid);
+        return lock.folder == folder && process != evidence.processes.end() &&
+               weighing.isHolder(lock, *process);
+    };
+    return std::ranges::any_of(evidence.locks, isProof) || weighing.heldBy(pid).contains(folder);
+}
+
+bool belongsTo(const OpenedApplication& opened, const ProcInfo& process, const ProcessFamily& family) {
+    if (opened.session == 0)
+        return RunningApplication{process.pid, process.startTime} == opened.app;
+    if (process.session != opened.session || process.startTime < opened.app.startTime)
+        return false;
+    // The number stays taken while its session lasts. Whoever has it with another start is a later one.
+    const ProcInfo* leader = family.find(opened.session);
+    return leader == nullptr || leader->startTime == opened.app.startTime;
+}
+
+} // namespace selvane

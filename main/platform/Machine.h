@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <string>
+
+namespace selvane {
+
+/// The name of this machine, as programs write it into their locks. It can change while they run.
+std::string hostName();
+
+/// What tells this run of the system from earlier and later ones; empty when the system doesn't say.
+std::string bootId();
+
+} // namespace selvane

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/RuntimeFolder.h"
+
+#include <unistd.h>
+
+#include <string>
+
+namespace selvane {
+
+/// Without a session there may still be its folder, or else the memory that all processes can share.
+std::vector<std::filesystem::path> runtimeFolderPlaces(const Environment& environment) {
+    const std::string user = std::to_string(::geteuid());
+    std::vector<std::filesystem::path> places = {"/run/user/" + user + "/selvane",
+                                                 "/dev/shm/selvane-" + user};
+    const auto session = environment.find("XDG_RUNTIME_DIR");
+    if (session != environment.end() && session->second.starts_with('/'))
+        places.insert(places.begin(), std::filesystem::path(session->second) / "selvane");
+    return places;
+}
+
+} // namespace selvane
