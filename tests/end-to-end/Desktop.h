@@ -15,8 +15,8 @@
 
 namespace selvane::test {
 
-/// A screen with a keyboard, and a session bus through which screen readers reach the applications. Nobody
-/// manages its windows: each has the keyboard when it asks for it. One in a process.
+/// A screen with a keyboard, and a session bus through which screen readers reach the applications. It brings
+/// no window manager: without one, each window has the keyboard when it asks for it. One in a process.
 class Desktop {
 public:
     Desktop();

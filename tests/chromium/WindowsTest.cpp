@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include <csignal>
+#include <map>
+
+#include "chromium/Chromium.h"
+#include "end-to-end/RunningSelvane.h"
+
+namespace selvane::test {
+namespace {
+
+/// Lavoro and Cliente are profiles with accounts of their own; Ospite shares Lavoro's.
+class ChromiumWindows : public Chromium {
+protected:
+    ChromiumWindows() {
+        install(kWrapper, Paths::withBlanks);
+        for (const std::string name : {"Lavoro", "Cliente"})
+            home.output({"create", name});
+        home.output({"create", "Ospite", "--account", "lavoro"});
+    }
+    RunningSelvane start() const { return {home.environment, home.path()}; }
+    static void press(const RunningSelvane& selvane, const std::string& name) {
+        selvane.find(ATSPI_ROLE_PUSH_BUTTON, name).press();
+    }
+};
+
+TEST_F(ChromiumWindows, TheTilesShowAndRaiseOpenCopies) {
+    const pid_t cliente = launched("cliente", "cliente");
+    const pid_t lavoro = launched("lavoro", "lavoro");
+    auto selvane = start();
+    const std::map<std::string, std::string> tiles = {{"Principale", "Mai avviato"},
+                                                      {"Lavoro", "Aperto"},
+                                                      {"Cliente", "Aperto"},
+                                                      {"Ospite", "Mai avviato"}};
+    for (const auto& [name, status] : tiles) {
+        const std::string shown = selvane.find(ATSPI_ROLE_PUSH_BUTTON, name).description();
+        EXPECT_TRUE(shown.starts_with(status + ", ")) << name << ": " << shown;
+    }
+    press(selvane, "Cliente");
+    EXPECT_EQ(selvane.status(), 0);
+    EXPECT_TRUE(soon([&] { return activeWindowOwner() == cliente; })) << activeWindowOwner();
+    EXPECT_TRUE(mains().contains(cliente));
+    EXPECT_TRUE(mains().contains(lavoro));
+}
+
+TEST_F(ChromiumWindows, ACopyThatHangsIsClosedByForce) {
+    const pid_t cliente = launched("cliente", "cliente");
+    const pid_t lavoro = launched("lavoro", "lavoro");
+    ASSERT_EQ(kill(lavoro, SIGSTOP), 0);
+    auto selvane = start();
+    press(selvane, "Ospite");
+    selvane.find(ATSPI_ROLE_ALERT, "Account già aperto in Claude");
+    press(selvane, "Chiudi e riapri");
+    selvane.find(ATSPI_ROLE_ALERT, "Claude non si è chiuso");
+    EXPECT_TRUE(mains().contains(lavoro));
+    press(selvane, "Forza chiusura");
+    EXPECT_EQ(selvane.status(), 0);
+    const pid_t ospite = opened("lavoro", lavoro);
+    EXPECT_EQ(openCopies(), std::set({copy(ospite, data("lavoro"), configuration("ospite")),
+                                      copy(cliente, data("cliente"), configuration("cliente"))}));
+}
+
+} // namespace
+} // namespace selvane::test
