@@ -8,35 +8,12 @@
 #include <set>
 
 #include "desktop/ClaudeArguments.h"
-#include "platform/Locations.h"
+#include "desktop/CopyEnvironment.h"
 #include "platform/MainProcess.h"
 #include "platform/ProcessFamily.h"
 
 namespace selvane {
 namespace {
-
-constexpr std::string_view kConfigDirVariable = "CLAUDE_CONFIG_DIR";
-
-const std::string* variable(const ProcInfo& process, std::string_view name) {
-    const auto found = process.env.find(std::string(name));
-    return found == process.env.end() || found->second.empty() ? nullptr : &found->second;
-}
-
-/// An environment that was wiped holds nothing, or a part of the process's title.
-bool hasEnvironment(const ProcInfo& process) {
-    return variable(process, "HOME") || variable(process, "PATH") || variable(process, kConfigDirVariable);
-}
-
-/// Servers and tools are often started with the few variables that every program needs. Those of the session
-/// show that all were handed on.
-bool hasSessionEnvironment(const ProcInfo& process) {
-    return variable(process, "DISPLAY") || variable(process, "WAYLAND_DISPLAY") ||
-           variable(process, "DBUS_SESSION_BUS_ADDRESS") || variable(process, "XDG_RUNTIME_DIR");
-}
-
-bool isCrashHandler(const ProcInfo& process) {
-    return process.path.ends_with("/chrome_crashpad_handler");
-}
 
 /// Weighs the evidence for one look at the machine.
 class Weighing {
@@ -158,14 +135,8 @@ private:
 
     /// What an application without an argument for it uses: the normal folder of its own home.
     std::string normalFolderOf(const Copy& copy) const {
-        const ProcInfo* source = environmentOf(copy);
-        for (const ProcInfo* process : m_family.descendants(copy.process.pid)) {
-            if (source == nullptr && hasSessionEnvironment(*process))
-                source = process;
-        }
-        if (source == nullptr || variable(*source, "HOME") == nullptr)
-            return m_folders.normal();
-        return normalizedPath(applicationDataFolder(source->env, "Claude", [] { return true; }).string());
+        return CopyEnvironment(m_evidence, m_family, copy.process, copy.dataDir)
+            .normalDataDir(m_folders.normal());
     }
 
     std::string dataDirOf(const Copy& copy) const {
@@ -235,68 +206,8 @@ private:
 
     OpenCopy finished(const Copy& copy) const {
         OpenCopy result = {{copy.process.pid, copy.process.startTime}, copy.dataDir, {}, true};
-        if (const ProcInfo* source = environmentOf(copy)) {
-            if (const std::string* config = variable(*source, kConfigDirVariable))
-                result.config = normalizedPath(*config);
-        } else if (copy.note != nullptr && copy.note->dataDir == copy.dataDir) {
-            result.config = copy.note->config;
-        } else {
-            setConfigFromDescendants(result);
-        }
+        CopyEnvironment(m_evidence, m_family, copy.process, copy.dataDir).tellConfig(result, copy.note);
         return result;
-    }
-
-    void setConfigFromDescendants(OpenCopy& copy) const {
-        copy.isConfigKnown = false;
-        for (const ProcInfo* process : m_family.descendants(copy.pid())) {
-            if (const std::string* config = variable(*process, kConfigDirVariable)) {
-                copy.config = normalizedPath(*config);
-                copy.isConfigKnown = true;
-                return;
-            }
-            copy.isConfigKnown = copy.isConfigKnown || hasSessionEnvironment(*process);
-        }
-    }
-
-    /// The process whose environment is that of the copy's main process, as it was when it started: the main
-    /// process, or its crash handler, which leaves its parent and keeps its environment.
-    const ProcInfo* environmentOf(const Copy& copy) const {
-        if (hasEnvironment(copy.process))
-            return &copy.process;
-        for (const ProcInfo& process : m_evidence.processes) {
-            if (isCrashHandler(process) && hasEnvironment(process) && isHandlerOf(copy, process))
-                return &process;
-        }
-        return nullptr;
-    }
-    bool isHandlerOf(const Copy& copy, const ProcInfo& handler) const {
-        const auto isMain = [&](const ProcInfo& each) { return each.pid == copy.process.pid; };
-        if (m_family.ancestor(handler, isMain) != nullptr || isNamedByHelper(copy, handler.pid))
-            return true;
-        if (handler.startTime < copy.process.startTime)
-            return false;
-        const std::string* starter = variable(handler, "GIO_LAUNCHED_DESKTOP_FILE_PID");
-        const bool writesThere =
-            std::any_of(handler.args.begin(), handler.args.end(), [&](const std::string& argument) {
-                constexpr std::string_view kDatabase = "--database=";
-                return argument.starts_with(kDatabase) && !copy.dataDir.empty() &&
-                       m_folders.holding(std::string_view(argument).substr(kDatabase.size())) == copy.dataDir;
-            });
-        return writesThere || (starter != nullptr && *starter == std::to_string(copy.process.pid));
-    }
-
-    /// Helpers are told where to report a crash.
-    bool isNamedByHelper(const Copy& copy, std::int32_t handler) const {
-        const std::string argument = "--crashpad-handler-pid=" + std::to_string(handler);
-        const auto names = [&](const std::string& text) {
-            const std::size_t found = text.find(argument);
-            const std::size_t end = found + argument.size();
-            return found != std::string::npos && (end == text.size() || text[end] == ' ');
-        };
-        const auto below = m_family.descendants(copy.process.pid);
-        return std::any_of(below.begin(), below.end(), [&](const ProcInfo* process) {
-            return std::any_of(process->args.begin(), process->args.end(), names);
-        });
     }
 
     const CopyEvidence& m_evidence;

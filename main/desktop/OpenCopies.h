@@ -49,7 +49,7 @@ struct CopyEvidence {
 /// then the arguments. A copy has the normal folder without further proof only when its arguments can be read
 /// and name no other, nothing says that its home is another one, and its open files can't be seen. A
 /// configuration is told by the environment of the main process or its crash handler, then by the note, then
-/// by the other processes below it.
+/// by the other processes below it, then by a crash handler that seems to be its own.
 std::vector<OpenCopy> openCopies(const CopyEvidence& evidence);
 
 /// Whether the lock or the open files show that a process uses a data folder.

@@ -28,6 +28,8 @@ struct ProcInfo {
     static std::vector<ProcInfo> all();
     /// The paths of the files that a process has open; empty when it can't be asked.
     static std::vector<std::string> openFiles(std::int32_t pid);
+    /// The units in which `startTime` counts.
+    static std::uint64_t startTimePerSecond();
     /// The `startTime` of a process that starts at that moment.
     static std::uint64_t startTimeAt(std::chrono::system_clock::time_point moment);
 

@@ -197,6 +197,15 @@ TEST(OpenCopies, EachKindOfEvidence_Alone_TellsTheConfiguration) {
              m.add(200, 100, kApp, {kApp + " --type=renderer --crashpad-handler-pid=150 --lang=it"});
          },
          {copy(kLavoro, kConfig)}},
+        {"crash handler that started right after",
+         [&](Machine& m) { lavoro(m), m.add(110, 1, "/opt/claude/chrome_crashpad_handler", {}, own); },
+         {copy(kLavoro, kConfig)}},
+        {"the same, but another copy started with it",
+         [&](Machine& m) {
+             lavoro(m), m.addMain(kSwitch + kLavoro2, 105);
+             m.add(110, 1, "/opt/claude/chrome_crashpad_handler", {}, own);
+         },
+         {copy(kLavoro, "?"), copy(kLavoro2, "?", 105)}},
         {"descendant", [&](Machine& m) { lavoro(m), kAddChild(m, own); }, {copy(kLavoro, kConfig)}},
         {"descendant with the whole session, but without it",
          [&](Machine& m) {

@@ -5,8 +5,8 @@
 /// folder, helpers of the same executable, signals, and the files of a login and of its sessions. Like the
 /// real one on a desktop with a session bus, its processes join their arguments to one text and wipe their
 /// environment. Where there is a `chrome_crashpad_handler` beside it, that leaves the family and keeps its
-/// environment. It tells in `stand-in.json` in its data folder how it was started. By itself it ends after
-/// ten minutes.
+/// environment. Asked to end, it leaves its lock behind. It tells in `stand-in.json` in its data folder how
+/// it was started. By itself it ends after ten minutes.
 ///
 /// Options, as arguments or separated by spaces in STAND_IN_OPTIONS:
 ///   --user-data-dir=FOLDER     the data folder, else $XDG_CONFIG_HOME/Claude or $HOME/.config/Claude
@@ -314,8 +314,7 @@ int runMain(const Words& arguments, int argc, char** argv) {
     const Options options(arguments);
     const fs::path data = dataFolder(options);
     fs::create_directories(data);
-    const bool hasLock = !options.has("--stand-in-no-lock");
-    if (hasLock && !takeLock(data / "SingletonLock"))
+    if (!options.has("--stand-in-no-lock") && !takeLock(data / "SingletonLock"))
         return 0;
     std::ofstream log;
     if (!options.has("--stand-in-no-files"))
@@ -343,8 +342,6 @@ int runMain(const Words& arguments, int argc, char** argv) {
 
     waitForEnd(options.has("--stand-in-refuse-quit"));
     endHelpers(helpers);
-    if (hasLock)
-        fs::remove(data / "SingletonLock");
     return 0;
 }
 

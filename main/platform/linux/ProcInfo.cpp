@@ -200,6 +200,10 @@ std::vector<std::string> ProcInfo::openFiles(std::int32_t pid) {
     return reader.open(std::to_string(pid).c_str()) ? reader.openFiles() : std::vector<std::string>();
 }
 
+std::uint64_t ProcInfo::startTimePerSecond() {
+    return static_cast<std::uint64_t>(::sysconf(_SC_CLK_TCK));
+}
+
 /// The kernel counts from the boot, in ticks.
 std::uint64_t ProcInfo::startTimeAt(std::chrono::system_clock::time_point moment) {
     using namespace std::chrono;
@@ -207,7 +211,7 @@ std::uint64_t ProcInfo::startTimeAt(std::chrono::system_clock::time_point moment
     ::clock_gettime(CLOCK_BOOTTIME, &sinceBoot);
     const nanoseconds uptime = seconds(sinceBoot.tv_sec) + nanoseconds(sinceBoot.tv_nsec);
     const nanoseconds then = uptime - (system_clock::now() - moment);
-    const auto ticks = duration<double>(then).count() * static_cast<double>(::sysconf(_SC_CLK_TCK));
+    const auto ticks = duration<double>(then).count() * static_cast<double>(startTimePerSecond());
     return ticks < 0 ? 0 : static_cast<std::uint64_t>(ticks);
 }
 

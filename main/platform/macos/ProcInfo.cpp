@@ -107,6 +107,10 @@ std::vector<std::string> ProcInfo::openFiles(std::int32_t pid) {
     return paths;
 }
 
+std::uint64_t ProcInfo::startTimePerSecond() {
+    return 1'000'000;
+}
+
 /// The kernel tells the time of day, in microseconds.
 std::uint64_t ProcInfo::startTimeAt(std::chrono::system_clock::time_point moment) {
     const auto since = std::chrono::duration_cast<std::chrono::microseconds>(moment.time_since_epoch());

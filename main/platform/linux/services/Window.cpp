@@ -99,7 +99,10 @@ void askToActivate(xcb_connection_t* connection, const Atoms& atoms, xcb_window_
     xcb_send_event(connection, 0, root,
                    XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
                    reinterpret_cast<const char*>(&event));
-    xcb_flush(connection);
+    // An answer shows that the server has read the request. It drops what it hasn't read of a client that
+    // leaves.
+    const OwnedReply<xcb_get_input_focus_reply_t> answer(
+        xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
 }
 
 bool raise(std::int32_t pid) {
