@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <sstream>
 
+#include "platform/ProcInfo.h"
 #include "support/Home.h"
 #include "support/InstalledClaude.h"
 
@@ -23,6 +24,12 @@ protected:
                 result += line + "\n";
         }
         return result;
+    }
+    std::vector<fs::path> notes() const {
+        std::vector<fs::path> notes;
+        for (const auto& entry : fs::directory_iterator(home.environment.at("XDG_RUNTIME_DIR") + "/selvane"))
+            notes.push_back(entry.path());
+        return notes;
     }
     std::string openLine(const Json& report, const fs::path& data, const std::string& config) const {
         return "aperto pid=" + report["pid"].dump() + "\tdati=" + data.string() + "\tconfig=" + config + "\n";
@@ -132,6 +139,52 @@ TEST_F(CommandLaunch, WrappersInASharedFolderAreSeenThrough) {
         const Json guest = launch("ospite", normalData);
         EXPECT_EQ(lines("desktop-status", "aperto"), openLine(guest, normalData, profile("ospite")));
         quit(guest);
+        waitUntil([&] { return pids().empty(); });
+    }
+}
+
+TEST_F(CommandLaunch, ACopyIsRecognisedHoweverItShowsItself) {
+    home.output({"create", "Lavoro"});
+    for (const std::string options : {"", "--stand-in-keep-title", "--stand-in-no-lock",
+                                      "--stand-in-no-files", "--stand-in-no-lock --stand-in-no-files"}) {
+        SCOPED_TRACE(options);
+        home.environment["STAND_IN_OPTIONS"] = options;
+        const Json lavoro = launch("lavoro", lavoroData);
+        EXPECT_EQ(lines("desktop-status", "aperto"), openLine(lavoro, lavoroData, profile("lavoro")));
+        const auto before = pids();
+        EXPECT_EQ(home.run({"launch", "lavoro"}), Outcome{});
+        EXPECT_EQ(pids(), before);
+        EXPECT_EQ(notes().size(), 1U);
+        quit(lavoro);
+        waitUntil([&] { return pids().empty(); });
+        EXPECT_EQ(lines("desktop-status", "aperto"), "");
+        EXPECT_EQ(notes().size(), 0U);
+        fs::remove(lavoroData / "SingletonLock");
+    }
+}
+
+TEST_F(CommandLaunch, ACopyThatUsesSomethingElseIsAnError) {
+    home.output({"create", "Lavoro"});
+    home.output({"create", "Ospite", "--account", "default"});
+    const fs::path wrapper = home / "bin/claude-desktop";
+    const std::string place = "»: controlla come viene avviato (" + wrapper.string() + ")";
+    writeEntry("claude-desktop %U");
+    const struct {
+        std::string id;
+        std::string start; ///< of the program
+        std::string message;
+    } cases[] = {{"lavoro", " --altro", "Claude si è aperto, ma non con l'account di «Lavoro"},
+                 {"ospite", " --altro --stand-in-keep-title",
+                  "Claude si è aperto, ma non con la configurazione di «Ospite"}};
+    for (const auto& [id, start, message] : cases) {
+        writeFile(wrapper,
+                  "#!/bin/sh\nunset CLAUDE_CONFIG_DIR\nexec '" + program.string() + "'" + start + "\n");
+        fs::permissions(wrapper, fs::perms(0755));
+        EXPECT_EQ(home.run({"launch", id}), failure(message + place));
+        EXPECT_FALSE(fs::exists(home / ".claude-profiles/.active"));
+        const Json opened = this->opened(normalData);
+        EXPECT_EQ(lines("desktop-status", "aperto").find(profile(id)), std::string::npos);
+        quit(opened);
         waitUntil([&] { return pids().empty(); });
     }
 }

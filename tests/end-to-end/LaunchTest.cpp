@@ -39,6 +39,22 @@ TEST_F(Windows, WhatCannotBeLaunchedIsExplained) {
     EXPECT_EQ(opened(normalData)["claudeConfigDir"], Json());
 }
 
+TEST_F(Windows, ACopyThatUsesAnotherAccountIsAnError) {
+    home.output({"create", "Lavoro"});
+    writeFile(home / "bin/claude-desktop", "#!/bin/sh\nexec '" + program.string() + "'\n");
+    fs::permissions(home / "bin/claude-desktop", fs::perms::owner_all);
+    writeEntry((home / "bin/claude-desktop").string() + " %U");
+    auto selvane = start();
+    press({'2'});
+    const Seen alert = selvane.find(ATSPI_ROLE_ALERT, "Errore");
+    EXPECT_TRUE(alert.description().starts_with("Claude si è aperto, ma non con l'account di «Lavoro»"))
+        << alert;
+    selvane.waitForFocus("OK");
+    press({XK_Return}); // and it stays open
+    selvane.waitUntilGone(ATSPI_ROLE_ALERT, "Errore");
+    selvane.waitForFocus("Principale");
+}
+
 TEST_F(Windows, AnOpenAccountIsTakenOverOnceThatIsConfirmed) {
     home.output({"create", "Ospite", "--account", "default"});
     const Json builtIn = launch("default", normalData);
