@@ -80,6 +80,7 @@ class Runner:
 
     def enter(self, home):
         self.environment["HOME"] = home
+        self.environment["XDG_RUNTIME_DIR"] = home
         os.chdir(home)
 
     def run(self, argv):

@@ -54,6 +54,18 @@ void removeIfPossible(const fs::path& file) {
     fs::remove(file, ignored);
 }
 
+/// Nothing for what isn't a note of this run of the system; one of an earlier run is removed.
+std::optional<LaunchNote> current(const fs::path& file) {
+    try {
+        std::optional<LaunchNote> note = parsed(FileManager().read(file), file);
+        if (!note)
+            removeIfPossible(file);
+        return note;
+    } catch (const std::exception&) { // not one of ours, or gone meanwhile
+        return std::nullopt;
+    }
+}
+
 } // namespace
 
 void LaunchNotes::add(const LaunchNote& note) const {
@@ -65,28 +77,18 @@ void LaunchNotes::add(const LaunchNote& note) const {
 }
 
 void LaunchNotes::remove(const LaunchNote& note) const {
-    if (const auto folder = runtimeFolder(m_environment))
-        removeIfPossible(*folder / nameOf(note));
+    for (const fs::path& folder : runtimeFolders(m_environment))
+        removeIfPossible(folder / nameOf(note));
 }
 
 std::vector<LaunchNote> LaunchNotes::all() const {
-    const auto folder = runtimeFolder(m_environment);
-    if (!folder)
-        return {};
-    const FileManager files;
     std::vector<LaunchNote> notes;
-    for (const std::string& name : files.entriesIfReadable(*folder)) {
-        const fs::path file = *folder / name;
-        if (!name.starts_with(kPrefix))
-            continue;
-        try {
-            std::optional<LaunchNote> note = parsed(files.read(file), file);
-            if (note)
+    for (const fs::path& folder : runtimeFolders(m_environment)) {
+        for (const std::string& name : FileManager().entriesIfReadable(folder)) {
+            if (!name.starts_with(kPrefix))
+                continue;
+            if (std::optional<LaunchNote> note = current(folder / name))
                 notes.push_back(std::move(*note));
-            else
-                removeIfPossible(file);
-        } catch (const std::exception&) { // no note of ours, or gone meanwhile
-            continue;
         }
     }
     return notes;

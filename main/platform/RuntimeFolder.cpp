@@ -32,12 +32,14 @@ bool isPrivate(int descriptor) {
            (status.st_mode & (S_IRWXG | S_IRWXO)) == 0;
 }
 
-bool claim(const fs::path& place) {
+enum class Missing { isMade, isNoFolder };
+
+bool isOurs(const fs::path& place, Missing missing) {
     const files::Descriptor around(::open(place.parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!around || !isSafe(around.get()))
         return false;
     const fs::path name = place.filename();
-    if (::mkdirat(around.get(), name.c_str(), S_IRWXU) != 0 && errno != EEXIST)
+    if (missing == Missing::isMade && ::mkdirat(around.get(), name.c_str(), S_IRWXU) != 0 && errno != EEXIST)
         return false;
     const files::Descriptor own(
         ::openat(around.get(), name.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
@@ -47,12 +49,19 @@ bool claim(const fs::path& place) {
 } // namespace
 
 std::optional<fs::path> privateFolder(const std::vector<fs::path>& places) {
-    const auto found = std::find_if(places.begin(), places.end(), &claim);
+    const auto found = std::find_if(places.begin(), places.end(),
+                                    [](const fs::path& place) { return isOurs(place, Missing::isMade); });
     return found == places.end() ? std::nullopt : std::optional(*found);
 }
 
 std::optional<fs::path> runtimeFolder(const Environment& environment) {
     return privateFolder(runtimeFolderPlaces(environment));
+}
+
+std::vector<fs::path> runtimeFolders(const Environment& environment) {
+    std::vector<fs::path> folders = runtimeFolderPlaces(environment);
+    std::erase_if(folders, [](const fs::path& place) { return !isOurs(place, Missing::isNoFolder); });
+    return folders;
 }
 
 } // namespace selvane

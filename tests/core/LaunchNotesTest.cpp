@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "platform/RuntimeFolder.h"
 #include "support/Home.h"
 
@@ -50,7 +52,9 @@ TEST(RuntimeFolder, PlacesOfOthers_AreLeftAlone) {
     const Environment environment = {{"XDG_RUNTIME_DIR", session.string()}};
     fs::permissions(folder.path(), fs::perms::owner_all);
     makePrivate(session);
+    EXPECT_EQ(std::ranges::count(runtimeFolders(environment), own), 0);
     EXPECT_EQ(runtimeFolder(environment), own);
+    EXPECT_EQ(std::ranges::count(runtimeFolders(environment), own), 1);
     fs::permissions(own, fs::perms(0750));
     EXPECT_EQ(privateFolder({own, second}), second) << "others can look into it";
     fs::remove(own);

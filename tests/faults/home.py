@@ -28,7 +28,7 @@ class Home:
         share = f"{path}/.local/share"
         # A substitute data folder: other copies of Claude Desktop that run here don't matter.
         self.environment = {
-            "PATH": "/usr/bin:/bin", "LC_ALL": "C.UTF-8", "HOME": str(path), "TMPDIR": f"{path}/tmp",
+            "PATH": "/usr/bin:/bin", "LC_ALL": "C.UTF-8", "HOME": str(path), "TMPDIR": f"{path}/tmp", "XDG_RUNTIME_DIR": f"{path}/tmp",
             "XDG_CONFIG_HOME": f"{path}/.config", "XDG_DATA_HOME": share, "XDG_DATA_DIRS": share,
             "XDG_CACHE_HOME": f"{path}/.cache", "CLAUDE_LAUNCHER_DESKTOP_DIR": f"{path}/.config/Claude"}
 
