@@ -137,20 +137,32 @@ std::vector<ProcInfo> ClaudeApp::allProcesses(const DataFolders& folders) const 
     if (const auto installed = application(); installed && !installed->folder.empty())
         prefixes.push_back(installed->folder.string() + "/");
 
-    Look now = look(folders);
-    // Copies started through a wrapper in a shared folder lie in none of these places: what runs the
-    // executable of a main process belongs to it as well.
+    const Look now = look(folders);
+    // Copies started through a wrapper in a shared folder lie in none of these places. What runs the
+    // executable of a copy belongs to it as well, unless other applications run it too.
+    const ProcessFamily family(now.processes);
+    const auto isCopy = [&](const ProcInfo& process) {
+        return std::ranges::count(now.copies, process.pid, &Instance::pid) > 0;
+    };
     std::set<std::string> executables;
     for (const ProcInfo& process : now.processes) {
-        if (std::ranges::count(now.copies, process.pid, &Instance::pid) > 0)
+        if (isCopy(process))
             executables.insert(process.path);
     }
-    std::erase_if(now.processes, [&](const ProcInfo& process) {
-        return !executables.contains(process.path) &&
-               std::none_of(prefixes.begin(), prefixes.end(),
-                            [&](const std::string& prefix) { return process.path.starts_with(prefix); });
-    });
-    return std::move(now.processes);
+    const auto isRelated = [&](const ProcInfo& process) {
+        return isCopy(process) || family.ancestor(process, isCopy) != nullptr ||
+               std::ranges::any_of(folders.all(), [&](const std::string& folder) {
+                   return namesDataFolder(process, folder, folders);
+               });
+    };
+    std::vector<ProcInfo> result;
+    for (const ProcInfo& process : now.processes) {
+        const bool liesThere = std::ranges::any_of(
+            prefixes, [&](const std::string& prefix) { return process.path.starts_with(prefix); });
+        if (liesThere || (executables.contains(process.path) && isRelated(process)))
+            result.push_back(process);
+    }
+    return result;
 }
 
 void ClaudeApp::activate(const Instance& instance) const {
@@ -197,7 +209,7 @@ void ClaudeApp::launch(const Profile& profile, ProfileStore& store) const {
     note.opened = m_workspace.open(installed, configuration(profile, dataDir, store.liveDesktopDir()));
     if (!store.testMode()) {
         m_notes.add(note);
-        awaitCopy(note, profile, store);
+        awaitCopy(note, profile, store, installed.executable);
     }
     store.markLaunched(profile);
 }
@@ -215,7 +227,8 @@ void ClaudeApp::requireFree(const Profile& profile, const ProfileStore& store) c
 
 /// Looks until the new copy shows the data folder it was given. Its own word counts here: the note says what
 /// it should be.
-void ClaudeApp::awaitCopy(const LaunchNote& note, const Profile& profile, const ProfileStore& store) const {
+void ClaudeApp::awaitCopy(const LaunchNote& note, const Profile& profile, const ProfileStore& store,
+                          const fs::path& executable) const {
     const auto deadline = m_clock.now() + kOpeningTimeout;
     for (;;) {
         const bool isLast = m_clock.now() >= deadline;
@@ -238,8 +251,7 @@ void ClaudeApp::awaitCopy(const LaunchNote& note, const Profile& profile, const 
             m_notes.remove(note);
             const std::string what = copy.dataDir != note.dataDir ? "l'account" : "la configurazione";
             throw LauncherError("Claude si è aperto, ma non con " + what + " di «" + profile.meta.name +
-                                "»: controlla come viene avviato (" +
-                                requireApplication().executable.string() + ")");
+                                "»: controlla come viene avviato (" + executable.string() + ")");
         }
         if (isLast)
             return;

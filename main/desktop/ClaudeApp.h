@@ -77,7 +77,8 @@ private:
     CopyEvidence evidence(const std::vector<ProcInfo>& processes, std::vector<LaunchNote> notes,
                           const DataFolders& folders) const;
     void requireFree(const Profile& profile, const ProfileStore& store) const;
-    void awaitCopy(const LaunchNote& note, const Profile& profile, const ProfileStore& store) const;
+    void awaitCopy(const LaunchNote& note, const Profile& profile, const ProfileStore& store,
+                   const std::filesystem::path& executable) const;
 
     Workspace& m_workspace;
     Clock& m_clock;

@@ -48,8 +48,7 @@ void setConfig(OpenCopy& copy, const ProcInfo& source) {
 
 CopyEnvironment::CopyEnvironment(const CopyEvidence& evidence, const ProcessFamily& family,
                                  const ProcInfo& main, const std::string& dataDir)
-    : m_evidence(evidence), m_family(family), m_main(main), m_dataDir(dataDir),
-      m_descendants(family.descendants(main.pid)) {}
+    : m_evidence(evidence), m_main(main), m_dataDir(dataDir), m_descendants(family.descendants(main.pid)) {}
 
 std::string CopyEnvironment::normalDataDir(const std::string& otherwise) const {
     const ProcInfo* source = original();

@@ -12,7 +12,7 @@ namespace selvane {
 /// processes tell what it was: crash handlers, and what the copy has started.
 class CopyEnvironment {
 public:
-    /// All three must live longer. `dataDir` is the copy's data folder, empty when it isn't known yet.
+    /// They must live longer. `dataDir` is the copy's data folder, empty when it isn't known yet.
     CopyEnvironment(const CopyEvidence& evidence, const ProcessFamily& family, const ProcInfo& main,
                     const std::string& dataDir);
 
@@ -29,7 +29,6 @@ private:
     const ProcInfo* nearestHandler() const;
 
     const CopyEvidence& m_evidence;
-    const ProcessFamily& m_family;
     const ProcInfo& m_main;
     const std::string& m_dataDir;
     const std::vector<const ProcInfo*> m_descendants;

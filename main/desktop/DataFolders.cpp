@@ -24,12 +24,20 @@ DataFolders::DataFolders(const fs::path& normal, const fs::path& accountsFolder,
         m_all.push_back(m_accountsFolder + "/" + account);
     std::sort(m_all.begin(), m_all.end(),
               [](const std::string& a, const std::string& b) { return a.size() > b.size(); });
+    for (const std::string& folder : m_all) {
+        std::error_code error;
+        const fs::path resolved = fs::weakly_canonical(folder, error);
+        m_resolved.push_back(error ? folder : resolved.string());
+    }
 }
 
 std::string DataFolders::holding(std::string_view file) const {
-    for (const std::string& folder : m_all) {
-        if (file.starts_with(folder) && file.substr(folder.size()).starts_with('/'))
-            return folder;
+    const auto holds = [&](const std::string& folder) {
+        return file.starts_with(folder) && file.substr(folder.size()).starts_with('/');
+    };
+    for (std::size_t i = 0; i < m_all.size(); ++i) {
+        if (holds(m_all[i]) || holds(m_resolved[i]))
+            return m_all[i];
     }
     return {};
 }

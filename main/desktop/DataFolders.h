@@ -26,7 +26,7 @@ public:
     /// All of them, normalized; of two that begin alike the longer one first.
     const std::vector<std::string>& all() const { return m_all; }
 
-    /// The one in which `file` lies; empty when none does.
+    /// The one in which `file` lies, spelled with links or without; empty when none does.
     std::string holding(std::string_view file) const;
     /// The one that `text` begins with, as a whole word: a blank or nothing follows. Folders may hold blanks
     /// themselves, so the longest counts. Empty when there is none.
@@ -36,6 +36,7 @@ private:
     std::string m_normal;
     std::string m_accountsFolder;
     std::vector<std::string> m_all;
+    std::vector<std::string> m_resolved; ///< the same with all links resolved
 };
 
 } // namespace selvane

@@ -102,7 +102,11 @@ private:
             return locked;
         if (const ProcInfo* known = topmost([this](const ProcInfo& each) { return isRecognised(each); }))
             return known;
-        return topmost([](const ProcInfo&) { return true; });
+        // What the copy has started may outlive it, in the same session.
+        return topmost([&](const ProcInfo& each) {
+            return RunningApplication{each.pid, each.startTime} == note.opened.app ||
+                   heldWithDescendants(each.pid).contains(note.dataDir);
+        });
     }
     bool isRecognised(const ProcInfo& process) const {
         return std::ranges::count(m_evidence.recognised, process.pid, &RunningApplication::pid) > 0;
@@ -152,7 +156,7 @@ private:
         if (claims.size() == 1 && !claims.begin()->empty())
             return *claims.begin();
 
-        const std::set<std::string> held = heldByCopy(copy);
+        const std::set<std::string> held = heldWithDescendants(copy.process.pid);
         if (held.size() == 1)
             return *held.begin();
         if (!copy.locked.empty())
@@ -173,10 +177,11 @@ private:
                                    [](const std::string& file) { return !file.starts_with("/dev/"); });
     }
 
-    std::set<std::string> heldByCopy(const Copy& copy) const {
-        std::set<std::string> held = heldBy(copy.process.pid);
+    /// Those of the descendants count only for a process that has none itself.
+    std::set<std::string> heldWithDescendants(std::int32_t pid) const {
+        std::set<std::string> held = heldBy(pid);
         if (held.empty()) {
-            for (const ProcInfo* process : m_family.descendants(copy.process.pid))
+            for (const ProcInfo* process : m_family.descendants(pid))
                 held.merge(heldBy(process->pid));
         }
         return held;

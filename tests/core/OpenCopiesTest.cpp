@@ -7,6 +7,8 @@
 
 #include <map>
 
+#include "support/TemporaryFolder.h"
+
 namespace selvane {
 namespace {
 
@@ -286,14 +288,23 @@ TEST(OpenCopies, Wrappers_AreSeenThrough) {
              inSession(m.add(100, 90, electron, {electron + kSwitch + kLavoro}), 90);
              inSession(m.add(101, 100, electron, {electron + " --type=zygote"}), 90);
              m.addNote(90, kLavoro, kConfig, 90);
+             m.files[100] = {kLavoro + "/db/LOG"};
          },
          {copy(kLavoro, kConfig)}},
         {"a shell that has ended",
          [&](Machine& m) {
              inSession(m.add(100, 1, electron, {}), 90);
              m.addNote(90, kLavoro, kConfig, 90);
+             m.files[100] = {kLavoro + "/db/LOG"};
          },
          {copy(kLavoro, kConfig)}},
+        {"something that has outlived the copy which started it",
+         [&](Machine& m) {
+             inSession(m.add(100, 1, "/usr/lib/postgresql/postgres", {"postgres"}), 90);
+             m.addNote(90, kLavoro, kConfig, 90);
+             m.files[100] = {"/home/a/progetto/base"};
+         },
+         {}},
         {"a program that waits and is taken for the application",
          [&](Machine& m) {
              m.addMain(kSwitch + kLavoro, 90);
@@ -322,6 +333,17 @@ TEST(OpenCopies, Wrappers_AreSeenThrough) {
          },
          {copy(kLavoro, kConfig), copy(kLavoro2, "?", 210)}},
     });
+}
+
+TEST(DataFolders, AFileBehindALink_LiesInTheFolder) {
+    const test::TemporaryFolder home;
+    std::filesystem::create_directories(home / "var/conti/lavoro");
+    std::filesystem::create_directory_symlink(home / "var", home / "link");
+    const DataFolders folders(home / "normal", home / "link/conti", {"lavoro"});
+    const std::string lavoro = home / "link/conti/lavoro";
+    EXPECT_EQ(folders.holding((home / "var/conti/lavoro/db").string()), lavoro);
+    EXPECT_EQ(folders.holding(lavoro + "/db"), lavoro);
+    EXPECT_EQ(folders.holding(lavoro + "2/db"), "");
 }
 
 TEST(DataFolderLock, EachText_IsReadOrRefused) {
