@@ -38,7 +38,7 @@ void resetSignals() {
     for (int signal = 1; signal < NSIG; ++signal)
         ::sigaction(signal, &standard, nullptr);
     sigset_t none;
-    ::sigemptyset(&none);
+    sigemptyset(&none);
     ::sigprocmask(SIG_SETMASK, &none, nullptr);
 }
 
@@ -107,7 +107,7 @@ pid_t waitFor(pid_t child, int& status, int options) {
 pid_t forkQuietly() {
     sigset_t all;
     sigset_t before;
-    ::sigfillset(&all);
+    sigfillset(&all);
     ::pthread_sigmask(SIG_SETMASK, &all, &before);
     const pid_t child = forkPlainly();
     const int error = errno;
