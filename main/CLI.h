@@ -4,6 +4,7 @@
 #pragma once
 
 #include <iosfwd>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -37,11 +38,15 @@ struct Command {
     std::string_view word;
     std::string_view syntax; ///< what follows the word
     void (*run)(const Call& call);
+    std::string_view options = {}; ///< those that may follow its first argument, separated by blanks
 };
 
 /// All command words; they match exactly.
 std::span<const Command> commands();
 bool isCommand(std::string_view word);
+
+/// The answer to an option of the program itself ("--help", "-h", "--version"); nothing for anything else.
+std::optional<std::string> answer(std::string_view option);
 
 /// Runs one command: 0, or 1 after writing "Errore: " and the reason to `err`.
 int run(const Call& call, std::ostream& err);

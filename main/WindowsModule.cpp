@@ -22,7 +22,7 @@ using RenderFunction = bool (*)(const char* folder, void (*fail)(void* context, 
 void* WindowsModule::function(const char* name) {
     const std::filesystem::path file = modulePath("libselvane-windows" SELVANE_MODULE_SUFFIX);
     if (!std::filesystem::exists(file))
-        throw LauncherError("Il modulo delle finestre non è installato: " + file.string());
+        throw LauncherError("Le finestre non sono installate, manca il pacchetto selvane-windows: " + file.string());
     if (m_module == nullptr)
         m_module = dlopen(file.c_str(), RTLD_LAZY);
     void* found = m_module == nullptr ? nullptr : dlsym(m_module, name);

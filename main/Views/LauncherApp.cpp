@@ -27,7 +27,7 @@ namespace selvane {
 namespace {
 
 constexpr auto kNewProfileOption = "--new-profile";
-constexpr auto kNoDisplay = "Nessuno schermo disponibile: senza, Selvane si usa con i suoi comandi";
+constexpr auto kNoDisplay = "Nessuno schermo disponibile: senza, Selvane si usa con i suoi comandi (selvane --help)";
 
 /// A display that is named but doesn't answer: Qt would abort the process.
 void endWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& /*message*/) {

@@ -53,8 +53,13 @@ void requireArguments(const Call& call, std::size_t least) {
         return;
     for (const Command& command : commands()) {
         if (command.word == call.arguments[0])
-            throwUsage(std::string(command.word) + " " + std::string(command.syntax));
+            throwUsage(usage(command));
     }
+}
+
+std::string usage(const Command& command) {
+    const std::string word(command.word);
+    return command.syntax.empty() ? word : word + " " + std::string(command.syntax);
 }
 
 void throwUsage(std::string_view usage) {

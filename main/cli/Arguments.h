@@ -22,6 +22,8 @@ std::pair<Component, ShareMode> assignment(const std::string& text);
 
 /// Throws the command's usage unless there are at least `least` arguments, the word included.
 void requireArguments(const Call& call, std::size_t least);
+/// How a command is called.
+std::string usage(const Command& command);
 [[noreturn]] void throwUsage(std::string_view usage);
 
 /// A text as one field of an output line: control characters, which could forge fields and lines, show as

@@ -11,6 +11,18 @@ namespace {
 
 namespace fs = std::filesystem;
 
+TEST(CommandProfiles, TheProgramSaysWhatItIs) {
+    const CommandHome home;
+    const std::string help = home.output({"--help"});
+    EXPECT_EQ(home.output({"-h"}), help);
+    for (const std::string usage :
+         {"list", "set-mode <id> componente=modalità", "render-dmg-background <cartella>"})
+        EXPECT_NE(help.find("\n  " + usage + "\n"), std::string::npos) << usage;
+    EXPECT_TRUE(home.output({"--version"}).starts_with("selvane 1."));
+    EXPECT_TRUE(treeOf(home.path()).empty()) << "nothing was looked for or made";
+    EXPECT_EQ(home.output({"create", "--Nome"}), "nome\n");
+}
+
 TEST(CommandProfiles, WrongCallsSayWhatIsWrongAndChangeNothing) {
     const CommandHome home;
     home.output({"create", "Lavoro", "--from", "default"});
@@ -22,6 +34,11 @@ TEST(CommandProfiles, WrongCallsSayWhatIsWrongAndChangeNothing) {
         std::string message;
     } cases[] = {
         {{"create"}, createUsage},
+        {{"create", "--help"}, createUsage},
+        {{"create", "--account"}, createUsage},
+        {{"backup", "--solo-profili"}, backupUsage},
+        {{"path", "-h"}, "Uso: path <id>"},
+        {{"list", "--help"}, "Uso: list"},
         {{"create", "A", "--from"}, createUsage},
         {{"create", "A", "--from", "assente"}, "Profilo sconosciuto: assente"},
         {{"create", "A", "--colore", "blu"}, "Opzione sconosciuta: --colore"},

@@ -38,7 +38,8 @@ _selvane() {
     COMPREPLY=()
     if ((cword == 1)); then
         _selvane_words list create sync launch path items set-mode install-helper sessions import-sessions \
-            restore-desktop desktop-status backup processes render-icon render-dmg-background --new-profile
+            restore-desktop desktop-status backup processes render-icon render-dmg-background --new-profile \
+            --help --version
         return
     fi
     case ${words[1]} in

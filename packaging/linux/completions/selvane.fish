@@ -37,6 +37,8 @@ end
 
 complete -c selvane -f
 complete -c selvane -n __fish_is_first_token -l new-profile -d 'Open the windows and ask for a new profile'
+complete -c selvane -n __fish_is_first_token -s h -l help -d 'Say how it is used'
+complete -c selvane -n __fish_is_first_token -l version -d 'Say which version it is'
 
 complete -c selvane -n __fish_is_first_token -a list -d 'List the profiles'
 complete -c selvane -n __fish_is_first_token -a create -d 'Make a profile'
