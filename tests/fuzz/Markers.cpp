@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 struct EmptyWorkspace final : Workspace {
     std::optional<Application> application() override { return std::nullopt; }
     std::vector<RunningApplication> running(const std::vector<ProcInfo>&) override { return {}; }
-    void open(const Application&, const OpenConfiguration&) override {}
+    OpenedApplication open(const Application&, const OpenConfiguration&) override { return {}; }
     void terminate(const RunningApplication&) override {}
     void forceTerminate(const RunningApplication&) override {}
     bool isTerminated(const RunningApplication&) override { return true; }
@@ -82,7 +82,7 @@ private:
     const fs::path m_home = newFolder();
     EmptyWorkspace m_workspace;
     SystemClock m_clock;
-    ClaudeApp m_claude{m_workspace, m_clock};
+    ClaudeApp m_claude{m_workspace, m_clock, {}};
     ProfileStore m_store{
         {{"HOME", m_home.string()}, {"CLAUDE_LAUNCHER_DESKTOP_DIR", (m_home / "data").string()}}, m_claude};
     std::optional<ChangingFile> m_live;
