@@ -22,7 +22,8 @@ using RenderFunction = bool (*)(const char* folder, void (*fail)(void* context, 
 void* WindowsModule::function(const char* name) {
     const std::filesystem::path file = modulePath("libselvane-windows" SELVANE_MODULE_SUFFIX);
     if (!std::filesystem::exists(file))
-        throw LauncherError("Le finestre non sono installate, manca il pacchetto selvane-windows: " + file.string());
+        throw LauncherError("Le finestre non sono installate, manca il pacchetto selvane-windows: " +
+                            file.string());
     if (m_module == nullptr)
         m_module = dlopen(file.c_str(), RTLD_LAZY);
     void* found = m_module == nullptr ? nullptr : dlsym(m_module, name);

@@ -27,7 +27,8 @@ namespace selvane {
 namespace {
 
 constexpr auto kNewProfileOption = "--new-profile";
-constexpr auto kNoDisplay = "Nessuno schermo disponibile: senza, Selvane si usa con i suoi comandi (selvane --help)";
+constexpr auto kNoDisplay =
+    "Nessuno schermo disponibile: senza, Selvane si usa con i suoi comandi (selvane --help)";
 
 /// A display that is named but doesn't answer: Qt would abort the process.
 void endWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& /*message*/) {
@@ -156,7 +157,8 @@ int runLauncherApp(int argc, char** argv) {
         return 0;
     qml_register_types_Selvane();
     QQmlEngine engine;
-    // Loaded on the engine's own thread, while this one has other things to do. Now and then it needs this one.
+    // Loaded on the engine's own thread, while this one has other things to do. Now and then it needs this
+    // one.
     const QQmlComponent loading(&engine,
                                 QUrl(QStringLiteral("qrc:/qt-project.org/imports/Selvane/PickerWindow.qml")),
                                 QQmlComponent::Asynchronous);

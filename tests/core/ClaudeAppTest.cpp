@@ -53,7 +53,8 @@ TEST(ClaudeApp, processesOf_Rules_TellWhoBelongs) {
     std::vector<ProcInfo> chain;
     for (std::int32_t generation = 0; generation <= 33; ++generation)
         chain.push_back(process(generation, generation - 1, "/bin/x"));
-    EXPECT_EQ(processesOf("/a/b", {0}, chain, folders), std::vector<ProcInfo>(chain.begin(), chain.begin() + 32))
+    EXPECT_EQ(processesOf("/a/b", {0}, chain, folders),
+              std::vector<ProcInfo>(chain.begin(), chain.begin() + 32))
         << "31 ancestors";
 }
 

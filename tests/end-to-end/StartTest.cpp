@@ -27,7 +27,8 @@ TEST_F(Windows, AStartCanAskForANewProfile) {
 }
 
 TEST_F(Windows, ADisplayThatIsMissingIsNoCrash) {
-    const Outcome expected = failure("Nessuno schermo disponibile: senza, Selvane si usa con i suoi comandi (selvane --help)");
+    const Outcome expected =
+        failure("Nessuno schermo disponibile: senza, Selvane si usa con i suoi comandi (selvane --help)");
     home.environment["DISPLAY"] = ":9999";
     EXPECT_EQ(home.run({}), expected);
     home.environment.erase("DISPLAY");

@@ -16,9 +16,7 @@ namespace selvane::test {
 /// A home with Claude Desktop's stand-in, on a desktop of its own.
 class Windows : public testing::Test, protected InstalledClaude {
 protected:
-    Windows() {
-        home.environment.merge(desktop().environment());
-    }
+    Windows() { home.environment.merge(desktop().environment()); }
     /// Faults in the views are printed and go unnoticed otherwise.
     void TearDown() override { EXPECT_EQ(readFile(home / "selvane.err"), ""); }
 

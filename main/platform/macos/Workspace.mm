@@ -69,8 +69,8 @@ NSWorkspaceOpenConfiguration* systemConfiguration(const OpenConfiguration& confi
     return result;
 }
 
-/// Opens and waits. Returns what was opened, or why it failed. The answer comes on a queue of the system's own, so
-/// that waiting is safe on any thread, with or without a run loop.
+/// Opens and waits. Returns what was opened, or why it failed. The answer comes on a queue of the system's
+/// own, so that waiting is safe on any thread, with or without a run loop.
 std::variant<RunningApplication, std::string> openAndWait(NSURL* application,
                                                           NSWorkspaceOpenConfiguration* configuration) {
     __block std::variant<RunningApplication, std::string> result;
@@ -122,8 +122,7 @@ public:
         return result;
     }
 
-    OpenedApplication open(const Application& application,
-                           const OpenConfiguration& configuration) override {
+    OpenedApplication open(const Application& application, const OpenConfiguration& configuration) override {
         std::variant<RunningApplication, std::string> result;
         @autoreleasepool {
             result = openAndWait(urlOf(application.folder, true), systemConfiguration(configuration));
