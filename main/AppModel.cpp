@@ -5,7 +5,7 @@
 
 #include <utility>
 
-#include "platform/ErrorText.h"
+#include "platform/text/ErrorText.h"
 
 namespace selvane {
 namespace {

@@ -12,8 +12,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/ErrorText.h"
-#include "platform/Text.h"
+#include "platform/text/ErrorText.h"
+#include "platform/text/Text.h"
 
 namespace selvane {
 namespace {

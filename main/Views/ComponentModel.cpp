@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "model/LauncherError.h"
-#include "platform/Json.h"
+#include "platform/json/Json.h"
 
 namespace selvane {
 namespace {

@@ -12,7 +12,7 @@
 #include "artwork/Brand.h"
 #include "artwork/DMGBackground.h"
 #include "artwork/IconRenderer.h"
-#include "platform/ErrorText.h"
+#include "platform/text/ErrorText.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 
 namespace selvane {
 

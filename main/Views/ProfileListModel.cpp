@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <chrono>
 
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 
 namespace selvane {
 namespace {

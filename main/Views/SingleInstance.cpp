@@ -6,7 +6,7 @@
 #include <QFile>
 #include <QLocalSocket>
 
-#include "platform/RuntimeFolder.h"
+#include "platform/files/RuntimeFolder.h"
 
 namespace selvane {
 namespace {

@@ -8,7 +8,7 @@
 #include <QFontDatabase>
 #include <QGuiApplication>
 
-#include "platform/ModuleFolder.h"
+#include "platform/services/ModuleFolder.h"
 
 namespace selvane {
 namespace {

@@ -13,7 +13,7 @@
 #include "artwork/PngFile.h"
 #include "artwork/Shapes.h"
 #include "model/LauncherError.h"
-#include "platform/FileManager.h"
+#include "platform/files/FileManager.h"
 
 namespace selvane::DMGBackground {
 namespace {

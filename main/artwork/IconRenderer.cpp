@@ -8,7 +8,7 @@
 #include "artwork/AppIcon.h"
 #include "artwork/PngFile.h"
 #include "model/LauncherError.h"
-#include "platform/FileManager.h"
+#include "platform/files/FileManager.h"
 
 namespace selvane::IconRenderer {
 

@@ -7,7 +7,7 @@
 
 #include <cmath>
 
-#include "platform/FileManager.h"
+#include "platform/files/FileManager.h"
 
 namespace selvane {
 

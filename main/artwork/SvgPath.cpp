@@ -9,7 +9,7 @@
 #include <cctype>
 #include <cmath>
 
-#include "platform/Decimal.h"
+#include "platform/text/Decimal.h"
 
 namespace selvane {
 namespace {

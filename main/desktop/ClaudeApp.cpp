@@ -9,9 +9,9 @@
 
 #include "desktop/ClaudeArguments.h"
 #include "model/LauncherError.h"
-#include "platform/FolderLock.h"
-#include "platform/Machine.h"
-#include "platform/ProcessFamily.h"
+#include "platform/files/FolderLock.h"
+#include "platform/process/Machine.h"
+#include "platform/process/ProcessFamily.h"
 #include "store/ProfileStore.h"
 
 namespace selvane {

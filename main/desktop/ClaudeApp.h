@@ -16,9 +16,9 @@
 #include "desktop/LaunchNotes.h"
 #include "desktop/OpenCopies.h"
 #include "model/Profile.h"
-#include "platform/Clock.h"
-#include "platform/ProcInfo.h"
-#include "platform/Workspace.h"
+#include "platform/process/Clock.h"
+#include "platform/process/ProcInfo.h"
+#include "platform/process/Workspace.h"
 
 namespace selvane {
 

@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "desktop/DataFolders.h"
-#include "platform/ProcInfo.h"
+#include "platform/process/ProcInfo.h"
 
 namespace selvane {
 

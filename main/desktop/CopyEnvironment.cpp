@@ -5,8 +5,8 @@
 
 #include <algorithm>
 
-#include "platform/Locations.h"
-#include "platform/MainProcess.h"
+#include "platform/files/Locations.h"
+#include "platform/process/MainProcess.h"
 
 namespace selvane {
 namespace {

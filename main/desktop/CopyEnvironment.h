@@ -4,7 +4,7 @@
 #pragma once
 
 #include "desktop/OpenCopies.h"
-#include "platform/ProcessFamily.h"
+#include "platform/process/ProcessFamily.h"
 
 namespace selvane {
 

@@ -8,8 +8,8 @@
 #include <charconv>
 #include <chrono>
 
-#include "platform/FileManager.h"
-#include "platform/ProcInfo.h"
+#include "platform/files/FileManager.h"
+#include "platform/process/ProcInfo.h"
 
 namespace selvane {
 

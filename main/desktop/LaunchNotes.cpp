@@ -7,10 +7,10 @@
 #include <string_view>
 
 #include "model/ByteText.h"
-#include "platform/FileManager.h"
-#include "platform/Json.h"
-#include "platform/Machine.h"
-#include "platform/RuntimeFolder.h"
+#include "platform/files/FileManager.h"
+#include "platform/files/RuntimeFolder.h"
+#include "platform/json/Json.h"
+#include "platform/process/Machine.h"
 
 namespace selvane {
 namespace {

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/Process.h"
-#include "platform/Workspace.h"
+#include "platform/process/Process.h"
+#include "platform/process/Workspace.h"
 
 namespace selvane {
 

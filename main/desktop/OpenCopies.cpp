@@ -9,8 +9,8 @@
 
 #include "desktop/ClaudeArguments.h"
 #include "desktop/CopyEnvironment.h"
-#include "platform/MainProcess.h"
-#include "platform/ProcessFamily.h"
+#include "platform/process/MainProcess.h"
+#include "platform/process/ProcessFamily.h"
 
 namespace selvane {
 namespace {

@@ -11,9 +11,9 @@
 #include "desktop/DataFolderLock.h"
 #include "desktop/DataFolders.h"
 #include "desktop/LaunchNotes.h"
-#include "platform/ProcInfo.h"
-#include "platform/ProcessFamily.h"
-#include "platform/Workspace.h"
+#include "platform/process/ProcInfo.h"
+#include "platform/process/ProcessFamily.h"
+#include "platform/process/Workspace.h"
 
 namespace selvane {
 

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 
 namespace selvane {
 namespace {

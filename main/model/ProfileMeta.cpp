@@ -6,7 +6,7 @@
 #include <cstdio>
 
 #include "model/ByteText.h"
-#include "platform/Json.h"
+#include "platform/json/Json.h"
 
 namespace selvane {
 namespace {

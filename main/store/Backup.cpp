@@ -13,8 +13,8 @@
 #include <unistd.h>
 
 #include "model/LauncherError.h"
-#include "platform/Locations.h"
-#include "platform/Text.h"
+#include "platform/files/Locations.h"
+#include "platform/text/Text.h"
 #include "store/ZipList.h"
 
 namespace selvane {

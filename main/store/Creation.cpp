@@ -6,7 +6,7 @@
 #include <algorithm>
 
 #include "model/LauncherError.h"
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 #include "store/ItemListing.h"
 #include "store/Slug.h"
 

@@ -6,7 +6,7 @@
 #include <array>
 
 #include "model/LauncherError.h"
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 
 namespace selvane {
 namespace {

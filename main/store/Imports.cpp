@@ -3,7 +3,7 @@
 
 #include "store/ProfileStore.h"
 
-#include "platform/Json.h"
+#include "platform/json/Json.h"
 #include "store/ServerImport.h"
 #include "store/SettingsPaths.h"
 

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "model/Component.h"
-#include "platform/OpenFolder.h"
+#include "platform/files/OpenFolder.h"
 
 namespace selvane {
 

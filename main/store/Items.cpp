@@ -4,7 +4,7 @@
 #include "store/ProfileStore.h"
 
 #include "model/LauncherError.h"
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 #include "store/ItemListing.h"
 
 namespace selvane {

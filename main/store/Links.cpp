@@ -7,7 +7,7 @@
 #include <unordered_set>
 
 #include "model/LauncherError.h"
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 #include "store/ItemListing.h"
 
 namespace selvane {

@@ -3,7 +3,7 @@
 
 #include "store/ProfileStore.h"
 
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 
 namespace selvane {
 namespace {

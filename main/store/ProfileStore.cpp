@@ -4,8 +4,8 @@
 #include "store/ProfileStore.h"
 
 #include "model/LauncherError.h"
-#include "platform/Locations.h"
-#include "platform/Text.h"
+#include "platform/files/Locations.h"
+#include "platform/text/Text.h"
 
 namespace selvane {
 namespace {

@@ -19,9 +19,9 @@
 #include "model/ComponentItem.h"
 #include "model/Profile.h"
 #include "model/SyncReport.h"
-#include "platform/FileManager.h"
-#include "platform/FolderLock.h"
-#include "platform/Process.h"
+#include "platform/files/FileManager.h"
+#include "platform/files/FolderLock.h"
+#include "platform/process/Process.h"
 #include "store/TranscriptIndex.h"
 
 namespace selvane {

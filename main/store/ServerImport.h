@@ -5,7 +5,7 @@
 
 #include <optional>
 
-#include "platform/Json.h"
+#include "platform/json/Json.h"
 
 namespace selvane {
 

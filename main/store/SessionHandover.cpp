@@ -5,9 +5,9 @@
 
 #include <array>
 
-#include "platform/Json.h"
-#include "platform/JsonMembers.h"
-#include "platform/SessionRecord.h"
+#include "platform/json/Json.h"
+#include "platform/json/JsonMembers.h"
+#include "platform/json/SessionRecord.h"
 
 namespace selvane {
 namespace {

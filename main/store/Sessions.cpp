@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <limits>
 
-#include "platform/SessionRecord.h"
+#include "platform/json/SessionRecord.h"
 #include "store/SessionHandover.h"
 
 namespace selvane {

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "model/ByteText.h"
-#include "platform/Json.h"
+#include "platform/json/Json.h"
 
 namespace selvane {
 namespace {

@@ -4,7 +4,7 @@
 #include "store/Slug.h"
 
 #include "model/Profile.h"
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 
 namespace selvane {
 

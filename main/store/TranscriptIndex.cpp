@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-#include "platform/FileManager.h"
+#include "platform/files/FileManager.h"
 
 namespace selvane {
 

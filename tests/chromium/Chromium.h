@@ -11,7 +11,7 @@
 #include <sys/types.h>
 #include <vector>
 
-#include "platform/ProcInfo.h"
+#include "platform/process/ProcInfo.h"
 #include "support/Command.h"
 
 namespace selvane::test {

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 #include <thread>
 
-#include "platform/ProcInfo.h"
+#include "platform/process/ProcInfo.h"
 #include "support/Command.h"
 #include "support/Home.h"
 

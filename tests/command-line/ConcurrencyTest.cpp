@@ -12,7 +12,7 @@
 #include <thread>
 
 #include "model/ProfileMeta.h"
-#include "platform/FileManager.h"
+#include "platform/files/FileManager.h"
 #include "support/Home.h"
 #include "support/InstalledClaude.h"
 

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 #include <sstream>
 
-#include "platform/ProcInfo.h"
+#include "platform/process/ProcInfo.h"
 #include "support/Home.h"
 #include "support/InstalledClaude.h"
 

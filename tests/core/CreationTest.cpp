@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "model/LauncherError.h"
-#include "platform/Json.h"
+#include "platform/json/Json.h"
 #include "store/SettingsPaths.h"
 #include "support/Home.h"
 

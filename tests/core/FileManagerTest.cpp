@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/FileManager.h"
+#include "platform/files/FileManager.h"
 
 #include <array>
 #include <cstdint>
@@ -17,7 +17,7 @@
 #include <sys/xattr.h>
 #include <unistd.h>
 
-#include "platform/ErrorText.h"
+#include "platform/text/ErrorText.h"
 #include "support/TemporaryFolder.h"
 
 namespace selvane {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/Json.h"
+#include "platform/json/Json.h"
 
 #include <array>
 #include <utility>
@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/JsonMembers.h"
+#include "platform/json/JsonMembers.h"
 
 namespace selvane {
 namespace {

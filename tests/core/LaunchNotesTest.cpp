@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-#include "platform/RuntimeFolder.h"
+#include "platform/files/RuntimeFolder.h"
 #include "support/Home.h"
 
 namespace selvane {

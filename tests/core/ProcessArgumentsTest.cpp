@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <cstring>
 
-#include "platform/ProcessArguments.h"
+#include "platform/process/ProcessArguments.h"
 
 namespace selvane {
 namespace {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/Process.h"
+#include "platform/process/Process.h"
 
 #include <csignal>
 #include <fcntl.h>
@@ -13,7 +13,7 @@
 #include <unistd.h>
 
 #include "model/LauncherError.h"
-#include "platform/FileManager.h"
+#include "platform/files/FileManager.h"
 #include "support/TemporaryFolder.h"
 
 namespace selvane {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/Workspace.h"
+#include "platform/process/Workspace.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -15,7 +15,7 @@
 #include <optional>
 #include <thread>
 
-#include "platform/ProcInfo.h"
+#include "platform/process/ProcInfo.h"
 #include "support/TemporaryFolder.h"
 
 namespace selvane {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/SessionRecord.h"
+#include "platform/json/SessionRecord.h"
 
 #include <cstdlib>
 #include <filesystem>

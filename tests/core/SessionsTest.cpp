@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/Json.h"
+#include "platform/json/Json.h"
 #include "support/Home.h"
 #include "support/RunningProcess.h"
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 
 #include <cstdlib>
 #include <ctime>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "end-to-end/WindowsTest.h"
-#include "platform/Json.h"
+#include "platform/json/Json.h"
 
 namespace selvane::test {
 namespace {

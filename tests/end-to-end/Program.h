@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/Process.h"
+#include "platform/process/Process.h"
 
 namespace selvane::test {
 

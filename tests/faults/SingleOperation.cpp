@@ -14,10 +14,10 @@
 #include <vector>
 
 #include "model/LauncherError.h"
-#include "platform/Clock.h"
-#include "platform/ErrorText.h"
-#include "platform/Process.h"
-#include "platform/Workspace.h"
+#include "platform/process/Clock.h"
+#include "platform/process/Process.h"
+#include "platform/process/Workspace.h"
+#include "platform/text/ErrorText.h"
 #include "store/ProfileStore.h"
 
 namespace {

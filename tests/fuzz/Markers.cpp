@@ -3,7 +3,7 @@
 
 #include "Fuzzing.h"
 #include "model/LauncherError.h"
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 #include "store/ProfileStore.h"
 
 namespace selvane::fuzz {

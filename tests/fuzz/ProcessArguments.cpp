@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/ProcessArguments.h"
+#include "platform/process/ProcessArguments.h"
 
 #include <algorithm>
 #include <cstring>
 
 #include "Fuzzing.h"
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 
 namespace selvane::fuzz {
 namespace {

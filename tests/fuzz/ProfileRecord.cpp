@@ -6,7 +6,7 @@
 #include "Fuzzing.h"
 #include "model/ByteText.h"
 #include "model/Profile.h"
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 
 namespace selvane::fuzz {
 namespace {

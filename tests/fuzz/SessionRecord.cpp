@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/SessionRecord.h"
+#include "platform/json/SessionRecord.h"
 
 #include <set>
 
 #include "Fuzzing.h"
-#include "platform/Json.h"
+#include "platform/json/Json.h"
 #include "store/SessionHandover.h"
 
 namespace selvane::fuzz {

@@ -5,7 +5,7 @@
 
 #include "Fuzzing.h"
 #include "model/ByteText.h"
-#include "platform/Json.h"
+#include "platform/json/Json.h"
 
 namespace selvane::fuzz {
 namespace {

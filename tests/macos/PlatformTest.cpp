@@ -15,12 +15,12 @@
 #include <gtest/gtest.h>
 
 #include "model/LauncherError.h"
-#include "platform/FileCopy.h"
-#include "platform/FileManager.h"
-#include "platform/ModuleFolder.h"
-#include "platform/ProcInfo.h"
-#include "platform/Process.h"
-#include "platform/Workspace.h"
+#include "platform/files/FileCopy.h"
+#include "platform/files/FileManager.h"
+#include "platform/process/ProcInfo.h"
+#include "platform/process/Process.h"
+#include "platform/process/Workspace.h"
+#include "platform/services/ModuleFolder.h"
 #include "support/Home.h"
 #include "support/TemporaryFolder.h"
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/Process.h"
+#include "platform/process/Process.h"
 #include "support/TemporaryFolder.h"
 
 namespace selvane::test {

@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/Clock.h"
-#include "platform/Workspace.h"
+#include "platform/process/Clock.h"
+#include "platform/process/Workspace.h"
 #include "store/ProfileStore.h"
 #include "support/TemporaryFolder.h"
 

@@ -9,7 +9,7 @@
 #include <stdexcept>
 #include <thread>
 
-#include "platform/ProcInfo.h"
+#include "platform/process/ProcInfo.h"
 #include "support/Home.h"
 
 namespace selvane::test {

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/Json.h"
+#include "platform/json/Json.h"
 #include "support/Command.h"
 
 namespace selvane::test {

@@ -13,7 +13,7 @@
 #include <unistd.h>
 #include <vector>
 
-#include "platform/Workspace.h"
+#include "platform/process/Workspace.h"
 #include "support/Pointers.h"
 
 namespace selvane::test {

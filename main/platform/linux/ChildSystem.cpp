@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/ChildProcess.h"
+#include "platform/process/ChildProcess.h"
 
 #include <algorithm>
 #include <csignal>

@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "platform/Services.h"
+#include "platform/services/Services.h"
 
 /// The system libraries that would make every start slower (ICU, simdjson, and of the desktop GIO and XCB)
 /// are linked to a module of their own, `libselvane-services.so`, which is loaded when one of them is first

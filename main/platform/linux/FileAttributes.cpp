@@ -7,7 +7,7 @@
 #include <sys/stat.h>
 #include <sys/xattr.h>
 
-#include "platform/FileCopy.h"
+#include "platform/files/FileCopy.h"
 
 namespace selvane::files {
 namespace {

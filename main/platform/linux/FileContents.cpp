@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/FileContents.h"
+#include "platform/files/FileContents.h"
 
 #include <algorithm>
 #include <cerrno>

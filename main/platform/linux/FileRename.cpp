@@ -6,7 +6,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
-#include "platform/FileCopy.h"
+#include "platform/files/FileCopy.h"
 
 namespace selvane::files {
 namespace {

@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <optional>
 
-#include "platform/Workspace.h"
+#include "platform/process/Workspace.h"
 
 namespace selvane {
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/Machine.h"
+#include "platform/process/Machine.h"
 
 #include <fstream>
 

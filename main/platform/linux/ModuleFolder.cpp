@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/ModuleFolder.h"
+#include "platform/services/ModuleFolder.h"
 
 namespace selvane {
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/ProcInfo.h"
+#include "platform/process/ProcInfo.h"
 
 #include <fcntl.h>
 #include <limits.h>
@@ -13,7 +13,7 @@
 #include <charconv>
 #include <string_view>
 
-#include "platform/Descriptor.h"
+#include "platform/files/Descriptor.h"
 #include "platform/linux/ProcStat.h"
 
 namespace selvane {

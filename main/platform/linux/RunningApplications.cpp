@@ -6,9 +6,9 @@
 #include <algorithm>
 #include <string_view>
 
-#include "platform/MainProcess.h"
-#include "platform/ProcessFamily.h"
 #include "platform/linux/InstalledApplication.h"
+#include "platform/process/MainProcess.h"
+#include "platform/process/ProcessFamily.h"
 
 namespace selvane {
 namespace {

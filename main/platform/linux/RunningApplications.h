@@ -6,8 +6,8 @@
 #include <filesystem>
 #include <vector>
 
-#include "platform/ProcInfo.h"
-#include "platform/Workspace.h"
+#include "platform/process/ProcInfo.h"
+#include "platform/process/Workspace.h"
 
 namespace selvane {
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/RuntimeFolder.h"
+#include "platform/files/RuntimeFolder.h"
 
 #include <unistd.h>
 

@@ -6,7 +6,7 @@
 #include <dlfcn.h>
 
 #include "model/LauncherError.h"
-#include "platform/ModuleFolder.h"
+#include "platform/services/ModuleFolder.h"
 
 namespace selvane {
 

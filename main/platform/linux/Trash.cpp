@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/Trash.h"
+#include "platform/files/Trash.h"
 
 #include <string>
 
 #include "model/LauncherError.h"
-#include "platform/ErrorText.h"
-#include "platform/Text.h"
 #include "platform/linux/DesktopServices.h"
+#include "platform/text/ErrorText.h"
+#include "platform/text/Text.h"
 
 namespace selvane {
 

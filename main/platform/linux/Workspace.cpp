@@ -1,19 +1,19 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/Workspace.h"
+#include "platform/process/Workspace.h"
 
 #include <signal.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
 #include "model/LauncherError.h"
-#include "platform/Descriptor.h"
-#include "platform/ProcInfo.h"
+#include "platform/files/Descriptor.h"
 #include "platform/linux/DesktopServices.h"
 #include "platform/linux/InstalledApplication.h"
 #include "platform/linux/ProcStat.h"
 #include "platform/linux/RunningApplications.h"
+#include "platform/process/ProcInfo.h"
 
 namespace selvane {
 namespace {

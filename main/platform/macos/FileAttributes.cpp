@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/FileCopy.h"
+#include "platform/files/FileCopy.h"
 
 #include <cerrno>
 #include <climits>
@@ -12,7 +12,7 @@
 #include <sys/socket.h>
 #include <sys/un.h>
 
-#include "platform/Descriptor.h"
+#include "platform/files/Descriptor.h"
 
 namespace selvane::files {
 namespace {

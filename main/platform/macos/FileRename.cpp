@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/FileCopy.h"
+#include "platform/files/FileCopy.h"
 
 #include <cerrno>
 #include <cstdio>

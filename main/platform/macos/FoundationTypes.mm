@@ -5,7 +5,7 @@
 
 #include <system_error>
 
-#include "platform/ErrorText.h"
+#include "platform/text/ErrorText.h"
 
 namespace selvane::macos {
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/Locations.h"
+#include "platform/files/Locations.h"
 
 namespace selvane {
 

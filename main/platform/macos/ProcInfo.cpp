@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/ProcInfo.h"
+#include "platform/process/ProcInfo.h"
 
 #include <sys/sysctl.h>
 #include <unistd.h>
@@ -9,8 +9,8 @@
 #include <algorithm>
 #include <array>
 
-#include "platform/ProcessArguments.h"
 #include "platform/macos/ProcessStart.h"
+#include "platform/process/ProcessArguments.h"
 
 namespace selvane {
 namespace {

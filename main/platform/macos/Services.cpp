@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/Services.h"
+#include "platform/services/Services.h"
 
 #include "platform/services/Table.h"
 

@@ -1,15 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/Trash.h"
+#include "platform/files/Trash.h"
 
 #include <optional>
 #include <string>
 #include <sys/stat.h>
 
 #include "model/LauncherError.h"
-#include "platform/Text.h"
 #import "platform/macos/FoundationTypes.h"
+#include "platform/text/Text.h"
 
 namespace selvane {
 namespace {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/Workspace.h"
+#include "platform/process/Workspace.h"
 
 #import <AppKit/AppKit.h>
 

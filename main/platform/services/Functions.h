@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/Services.h"
+#include "platform/services/Services.h"
 
 /// The functions behind the table. None lets an exception out.
 namespace selvane::module {

@@ -12,11 +12,11 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "platform/Decimal.h"
-#include "platform/Descriptor.h"
-#include "platform/JsonNumbers.h"
-#include "platform/JsonSurrogates.h"
+#include "platform/files/Descriptor.h"
+#include "platform/json/JsonNumbers.h"
+#include "platform/json/JsonSurrogates.h"
 #include "platform/services/Functions.h"
+#include "platform/text/Decimal.h"
 
 namespace selvane::module {
 

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include <exception>
+#include <ostream>
+
+#include "Main/Arguments.h"
+#include "Main/Commands.h"
+#include "model/LauncherError.h"
+
+namespace selvane::CLI {
+namespace {
+
+constexpr std::string_view kUnknown = "non si sa";
+
+} // namespace
+
+void launch(const Call& call) {
+    const Profile target = profile(call);
+    ProfileStore& store = call.store;
+    if (const auto open = store.instance(target)) {
+        if (store.runs(*open, target)) {
+            call.claude.activate(*open);
+            return;
+        }
+        call.claude.requireApplication(); // or nothing could take the place of what is closed
+        // When another copy has taken its place meanwhile, launching tells so.
+        const auto hasLeft = [&] { return store.hasLeft(*open, target); };
+        if (!call.claude.quit({*open}, ClaudeApp::QuitKind::polite, ClaudeApp::kQuitTimeout, hasLeft))
+            throw LauncherError("Claude non si è chiuso");
+    }
+    call.claude.launch(target, store);
+}
+
+void desktopStatus(const Call& call) {
+    const ProfileStore& store = call.store;
+    call.out << "cartella normale: " << field(store.desktopLiveOwner())
+             << (store.needsDesktopRestore() ? " (da ripristinare)" : "") << '\n';
+    std::exception_ptr failure; // a damaged record doesn't hide the others
+    for (const Profile& profile : store.loadAll()) {
+        try {
+            const bool hasData = store.hasDesktopData(profile);
+            call.out << field(profile.id) << "\taccount=" << field(profile.accountOwner()) << "\tdati="
+                     << (hasData ? field(store.desktopDataDir(profile).string())
+                                 : "nessuno (login al primo avvio)")
+                     << '\n';
+        } catch (const LauncherError&) {
+            failure = std::current_exception();
+        }
+    }
+    for (const ClaudeApp::Instance& instance : store.claudeInstances()) {
+        const std::string config =
+            instance.isConfigKnown ? instance.config.value_or("~/.claude") : std::string(kUnknown);
+        call.out << "aperto pid=" << instance.pid()
+                 << "\tdati=" << field(instance.dataDir.empty() ? kUnknown : instance.dataDir)
+                 << "\tconfig=" << field(config) << '\n';
+    }
+    if (failure)
+        std::rethrow_exception(failure);
+}
+
+void restoreDesktop(const Call& call) {
+    call.store.restoreDesktopData();
+    call.out << "dati Desktop al loro posto\n";
+}
+
+void processes(const Call& call) {
+    const ProfileStore& store = call.store;
+    for (const ProcInfo& process : call.claude.allProcesses(store.dataFolders()))
+        call.out << process.pid << '\t' << field(process.path) << '\n';
+}
+
+} // namespace selvane::CLI

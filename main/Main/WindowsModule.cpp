@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "Main/WindowsModule.h"
+
+#include <dlfcn.h>
+
+#include "model/LauncherError.h"
+#include "platform/services/ModuleFolder.h"
+
+namespace selvane {
+namespace {
+
+// The border to the module: plain types and no exception cross it.
+using RunFunction = int (*)(int argc, char** argv);
+/// Returns whether it succeeded; the reason of a failure goes to `fail`.
+using RenderFunction = bool (*)(const char* folder, void (*fail)(void* context, const char* message),
+                                void* context);
+
+} // namespace
+
+void* WindowsModule::function(const char* name) {
+    const std::filesystem::path file = modulePath("libselvane-windows" SELVANE_MODULE_SUFFIX);
+    if (!std::filesystem::exists(file))
+        throw LauncherError("Le finestre non sono installate, manca il pacchetto selvane-windows: " +
+                            file.string());
+    if (m_module == nullptr)
+        m_module = dlopen(file.c_str(), RTLD_LAZY);
+    void* found = m_module == nullptr ? nullptr : dlsym(m_module, name);
+    if (found == nullptr)
+        throw LauncherError("Il modulo delle finestre non è utilizzabile: " + std::string(dlerror()));
+    return found;
+}
+
+int WindowsModule::runWindows(int argc, char** argv) {
+    return reinterpret_cast<RunFunction>(function("selvane_run_windows"))(argc, argv);
+}
+
+void WindowsModule::render(const char* name, const std::filesystem::path& folder) {
+    const auto renderFunction = reinterpret_cast<RenderFunction>(function(name));
+    std::string reason;
+    const auto keepReason = [](void* context, const char* message) {
+        *static_cast<std::string*>(context) = message;
+    };
+    if (!renderFunction(folder.c_str(), keepReason, &reason))
+        throw LauncherError(reason);
+}
+
+void WindowsModule::renderIcon(const std::filesystem::path& iconset) {
+    render("selvane_render_icon", iconset);
+}
+
+void WindowsModule::renderDMGBackground(const std::filesystem::path& folder) {
+    render("selvane_render_dmg_background", folder);
+}
+
+} // namespace selvane

@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "Main/CLI.h"
+
+namespace selvane {
+
+/// The windowed application and the drawing, which live in a loadable module so that the command line needs
+/// no Qt. The module is loaded when it is first needed; every function throws `LauncherError` when it isn't
+/// installed or can't be loaded.
+class WindowsModule final : public Artwork {
+public:
+    /// Runs the windowed application to its end; returns its exit status.
+    int runWindows(int argc, char** argv);
+    void renderIcon(const std::filesystem::path& iconset) override;
+    void renderDMGBackground(const std::filesystem::path& folder) override;
+
+private:
+    void* function(const char* name);
+    void render(const char* name, const std::filesystem::path& folder);
+
+    void* m_module = nullptr;
+};
+
+} // namespace selvane

@@ -1,0 +1,249 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/files/FileCopy.h"
+
+#include <array>
+#include <climits>
+#include <string>
+#include <sys/stat.h>
+#include <vector>
+
+#include "platform/files/FileContents.h"
+#include "platform/files/FolderTrail.h"
+
+namespace selvane::files {
+namespace {
+
+/// One entry to copy: its name in the current folder of either side, which differs for the top only.
+struct Item {
+    const char* from;
+    const char* to;
+};
+
+/// The bits a copy takes over. What runs as its owner does so for that owner only.
+mode_t copiedMode(const struct stat& status) {
+    const mode_t mode = status.st_mode & ALLPERMS;
+    constexpr mode_t kActsAsOwner = S_ISUID | S_ISGID;
+    const bool isForeign =
+        S_ISREG(status.st_mode) && (mode & kActsAsOwner) != 0 && status.st_uid != ::geteuid();
+    return isForeign ? mode & ~kActsAsOwner : mode;
+}
+
+unsigned char entryType(const struct stat& status) {
+    return static_cast<unsigned char>(IFTODT(status.st_mode));
+}
+
+/// Copies one tree, without recursion and with few open files whatever its depth. The files of a folder are
+/// copied while it is listed, so that only the names of its folders are kept.
+class TreeCopy {
+public:
+    TreeCopy(const std::filesystem::path& from, const std::filesystem::path& named, Privacy privacy)
+        : m_from(from), m_named(named), m_privacy(privacy) {}
+
+    void run(const std::filesystem::path& to);
+
+private:
+    struct Level {
+        std::string name;
+        struct stat status;
+        std::vector<std::string> folders; ///< those inside that are still to be copied
+    };
+
+    /// The entry of that name in the current folder, or with none that folder, as the user calls it.
+    std::filesystem::path below(const std::filesystem::path& top, const char* name) const;
+    [[noreturn]] void failFrom(const char* name, int error) const {
+        fail("copy", below(m_from, name), error);
+    }
+    [[noreturn]] void failTo(const char* name, int error) const { fail("copy", below(m_named, name), error); }
+    [[noreturn]] void failBoth(const char* name, int error) const {
+        fail("copy", below(m_from, name), below(m_named, name), error);
+    }
+
+    struct stat statusOf(const Item& item) const;
+    void copyEntry(const Item& item, unsigned char type);
+    void copyFile(const Item& item);
+    void copyLink(const Item& item);
+    void copySpecial(const Item& item, const struct stat& status);
+    void setTimesOfEntry(const Item& item, const struct stat& status) const;
+    void enterFolder(const Item& item);
+    Descriptor makeFolder(const Item& item);
+    void finishFolder();
+    void finish(const Item& item, int from, int to, const struct stat& status) const;
+
+    const std::filesystem::path& m_from;
+    const std::filesystem::path& m_named;
+    Privacy m_privacy;
+    ContentCopier m_contents;
+    FolderTrail m_source;
+    FolderTrail m_target;
+    std::vector<Level> m_levels; ///< of the open folders, the top first
+    struct stat m_targetTop = {};
+};
+
+void TreeCopy::run(const std::filesystem::path& to) {
+    const Item top = {m_from.c_str(), to.c_str()};
+    const unsigned char type = entryType(statusOf(top));
+    if (type != DT_DIR) {
+        copyEntry(top, type);
+        return;
+    }
+    enterFolder(top);
+    while (!m_levels.empty()) {
+        Level& level = m_levels.back();
+        if (level.folders.empty()) {
+            finishFolder();
+        } else {
+            const std::string name = std::move(level.folders.back());
+            level.folders.pop_back();
+            enterFolder({name.c_str(), name.c_str()});
+        }
+    }
+}
+
+std::filesystem::path TreeCopy::below(const std::filesystem::path& top, const char* name) const {
+    std::filesystem::path path = top;
+    for (std::size_t i = 1; i < m_levels.size(); ++i)
+        path /= m_levels[i].name;
+    return m_levels.empty() || *name == '\0' ? path : path / name;
+}
+
+struct stat TreeCopy::statusOf(const Item& item) const {
+    struct stat status = {};
+    if (::fstatat(m_source.current(), item.from, &status, AT_SYMLINK_NOFOLLOW) != 0)
+        failFrom(item.from, errno);
+    return status;
+}
+
+void TreeCopy::copyEntry(const Item& item, unsigned char type) {
+    if (type == DT_UNKNOWN)
+        type = entryType(statusOf(item));
+    if (type == DT_REG)
+        copyFile(item);
+    else if (type == DT_DIR)
+        m_levels.back().folders.emplace_back(item.from);
+    else if (type == DT_LNK)
+        copyLink(item);
+    else
+        copySpecial(item, statusOf(item));
+}
+
+void TreeCopy::copyFile(const Item& item) {
+    // O_NONBLOCK: what was a file when it was listed may be a FIFO by now.
+    const Descriptor from(
+        ::openat(m_source.current(), item.from, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    struct stat status = {};
+    if (!from || ::fstat(from.get(), &status) != 0)
+        failFrom(item.from, errno);
+    if (!S_ISREG(status.st_mode))
+        failFrom(item.from, S_ISDIR(status.st_mode) ? EISDIR : EINVAL);
+    Descriptor to;
+    const Privacy privacy = m_levels.empty() ? m_privacy : Privacy::inherited;
+    if (const int error = m_contents.copy(from.get(), status, m_target.current(), item.to, privacy, to);
+        error != 0) {
+        if (to)
+            failBoth(item.from, error);
+        failTo(item.to, error);
+    }
+    finish(item, from.get(), to.get(), status);
+}
+
+void TreeCopy::copyLink(const Item& item) {
+    std::array<char, PATH_MAX> text;
+    const struct stat status = statusOf(item);
+    const ssize_t size = ::readlinkat(m_source.current(), item.from, text.data(), text.size());
+    if (size < 0 || static_cast<std::size_t>(size) == text.size())
+        failFrom(item.from, size < 0 ? errno : ENAMETOOLONG);
+    text[static_cast<std::size_t>(size)] = '\0';
+    if (::symlinkat(text.data(), m_target.current(), item.to) != 0)
+        failTo(item.to, errno);
+    setTimesOfEntry(item, status);
+}
+
+/// FIFOs, sockets and devices: made anew, never opened.
+void TreeCopy::copySpecial(const Item& item, const struct stat& status) {
+    int error = makeSpecial(m_target.current(), item.to, status);
+    if (error == 0 && ::fchmodat(m_target.current(), item.to, copiedMode(status), 0) != 0)
+        error = errno;
+    if (error != 0)
+        failTo(item.to, error);
+    setTimesOfEntry(item, status);
+}
+
+void TreeCopy::setTimesOfEntry(const Item& item, const struct stat& status) const {
+    const std::array<timespec, 2> times = timesOf(status);
+    if (::utimensat(m_target.current(), item.to, times.data(), AT_SYMLINK_NOFOLLOW) != 0)
+        failTo(item.to, errno);
+}
+
+void TreeCopy::enterFolder(const Item& item) {
+    Descriptor from(::openat(m_source.current(), item.from, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    struct stat status = {};
+    if (!from || ::fstat(from.get(), &status) != 0)
+        failFrom(item.from, errno);
+    // Through a mount, or moved there meanwhile, the copy can lie inside its origin: it would never end.
+    if (!m_levels.empty() && status.st_dev == m_targetTop.st_dev && status.st_ino == m_targetTop.st_ino)
+        fail("copy", m_from, m_named, EINVAL);
+    Descriptor to = makeFolder(item);
+    int error = m_source.enter(std::move(from));
+    if (error == 0)
+        error = m_target.enter(std::move(to));
+    if (error != 0)
+        failFrom(item.from, error);
+    m_levels.push_back({item.from, status, {}});
+    error = forEachEntry(m_source.current(), [this](const char* name, unsigned char type) {
+        copyEntry({name, name}, type);
+    });
+    if (error != 0)
+        failFrom("", error);
+}
+
+/// For its owner alone until it is complete.
+Descriptor TreeCopy::makeFolder(const Item& item) {
+    if (::mkdirat(m_target.current(), item.to, S_IRWXU) != 0)
+        failTo(item.to, errno);
+    Descriptor folder(::openat(m_target.current(), item.to, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    if (!folder)
+        failTo(item.to, errno);
+    if (m_levels.empty()) {
+        if (::fstat(folder.get(), &m_targetTop) != 0)
+            failTo(item.to, errno);
+        dropInheritedAccess(folder.get()); // then nothing below inherits either
+    }
+    return folder;
+}
+
+void TreeCopy::finishFolder() {
+    // The way up first: the final mode may close it.
+    Descriptor from;
+    Descriptor to;
+    int error = m_source.leave(from);
+    if (error == 0)
+        error = m_target.leave(to);
+    if (error != 0)
+        failFrom("", error);
+    const Level level = std::move(m_levels.back());
+    m_levels.pop_back();
+    finish({level.name.c_str(), level.name.c_str()}, from.get(), to.get(), level.status);
+}
+
+void TreeCopy::finish(const Item& item, int from, int to, const struct stat& status) const {
+    Privacy privacy = Privacy::inherited;
+    if (S_ISREG(status.st_mode) && m_levels.empty()) {
+        dropInheritedAccess(to);
+        privacy = m_privacy;
+    }
+    const std::optional<mode_t> known = copyAttributes(from, to, copiedMode(status), privacy);
+    const std::array<timespec, 2> times = timesOf(status);
+    if (!known || ::fchmod(to, *known) != 0 || ::futimens(to, times.data()) != 0)
+        failTo(item.to, errno);
+}
+
+} // namespace
+
+void copyTree(const std::filesystem::path& from, const std::filesystem::path& to,
+              const std::filesystem::path& named, Privacy privacy) {
+    TreeCopy(from, named, privacy).run(to);
+}
+
+} // namespace selvane::files

@@ -1,0 +1,202 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/files/FileManager.h"
+
+#include <algorithm>
+#include <array>
+#include <climits>
+#include <cstdio>
+#include <sys/stat.h>
+
+#include "platform/files/Descriptor.h"
+#include "platform/files/FileRemoval.h"
+#include "platform/files/Trash.h"
+
+namespace selvane {
+
+using files::Descriptor;
+using files::fail;
+
+namespace {
+
+/// What is read is settings and records. Something larger is none, and would only exhaust the memory.
+constexpr off_t kLongestText = 1 << 30;
+
+std::optional<struct stat> statusOf(const std::filesystem::path& path) {
+    struct stat status = {};
+    if (::lstat(path.c_str(), &status) != 0)
+        return std::nullopt;
+    return status;
+}
+
+Descriptor openFolder(const std::filesystem::path& folder) {
+    return Descriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+}
+
+/// All bytes of an open file of about that size, or nothing and errno.
+std::optional<std::string> readAll(int file, std::size_t size) {
+    constexpr std::size_t kLeast = 4096;
+    // Room for one byte more, so that a file of the expected size shows its end at once.
+    std::string bytes(std::max(size + 1, kLeast), '\0');
+    std::size_t used = 0;
+    while (true) {
+        const ssize_t count = ::read(file, bytes.data() + used, bytes.size() - used);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            return std::nullopt;
+        used += static_cast<std::size_t>(count);
+        // Files of /proc say that they are empty: only there the end has to be seen.
+        if (count == 0 || (size > 0 && used == size)) {
+            bytes.resize(used);
+            return bytes;
+        }
+        if (used == bytes.size())
+            bytes.resize(2 * used);
+    }
+}
+
+} // namespace
+
+bool FileManager::exists(const std::filesystem::path& path) const {
+    return statusOf(path).has_value();
+}
+
+bool FileManager::existsFollowingLinks(const std::filesystem::path& path) const {
+    struct stat status = {};
+    return ::stat(path.c_str(), &status) == 0;
+}
+
+bool FileManager::isPresent(const std::filesystem::path& path) const {
+    struct stat status = {};
+    if (::stat(path.c_str(), &status) == 0)
+        return true;
+    if (errno != ENOENT && errno != ENOTDIR && errno != ELOOP)
+        fail("look up", path, errno);
+    return false;
+}
+
+bool FileManager::isFolder(const std::filesystem::path& path) const {
+    const auto status = statusOf(path);
+    return status && S_ISDIR(status->st_mode);
+}
+
+bool FileManager::isRegularFile(const std::filesystem::path& path) const {
+    const auto status = statusOf(path);
+    return status && S_ISREG(status->st_mode);
+}
+
+std::optional<std::filesystem::path> FileManager::linkTarget(const std::filesystem::path& path) const {
+    std::array<char, PATH_MAX> text;
+    const ssize_t size = ::readlink(path.c_str(), text.data(), text.size());
+    if (size < 0)
+        return std::nullopt;
+    return std::filesystem::path(std::string_view(text.data(), static_cast<std::size_t>(size)));
+}
+
+std::filesystem::path FileManager::resolved(const std::filesystem::path& path) const {
+    return std::filesystem::canonical(path);
+}
+
+std::vector<std::string> FileManager::entries(const std::filesystem::path& folder) const {
+    const Descriptor open = openFolder(folder);
+    if (!open)
+        fail("list", folder, errno);
+    std::vector<std::string> names;
+    const int error =
+        files::forEachEntry(open.get(), [&](const char* name, unsigned char) { names.emplace_back(name); });
+    if (error != 0)
+        fail("list", folder, error);
+    return names;
+}
+
+std::vector<std::string> FileManager::entriesIfReadable(const std::filesystem::path& folder) const {
+    try {
+        return entries(folder);
+    } catch (const std::filesystem::filesystem_error&) {
+        return {};
+    }
+}
+
+std::string FileManager::read(const std::filesystem::path& file) const {
+    // O_NONBLOCK: a FIFO without a writer would keep us waiting.
+    const Descriptor open(::open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    struct stat status = {};
+    if (!open || ::fstat(open.get(), &status) != 0)
+        fail("read", file, errno);
+    if (!S_ISREG(status.st_mode))
+        fail("read", file, S_ISDIR(status.st_mode) ? EISDIR : EINVAL);
+    if (status.st_size > kLongestText)
+        fail("read", file, EFBIG);
+    auto bytes = readAll(open.get(), static_cast<std::size_t>(status.st_size));
+    if (!bytes)
+        fail("read", file, errno);
+    return std::move(*bytes);
+}
+
+std::optional<std::string> FileManager::readIfPossible(const std::filesystem::path& file) const {
+    try {
+        return read(file);
+    } catch (const std::filesystem::filesystem_error&) {
+        return std::nullopt;
+    }
+}
+
+void FileManager::setMode(const std::filesystem::path& file, mode_t mode) const {
+    if (::chmod(file.c_str(), mode) != 0)
+        fail("set mode", file, errno);
+}
+
+std::optional<mode_t> FileManager::mode(const std::filesystem::path& path) const {
+    const auto status = statusOf(path);
+    return status ? std::optional<mode_t>(status->st_mode & ALLPERMS) : std::nullopt;
+}
+
+void FileManager::createFolders(const std::filesystem::path& folder, Privacy privacy) const {
+    if (privacy == Privacy::inherited) {
+        std::filesystem::create_directories(folder);
+        return;
+    }
+    std::error_code error;
+    std::filesystem::create_directories(folder.parent_path(), error);
+    if (!error && ::mkdir(folder.c_str(), S_IRWXU) != 0)
+        error.assign(errno, std::generic_category());
+    if (error == std::errc::file_exists && !std::filesystem::is_directory(folder))
+        error = std::make_error_code(std::errc::not_a_directory);
+    if (error && error != std::errc::file_exists)
+        fail("create folder", folder, error.value());
+}
+
+void FileManager::createFolder(const std::filesystem::path& folder) const {
+    if (::mkdir(folder.c_str(), S_IRWXU) != 0)
+        fail("create folder", folder, errno);
+}
+
+void FileManager::createLink(const std::filesystem::path& target, const std::filesystem::path& link) const {
+    if (::symlink(target.c_str(), link.c_str()) != 0)
+        fail("create link", link, errno);
+}
+
+void FileManager::removeFile(const std::filesystem::path& file) const {
+    if (::unlink(file.c_str()) != 0)
+        fail("remove", file, errno);
+}
+
+bool FileManager::removeLink(const std::filesystem::path& link) const {
+    const auto status = statusOf(link);
+    if (!status || !S_ISLNK(status->st_mode))
+        return false;
+    removeFile(link);
+    return true;
+}
+
+void FileManager::removeTree(const std::filesystem::path& path) const {
+    files::removeTree(path, path);
+}
+
+void FileManager::moveToTrash(const std::filesystem::path& path) const {
+    selvane::moveToTrash(path);
+}
+
+} // namespace selvane

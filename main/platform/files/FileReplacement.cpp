@@ -1,0 +1,257 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <string>
+#include <sys/random.h>
+#include <sys/stat.h>
+
+#include "platform/files/Descriptor.h"
+#include "platform/files/FileCopy.h"
+#include "platform/files/FileManager.h"
+#include "platform/files/FileRemoval.h"
+
+/// The operations of `FileManager` that make something new beside the place it is for.
+namespace selvane {
+
+using files::Descriptor;
+using files::fail;
+
+namespace {
+
+/// A path that ends in "/" names its folder: what is beside it is beside that folder.
+std::filesystem::path withoutEndingSlash(const std::filesystem::path& path) {
+    return path.has_filename() ? path : path.parent_path();
+}
+
+/// A path for a temporary beside `path`. Its name is not made of that of `path`, which may already be as
+/// long as a name can be.
+std::filesystem::path newSibling(const std::filesystem::path& path) {
+    constexpr std::string_view kDigits = "0123456789abcdef";
+    std::array<unsigned char, 8> bytes = {};
+    if (::getentropy(bytes.data(), bytes.size()) != 0)
+        throw std::system_error(errno, std::generic_category(), "getentropy");
+    std::string name(FileManager::kTemporaryPrefix);
+    for (const unsigned char byte : bytes) {
+        name += kDigits[byte >> 4];
+        name += kDigits[byte & 15];
+    }
+    return path.parent_path() / name;
+}
+
+/// Something new beside `target`, removed again unless it was put in place.
+class Temporary {
+public:
+    explicit Temporary(const std::filesystem::path& target) : m_path(newSibling(target)) {}
+    Temporary(const Temporary&) = delete;
+    Temporary& operator=(const Temporary&) = delete;
+    ~Temporary() {
+        if (!m_isPlaced) {
+            try {
+                files::removeTree(m_path, m_path);
+            } catch (const std::exception&) {
+                // The error that led here is the one to tell.
+            }
+        }
+    }
+
+    const std::filesystem::path& path() const { return m_path; }
+    void setPlaced() { m_isPlaced = true; }
+
+    /// Gives it the name `target`, where nothing may be.
+    void place(const std::filesystem::path& target) {
+        if (const int error = files::renameExclusively(m_path, target); error != 0)
+            fail("create", target, error);
+        setPlaced();
+    }
+    /// Takes the name `target` away from it again, where that can be done.
+    void takeBack(const std::filesystem::path& target) {
+        m_isPlaced = files::renameExclusively(target, m_path) != 0;
+    }
+
+private:
+    std::filesystem::path m_path;
+    bool m_isPlaced = false;
+};
+
+/// Lets `make` build the temporary. What fails about it fails, for the user, about `target`.
+void build(const Temporary& temporary, const std::filesystem::path& target,
+           const std::function<void(const std::filesystem::path& temporary)>& make) {
+    const auto named = [&](const std::filesystem::path& path) -> std::filesystem::path {
+        const std::string& name = temporary.path().native();
+        if (!path.native().starts_with(name))
+            return path;
+        return target.native() + path.native().substr(name.size());
+    };
+    try {
+        make(temporary.path());
+    } catch (const std::filesystem::filesystem_error& error) {
+        throw std::filesystem::filesystem_error("create", named(error.path1()), named(error.path2()),
+                                                error.code());
+    }
+}
+
+bool isAnything(const std::filesystem::path& path, struct stat& status) {
+    return ::lstat(path.c_str(), &status) == 0;
+}
+
+bool isLink(const std::filesystem::path& path) {
+    struct stat status = {};
+    return isAnything(path, status) && S_ISLNK(status.st_mode);
+}
+
+void writeAll(int file, std::string_view bytes, const std::filesystem::path& named) {
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(file, bytes.data(), bytes.size());
+        if (written >= 0)
+            bytes.remove_prefix(static_cast<std::size_t>(written));
+        else if (errno != EINTR)
+            fail("write", named, errno);
+    }
+}
+
+/// Gives a new file the mode, the access list and the attributes of the one that it replaces.
+void inherit(int file, const std::filesystem::path& old, mode_t mode, Privacy privacy) {
+    files::dropInheritedAccess(file);
+    std::optional<mode_t> known = mode & ALLPERMS;
+    // One that can't be read keeps them to itself.
+    const Descriptor origin(::open(old.c_str(), O_RDONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC));
+    if (origin)
+        known = files::copyAttributes(origin.get(), file, *known, privacy);
+    else if (privacy == Privacy::ownerOnly)
+        *known &= S_IRWXU;
+    if (!known || ::fchmod(file, *known) != 0)
+        fail("write", old, errno);
+}
+
+/// A folder that is copied to a place inside itself would grow while it is copied.
+void requireOutside(const char* operation, const std::filesystem::path& from,
+                    const std::filesystem::path& to) {
+    const std::filesystem::path origin = std::filesystem::canonical(from);
+    std::filesystem::path folder = to.parent_path();
+    folder = std::filesystem::canonical(folder.empty() ? "." : folder);
+    if (std::mismatch(origin.begin(), origin.end(), folder.begin(), folder.end()).first == origin.end())
+        fail(operation, from, to, EINVAL);
+}
+
+void copyBeside(const std::filesystem::path& from, const std::filesystem::path& to,
+                const Temporary& temporary, Privacy privacy) {
+    struct stat status = {};
+    if (isAnything(to, status))
+        fail("copy", to, EEXIST);
+    if (isAnything(from, status) && S_ISDIR(status.st_mode))
+        requireOutside("copy", from, to);
+    files::copyTree(from, temporary.path(), to, privacy);
+}
+
+/// Puts `temporary` in the place of a link where names can't be exchanged: for a moment neither is there.
+void replaceLinkInSteps(const std::filesystem::path& link, Temporary& temporary) {
+    const std::filesystem::path aside = newSibling(link);
+    if (const int error = files::renameExclusively(link, aside); error != 0)
+        fail("replace link", link, error);
+    const int error = isLink(aside) ? files::renameExclusively(temporary.path(), link) : EEXIST;
+    if (error != 0) {
+        static_cast<void>(files::renameExclusively(aside, link));
+        fail("replace link", link, error);
+    }
+    temporary.setPlaced();
+    ::unlink(aside.c_str());
+}
+
+} // namespace
+
+void FileManager::write(const std::filesystem::path& file, std::string_view bytes, Privacy privacy) const {
+    Temporary temporary(file);
+    struct stat old = {};
+    const bool replaces = isAnything(file, old) && S_ISREG(old.st_mode);
+    const mode_t mode = replaces || privacy == Privacy::ownerOnly ? 0600 : 0644;
+    const Descriptor open(
+        ::open(temporary.path().c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode));
+    if (!open)
+        fail("write", file, errno);
+    writeAll(open.get(), bytes, file);
+    if (replaces)
+        inherit(open.get(), file, old.st_mode, privacy);
+    // The old content must not be lost with a power cut before the new one is on the disk.
+    if ((replaces && ::fsync(open.get()) != 0) || ::rename(temporary.path().c_str(), file.c_str()) != 0)
+        fail("write", file, errno);
+    temporary.setPlaced();
+}
+
+void FileManager::copy(const std::filesystem::path& from, const std::filesystem::path& to,
+                       Privacy privacy) const {
+    const std::filesystem::path origin = withoutEndingSlash(from);
+    const std::filesystem::path target = withoutEndingSlash(to);
+    Temporary temporary(target);
+    copyBeside(origin, target, temporary, privacy);
+    temporary.place(target);
+}
+
+void FileManager::copyDirectly(const std::filesystem::path& from, const std::filesystem::path& to) const {
+    files::copyTree(from, to, to, Privacy::inherited);
+}
+
+void FileManager::move(const std::filesystem::path& from, const std::filesystem::path& to) const {
+    const std::filesystem::path origin = withoutEndingSlash(from);
+    const std::filesystem::path target = withoutEndingSlash(to);
+    int error = files::renameExclusively(origin, target);
+    if (error == 0)
+        return;
+    if (error == EINVAL && isFolder(origin))
+        requireOutside("move", origin, target);
+    if (error == EINVAL)
+        fail("move", target, error); // no name for this file system
+    if (error != EXDEV)
+        fail("move", origin, target, error);
+    Temporary copied(target);
+    copyBeside(origin, target, copied, Privacy::inherited);
+    // The target first: whatever ends this, the content has its name in one of the two places.
+    copied.place(target);
+    // The origin goes in one step as well, or not at all: its folder may be read-only.
+    const std::filesystem::path aside = newSibling(origin);
+    error = files::renameExclusively(origin, aside);
+    // Layered file systems can't rename some folders at all.
+    const bool isAside = error == 0;
+    if (!isAside && error != EXDEV) {
+        copied.takeBack(target);
+        fail("move", origin, error);
+    }
+    files::removeTree(isAside ? aside : origin, origin);
+}
+
+void FileManager::replaceTrashing(
+    const std::filesystem::path& path,
+    const std::function<void(const std::filesystem::path& temporary)>& make) const {
+    const std::filesystem::path target = withoutEndingSlash(path);
+    Temporary temporary(target);
+    build(temporary, target, make);
+    if (exists(target))
+        moveToTrash(target);
+    temporary.place(target);
+}
+
+void FileManager::replaceLink(const std::filesystem::path& link,
+                              const std::function<void(const std::filesystem::path& temporary)>& make) const {
+    const std::filesystem::path place = withoutEndingSlash(link);
+    if (!isLink(place))
+        fail("replace link", place, exists(place) ? EEXIST : ENOENT);
+    Temporary temporary(place);
+    build(temporary, place, make);
+    // Renaming alone can't put a folder in the place of a link.
+    const int error = files::exchangeNames(temporary.path(), place);
+    if (error == ENOTSUP) {
+        replaceLinkInSteps(place, temporary);
+    } else if (error != 0) {
+        fail("replace link", place, error);
+    } else if (!isLink(temporary.path())) {
+        // The link was replaced meanwhile, by something of the user's that must go back or at least stay.
+        if (files::exchangeNames(temporary.path(), place) != 0)
+            temporary.setPlaced();
+        fail("replace link", place, EEXIST);
+    }
+    // Otherwise the old link has the temporary name now, and is removed with it.
+}
+
+} // namespace selvane

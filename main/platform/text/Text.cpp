@@ -1,0 +1,211 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/text/Text.h"
+
+#include <algorithm>
+#include <array>
+#include <numeric>
+
+#include "platform/services/Services.h"
+
+namespace selvane::text {
+
+namespace {
+
+using namespace std::string_view_literals;
+
+/// Unicode white space, which includes the line ends, in UTF-8.
+constexpr std::array kWhiteSpace{
+    "\t"sv,           "\n"sv,           "\v"sv,
+    "\f"sv,           "\r"sv,           " "sv,
+    "\xC2\x85"sv,     "\xC2\xA0"sv,     "\xE1\x9A\x80"sv,
+    "\xE2\x80\x80"sv, "\xE2\x80\x81"sv, "\xE2\x80\x82"sv,
+    "\xE2\x80\x83"sv, "\xE2\x80\x84"sv, "\xE2\x80\x85"sv,
+    "\xE2\x80\x86"sv, "\xE2\x80\x87"sv, "\xE2\x80\x88"sv,
+    "\xE2\x80\x89"sv, "\xE2\x80\x8A"sv, "\xE2\x80\xA8"sv,
+    "\xE2\x80\xA9"sv, "\xE2\x80\xAF"sv, "\xE2\x81\x9F"sv,
+    "\xE3\x80\x80"sv,
+};
+
+constexpr std::string_view kReplacementCharacter = "\xEF\xBF\xBD";
+
+void append(void* context, const char* bytes, std::size_t count) {
+    static_cast<std::string*>(context)->append(bytes, count);
+}
+
+std::uint8_t byteAt(std::string_view bytes, std::size_t index) {
+    return index < bytes.size() ? static_cast<std::uint8_t>(bytes[index]) : std::uint8_t{0};
+}
+
+/// Length of the control character or line separator at the start of `bytes`; 0 for anything else.
+std::size_t controlLength(std::string_view bytes) {
+    const std::uint8_t first = byteAt(bytes, 0);
+    const std::uint8_t second = byteAt(bytes, 1);
+    if (first < 0x20 || first == 0x7F)
+        return 1;
+    if (first == 0xC2 && second >= 0x80 && second < 0xA0)
+        return 2;
+    return bytes.starts_with("\xE2\x80\xA8"sv) || bytes.starts_with("\xE2\x80\xA9"sv) ? 3 : 0;
+}
+
+struct Unit {
+    std::string_view name;
+    std::int64_t step; ///< bytes that the last shown decimal stands for
+    int decimals;
+};
+
+constexpr std::array<Unit, 6> kUnits{{
+    {"KB", 1'000, 0},
+    {"MB", 100'000, 1},
+    {"GB", 10'000'000, 2},
+    {"TB", 10'000'000'000, 2},
+    {"PB", 10'000'000'000'000, 2},
+    {"EB", 10'000'000'000'000'000, 2},
+}};
+
+std::string decimal(std::int64_t value, int decimals) {
+    std::string digits = std::to_string(value);
+    if (decimals == 0)
+        return digits;
+    digits.insert(digits.size() - static_cast<std::size_t>(decimals), 1, ',');
+    digits.erase(digits.find_last_not_of('0') + 1);
+    if (digits.back() == ',')
+        digits.pop_back();
+    return digits;
+}
+
+} // namespace
+
+std::vector<std::size_t> sortedOrder(const std::vector<std::string_view>& names) {
+    std::vector<std::size_t> order(names.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    if (names.size() < 2) // nothing to sort is no reason to load the services
+        return order;
+    std::vector<std::string> keys(names.size());
+    for (std::size_t i = 0; i < names.size(); ++i)
+        services().sortKey(names[i].data(), names[i].size(), append, &keys[i]);
+    std::stable_sort(order.begin(), order.end(),
+                     [&](std::size_t left, std::size_t right) { return keys[left] < keys[right]; });
+    return order;
+}
+
+std::vector<std::string> sorted(std::vector<std::string> names) {
+    std::vector<std::string> result;
+    result.reserve(names.size());
+    for (const std::size_t position : sortedOrder({names.begin(), names.end()}))
+        result.push_back(std::move(names[position]));
+    return result;
+}
+
+std::string folded(std::string_view name) {
+    std::string result;
+    services().fold(name.data(), name.size(), append, &result);
+    return result;
+}
+
+std::string_view trimmed(std::string_view text) {
+    const auto trimOnce = [&] {
+        for (const std::string_view space : kWhiteSpace) {
+            if (text.starts_with(space)) {
+                text.remove_prefix(space.size());
+                return true;
+            }
+            if (text.ends_with(space)) {
+                text.remove_suffix(space.size());
+                return true;
+            }
+        }
+        return false;
+    };
+    while (trimOnce()) {
+    }
+    return text;
+}
+
+std::size_t sequenceLength(std::string_view bytes) {
+    const std::uint8_t first = byteAt(bytes, 0);
+    if (first < 0x80)
+        return 1;
+    if (first < 0xC2 || first > 0xF4)
+        return 0;
+    const std::size_t length = first < 0xE0 ? 2 : first < 0xF0 ? 3 : 4;
+    // The second byte excludes overlong forms, surrogates and what lies beyond U+10FFFF.
+    const std::uint8_t second = byteAt(bytes, 1);
+    const int lowest = first == 0xE0 ? 0xA0 : first == 0xF0 ? 0x90 : 0x80;
+    const int highest = first == 0xED ? 0x9F : first == 0xF4 ? 0x8F : 0xBF;
+    if (second < lowest || second > highest)
+        return 0;
+    for (std::size_t i = 2; i < length; ++i) {
+        if ((byteAt(bytes, i) & 0xC0) != 0x80)
+            return 0;
+    }
+    return length;
+}
+
+bool isUtf8(std::string_view bytes) {
+    while (!bytes.empty()) {
+        const std::size_t length = sequenceLength(bytes);
+        if (length == 0)
+            return false;
+        bytes.remove_prefix(length);
+    }
+    return true;
+}
+
+std::string repaired(std::string_view bytes) {
+    std::string result;
+    result.reserve(bytes.size());
+    while (!bytes.empty()) {
+        const std::size_t length = sequenceLength(bytes);
+        result += length == 0 ? kReplacementCharacter : bytes.substr(0, length);
+        bytes.remove_prefix(std::max<std::size_t>(length, 1));
+    }
+    return result;
+}
+
+std::string singleLine(std::string_view text) {
+    std::string result;
+    result.reserve(text.size());
+    while (!text.empty()) {
+        std::size_t plain = 0;
+        while (plain < text.size() && controlLength(text.substr(plain)) == 0)
+            ++plain;
+        result += text.substr(0, plain);
+        text.remove_prefix(plain);
+        if (!text.empty()) {
+            result += kReplacementCharacter;
+            text.remove_prefix(controlLength(text));
+        }
+    }
+    return result;
+}
+
+std::string longDate(std::chrono::system_clock::time_point time) {
+    const auto seconds = std::chrono::floor<std::chrono::seconds>(time.time_since_epoch()).count();
+    std::string result;
+    services().longDate(seconds, append, &result);
+    return result;
+}
+
+std::string relativeDate(std::chrono::seconds ago) {
+    std::string result;
+    services().relativeDate(ago.count(), append, &result);
+    return result;
+}
+
+std::string byteCount(std::int64_t bytes) {
+    if (bytes <= 0)
+        return "Zero KB";
+    if (bytes < 1000)
+        return std::to_string(bytes) + " byte";
+    for (const Unit& unit : kUnits) {
+        const std::int64_t steps = bytes / unit.step + (bytes % unit.step >= unit.step / 2 ? 1 : 0);
+        const std::int64_t stepsInNext = unit.decimals == 0 ? 1'000 : unit.decimals == 1 ? 10'000 : 100'000;
+        if (steps < stepsInNext)
+            return decimal(steps, unit.decimals) + ' ' + std::string(unit.name);
+    }
+    return {}; // not reached: the largest number of bytes is 9,22 EB
+}
+
+} // namespace selvane::text
