@@ -9,7 +9,7 @@
 #include <gtest/gtest.h>
 #include <memory>
 
-#include "AppModel.h"
+#include "AppModel/AppModel.h"
 #include "support/Home.h"
 #include "windows/FakeBridge.h"
 

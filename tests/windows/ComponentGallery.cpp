@@ -13,7 +13,7 @@
 #include <QTextStream>
 #include <QTimer>
 
-#include "Views/QmlModule.h"
+#include "Views/shell/QmlModule.h"
 
 namespace {
 

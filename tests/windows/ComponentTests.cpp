@@ -6,7 +6,7 @@
 
 #include <cstdlib>
 
-#include "Views/QmlModule.h"
+#include "Views/shell/QmlModule.h"
 #include "support/TemporaryFolder.h"
 #include "windows/TestHome.h"
 

@@ -5,7 +5,7 @@
 
 #include <vector>
 
-#include "DesktopBridge.h"
+#include "AppModel/DesktopBridge.h"
 
 namespace selvane::test {
 

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "Views/BackupForm.h"
-#include "Views/ImportForm.h"
-#include "Views/NewProfileForm.h"
-#include "Views/SessionImportForm.h"
+#include "Views/sheets/BackupForm.h"
+#include "Views/sheets/ImportForm.h"
+#include "Views/sheets/NewProfileForm.h"
+#include "Views/sheets/SessionImportForm.h"
 #include "windows/AppModelFixture.h"
 
 namespace selvane::test {

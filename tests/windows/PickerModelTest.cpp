@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "Views/PickerModel.h"
+#include "Views/picker/PickerModel.h"
 
 #include "windows/AppModelFixture.h"
 

@@ -8,8 +8,8 @@
 #include <gtest/gtest.h>
 #include <optional>
 
-#include "Views/PortalSaveDialog.h"
-#include "Views/SystemAppearance.h"
+#include "Views/linux/PortalSaveDialog.h"
+#include "Views/shell/SystemAppearance.h"
 #include "windows/FakePortal.h"
 
 namespace selvane::test {

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "Views/ProfileDetailModel.h"
-#include "Views/ProfileListModel.h"
+#include "Views/manage/ProfileDetailModel.h"
+#include "Views/manage/ProfileListModel.h"
 #include "windows/AppModelFixture.h"
 
 namespace selvane::test {

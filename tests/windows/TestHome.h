@@ -9,8 +9,8 @@
 #include <deque>
 #include <memory>
 
-#include "AppModel.h"
-#include "Views/Updates.h"
+#include "AppModel/AppModel.h"
+#include "Views/shell/Updates.h"
 
 namespace selvane::test {
 

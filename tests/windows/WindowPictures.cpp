@@ -14,8 +14,8 @@
 #include <QTextStream>
 #include <QTimer>
 
-#include "Views/LauncherApp.h"
-#include "Views/QmlModule.h"
+#include "Views/shell/LauncherApp.h"
+#include "Views/shell/QmlModule.h"
 #include "artwork/Brand.h"
 #include "model/LauncherError.h"
 #include "windows/FakeBridge.h"

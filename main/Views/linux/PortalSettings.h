@@ -6,7 +6,7 @@
 #include <QDBusVariant>
 #include <QObject>
 
-#include "Views/SystemAppearance.h"
+#include "Views/shell/SystemAppearance.h"
 
 namespace selvane {
 

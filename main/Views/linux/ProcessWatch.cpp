@@ -7,7 +7,7 @@
 
 #include <optional>
 
-#include "Views/ApplicationWatch.h"
+#include "Views/shell/ApplicationWatch.h"
 
 namespace selvane {
 namespace {

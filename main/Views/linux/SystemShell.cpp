@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "Views/SystemShell.h"
+#include "Views/shell/SystemShell.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>
@@ -15,7 +15,7 @@
 #include <QStandardPaths>
 #include <QUrl>
 
-#include "Views/LauncherApp.h"
+#include "Views/shell/LauncherApp.h"
 #include "artwork/AppIcon.h"
 
 namespace selvane {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "Views/SystemAppearance.h"
+#include "Views/shell/SystemAppearance.h"
 
 #import "Views/macos/Observation.h"
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "Views/ApplicationWatch.h"
+#include "Views/shell/ApplicationWatch.h"
 
 #include <list>
 

@@ -6,7 +6,7 @@
 
 #include <QPointer>
 
-#include "Views/SaveDialog.h"
+#include "Views/shell/SaveDialog.h"
 
 namespace selvane {
 namespace {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "Views/Updates.h"
+#include "Views/shell/Updates.h"
 
 #import <Sparkle/Sparkle.h>
 

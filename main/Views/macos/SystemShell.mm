@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "Views/SystemShell.h"
+#include "Views/shell/SystemShell.h"
 
 #import <AppKit/AppKit.h>
 
@@ -9,8 +9,8 @@
 
 #include <sys/stat.h>
 
-#include "Views/LauncherApp.h"
 #import "Views/macos/MenuBar.h"
+#include "Views/shell/LauncherApp.h"
 #include "artwork/Brand.h"
 #import "platform/macos/FoundationTypes.h"
 

@@ -1,0 +1,206 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "AppModel/AppModel.h"
+
+#include <utility>
+
+#include "platform/text/ErrorText.h"
+
+namespace selvane {
+namespace {
+
+QString quotedForShell(const std::string& text) {
+    QString result;
+    for (const QChar c : QString::fromStdString(text)) {
+        if (QStringLiteral("\"$\\`").contains(c))
+            result += '\\';
+        result += c;
+    }
+    return '"' + result + '"';
+}
+
+} // namespace
+
+AppModel::AppModel(ProfileStore& store, const ClaudeApp& claude, DesktopBridge& desktop,
+                   Preferences& preferences, QObject* parent)
+    : QObject(parent), m_store(store), m_claude(claude), m_desktop(desktop), m_preferences(preferences) {
+    reload();
+    const QString last = m_preferences.lastSelection();
+    m_selection = profile(last) == nullptr ? QString::fromUtf8(Profile::kDefaultId) : last;
+    connect(&m_desktop, &DesktopBridge::claudeCopiesChanged, this, &AppModel::refreshRunning);
+    connect(&m_desktop, &DesktopBridge::claudeCopiesChanged, this, &AppModel::claudeCopiesChanged);
+}
+
+AppModel::~AppModel() {
+    // What runs on the other thread uses the store, which may go with us.
+    m_work.waitForFinished();
+}
+
+const Profile* AppModel::profile(const QString& id) const {
+    const std::string wanted = id.toStdString();
+    for (const Profile& candidate : m_profiles) {
+        if (candidate.id == wanted)
+            return &candidate;
+    }
+    return nullptr;
+}
+
+QString AppModel::firstOther(const QString& id) const {
+    for (const Profile& candidate : m_profiles) {
+        if (QString other = QString::fromStdString(candidate.id); other != id)
+            return other;
+    }
+    return {};
+}
+
+void AppModel::setText(QString& member, const QString& value, void (AppModel::*changed)()) {
+    if (member == value)
+        return;
+    member = value;
+    emit(this->*changed)();
+}
+
+void AppModel::report(const std::exception& error) {
+    setText(m_errorMessage, QString::fromStdString(describe(error)), &AppModel::errorMessageChanged);
+}
+
+void AppModel::setNotice(const QString& text) {
+    setText(m_notice, text, &AppModel::noticeChanged);
+    emit noticeShown();
+}
+
+void AppModel::clearNotice() {
+    setText(m_notice, {}, &AppModel::noticeChanged);
+}
+void AppModel::clearError() {
+    setText(m_errorMessage, {}, &AppModel::errorMessageChanged);
+}
+
+void AppModel::setCloseAfterLaunch(bool value) {
+    if (closeAfterLaunch() == value)
+        return;
+    m_preferences.setCloseAfterLaunch(value);
+    emit closeAfterLaunchChanged();
+}
+
+void AppModel::reload() {
+    m_profiles = m_store.loadAll();
+    ++m_revision;
+    refreshRunning();
+    emit reloaded();
+    if (!m_selection.isEmpty() && profile(m_selection) == nullptr) {
+        m_selection = QString::fromUtf8(Profile::kDefaultId);
+        emit selectionChanged();
+    }
+}
+
+void AppModel::refreshRunning() {
+    auto ids = m_store.runningProfileIDs();
+    if (ids == m_running)
+        return;
+    m_running = std::move(ids);
+    emit runningChanged();
+}
+
+void AppModel::select(const QString& id) {
+    if (!id.isEmpty())
+        m_preferences.setLastSelection(id);
+    setText(m_selection, id, &AppModel::selectionChanged);
+}
+
+void AppModel::perform(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const std::exception& error) {
+        report(error);
+    }
+    reload();
+}
+
+void AppModel::importSessions(const std::vector<CodeSession>& sessions, const Profile& source,
+                              const Profile& target) {
+    perform([&] {
+        const ImportCount count = m_store.importSessions(sessions, source, target);
+        if (count.pending < 1)
+            setNotice(tr("%1 sessioni copiate").arg(count.copied));
+        else
+            setNotice(tr("%1 copiate, %2 aggiunte al prossimo avvio di «%3»")
+                          .arg(count.copied)
+                          .arg(count.pending)
+                          .arg(QString::fromStdString(target.meta.name)));
+    });
+}
+
+void AppModel::create(const ProfileRequest& request) {
+    try {
+        const Profile made = m_store.create(request.profile);
+        if (request.copySessions && request.profile.from) {
+            const Profile& source = *request.profile.from;
+            const ImportCount count = m_store.importSessions(m_store.codeSessions(source), source, made);
+            setNotice(count.pending < 1
+                          ? tr("%1 sessioni copiate").arg(count.copied)
+                          : tr("%1 sessioni verranno aggiunte dopo il primo login").arg(count.pending));
+        }
+        reload();
+        select(QString::fromStdString(made.id));
+    } catch (const std::exception& error) {
+        report(error);
+        reload();
+    }
+}
+
+void AppModel::setAccount(const QString& account, const QString& id) {
+    const Profile* current = profile(id);
+    if (current == nullptr)
+        return;
+    perform([&] {
+        m_store.changeMeta(*current, [&](ProfileMeta& meta) {
+            meta.account = account.isEmpty() ? std::nullopt : std::optional(account.toStdString());
+        });
+    });
+}
+
+void AppModel::sync(const QString& id) {
+    const Profile* current = profile(id);
+    if (current == nullptr)
+        return;
+    perform([&] {
+        const SyncReport report = m_store.sync(*current);
+        setNotice(report.isEmpty() ? tr("Già sincronizzato")
+                                   : tr("Aggiunti %1, rimossi %2 collegamenti")
+                                         .arg(report.added.size())
+                                         .arg(report.removed.size()));
+    });
+}
+
+void AppModel::copyTerminalCommand(const QString& id) {
+    perform([&] {
+        const std::filesystem::path helper = m_store.installTerminalHelper();
+        m_desktop.copyToClipboard(quotedForShell(helper.string()) + ' ' + id);
+        setNotice(tr("Comando copiato negli appunti"));
+    });
+}
+
+void AppModel::revealProfile(const QString& id) {
+    if (const Profile* shown = profile(id))
+        reveal(shown->configDir);
+}
+
+void AppModel::reveal(const std::filesystem::path& item) {
+    m_desktop.reveal(item);
+}
+
+void AppModel::open(const std::filesystem::path& file) {
+    const FileManager files;
+    if (files.existsFollowingLinks(file)) {
+        m_desktop.open(file);
+        return;
+    }
+    perform([&] {
+        files.write(file, "");
+        m_desktop.open(file);
+    });
+}
+
+} // namespace selvane

@@ -1,0 +1,157 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QFuture>
+#include <QObject>
+#include <QQmlEngine>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <set>
+#include <vector>
+
+#include "AppModel/DesktopBridge.h"
+#include "AppModel/Preferences.h"
+#include "desktop/ClaudeApp.h"
+#include "store/ProfileStore.h"
+
+namespace selvane {
+
+/// What a new profile is made from, as the sheet hands it over.
+struct ProfileRequest {
+    NewProfile profile;
+    bool copySessions = false; ///< only with a source
+};
+
+/// The one object behind every window: the loaded profiles, what the interface shows about actions that are
+/// going on, and the actions. All of it on the main thread; slow work runs on another one, on values, and
+/// comes back. No action fails towards its caller: a failure ends as `errorMessage`.
+class AppModel : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the application")
+
+    /// Id of the profile selected in the windows; empty for none.
+    Q_PROPERTY(QString selection READ selection WRITE select NOTIFY selectionChanged)
+    Q_PROPERTY(QString errorMessage READ errorMessage NOTIFY errorMessageChanged)
+    Q_PROPERTY(QString busyMessage READ busyMessage NOTIFY busyMessageChanged)
+    Q_PROPERTY(QString notice READ notice NOTIFY noticeChanged)
+    /// Counts the reloads: what is derived from files is read again when it changes.
+    Q_PROPERTY(qint64 revision READ revision NOTIFY reloaded)
+    /// Ids of the profiles that are waiting for a confirmation and for a forced quit; empty for none.
+    Q_PROPERTY(QString pendingLaunch READ pendingLaunch NOTIFY pendingLaunchChanged)
+    Q_PROPERTY(QString offerForceQuit READ offerForceQuit NOTIFY offerForceQuitChanged)
+    /// The question that goes with `pendingLaunch`.
+    Q_PROPERTY(QString closeMessage READ pendingCloseMessage NOTIFY pendingLaunchChanged)
+    Q_PROPERTY(
+        bool closeAfterLaunch READ closeAfterLaunch WRITE setCloseAfterLaunch NOTIFY closeAfterLaunchChanged)
+
+public:
+    AppModel(ProfileStore& store, const ClaudeApp& claude, DesktopBridge& desktop, Preferences& preferences,
+             QObject* parent = nullptr);
+    ~AppModel() override;
+
+    const std::vector<Profile>& profiles() const { return m_profiles; }
+    const std::set<std::string>& running() const { return m_running; }
+    ProfileStore& store() const { return m_store; }
+    std::optional<std::string> activeID() const { return m_store.activeID(); }
+    const Profile* profile(const QString& id) const; ///< null when no loaded profile has that id
+    const Profile* selected() const { return profile(m_selection); }
+    /// Id of the first profile but this one: what another profile's things are first taken from. Empty when
+    /// there is no other.
+    QString firstOther(const QString& id) const;
+
+    QString selection() const { return m_selection; }
+    QString errorMessage() const { return m_errorMessage; }
+    QString busyMessage() const { return m_busyMessage; }
+    QString notice() const { return m_notice; }
+    qint64 revision() const { return m_revision; }
+    QString pendingLaunch() const { return m_pendingLaunch; }
+    QString offerForceQuit() const { return m_offerForceQuit; }
+    bool closeAfterLaunch() const { return m_preferences.closeAfterLaunch(); }
+    void setCloseAfterLaunch(bool value);
+
+    QString closeMessage(const Profile& target) const;
+    void setNotice(const QString& text);
+
+    /// Runs an action, reports its failure, and reloads in every case.
+    void perform(const std::function<void()>& action);
+    void importSessions(const std::vector<CodeSession>& sessions, const Profile& source,
+                        const Profile& target);
+    void create(const ProfileRequest& request);
+    void exportBackup(BackupScope scope);
+
+public slots:
+    void reload();
+    void refreshRunning();
+    void select(const QString& id);
+    void launch(const QString& id) { startLaunch(id, LaunchStep::asked); }
+    void clearNotice();
+    void clearError();
+    // The answers to the two launch dialogs.
+    void confirmLaunch();
+    void cancelLaunch();
+    void forceLaunch();
+    void cancelForceQuit();
+
+    void setAccount(const QString& account, const QString& id); ///< an empty account: the profile's own
+    void sync(const QString& id);
+    void copyTerminalCommand(const QString& id);
+    void revealProfile(const QString& id);
+    void reveal(const std::filesystem::path& item);
+    /// Makes an empty file first where there is none.
+    void open(const std::filesystem::path& file);
+
+signals:
+    void selectionChanged();
+    void errorMessageChanged();
+    void busyMessageChanged();
+    void noticeChanged();
+    void noticeShown(); ///< also when the same text is shown again
+    void reloaded();
+    void runningChanged();
+    void claudeCopiesChanged(); ///< also when the copy runs no profile that is known
+    void pendingLaunchChanged();
+    void offerForceQuitChanged();
+    void closeAfterLaunchChanged();
+
+private:
+    enum class LaunchStep { asked, confirmed, forced };
+    struct LaunchPlan;
+    struct LaunchResult;
+
+    void startLaunch(const QString& id, LaunchStep step);
+    LaunchPlan planFor(const Profile& profile) const;
+    void runLaunch(LaunchPlan plan, LaunchStep step);
+    bool quitAll(const LaunchPlan& plan, bool force) const;
+    void finishLaunch(const Profile& profile, const LaunchResult& result);
+    void endIfWanted();
+    void runBackup(BackupScope scope, const std::filesystem::path& archive);
+    void report(const std::exception& error);
+    void setText(QString& member, const QString& value, void (AppModel::*changed)());
+    const Profile* openProfile(const Profile& sameAccount) const;
+    QString pendingCloseMessage() const;
+
+    ProfileStore& m_store;
+    const ClaudeApp& m_claude;
+    DesktopBridge& m_desktop;
+    Preferences& m_preferences;
+
+    std::vector<Profile> m_profiles;
+    std::set<std::string> m_running;
+    QString m_selection;
+    QString m_errorMessage;
+    QString m_busyMessage;
+    QString m_notice;
+    QString m_pendingLaunch;
+    QString m_offerForceQuit;
+    qint64 m_revision = 0;
+    QFuture<void> m_work;
+};
+
+} // namespace selvane

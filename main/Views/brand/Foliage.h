@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "Views/controls/PaintedShape.h"
+
+namespace selvane {
+
+/// Three rows of long leaves, a decoration for the right edge of a window: place it with its right edge
+/// there.
+class Foliage : public selvane::PaintedShape {
+    Q_OBJECT
+    QML_ELEMENT
+
+public:
+    explicit Foliage(QQuickItem* parent = nullptr);
+
+protected:
+    void paint(QPainter& painter) const override;
+};
+
+} // namespace selvane

@@ -1,0 +1,140 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "Views/linux/PortalSaveDialog.h"
+
+#include <QCoreApplication>
+#include <QDBusArgument>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusMetaType>
+#include <QDBusObjectPath>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QFile>
+#include <QGuiApplication>
+
+#include <utility>
+
+namespace selvane {
+namespace {
+
+const QString kService = QStringLiteral("org.freedesktop.portal.Desktop");
+const QString kRequest = QStringLiteral("org.freedesktop.portal.Request");
+
+/// How the portal takes a kind of files: rules, which are patterns (0) or content types (1).
+struct FilterRule {
+    uint kind = 1;
+    QString text;
+};
+struct FileFilter {
+    QString name;
+    QList<FilterRule> rules;
+};
+
+QDBusArgument& operator<<(QDBusArgument& argument, const FilterRule& rule) {
+    argument.beginStructure();
+    argument << rule.kind << rule.text;
+    argument.endStructure();
+    return argument;
+}
+const QDBusArgument& operator>>(const QDBusArgument& argument, FilterRule& rule) {
+    argument.beginStructure();
+    argument >> rule.kind >> rule.text;
+    argument.endStructure();
+    return argument;
+}
+QDBusArgument& operator<<(QDBusArgument& argument, const FileFilter& filter) {
+    argument.beginStructure();
+    argument << filter.name << filter.rules;
+    argument.endStructure();
+    return argument;
+}
+const QDBusArgument& operator>>(const QDBusArgument& argument, FileFilter& filter) {
+    argument.beginStructure();
+    argument >> filter.name >> filter.rules;
+    argument.endStructure();
+    return argument;
+}
+
+/// How the portal is told which window it is about; on Wayland it isn't.
+QString handleOf(const QWindow* window) {
+    if (window == nullptr || QGuiApplication::platformName() != QStringLiteral("xcb"))
+        return {};
+    return "x11:" + QString::number(window->winId(), 16);
+}
+
+} // namespace
+} // namespace selvane
+
+Q_DECLARE_METATYPE(selvane::FilterRule)
+Q_DECLARE_METATYPE(selvane::FileFilter)
+
+namespace selvane {
+
+std::unique_ptr<SaveDialog> makeSaveDialog() {
+    return std::make_unique<PortalSaveDialog>();
+}
+
+void PortalSaveDialog::ask(const QWindow* parent, const QString& title, const QString& folder,
+                           const QString& name) {
+    qDBusRegisterMetaType<FilterRule>();
+    qDBusRegisterMetaType<QList<FilterRule>>();
+    qDBusRegisterMetaType<FileFilter>();
+    qDBusRegisterMetaType<QList<FileFilter>>();
+    forget();
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected()) {
+        QMetaObject::invokeMethod(this, &PortalSaveDialog::unavailable, Qt::QueuedConnection);
+        return;
+    }
+    // The portal answers at a path that is known beforehand, perhaps before the call returns.
+    const QString token =
+        QStringLiteral("selvane_%1_%2").arg(QCoreApplication::applicationPid()).arg(++m_count);
+    const QString sender = bus.baseService().mid(1).replace('.', '_');
+    m_request = "/org/freedesktop/portal/desktop/request/" + sender + '/' + token;
+    bus.connect(kService, m_request, kRequest, QStringLiteral("Response"), this,
+                SLOT(respond(uint, QVariantMap)));
+
+    const QList<FileFilter> filters = {{tr("Archivio zip"), {{1, QStringLiteral("application/zip")}}}};
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        kService, QStringLiteral("/org/freedesktop/portal/desktop"),
+        QStringLiteral("org.freedesktop.portal.FileChooser"), QStringLiteral("SaveFile"));
+    call << handleOf(parent) << title
+         << QVariantMap{{"handle_token", token},
+                        {"modal", true},
+                        {"filters", QVariant::fromValue(filters)},
+                        {"current_name", name},
+                        // A path is bytes with a zero at the end.
+                        {"current_folder", QByteArray(QFile::encodeName(folder)).append('\0')}};
+    auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(call), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, request = m_request] {
+        const QDBusPendingReply<QDBusObjectPath> reply = *watcher;
+        watcher->deleteLater();
+        if (!reply.isError() || request != m_request)
+            return;
+        forget();
+        emit unavailable();
+    });
+}
+
+void PortalSaveDialog::forget() {
+    if (m_request.isEmpty())
+        return;
+    QDBusConnection::sessionBus().disconnect(kService, std::exchange(m_request, {}), kRequest,
+                                             QStringLiteral("Response"), this,
+                                             SLOT(respond(uint, QVariantMap)));
+}
+
+void PortalSaveDialog::respond(uint response, const QVariantMap& results) {
+    forget();
+    const QStringList places = results.value("uris").toStringList();
+    if (response == 0 && !places.isEmpty())
+        emit chosen(QUrl(places.first()));
+    else if (response <= 1)
+        emit cancelled();
+    else
+        emit unavailable();
+}
+
+} // namespace selvane

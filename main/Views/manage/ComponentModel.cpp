@@ -1,0 +1,248 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "Views/manage/ComponentModel.h"
+
+#include <utility>
+
+#include "model/LauncherError.h"
+#include "platform/json/Json.h"
+
+namespace selvane {
+namespace {
+
+namespace fs = std::filesystem;
+
+QString text(std::string_view utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+/// How many MCP servers a global state file names; none when it can't be read.
+int serversIn(const fs::path& globalState) {
+    try {
+        const Json state = json::parse(FileManager().read(globalState), globalState);
+        const Json* servers = json::find(state, "mcpServers");
+        return servers == nullptr ? 0 : static_cast<int>(servers->size());
+    } catch (const std::exception&) {
+        return 0;
+    }
+}
+
+ItemListModel::Kind kindOf(const ComponentItem& item, bool isMerged) {
+    if (item.isBroken)
+        return ItemListModel::Broken;
+    if (!item.isLinked())
+        return ItemListModel::Own;
+    return isMerged ? ItemListModel::Merged : ItemListModel::Linked;
+}
+
+fs::path placeOf(const ProfileStore& store, const Profile& profile, Component component) {
+    switch (component) {
+    case Component::settings:
+        return profile.configDir / "settings.json";
+    case Component::mcp:
+        return store.globalJSON(profile);
+    default:
+        return profile.url(component);
+    }
+}
+
+} // namespace
+
+ComponentModel::ComponentModel(Component component, QObject* parent)
+    : QObject(parent), m_component(component) {}
+
+void ComponentModel::setProfile(AppModel* app, const Profile* profile) {
+    m_app = app;
+    const bool isSame = m_profile && profile != nullptr && m_profile->id == profile->id;
+    m_profile = profile == nullptr ? std::nullopt : std::optional(*profile);
+    if (!isSame)
+        setContent({});
+    emit profileChanged();
+    emit contentChanged(); // the words of a count depend on the profile
+}
+
+void ComponentModel::setContent(Content content) {
+    m_items.setEntries(std::exchange(content.items, {}));
+    m_content = std::move(content);
+    emit contentChanged();
+}
+
+ComponentModel::Content ComponentModel::read(const ProfileStore& store, const Profile& profile,
+                                             const std::optional<Profile>& source, Component component) {
+    Content content;
+    content.isRead = true;
+    if (selvane::isCollection(component)) {
+        for (ComponentItem& item : store.items(component, profile)) {
+            const auto kind = kindOf(item, source && store.isLinked(item, *source, component));
+            content.items.push_back({std::move(item), kind});
+        }
+        return content;
+    }
+    const FileManager files;
+    const fs::path place = placeOf(store, profile, component);
+    content.exists = files.existsFollowingLinks(place);
+    if (const auto target = files.linkTarget(place))
+        content.linkTarget = target->string();
+    if (component == Component::mcp)
+        content.serverCount = serversIn(place);
+    return content;
+}
+
+fs::path ComponentModel::place() const {
+    return placeOf(m_app->store(), *m_profile, m_component);
+}
+
+QString ComponentModel::component() const {
+    return text(rawValue(m_component));
+}
+
+QString ComponentModel::title() const {
+    return text(selvane::title(m_component));
+}
+
+QString ComponentModel::symbol() const {
+    return text(selvane::symbol(m_component));
+}
+
+bool ComponentModel::isCollection() const {
+    return selvane::isCollection(m_component);
+}
+
+QStringList ComponentModel::modes() const {
+    QStringList labels;
+    for (const ShareMode mode : allowedModes(m_component))
+        labels += text(label(mode));
+    return labels;
+}
+
+QStringList ComponentModel::modeExplanations() const {
+    QStringList explanations;
+    for (const ShareMode mode : allowedModes(m_component))
+        explanations += text(help(mode));
+    return explanations;
+}
+
+int ComponentModel::modeIndex() const {
+    if (!m_profile)
+        return -1;
+    const auto allowed = allowedModes(m_component);
+    for (std::size_t i = 0; i < allowed.size(); ++i) {
+        if (allowed[i] == m_profile->mode(m_component))
+            return static_cast<int>(i);
+    }
+    return -1;
+}
+
+QString ComponentModel::sourceName() const {
+    if (m_profile && m_profile->meta.source) {
+        if (const Profile* source = m_app->profile(QString::fromStdString(*m_profile->meta.source)))
+            return QString::fromStdString(source->meta.name);
+    }
+    return tr("sorgente");
+}
+
+QString ComponentModel::count() const {
+    if (!m_content.isRead)
+        return {};
+    const int total = m_items.count();
+    if (total == 0)
+        return tr("Nessun elemento");
+    const QString elements = total == 1 ? tr("1 elemento") : tr("%1 elementi").arg(total);
+    if (m_profile->isDefault())
+        return elements;
+    const int links = m_items.linkCount();
+    return elements + tr(" · %1 unificati, %2 propri").arg(links).arg(total - links);
+}
+
+QString ComponentModel::description() const {
+    if (!m_content.isRead)
+        return {};
+    if (m_content.linkTarget)
+        return tr("Collegato a %1").arg(linkTarget());
+    switch (m_component) {
+    case Component::claudeMd:
+        return m_content.exists ? tr("File CLAUDE.md del profilo") : tr("Nessun CLAUDE.md");
+    case Component::settings:
+        return m_content.exists ? tr("settings.json del profilo (permessi, hook, plugin attivi)")
+                                : tr("Nessuna impostazione personalizzata");
+    case Component::plugins:
+        return m_content.exists ? tr("Plugin e marketplace installati") : tr("Nessun plugin");
+    default:
+        return m_content.serverCount > 0 ? tr("%1 server MCP").arg(m_content.serverCount)
+                                         : tr("Nessun server MCP configurato");
+    }
+}
+
+QString ComponentModel::linkTarget() const {
+    return m_content.linkTarget ? QString::fromStdString(*m_content.linkTarget) : QString();
+}
+
+QString ComponentModel::openLabel() const {
+    const bool isText = m_component == Component::claudeMd || m_component == Component::settings;
+    if (m_content.exists)
+        return isText || m_component == Component::mcp ? tr("Apri") : QString();
+    // A new file would take the place of a link that leads nowhere.
+    return isText && m_content.isRead && !m_content.linkTarget ? tr("Crea") : QString();
+}
+
+bool ComponentModel::canReimport() const {
+    return hasModes() && !isCollection() && m_component != Component::claudeMd;
+}
+
+void ComponentModel::setMode(int index) {
+    const auto allowed = allowedModes(m_component);
+    if (!m_profile || index < 0 || index >= static_cast<int>(allowed.size()))
+        return;
+    m_app->perform(
+        [&] { m_app->store().setMode(allowed[static_cast<std::size_t>(index)], m_component, *m_profile); });
+}
+
+void ComponentModel::reveal() {
+    if (!m_profile)
+        return;
+    const fs::path item = place();
+    m_app->reveal(FileManager().exists(item) ? item : m_profile->configDir);
+}
+
+void ComponentModel::open() {
+    if (m_profile)
+        m_app->open(place());
+}
+
+void ComponentModel::reimport(const QString& profileId) {
+    const Profile* profile = m_app->profile(profileId);
+    if (profile == nullptr)
+        return;
+    m_app->perform([this, profile = *profile] {
+        const auto id = profile.meta.source;
+        const Profile* source = id ? m_app->profile(QString::fromStdString(*id)) : nullptr;
+        if (source == nullptr)
+            throw LauncherError("Il profilo da cui «" + profile.meta.name + "» eredita non c'è più");
+        ProfileStore& store = m_app->store();
+        if (m_component == Component::settings)
+            store.importSettings(profile, *source);
+        else if (m_component == Component::plugins)
+            store.importPlugins(profile, *source);
+        else if (m_component == Component::mcp)
+            store.importMCP(profile, *source);
+        m_app->setNotice(tr("%1: reimportati").arg(title()));
+    });
+}
+
+void ComponentModel::remove(int row) {
+    if (const ComponentItem* item = m_items.item(row))
+        m_app->perform([this, item = *item] { m_app->store().remove(item, *m_profile, m_component); });
+}
+
+void ComponentModel::makeOwn(int row) {
+    if (const ComponentItem* item = m_items.item(row))
+        m_app->perform([this, item = *item] { m_app->store().makeOwn(item, *m_profile); });
+}
+
+void ComponentModel::revealItem(int row) {
+    if (const ComponentItem* item = m_items.item(row))
+        m_app->reveal(item->url);
+}
+
+} // namespace selvane

@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+#include "AppModel/AppModel.h"
+#include "Views/manage/ItemListModel.h"
+
+namespace selvane {
+
+/// One component of the shown profile: a folder with its items, or a single file.
+class ComponentModel : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("owned by a ProfileDetailModel")
+
+    Q_PROPERTY(QString component READ component CONSTANT) ///< raw value
+    Q_PROPERTY(QString title READ title CONSTANT)
+    Q_PROPERTY(QString symbol READ symbol CONSTANT)
+    Q_PROPERTY(bool isCollection READ isCollection CONSTANT)
+
+    /// How the profile takes it from its source; offered only where there is one.
+    Q_PROPERTY(bool hasModes READ hasModes NOTIFY profileChanged)
+    Q_PROPERTY(QList<QString> modes READ modes CONSTANT)
+    Q_PROPERTY(QList<QString> modeExplanations READ modeExplanations CONSTANT)
+    Q_PROPERTY(int modeIndex READ modeIndex NOTIFY profileChanged) ///< -1 for one that isn't allowed
+    /// "sorgente" when the source is unknown.
+    Q_PROPERTY(QString sourceName READ sourceName NOTIFY profileChanged)
+
+    // Of a collection
+    Q_PROPERTY(selvane::ItemListModel* items READ items CONSTANT)
+    Q_PROPERTY(QString count READ count NOTIFY contentChanged)
+
+    // Of a single file
+    Q_PROPERTY(QString description READ description NOTIFY contentChanged)
+    Q_PROPERTY(QString linkTarget READ linkTarget NOTIFY contentChanged) ///< ends the description of a link
+    Q_PROPERTY(QString openLabel READ openLabel NOTIFY contentChanged)   ///< empty: it can't be opened
+    Q_PROPERTY(bool canReimport READ canReimport NOTIFY profileChanged)
+
+public:
+    /// What lies on disk, read on another thread.
+    struct Content {
+        bool isRead = false;
+        std::vector<ItemListModel::Entry> items;
+        bool exists = false;
+        std::optional<std::string> linkTarget;
+        int serverCount = 0;
+    };
+
+    ComponentModel(Component component, QObject* parent);
+
+    /// `profile` is looked at again on each call; null when none is shown. What was read of another one is
+    /// forgotten.
+    void setProfile(AppModel* app, const Profile* profile);
+    void setContent(Content content);
+    static Content read(const ProfileStore& store, const Profile& profile,
+                        const std::optional<Profile>& source, Component component);
+
+    QString component() const;
+    QString title() const;
+    QString symbol() const;
+    bool isCollection() const;
+    bool hasModes() const { return m_profile && m_profile->meta.source; }
+    QStringList modes() const;
+    QStringList modeExplanations() const;
+    int modeIndex() const;
+    QString sourceName() const;
+    ItemListModel* items() { return &m_items; }
+    QString count() const;
+    QString description() const;
+    QString linkTarget() const;
+    QString openLabel() const;
+    bool canReimport() const;
+
+public slots:
+    void setMode(int index);
+    void reveal();
+    void open();
+    /// Replaces what a profile has with the source's: the profile that the user was asked about, who may
+    /// since have selected another one from the picker.
+    void reimport(const QString& profileId);
+    // What the menu of an item offers.
+    void remove(int row);
+    void makeOwn(int row);
+    void revealItem(int row);
+
+signals:
+    void profileChanged();
+    void contentChanged();
+
+private:
+    std::filesystem::path place() const;
+
+    const Component m_component;
+    AppModel* m_app = nullptr;
+    std::optional<Profile> m_profile;
+    ItemListModel m_items;
+    Content m_content;
+};
+
+} // namespace selvane

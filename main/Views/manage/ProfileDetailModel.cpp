@@ -1,0 +1,242 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "Views/manage/ProfileDetailModel.h"
+
+#include <QtConcurrent>
+
+namespace selvane {
+namespace {
+
+QString text(const std::string& utf8) {
+    return QString::fromStdString(utf8);
+}
+
+} // namespace
+
+ProfileDetailModel::ProfileDetailModel(QObject* parent) : QObject(parent) {
+    for (const Component component : kComponents)
+        (isCollection(component) ? m_collections : m_files).append(new ComponentModel(component, this));
+    connect(&m_contents, &QFutureWatcherBase::finished, this, &ProfileDetailModel::takeContents);
+    connect(&m_counts, &QFutureWatcherBase::finished, this, &ProfileDetailModel::takeCounts);
+}
+
+void ProfileDetailModel::setApp(AppModel* app) {
+    if (m_app == app)
+        return;
+    if (m_app != nullptr)
+        m_app->disconnect(this);
+    m_app = app;
+    if (m_app != nullptr) {
+        connect(m_app, &AppModel::reloaded, this, &ProfileDetailModel::update);
+        connect(m_app, &AppModel::selectionChanged, this, &ProfileDetailModel::update);
+        connect(m_app, &AppModel::runningChanged, this, &ProfileDetailModel::runningChanged);
+        connect(m_app, &AppModel::runningChanged, this, &ProfileDetailModel::accountChanged);
+    }
+    update();
+    emit appChanged();
+}
+
+void ProfileDetailModel::update() {
+    const Profile* selected = m_app == nullptr ? nullptr : m_app->selected();
+    const bool isSame = m_profile && selected != nullptr && m_profile->id == selected->id;
+    m_profile = selected == nullptr ? std::nullopt : std::optional(*selected);
+    if (!isSame)
+        m_sessions = {};
+    for (ComponentModel* component : components())
+        component->setProfile(m_app, selected);
+    emit profileChanged();
+    emit runningChanged();
+    emit accountChanged();
+    emit sessionsChanged();
+    m_readers.clear();
+    m_contents.setFuture({});
+    m_counts.setFuture({});
+    m_awaited = m_profile ? 2 : 0;
+    if (m_profile) {
+        readComponents();
+        countSessions();
+    }
+}
+
+void ProfileDetailModel::readComponents() {
+    const Profile* from = source();
+    const auto read = [&store = m_app->store(), profile = *m_profile,
+                       source = from == nullptr ? std::nullopt : std::optional(*from)] {
+        Contents contents;
+        for (const Component component : kComponents)
+            contents.push_back(ComponentModel::read(store, profile, source, component));
+        return contents;
+    };
+    m_contents.setFuture(QtConcurrent::run(&m_readers, read));
+}
+
+void ProfileDetailModel::takeContents() {
+    if (m_contents.isCanceled())
+        return;
+    --m_awaited;
+    Contents contents = m_contents.future().takeResult();
+    auto content = contents.begin();
+    for (ComponentModel* component : components())
+        component->setContent(std::move(*content++));
+}
+
+void ProfileDetailModel::countSessions() {
+    const auto count = [&store = m_app->store(), profile = *m_profile]() -> SessionCounts {
+        try {
+            return {static_cast<int>(store.codeSessions(profile).size()), store.pendingSessionCount(profile)};
+        } catch (const std::exception&) { // an account that can't be told has no sessions
+            return {0, 0};
+        }
+    };
+    m_counts.setFuture(QtConcurrent::run(&m_readers, count));
+}
+
+void ProfileDetailModel::takeCounts() {
+    if (m_counts.isCanceled())
+        return;
+    --m_awaited;
+    m_sessions = m_counts.result();
+    emit sessionsChanged();
+}
+
+const Profile* ProfileDetailModel::source() const {
+    return !m_profile || !m_profile->meta.source ? nullptr : m_app->profile(text(*m_profile->meta.source));
+}
+
+QString ProfileDetailModel::profileId() const {
+    return m_profile ? text(m_profile->id) : QString();
+}
+
+QString ProfileDetailModel::name() const {
+    return !m_profile ? QString() : text(m_profile->meta.name);
+}
+
+QString ProfileDetailModel::summary() const {
+    return !m_profile ? QString() : text(m_profile->meta.summary);
+}
+
+QString ProfileDetailModel::symbol() const {
+    return !m_profile ? QString() : text(m_profile->meta.symbol);
+}
+
+QString ProfileDetailModel::folder() const {
+    return !m_profile ? QString() : text(m_profile->configDir.string());
+}
+
+bool ProfileDetailModel::isBuiltIn() const {
+    return m_profile && m_profile->isDefault();
+}
+
+bool ProfileDetailModel::hasSource() const {
+    return m_profile && m_profile->meta.source.has_value();
+}
+
+QString ProfileDetailModel::sourceName() const {
+    if (const Profile* from = source())
+        return text(from->meta.name);
+    return hasSource() ? text(*m_profile->meta.source) : QString();
+}
+
+bool ProfileDetailModel::isRunning() const {
+    return m_profile && m_app->running().contains(m_profile->id);
+}
+
+QString ProfileDetailModel::account() const {
+    if (!m_profile)
+        return {};
+    const QString open = isRunning() ? tr(" · aperto in Claude") : QString();
+    if (m_profile->isDefault())
+        return tr("Cartella dati normale di Claude Desktop") + open;
+    if (m_profile->accountOwner() != m_profile->id) {
+        const Profile* owner = m_app->profile(text(m_profile->accountOwner()));
+        return tr("Usa l'account di «%1»")
+            .arg(text(owner == nullptr ? m_profile->accountOwner() : owner->meta.name));
+    }
+    return m_app->store().hasDesktopData(*m_profile) ? tr("Cartella dati propria nel launcher") + open
+                                                     : tr("Account proprio — login al primo avvio");
+}
+
+/// The other profiles that have an account which this one can use, the one in use in any case.
+std::vector<const Profile*> ProfileDetailModel::accountOwners() const {
+    std::vector<const Profile*> owners;
+    if (!m_profile || m_profile->isDefault())
+        return owners;
+    for (const Profile& candidate : m_app->profiles()) {
+        const bool isInUse = m_profile->accountOwner() == candidate.id;
+        if (candidate.id != m_profile->id && (isInUse || candidate.accountOwner() == candidate.id))
+            owners.push_back(&candidate);
+    }
+    return owners;
+}
+
+QStringList ProfileDetailModel::accountChoices() const {
+    if (!m_profile || m_profile->isDefault())
+        return {};
+    QStringList names = {tr("Proprio")};
+    for (const Profile* owner : accountOwners())
+        names += text(owner->meta.name);
+    return names;
+}
+
+int ProfileDetailModel::accountIndex() const {
+    if (!m_profile || m_profile->accountOwner() == m_profile->id)
+        return 0;
+    const auto owners = accountOwners();
+    for (std::size_t i = 0; i < owners.size(); ++i) {
+        if (owners[i]->id == m_profile->accountOwner())
+            return static_cast<int>(i) + 1;
+    }
+    return -1;
+}
+
+QString ProfileDetailModel::sessions() const {
+    if (!m_profile || m_sessions.present < 0)
+        return {};
+    return m_sessions.present == 0 ? tr("Nessuna sessione")
+                                   : tr("%1 sessioni nell'account").arg(m_sessions.present);
+}
+
+QString ProfileDetailModel::pendingSessions() const {
+    return m_sessions.pending == 0
+               ? QString()
+               : tr("%1 in attesa: verranno aggiunte al prossimo avvio").arg(m_sessions.pending);
+}
+
+void ProfileDetailModel::change(const std::function<void(ProfileMeta&)>& edit) {
+    if (!m_profile)
+        return;
+    Profile changed = *m_profile;
+    edit(changed.meta);
+    if (changed != *m_profile)
+        m_app->perform([&] { m_app->store().changeMeta(*m_profile, edit); });
+}
+
+void ProfileDetailModel::setName(const QString& name) {
+    const QString trimmed = name.trimmed();
+    if (!trimmed.isEmpty())
+        change([&](ProfileMeta& meta) { meta.name = trimmed.toStdString(); });
+}
+
+void ProfileDetailModel::setSummary(const QString& summary) {
+    change([&](ProfileMeta& meta) { meta.summary = summary.trimmed().toStdString(); });
+}
+
+void ProfileDetailModel::setSymbol(const QString& symbol) {
+    change([&](ProfileMeta& meta) { meta.symbol = symbol.toStdString(); });
+}
+
+void ProfileDetailModel::setAccount(int index) {
+    const auto owners = accountOwners();
+    if (index < 0 || index > static_cast<int>(owners.size()) || index == accountIndex())
+        return;
+    m_app->setAccount(index == 0 ? QString() : text(owners[static_cast<std::size_t>(index) - 1]->id),
+                      profileId());
+}
+
+void ProfileDetailModel::remove(const QString& profileId) {
+    if (const Profile* profile = m_app->profile(profileId))
+        m_app->perform([this, profile = *profile] { m_app->store().deleteProfile(profile); });
+}
+
+} // namespace selvane

@@ -1,0 +1,123 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QFutureWatcher>
+#include <QList>
+#include <QObject>
+#include <QQmlEngine>
+#include <QQmlListProperty>
+#include <QStringList>
+#include <QThreadPool>
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+#include "AppModel/AppModel.h"
+#include "Views/manage/ComponentModel.h"
+
+namespace selvane {
+
+/// What the management window shows of the selected profile, and what can be done there. Everything that
+/// means looking through folders is read on another thread after each reload, and arrives a little later.
+class ProfileDetailModel : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+
+    Q_PROPERTY(selvane::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
+    /// Id of the profile; empty when none is selected, and then there is nothing in the other properties.
+    Q_PROPERTY(QString profileId READ profileId NOTIFY profileChanged)
+    Q_PROPERTY(QString name READ name NOTIFY profileChanged)
+    Q_PROPERTY(QString summary READ summary NOTIFY profileChanged)
+    Q_PROPERTY(QString symbol READ symbol NOTIFY profileChanged)
+    Q_PROPERTY(QString folder READ folder NOTIFY profileChanged)
+    Q_PROPERTY(bool isBuiltIn READ isBuiltIn NOTIFY profileChanged)
+    Q_PROPERTY(bool hasSource READ hasSource NOTIFY profileChanged)
+    Q_PROPERTY(QString sourceName READ sourceName NOTIFY profileChanged) ///< its id when it is unknown
+    Q_PROPERTY(bool isRunning READ isRunning NOTIFY runningChanged)
+
+    Q_PROPERTY(QString account READ account NOTIFY accountChanged)
+    /// "Proprio", then the names of the profiles whose account can be used; none for the built-in profile.
+    Q_PROPERTY(QList<QString> accountChoices READ accountChoices NOTIFY accountChanged)
+    Q_PROPERTY(int accountIndex READ accountIndex NOTIFY accountChanged)
+
+    Q_PROPERTY(QString sessions READ sessions NOTIFY sessionsChanged) ///< empty until they are counted
+    Q_PROPERTY(QString pendingSessions READ pendingSessions NOTIFY sessionsChanged) ///< empty for none
+
+    /// The components in their order, those that are folders first.
+    Q_PROPERTY(QQmlListProperty<selvane::ComponentModel> collections READ collections CONSTANT)
+    Q_PROPERTY(QQmlListProperty<selvane::ComponentModel> files READ files CONSTANT)
+
+public:
+    explicit ProfileDetailModel(QObject* parent = nullptr);
+
+    AppModel* app() const { return m_app; }
+    void setApp(AppModel* app);
+
+    QString profileId() const;
+    QString name() const;
+    QString summary() const;
+    QString symbol() const;
+    QString folder() const;
+    bool isBuiltIn() const;
+    bool hasSource() const;
+    QString sourceName() const;
+    bool isRunning() const;
+    QString account() const;
+    QStringList accountChoices() const;
+    int accountIndex() const;
+    QString sessions() const;
+    QString pendingSessions() const;
+    QQmlListProperty<ComponentModel> collections() { return {this, &m_collections}; }
+    QQmlListProperty<ComponentModel> files() { return {this, &m_files}; }
+    QList<ComponentModel*> components() const { return m_collections + m_files; }
+    /// Whether something is still to arrive from the other threads.
+    bool isReading() const { return m_awaited > 0; }
+
+public slots:
+    void setName(const QString& name); ///< a blank one changes nothing
+    void setSummary(const QString& summary);
+    void setSymbol(const QString& symbol);
+    void setAccount(int index);
+    /// Moves a profile to the Trash: the one that the user was asked about, who may since have selected
+    /// another one from the picker.
+    void remove(const QString& profileId);
+
+signals:
+    void appChanged();
+    void profileChanged();
+    void runningChanged();
+    void accountChanged();
+    void sessionsChanged();
+
+private:
+    using Contents = std::vector<ComponentModel::Content>;
+    struct SessionCounts {
+        int present = -1; ///< not counted yet
+        int pending = 0;
+    };
+
+    void update();
+    void readComponents();
+    void countSessions();
+    void takeContents();
+    void takeCounts();
+    const Profile* source() const;
+    void change(const std::function<void(ProfileMeta&)>& edit);
+    std::vector<const Profile*> accountOwners() const;
+
+    AppModel* m_app = nullptr;
+    std::optional<Profile> m_profile; ///< a copy: the model's own may be gone before this hears of it
+    QList<ComponentModel*> m_collections;
+    QList<ComponentModel*> m_files;
+    SessionCounts m_sessions;
+    // Each watches its newest reading alone: what an earlier one has read is dropped.
+    QFutureWatcher<Contents> m_contents;
+    QFutureWatcher<SessionCounts> m_counts;
+    int m_awaited = 0;     ///< of the two
+    QThreadPool m_readers; ///< waited for at the end, because they use the application's store
+};
+
+} // namespace selvane

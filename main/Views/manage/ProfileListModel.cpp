@@ -1,0 +1,148 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "Views/manage/ProfileListModel.h"
+
+#include <algorithm>
+#include <chrono>
+
+#include "platform/text/Text.h"
+
+namespace selvane {
+namespace {
+
+QString lastLaunch(const Profile& profile) {
+    if (!profile.meta.lastLaunched)
+        return ProfileListModel::tr("Mai avviato");
+    return QString::fromStdString(text::relativeDate(currentTimestamp() - *profile.meta.lastLaunched));
+}
+
+QString subtitle(const Profile& profile) {
+    const QString last = lastLaunch(profile);
+    return profile.meta.lastLaunched ? ProfileListModel::tr("Avviato %1").arg(last) : last;
+}
+
+QString sourceName(const Profile& profile, const AppModel& app) {
+    if (!profile.meta.source)
+        return {};
+    const QString id = QString::fromStdString(*profile.meta.source);
+    const Profile* source = app.profile(id);
+    return source == nullptr ? id : QString::fromStdString(source->meta.name);
+}
+
+bool haveSameIds(const std::vector<Profile>& some, const std::vector<Profile>& others) {
+    return std::ranges::equal(some, others, {}, &Profile::id, &Profile::id);
+}
+
+} // namespace
+
+ProfileListModel::ProfileListModel(QObject* parent) : QAbstractListModel(parent) {
+    m_minute.setInterval(std::chrono::minutes(1));
+    connect(&m_minute, &QTimer::timeout, this, [this] { changed({LastLaunchRole, SubtitleRole}); });
+    m_minute.start();
+}
+
+void ProfileListModel::setApp(AppModel* app) {
+    if (m_app == app)
+        return;
+    if (m_app != nullptr)
+        m_app->disconnect(this);
+    m_app = app;
+    if (m_app != nullptr) {
+        connect(m_app, &AppModel::reloaded, this, &ProfileListModel::update);
+        connect(m_app, &AppModel::runningChanged, this, [this] { changed({IsRunningRole}); });
+    }
+    update();
+    emit appChanged();
+}
+
+void ProfileListModel::update() {
+    std::vector<Profile> profiles = m_app == nullptr ? std::vector<Profile>{} : m_app->profiles();
+    m_activeID = m_app == nullptr ? std::nullopt : m_app->activeID();
+    // The same rows stay where they are, so that a list keeps its place.
+    if (!profiles.empty() && haveSameIds(profiles, m_profiles)) {
+        m_profiles = std::move(profiles);
+        changed({});
+        return;
+    }
+    beginResetModel();
+    m_profiles = std::move(profiles);
+    endResetModel();
+    emit countChanged();
+}
+
+void ProfileListModel::changed(const QList<int>& roles) {
+    if (!m_profiles.empty())
+        emit dataChanged(index(0), index(count() - 1), roles);
+}
+
+int ProfileListModel::indexOf(const QString& profileId) const {
+    const std::string wanted = profileId.toStdString();
+    for (std::size_t i = 0; i < m_profiles.size(); ++i) {
+        if (m_profiles[i].id == wanted)
+            return static_cast<int>(i);
+    }
+    return -1;
+}
+
+QString ProfileListModel::idNear(int row) const {
+    if (m_profiles.empty())
+        return {};
+    const int nearest = std::clamp(row, 0, count() - 1);
+    return QString::fromStdString(m_profiles[static_cast<std::size_t>(nearest)].id);
+}
+
+int ProfileListModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(m_profiles.size());
+}
+
+QVariant ProfileListModel::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const Profile& profile = m_profiles.at(static_cast<std::size_t>(index.row()));
+    switch (role) {
+    case IdRole:
+        return QString::fromStdString(profile.id);
+    case NameRole:
+        return QString::fromStdString(profile.meta.name);
+    case SummaryRole:
+        return QString::fromStdString(profile.meta.summary);
+    case SymbolRole:
+        return QString::fromStdString(profile.meta.symbol);
+    case IsRunningRole:
+        return m_app->running().contains(profile.id);
+    case IsActiveRole:
+        return m_activeID == profile.id;
+    case HasOwnAccountRole:
+        return !profile.isDefault() && !profile.meta.account;
+    case HasSourceRole:
+        return profile.meta.source.has_value();
+    case SourceNameRole:
+        return sourceName(profile, *m_app);
+    case WasLaunchedRole:
+        return profile.meta.lastLaunched.has_value();
+    case LastLaunchRole:
+        return lastLaunch(profile);
+    case SubtitleRole:
+        return subtitle(profile);
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> ProfileListModel::roleNames() const {
+    return {{IdRole, "profileId"},
+            {NameRole, "name"},
+            {SummaryRole, "summary"},
+            {SymbolRole, "symbol"},
+            {IsRunningRole, "isRunning"},
+            {IsActiveRole, "isActive"},
+            {HasOwnAccountRole, "hasOwnAccount"},
+            {HasSourceRole, "hasSource"},
+            {SourceNameRole, "sourceName"},
+            {WasLaunchedRole, "wasLaunched"},
+            {LastLaunchRole, "lastLaunch"},
+            {SubtitleRole, "subtitle"}};
+}
+
+} // namespace selvane

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QObject>
+#include <QQmlEngine>
+
+#include "AppModel/AppModel.h"
+
+namespace selvane {
+
+/// The tile that the picker's keyboard acts on, and what its keys do.
+class PickerModel : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+
+    Q_PROPERTY(selvane::AppModel* app MEMBER m_app NOTIFY appChanged REQUIRED)
+    /// Id of the focused profile; empty for none.
+    Q_PROPERTY(QString focused READ focused WRITE setFocused NOTIFY focusedChanged)
+
+public:
+    using QObject::QObject;
+
+    QString focused() const { return m_focused; }
+    void setFocused(const QString& id);
+
+    /// Begins with the profile selected in the application, each time the picker is shown.
+    Q_INVOKABLE void begin();
+    /// One tile back or forward, around the ends. False when there are no profiles.
+    Q_INVOKABLE bool move(int step);
+    /// False, with nothing done, when no profile is focused.
+    Q_INVOKABLE bool launchFocused();
+    /// Launches the profile in the place that the typed digits name, from 1. False when there is none.
+    Q_INVOKABLE bool launchNumber(const QString& digits);
+
+signals:
+    void appChanged();
+    void focusedChanged();
+
+private:
+    AppModel* m_app = nullptr;
+    QString m_focused;
+};
+
+} // namespace selvane

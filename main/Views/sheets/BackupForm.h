@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QObject>
+#include <QQmlEngine>
+
+#include "AppModel/AppModel.h"
+
+namespace selvane {
+
+/// The state of the sheet that chooses what to back up.
+class BackupForm : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+
+    Q_PROPERTY(selvane::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
+    Q_PROPERTY(bool savesPrincipal MEMBER m_savesPrincipal NOTIFY scopeChanged)
+    Q_PROPERTY(bool savesProfiles MEMBER m_savesProfiles NOTIFY scopeChanged)
+    Q_PROPERTY(bool canSave READ canSave NOTIFY scopeChanged)
+    Q_PROPERTY(bool claudeRuns READ claudeRuns NOTIFY claudeRunsChanged)
+
+public:
+    using QObject::QObject;
+
+    AppModel* app() const { return m_app; }
+    void setApp(AppModel* app);
+    bool canSave() const { return m_savesPrincipal || m_savesProfiles; }
+    bool claudeRuns() const;
+    /// Does nothing while nothing is chosen.
+    Q_INVOKABLE void submit();
+
+signals:
+    void appChanged();
+    void scopeChanged();
+    void claudeRunsChanged();
+
+private:
+    AppModel* m_app = nullptr;
+    bool m_savesPrincipal = true;
+    bool m_savesProfiles = true;
+};
+
+} // namespace selvane

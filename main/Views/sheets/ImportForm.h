@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QQmlParserStatus>
+
+#include "AppModel/AppModel.h"
+#include "Views/sheets/ChoiceListModel.h"
+
+namespace selvane {
+
+/// The state of the sheet that adds items of one component from another profile.
+class ImportForm : public QObject, public QQmlParserStatus {
+    Q_OBJECT
+    Q_INTERFACES(QQmlParserStatus)
+    QML_ELEMENT
+
+    Q_PROPERTY(selvane::AppModel* app MEMBER m_app NOTIFY inputChanged REQUIRED)
+    Q_PROPERTY(QString target MEMBER m_target NOTIFY inputChanged REQUIRED)
+    Q_PROPERTY(QString component MEMBER m_component NOTIFY inputChanged REQUIRED) ///< raw value
+    /// Id of the profile to take from; at first the first of the others.
+    Q_PROPERTY(QString source READ source WRITE setSource NOTIFY sourceChanged)
+    Q_PROPERTY(bool links MEMBER m_links NOTIFY linksChanged) ///< linked, otherwise copied
+    /// What the target doesn't have yet.
+    Q_PROPERTY(selvane::ChoiceListModel* items READ items CONSTANT)
+    Q_PROPERTY(QString heading READ heading NOTIFY inputChanged)
+
+public:
+    using QObject::QObject;
+
+    QString source() const { return m_source; }
+    void setSource(const QString& id);
+    ChoiceListModel* items() { return &m_items; }
+    QString heading() const;
+
+    void classBegin() override {}
+    void componentComplete() override { setSource(m_app->firstOther(m_target)); }
+
+    /// Does nothing while no item is chosen.
+    Q_INVOKABLE void submit();
+
+signals:
+    void inputChanged();
+    void sourceChanged();
+    void linksChanged();
+
+private:
+    void listItems();
+
+    AppModel* m_app = nullptr;
+    QString m_target;
+    QString m_component;
+    QString m_source;
+    bool m_links = true;
+    ChoiceListModel m_items;
+};
+
+} // namespace selvane

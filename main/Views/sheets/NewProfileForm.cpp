@@ -1,0 +1,167 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "Views/sheets/NewProfileForm.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace selvane {
+namespace {
+
+QString text(std::string_view value) {
+    return QString::fromUtf8(value.data(), static_cast<qsizetype>(value.size()));
+}
+
+ShareMode nearestMode(ShareMode wanted, Component component) {
+    if (allows(component, wanted))
+        return wanted;
+    return wanted == ShareMode::shared && component == Component::claudeMd ? ShareMode::extend
+                                                                           : ShareMode::separate;
+}
+
+std::unique_ptr<ChoiceListModel> choices(const std::vector<ComponentItem>& items) {
+    std::vector<ChoiceListModel::Entry> entries;
+    for (const ComponentItem& item : items)
+        entries.push_back({item.name, QString::fromStdString(item.name), {}, true});
+    auto model = std::make_unique<ChoiceListModel>();
+    QQmlEngine::setObjectOwnership(model.get(), QQmlEngine::CppOwnership);
+    model->setEntries(std::move(entries));
+    return model;
+}
+
+QStringList texts(std::span<const ShareMode> modes, std::string_view (*textOf)(ShareMode)) {
+    QStringList result;
+    for (const ShareMode mode : modes)
+        result += text(textOf(mode));
+    return result;
+}
+
+} // namespace
+
+void NewProfileForm::setApp(AppModel* app) {
+    if (m_app == app)
+        return;
+    if (m_app != nullptr)
+        m_app->disconnect(this);
+    m_app = app;
+    if (m_app != nullptr)
+        connect(m_app, &AppModel::reloaded, this, [this] {
+            if (m_app->profile(m_source) == nullptr)
+                setSource({});
+        });
+    listComponents();
+    emit appChanged();
+    emit sourceChanged();
+}
+
+void NewProfileForm::setSource(const QString& id) {
+    if (m_source == id)
+        return;
+    m_source = id;
+    listComponents();
+    emit sourceChanged();
+}
+
+void NewProfileForm::listComponents() {
+    beginResetModel();
+    // Views hold on to the items of the old rows until the reset has ended.
+    const std::vector<Row> old = std::exchange(m_rows, {});
+    const Profile* source = m_app == nullptr ? nullptr : m_app->profile(m_source);
+    if (m_app != nullptr && source == nullptr)
+        m_source.clear();
+    if (source != nullptr) {
+        for (const Component component : kComponents) {
+            Row row{component, defaultMode(component), nullptr};
+            if (isCollection(component))
+                row.items = choices(m_app->store().items(component, *source));
+            m_rows.push_back(std::move(row));
+        }
+    }
+    endResetModel();
+}
+
+QString NewProfileForm::sourceName() const {
+    const Profile* source = m_app == nullptr ? nullptr : m_app->profile(m_source);
+    return source == nullptr ? QString() : QString::fromStdString(source->meta.name);
+}
+
+void NewProfileForm::setMode(int row, int modeIndex) {
+    if (row < 0 || row >= rowCount())
+        return;
+    Row& changed = m_rows[static_cast<std::size_t>(row)];
+    const auto modes = allowedModes(changed.component);
+    if (modeIndex < 0 || modeIndex >= static_cast<int>(modes.size()))
+        return;
+    changed.mode = modes[static_cast<std::size_t>(modeIndex)];
+    emit dataChanged(index(row), index(row), {ModeIndexRole});
+}
+
+void NewProfileForm::setAll(ShareMode mode) {
+    if (m_rows.empty())
+        return;
+    for (Row& row : m_rows)
+        row.mode = nearestMode(mode, row.component);
+    emit dataChanged(index(0), index(rowCount() - 1), {ModeIndexRole});
+}
+
+ProfileRequest NewProfileForm::request() const {
+    ProfileRequest request;
+    request.profile.name = m_name.toStdString();
+    request.profile.summary = m_summary.toStdString();
+    request.profile.symbol = m_symbol.toStdString();
+    const Profile* source = m_app->profile(m_source);
+    if (source == nullptr)
+        return request;
+    request.profile.from = *source;
+    for (const Row& row : m_rows) {
+        request.profile.modes[row.component] = row.mode;
+        if (row.items)
+            request.profile.selection[row.component] = row.items->chosenKeys();
+    }
+    if (m_sharesAccount)
+        request.profile.account = source->accountOwner();
+    request.copySessions = !m_sharesAccount && m_copiesSessions;
+    return request;
+}
+
+void NewProfileForm::create() {
+    if (canCreate())
+        m_app->create(request());
+}
+
+int NewProfileForm::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+QVariant NewProfileForm::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const Row& row = m_rows[static_cast<std::size_t>(index.row())];
+    switch (role) {
+    case TitleRole:
+        return text(title(row.component));
+    case SymbolRole:
+        return text(selvane::symbol(row.component));
+    case ModeLabelsRole:
+        return texts(allowedModes(row.component), label);
+    case ModeExplanationsRole:
+        return texts(allowedModes(row.component), help);
+    case ModeIndexRole: {
+        const auto modes = allowedModes(row.component);
+        return static_cast<int>(std::find(modes.begin(), modes.end(), row.mode) - modes.begin());
+    }
+    case ItemsRole:
+        return QVariant::fromValue(row.items.get());
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> NewProfileForm::roleNames() const {
+    return {{TitleRole, "title"},           {SymbolRole, "symbol"},
+            {ModeLabelsRole, "modeLabels"}, {ModeExplanationsRole, "modeExplanations"},
+            {ModeIndexRole, "modeIndex"},   {ItemsRole, "items"}};
+}
+
+} // namespace selvane

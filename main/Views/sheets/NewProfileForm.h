@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QAbstractListModel>
+#include <QQmlEngine>
+
+#include <memory>
+#include <vector>
+
+#include "AppModel/AppModel.h"
+#include "Views/sheets/ChoiceListModel.h"
+
+namespace selvane {
+
+/// The state of the sheet that makes a profile. As a list, its rows are the components with their share
+/// modes, there only while a source is chosen.
+class NewProfileForm : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+
+    Q_PROPERTY(selvane::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
+    Q_PROPERTY(QString name MEMBER m_name NOTIFY nameChanged)
+    Q_PROPERTY(QString summary MEMBER m_summary NOTIFY summaryChanged)
+    Q_PROPERTY(QString symbol MEMBER m_symbol NOTIFY symbolChanged)
+    /// Id of the profile to start from; empty for none, also when it goes away.
+    Q_PROPERTY(QString source READ source WRITE setSource NOTIFY sourceChanged)
+    Q_PROPERTY(QString sourceName READ sourceName NOTIFY sourceChanged)
+    Q_PROPERTY(bool sharesAccount MEMBER m_sharesAccount NOTIFY sharesAccountChanged)
+    Q_PROPERTY(bool copiesSessions MEMBER m_copiesSessions NOTIFY copiesSessionsChanged)
+    Q_PROPERTY(bool canCreate READ canCreate NOTIFY nameChanged)
+
+public:
+    enum Role {
+        TitleRole = Qt::UserRole,
+        SymbolRole,
+        ModeLabelsRole, ///< of the modes that the component allows
+        ModeExplanationsRole,
+        ModeIndexRole,
+        ItemsRole, ///< a ChoiceListModel, or null for what is no folder
+    };
+
+    using QAbstractListModel::QAbstractListModel;
+
+    AppModel* app() const { return m_app; }
+    void setApp(AppModel* app);
+    QString source() const { return m_source; }
+    void setSource(const QString& id);
+    QString sourceName() const;
+    bool canCreate() const { return !m_name.trimmed().isEmpty(); }
+
+    Q_INVOKABLE void setMode(int row, int modeIndex);
+    // The mode for every component that allows it; the nearest one for the others.
+    Q_INVOKABLE void shareAll() { setAll(ShareMode::shared); }
+    Q_INVOKABLE void separateAll() { setAll(ShareMode::separate); }
+    /// Hands the request to the application. Does nothing while the name is blank.
+    Q_INVOKABLE void create();
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+signals:
+    void appChanged();
+    void nameChanged();
+    void summaryChanged();
+    void symbolChanged();
+    void sourceChanged();
+    void sharesAccountChanged();
+    void copiesSessionsChanged();
+
+private:
+    struct Row {
+        Component component;
+        ShareMode mode;
+        std::unique_ptr<ChoiceListModel> items; ///< only of a collection
+    };
+
+    void listComponents();
+    void setAll(ShareMode mode);
+    ProfileRequest request() const;
+
+    AppModel* m_app = nullptr;
+    QString m_name;
+    QString m_summary;
+    QString m_symbol = QStringLiteral("briefcase");
+    QString m_source;
+    bool m_sharesAccount = true;
+    bool m_copiesSessions = false;
+    std::vector<Row> m_rows;
+};
+
+} // namespace selvane

@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "Views/sheets/SessionImportForm.h"
+
+#include <QtConcurrent>
+
+namespace selvane {
+
+SessionImportForm::SessionImportForm(QObject* parent) : QObject(parent) {
+    connect(&m_reading, &QFutureWatcherBase::finished, this, [this] {
+        if (m_reading.isCanceled())
+            return;
+        setLoading(false);
+        show(m_reading.result());
+    });
+}
+
+/// An account can have thousands of sessions: they are read on another thread.
+void SessionImportForm::setSource(const QString& id) {
+    m_source = id;
+    emit sourceChanged();
+    const Profile* source = m_app->profile(id);
+    setLoading(source != nullptr);
+    show({});
+    m_reading.setFuture({}); // what another source had is of no use
+    if (source == nullptr)
+        return;
+    const auto read = [&store = m_app->store(), profile = *source]() -> std::vector<CodeSession> {
+        try {
+            return store.codeSessions(profile);
+        } catch (const std::exception&) { // an account that can't be told has no sessions
+            return {};
+        }
+    };
+    m_reading.setFuture(QtConcurrent::run(&m_readers, read));
+}
+
+void SessionImportForm::setLoading(bool isLoading) {
+    if (m_isLoading == isLoading)
+        return;
+    m_isLoading = isLoading;
+    emit isLoadingChanged();
+}
+
+QString SessionImportForm::folderOf(const CodeSession& session) const {
+    const std::string home = m_app->store().home().string() + '/';
+    return QString::fromStdString(session.cwd.starts_with(home) ? "~/" + session.cwd.substr(home.size())
+                                                                : session.cwd);
+}
+
+void SessionImportForm::show(std::vector<CodeSession> sessions) {
+    m_sessions = std::move(sessions);
+    std::vector<ChoiceListModel::Entry> entries;
+    for (const CodeSession& session : m_sessions)
+        entries.push_back({session.file, QString::fromStdString(session.title), folderOf(session), false});
+    m_choices.setEntries(std::move(entries));
+}
+
+void SessionImportForm::submit() {
+    const Profile* source = m_app->profile(m_source);
+    const Profile* target = m_app->profile(m_target);
+    const std::set<std::string> files = m_choices.chosenKeys();
+    if (source == nullptr || target == nullptr || files.empty())
+        return;
+    std::vector<CodeSession> chosen;
+    for (const CodeSession& session : m_sessions) {
+        if (files.contains(session.file))
+            chosen.push_back(session);
+    }
+    // Copies: importing reloads the profiles that these point to.
+    m_app->importSessions(chosen, Profile(*source), Profile(*target));
+}
+
+} // namespace selvane

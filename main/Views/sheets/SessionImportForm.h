@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QFutureWatcher>
+#include <QObject>
+#include <QQmlEngine>
+#include <QQmlParserStatus>
+#include <QThreadPool>
+
+#include <vector>
+
+#include "AppModel/AppModel.h"
+#include "Views/sheets/ChoiceListModel.h"
+
+namespace selvane {
+
+/// The state of the sheet that takes sessions of the Code tab along from another profile.
+class SessionImportForm : public QObject, public QQmlParserStatus {
+    Q_OBJECT
+    Q_INTERFACES(QQmlParserStatus)
+    QML_ELEMENT
+
+    Q_PROPERTY(selvane::AppModel* app MEMBER m_app NOTIFY inputChanged REQUIRED)
+    Q_PROPERTY(QString target MEMBER m_target NOTIFY inputChanged REQUIRED)
+    /// Id of the profile to take from; at first the first of the others.
+    Q_PROPERTY(QString source READ source WRITE setSource NOTIFY sourceChanged)
+    /// Each with its working folder, in which "~" stands for the home folder.
+    Q_PROPERTY(selvane::ChoiceListModel* sessions READ sessions CONSTANT)
+    Q_PROPERTY(bool isLoading READ isLoading NOTIFY isLoadingChanged)
+
+public:
+    explicit SessionImportForm(QObject* parent = nullptr);
+
+    QString source() const { return m_source; }
+    void setSource(const QString& id);
+    ChoiceListModel* sessions() { return &m_choices; }
+    bool isLoading() const { return m_isLoading; }
+
+    void classBegin() override {}
+    void componentComplete() override { setSource(m_app->firstOther(m_target)); }
+
+    /// Does nothing while no session is chosen.
+    Q_INVOKABLE void submit();
+
+signals:
+    void inputChanged();
+    void sourceChanged();
+    void isLoadingChanged();
+
+private:
+    QString folderOf(const CodeSession& session) const;
+    void show(std::vector<CodeSession> sessions);
+    void setLoading(bool isLoading);
+
+    AppModel* m_app = nullptr;
+    QString m_target;
+    QString m_source;
+    bool m_isLoading = false;
+    std::vector<CodeSession> m_sessions;
+    ChoiceListModel m_choices;
+    QFutureWatcher<std::vector<CodeSession>> m_reading; ///< the newest alone
+    QThreadPool m_readers; ///< waited for at the end, because they use the application's store
+};
+
+} // namespace selvane

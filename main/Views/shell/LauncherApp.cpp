@@ -1,0 +1,192 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "Views/shell/LauncherApp.h"
+
+#include <QGuiApplication>
+#include <QQmlComponent>
+#include <QQuickItem>
+#include <QThreadPool>
+#include <QTimer>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <utility>
+
+#include "AppModel/Preferences.h"
+#include "Views/shell/QmlModule.h"
+#include "Views/shell/SingleInstance.h"
+#include "Views/shell/SystemAppearance.h"
+#include "Views/shell/SystemBridge.h"
+#include "Views/shell/SystemShell.h"
+#include "artwork/Brand.h"
+#include "model/LauncherError.h"
+
+namespace selvane {
+namespace {
+
+constexpr auto kNewProfileOption = "--new-profile";
+constexpr auto kNoDisplay =
+    "Nessuno schermo disponibile: senza, Selvane si usa con i suoi comandi (selvane --help)";
+
+/// A display that is named but doesn't answer: Qt would abort the process.
+void endWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& /*message*/) {
+    if (type != QtFatalMsg)
+        return;
+    std::fprintf(stderr, "Errore: %s\n", kNoDisplay);
+    std::_Exit(EXIT_FAILURE);
+}
+
+/// By way of its module: a file opened by its place alone doesn't see the module's own types.
+std::unique_ptr<QObject> make(QQmlEngine& engine, const char* type, const QVariantMap& properties) {
+    QQmlComponent component(&engine);
+    component.setData(QStringLiteral("import Selvane\n%1 {}").arg(type).toUtf8(), {});
+    std::unique_ptr<QObject> made;
+    if (component.isReady()) // else making one is a crash
+        made.reset(component.createWithInitialProperties(properties));
+    if (!made)
+        throw LauncherError("Finestra non utilizzabile: " + component.errorString().toStdString());
+    return made;
+}
+
+} // namespace
+
+LauncherApp::LauncherApp(QQmlEngine& engine, AppModel& app, Updates& updates)
+    : m_engine(engine), m_app(app), m_updates(updates) {
+    connect(&m_engine, &QQmlEngine::quit, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+    // Commands may have changed the profiles while another application was in front.
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
+        if (state == Qt::ApplicationActive && std::exchange(m_wasLeft, false))
+            m_app.reload();
+        m_wasLeft = m_wasLeft || state == Qt::ApplicationInactive;
+    });
+}
+
+LauncherApp::~LauncherApp() = default;
+
+std::unique_ptr<QQuickWindow> LauncherApp::makeWindow(WindowName name) {
+    const QVariantMap properties = {{"launcher", QVariant::fromValue(this)}};
+    auto made = make(m_engine, name == Picker ? "PickerWindow" : "ManageWindow", properties);
+    std::unique_ptr<QQuickWindow> window(static_cast<QQuickWindow*>(made.release()));
+    connect(window.get(), &QWindow::visibleChanged, this, [this] { emit shownChanged(isShown()); });
+    connect(window.get(), &QWindow::activeChanged, this, [this, name, shown = window.get()] {
+        if (shown->isActive())
+            setKeyWindow(name);
+    });
+    return window;
+}
+
+void LauncherApp::show(WindowName name) {
+    auto& window = m_windows.at(name);
+    if (!window)
+        window = makeWindow(name);
+    setKeyWindow(name);
+    window->show();
+    window->raise();
+    window->requestActivate();
+}
+
+void LauncherApp::setKeyWindow(WindowName name) {
+    if (m_keyWindow == name)
+        return;
+    m_keyWindow = name;
+    emit keyWindowChanged();
+}
+
+bool LauncherApp::isShown() const {
+    return std::any_of(m_windows.begin(), m_windows.end(),
+                       [](const auto& window) { return window && window->isVisible(); });
+}
+
+void LauncherApp::offerNewProfile() {
+    // What answers is made after the window's first frame.
+    QQuickWindow* picker = window(Picker);
+    if (picker->property("isComplete").toBool())
+        emit newProfile();
+    else
+        connect(picker, SIGNAL(isCompleteChanged()), this, SIGNAL(newProfile()), Qt::UniqueConnection);
+}
+
+void LauncherApp::answerStart(const QByteArray& request) {
+    m_app.perform([&] {
+        show(Picker);
+        if (request == kNewProfileOption)
+            offerNewProfile();
+    });
+}
+
+void LauncherApp::start(const QByteArray& request) {
+    show(Picker);
+    if (request == kNewProfileOption)
+        offerNewProfile();
+    // After the first window: what follows is worth no delay.
+    const auto once = static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection);
+    connect(window(Picker), &QQuickWindow::frameSwapped, this, &LauncherApp::begun, once);
+    m_engine.singletonInstance<SystemAppearance*>(qmlTypeId("Selvane", 1, 0, "SystemAppearance"))->read();
+}
+
+void LauncherApp::tryToShow(WindowName name) {
+    m_app.perform([&] { show(name); });
+}
+
+void LauncherApp::askForArchive(const QString& proposedPlace) {
+    m_app.perform([&] {
+        QQuickItem* parent = window(m_keyWindow)->contentItem();
+        QObject* sheet = make(m_engine, "ArchiveSheet",
+                              {{"parent", QVariant::fromValue(parent)}, {"place", proposedPlace}})
+                             .release();
+        QQmlEngine::setObjectOwnership(sheet, QQmlEngine::CppOwnership);
+        sheet->setParent(parent);
+        connect(sheet, SIGNAL(chosen(QString)), this, SIGNAL(archiveChosen(QString)));
+        connect(sheet, SIGNAL(closed()), sheet, SLOT(deleteLater()));
+    });
+}
+
+int runLauncherApp(int argc, char** argv) {
+    if (!hasDisplay())
+        throw LauncherError(kNoDisplay);
+    const QtMessageHandler usual = qInstallMessageHandler(endWithoutDisplay);
+    QGuiApplication application(argc, argv);
+    qInstallMessageHandler(usual);
+    QGuiApplication::setApplicationName(Brand::name);
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.selvane.Selvane"));
+    const QByteArray request = argc > 1 ? argv[1] : "";
+    SingleInstance instance;
+    if (!instance.claim(request))
+        return 0;
+    qml_register_types_Selvane();
+    QQmlEngine engine;
+    // Loaded on the engine's own thread, while this one has other things to do. Now and then it needs this
+    // one.
+    const QQmlComponent loading(&engine,
+                                QUrl(QStringLiteral("qrc:/qt-project.org/imports/Selvane/PickerWindow.qml")),
+                                QQmlComponent::Asynchronous);
+    const auto serveLoading = [] { QCoreApplication::sendPostedEvents(); };
+    const Environment environment = currentEnvironment();
+    const auto workspace = makeWorkspace(ClaudeApp::identity(), environment);
+    SystemClock clock;
+    const ClaudeApp claude(*workspace, clock, environment);
+    ProfileStore store(environment, claude);
+    Preferences preferences(openSettings());
+    SystemBridge bridge([&store] { return store.claudeInstances(); });
+    serveLoading();
+    Brand::registerFonts();
+    serveLoading();
+    AppModel model(store, claude, bridge, preferences);
+    Updates updates(makeUpdater());
+    LauncherApp launcher(engine, model, updates);
+    const std::unique_ptr<QObject> shell = makeSystemShell(launcher);
+    serveLoading();
+
+    QObject::connect(&instance, &SingleInstance::startedAgain, &launcher, &LauncherApp::answerStart);
+    QObject::connect(&launcher, &LauncherApp::shownChanged, &bridge, &SystemBridge::setWatching);
+    QObject::connect(&bridge, &SystemBridge::archiveWanted, &launcher, &LauncherApp::askForArchive);
+    QObject::connect(&launcher, &LauncherApp::archiveChosen, &bridge, &SystemBridge::answerArchive);
+    launcher.start(request);
+    const int status = QGuiApplication::exec();
+    QThreadPool::globalInstance()->waitForDone(); // what still reads uses the store
+    return status;
+}
+
+} // namespace selvane

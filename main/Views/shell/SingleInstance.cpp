@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "Views/shell/SingleInstance.h"
+
+#include <QFile>
+#include <QLocalSocket>
+
+#include "platform/files/RuntimeFolder.h"
+
+namespace selvane {
+namespace {
+
+constexpr int kAnswerMilliseconds = 1000;
+constexpr qint64 kLongestRequest = 1000;
+
+QString socketName() {
+    const auto folder = runtimeFolder(currentEnvironment());
+    return folder ? QFile::decodeName((*folder / "windows").c_str()) : QString();
+}
+
+} // namespace
+
+void SingleInstance::hear(QLocalSocket* caller) {
+    connect(caller, &QLocalSocket::disconnected, this, [this, caller] {
+        emit startedAgain(caller->read(kLongestRequest));
+        caller->deleteLater();
+    });
+}
+
+bool SingleInstance::claim(const QByteArray& request) {
+    const QString name = socketName();
+    if (name.isEmpty())
+        return true;
+    QLocalSocket other;
+    other.connectToServer(name);
+    if (other.waitForConnected(kAnswerMilliseconds)) {
+        other.write(request);
+        while (other.bytesToWrite() > 0 && other.waitForBytesWritten(kAnswerMilliseconds)) {
+        }
+        return false;
+    }
+    QLocalServer::removeServer(name); // left behind by one that was killed
+    connect(&m_server, &QLocalServer::newConnection, this, [this] {
+        while (QLocalSocket* caller = m_server.nextPendingConnection())
+            hear(caller);
+    });
+    m_server.setSocketOptions(QLocalServer::UserAccessOption);
+    m_server.listen(name);
+    return true;
+}
+
+} // namespace selvane

@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "Views/shell/SystemBridge.h"
+
+#include <QClipboard>
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QGuiApplication>
+#include <QStandardPaths>
+
+#include <utility>
+
+#include "Views/shell/SystemShell.h"
+
+namespace selvane {
+namespace {
+
+namespace fs = std::filesystem;
+
+QUrl fileUrl(const fs::path& path) {
+    return QUrl::fromLocalFile(
+        QString::fromLocal8Bit(path.native().data(), static_cast<qsizetype>(path.native().size())));
+}
+
+fs::path pathOf(const QString& file) {
+    return QFile::encodeName(file).toStdString();
+}
+
+} // namespace
+
+SystemBridge::SystemBridge(std::function<std::vector<OpenCopy>()> look)
+    : m_watch(makeApplicationWatch(std::move(look))), m_saveDialog(makeSaveDialog()) {
+    connect(m_saveDialog.get(), &SaveDialog::chosen, this,
+            [this](const QUrl& file) { finishArchive(pathOf(file.toLocalFile())); });
+    connect(m_saveDialog.get(), &SaveDialog::cancelled, this, [this] { finishArchive(std::nullopt); });
+    connect(m_saveDialog.get(), &SaveDialog::unavailable, this,
+            [this] { emit archiveWanted(m_proposedArchive); });
+    connect(m_watch.get(), &ApplicationWatch::changed, this, &SystemBridge::claudeCopiesChanged);
+}
+
+void SystemBridge::endApplication() {
+    QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+}
+
+void SystemBridge::copyToClipboard(const QString& text) {
+    QGuiApplication::clipboard()->setText(text);
+}
+
+void SystemBridge::reveal(const fs::path& item) {
+    revealItem(item);
+}
+
+void SystemBridge::open(const fs::path& file) {
+    QDesktopServices::openUrl(fileUrl(file));
+}
+
+void SystemBridge::askForArchive(const QString& proposedName,
+                                 std::function<void(std::optional<fs::path>)> done) {
+    finishArchive(std::nullopt); // a question that is still open
+    m_archiveDone = std::move(done);
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QString folder = QFileInfo(documents).isDir() ? documents : QDir::homePath();
+    m_proposedArchive = folder + '/' + proposedName;
+    m_saveDialog->ask(QGuiApplication::focusWindow(), tr("Salva il backup"), folder, proposedName);
+}
+
+void SystemBridge::answerArchive(const QString& typed) {
+    QString place = typed.trimmed();
+    if (place.isEmpty()) {
+        finishArchive(std::nullopt);
+        return;
+    }
+    if (place.startsWith("~/"))
+        place.remove(0, 2);
+    if (!place.endsWith(".zip", Qt::CaseInsensitive))
+        place += ".zip";
+    finishArchive(pathOf(QDir::home().absoluteFilePath(place)));
+}
+
+void SystemBridge::finishArchive(std::optional<fs::path> place) {
+    if (const auto done = std::exchange(m_archiveDone, nullptr))
+        done(std::move(place));
+}
+
+} // namespace selvane
