@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "Views/manage/ProfileDetailModel.h"
+#include "AppModel/AppModelFixture.h"
 #include "Views/manage/ProfileListModel.h"
-#include "windows/AppModelFixture.h"
 
 namespace selvane::test {
 namespace {

@@ -5,11 +5,11 @@
 
 cmake_minimum_required(VERSION 3.25)
 
-file(GLOB views ${VIEWS}/*.qml)
-if(NOT "${VIEWS}/Theme.qml" IN_LIST views)
+file(GLOB_RECURSE views ${VIEWS}/*.qml)
+if(NOT "${VIEWS}/controls/Theme.qml" IN_LIST views)
   message(FATAL_ERROR "no views in ${VIEWS}")
 endif()
-list(REMOVE_ITEM views ${VIEWS}/Theme.qml)
+list(REMOVE_ITEM views ${VIEWS}/controls/Theme.qml)
 foreach(view IN LISTS views)
   file(STRINGS ${view} found REGEX "\"#[0-9a-fA-F]+\"|color: *\"[a-z]+\"")
   if(found)

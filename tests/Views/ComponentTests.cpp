@@ -6,9 +6,9 @@
 
 #include <cstdlib>
 
+#include "Views/TestHome.h"
 #include "Views/shell/QmlModule.h"
 #include "support/TemporaryFolder.h"
-#include "windows/TestHome.h"
 
 int main(int argc, char** argv) {
     // No test touches the real home folder nor its Trash.

@@ -3,7 +3,7 @@
 
 #include "Views/picker/PickerModel.h"
 
-#include "windows/AppModelFixture.h"
+#include "AppModel/AppModelFixture.h"
 
 namespace selvane::test {
 namespace {

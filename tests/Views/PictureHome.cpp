@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "windows/PictureHome.h"
+#include "Views/PictureHome.h"
 
 namespace selvane::test {
 namespace {

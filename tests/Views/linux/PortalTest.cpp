@@ -8,9 +8,9 @@
 #include <gtest/gtest.h>
 #include <optional>
 
+#include "Views/linux/FakePortal.h"
 #include "Views/linux/PortalSaveDialog.h"
 #include "Views/shell/SystemAppearance.h"
-#include "windows/FakePortal.h"
 
 namespace selvane::test {
 

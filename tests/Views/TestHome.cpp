@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "windows/TestHome.h"
+#include "Views/TestHome.h"
 
+#include "AppModel/FakeBridge.h"
 #include "support/Home.h"
 #include "support/RunningProcess.h"
-#include "windows/FakeBridge.h"
 
 namespace selvane::test {
 namespace {

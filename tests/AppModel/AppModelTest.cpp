@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "windows/AppModelFixture.h"
+#include "AppModel/AppModelFixture.h"
 
 #include <QDate>
 

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
+#include "AppModel/AppModelFixture.h"
 #include "Views/sheets/BackupForm.h"
 #include "Views/sheets/ImportForm.h"
 #include "Views/sheets/NewProfileForm.h"
 #include "Views/sheets/SessionImportForm.h"
-#include "windows/AppModelFixture.h"
 
 namespace selvane::test {
 namespace {

@@ -10,8 +10,8 @@
 #include <memory>
 
 #include "AppModel/AppModel.h"
+#include "AppModel/FakeBridge.h"
 #include "support/Home.h"
-#include "windows/FakeBridge.h"
 
 namespace selvane::test {
 

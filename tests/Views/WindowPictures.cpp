@@ -14,12 +14,12 @@
 #include <QTextStream>
 #include <QTimer>
 
+#include "AppModel/FakeBridge.h"
+#include "Views/PictureHome.h"
 #include "Views/shell/LauncherApp.h"
 #include "Views/shell/QmlModule.h"
 #include "artwork/Brand.h"
 #include "model/LauncherError.h"
-#include "windows/FakeBridge.h"
-#include "windows/PictureHome.h"
 
 namespace selvane::test {
 namespace {
