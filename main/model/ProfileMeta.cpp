@@ -4,12 +4,14 @@
 #include "model/ProfileMeta.h"
 
 #include <cstdio>
+#include <nlohmann/json.hpp>
 
 #include "model/ByteText.h"
-#include "platform/json/Json.h"
 
 namespace selvane {
 namespace {
+
+using Json = nlohmann::ordered_json;
 
 /// Thrown inside this file by a record that can't be used, and turned into "nothing" at its edge.
 struct InvalidRecord {};
@@ -95,9 +97,13 @@ Timestamp timestamp(std::string_view text) {
     return time;
 }
 
-/// The value of a key that may be missing or null.
+/// The value of a key that may be missing or null; of a key that occurs twice the last.
 const Json* optionalValue(const Json& object, std::string_view key) {
-    const Json* value = json::find(object, key);
+    const Json* value = nullptr;
+    for (const auto& member : object.get_ref<const Json::object_t&>()) {
+        if (member.first == key)
+            value = &member.second;
+    }
     return value == nullptr || value->is_null() ? nullptr : value;
 }
 
@@ -172,7 +178,7 @@ Timestamp currentTimestamp() {
     return std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
 }
 
-std::string encoded(const ProfileMeta& meta) {
+Json toJson(const ProfileMeta& meta) {
     Json excluded = Json::object();
     for (const auto& [component, names] : meta.excluded) {
         Json& list = excluded[component] = Json::array();
@@ -196,14 +202,12 @@ std::string encoded(const ProfileMeta& meta) {
         object["source"] = textFromBytes(*meta.source);
     object["summary"] = textFromBytes(meta.summary);
     object["symbol"] = textFromBytes(meta.symbol);
-    return json::serialized(object);
+    return object;
 }
 
-std::optional<ProfileMeta> decodedProfileMeta(std::string_view text) {
+std::optional<ProfileMeta> profileMeta(const Json& record) {
     try {
-        return metaFrom(json::parse(text, {}));
-    } catch (const JsonError&) {
-        return std::nullopt;
+        return metaFrom(record);
     } catch (const InvalidRecord&) {
         return std::nullopt;
     }

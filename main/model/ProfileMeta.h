@@ -5,9 +5,9 @@
 
 #include <chrono>
 #include <map>
+#include <nlohmann/json_fwd.hpp>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "model/ShareMode.h"
@@ -34,11 +34,11 @@ struct ProfileMeta {
     bool operator==(const ProfileMeta&) const = default;
 };
 
-/// Pretty-printed with sorted keys and dates like 2025-03-01T09:30:00Z.
-std::string encoded(const ProfileMeta& meta);
+/// The record as an object with sorted keys and dates like 2025-03-01T09:30:00Z.
+nlohmann::ordered_json toJson(const ProfileMeta& meta);
 
 /// Reads a record. Keys other than "name" may be missing or null, unknown ones are ignored; nothing when the
-/// text is no JSON object, has no name, or holds a known key of the wrong type or with an invalid value.
-std::optional<ProfileMeta> decodedProfileMeta(std::string_view text);
+/// value is no object, has no name, or holds a known key of the wrong type or with an invalid value.
+std::optional<ProfileMeta> profileMeta(const nlohmann::ordered_json& record);
 
 } // namespace selvane

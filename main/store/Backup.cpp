@@ -41,7 +41,15 @@ std::string backupReadme(const std::vector<std::string>& paths) {
         "1. chiudi Claude (e Selvane);\n"
         "2. sposta nel Cestino le cartelle elencate sopra, se esistono;\n"
         "3. nel Terminale: ditto -x -k \"<questo archivio>.zip\" ~\n";
-    return text + backupRestoreAdvice();
+    // The steps above are those of a Mac, where logins aren't in the archive.
+    if (!keepsLoginsWithTheSystem())
+        text +=
+            "\nSu Linux:\n"
+            "- i login di Claude Code (.credentials.json) sono nell'archivio: conservalo al sicuro;\n"
+            "- al passo 3, nel terminale: unzip \"<questo archivio>.zip\" -d ~\n"
+            "- i percorsi che iniziano con \"/\" stavano fuori dalla cartella home: unzip li estrae sotto "
+            "~.\n";
+    return text;
 }
 
 /// A folder of our own in the system's temporary folder, gone with this object.

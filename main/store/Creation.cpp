@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "model/ByteText.h"
 #include "model/LauncherError.h"
 #include "platform/text/Text.h"
 #include "store/ItemListing.h"
@@ -19,7 +20,7 @@ std::string checkedName(const std::string& name) {
     const std::string trimmed(text::trimmed(name));
     if (trimmed.empty())
         throw LauncherError("Il nome del profilo è obbligatorio");
-    if (!text::isUtf8(trimmed))
+    if (!isUtf8(trimmed))
         throw LauncherError("Il nome del profilo non è testo UTF-8 valido");
     // A line break would end up in the note that Claude Code reads as a rule.
     if (text::singleLine(trimmed) != trimmed)

@@ -6,6 +6,7 @@
 #include "model/LauncherError.h"
 #include "platform/files/Locations.h"
 #include "platform/text/Text.h"
+#include "store/ProfileRecord.h"
 
 namespace selvane {
 namespace {

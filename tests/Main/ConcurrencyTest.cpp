@@ -11,8 +11,8 @@
 #include <sstream>
 #include <thread>
 
-#include "model/ProfileMeta.h"
 #include "platform/files/FileManager.h"
+#include "store/ProfileRecord.h"
 #include "support/Home.h"
 #include "support/InstalledClaude.h"
 

@@ -7,6 +7,7 @@
 #include <cstring>
 
 #include "Fuzzing.h"
+#include "model/ByteText.h"
 #include "platform/text/Text.h"
 
 namespace selvane::fuzz {
@@ -40,8 +41,8 @@ void check(std::string_view area) {
     std::memcpy(&count, area.data(), std::min(sizeof count, area.size()));
     require(process.args.size() <= static_cast<std::size_t>(std::max(count, 0)) || area.size() < 5,
             "no more arguments than said");
-    const std::string text = text::repaired(area);
-    require(text::isUtf8(text) && (text == area) == text::isUtf8(area), "what is no UTF-8 is replaced");
+    const std::string text = repaired(area);
+    require(isUtf8(text) && (text == area) == isUtf8(area), "what is no UTF-8 is replaced");
     require(sizeOf(process) <= text.size(), "no more than the area holds");
     for (const std::string& argument : process.args)
         require(!argument.empty() && text.find(argument) != text.npos, "arguments stand in the area");

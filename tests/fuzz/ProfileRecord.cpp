@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "model/ProfileMeta.h"
+#include "store/ProfileRecord.h"
 
 #include "Fuzzing.h"
 #include "model/ByteText.h"
@@ -15,7 +15,7 @@ void requireSameAgain(const ProfileMeta& meta) {
     const std::string text = encoded(meta);
     const auto again = decodedProfileMeta(text);
     require(again && *again == meta, "what is written is read the same");
-    require(text::isUtf8(text), "a record is UTF-8");
+    require(isUtf8(text), "a record is UTF-8");
 }
 
 /// Whatever was read or typed goes into a record and comes back.

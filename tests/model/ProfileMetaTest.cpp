@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "model/ProfileMeta.h"
+#include "store/ProfileRecord.h"
 
 #include <gtest/gtest.h>
 

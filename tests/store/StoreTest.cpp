@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "store/ProfileRecord.h"
 #include "support/Home.h"
 
 namespace selvane {

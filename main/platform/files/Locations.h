@@ -16,7 +16,8 @@ namespace selvane {
 std::filesystem::path applicationDataFolder(const Environment& environment, const std::string& name,
                                             const std::function<bool()>& isInstalled);
 
-/// What a reader of a backup's readme must also know on this platform; empty where there is nothing.
-std::string backupRestoreAdvice();
+/// Whether command-line programs keep their logins in the system's keychain; elsewhere they keep them in
+/// files of the home folder.
+bool keepsLoginsWithTheSystem();
 
 } // namespace selvane

@@ -18,12 +18,8 @@ std::filesystem::path applicationDataFolder(const Environment& environment, cons
     return home / "Library/Application Support" / name;
 }
 
-std::string backupRestoreAdvice() {
-    return "\nSu Linux:\n"
-           "- i login di Claude Code (.credentials.json) sono nell'archivio: conservalo al sicuro;\n"
-           "- al passo 3, nel terminale: unzip \"<questo archivio>.zip\" -d ~\n"
-           "- i percorsi che iniziano con \"/\" stavano fuori dalla cartella home: unzip li estrae sotto "
-           "~.\n";
+bool keepsLoginsWithTheSystem() {
+    return false;
 }
 
 } // namespace selvane

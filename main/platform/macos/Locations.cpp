@@ -11,9 +11,8 @@ std::filesystem::path applicationDataFolder(const Environment& environment, cons
     return homeFolder(environment) / "Library/Application Support" / name;
 }
 
-/// The readme's own steps are written for this system.
-std::string backupRestoreAdvice() {
-    return {};
+bool keepsLoginsWithTheSystem() {
+    return true;
 }
 
 } // namespace selvane

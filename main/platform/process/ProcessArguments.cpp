@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <cstring>
 
-#include "platform/text/Text.h"
+#include "model/ByteText.h"
 
 namespace selvane {
 namespace {
@@ -46,13 +46,13 @@ ProcessArguments processArguments(std::string_view area) {
     if (!pieces.atEnd())
         pieces.next(); // the executable
     for (std::int32_t i = 0; i < count && !pieces.atEnd(); ++i)
-        result.args.push_back(text::repaired(pieces.next()));
+        result.args.push_back(repaired(pieces.next()));
     while (!pieces.atEnd()) {
         const std::string_view variable = pieces.next();
         const std::size_t sign = variable.find('=');
         if (sign != variable.npos)
-            result.env.insert_or_assign(text::repaired(variable.substr(0, sign)),
-                                        text::repaired(variable.substr(sign + 1)));
+            result.env.insert_or_assign(repaired(variable.substr(0, sign)),
+                                        repaired(variable.substr(sign + 1)));
     }
     return result;
 }

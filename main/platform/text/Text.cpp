@@ -123,47 +123,6 @@ std::string_view trimmed(std::string_view text) {
     return text;
 }
 
-std::size_t sequenceLength(std::string_view bytes) {
-    const std::uint8_t first = byteAt(bytes, 0);
-    if (first < 0x80)
-        return 1;
-    if (first < 0xC2 || first > 0xF4)
-        return 0;
-    const std::size_t length = first < 0xE0 ? 2 : first < 0xF0 ? 3 : 4;
-    // The second byte excludes overlong forms, surrogates and what lies beyond U+10FFFF.
-    const std::uint8_t second = byteAt(bytes, 1);
-    const int lowest = first == 0xE0 ? 0xA0 : first == 0xF0 ? 0x90 : 0x80;
-    const int highest = first == 0xED ? 0x9F : first == 0xF4 ? 0x8F : 0xBF;
-    if (second < lowest || second > highest)
-        return 0;
-    for (std::size_t i = 2; i < length; ++i) {
-        if ((byteAt(bytes, i) & 0xC0) != 0x80)
-            return 0;
-    }
-    return length;
-}
-
-bool isUtf8(std::string_view bytes) {
-    while (!bytes.empty()) {
-        const std::size_t length = sequenceLength(bytes);
-        if (length == 0)
-            return false;
-        bytes.remove_prefix(length);
-    }
-    return true;
-}
-
-std::string repaired(std::string_view bytes) {
-    std::string result;
-    result.reserve(bytes.size());
-    while (!bytes.empty()) {
-        const std::size_t length = sequenceLength(bytes);
-        result += length == 0 ? kReplacementCharacter : bytes.substr(0, length);
-        bytes.remove_prefix(std::max<std::size_t>(length, 1));
-    }
-    return result;
-}
-
 std::string singleLine(std::string_view text) {
     std::string result;
     result.reserve(text.size());

@@ -26,12 +26,6 @@ std::string folded(std::string_view name);
 /// `text` without Unicode white space and line ends at both ends.
 std::string_view trimmed(std::string_view text);
 
-/// Length of the well-formed UTF-8 sequence at the start of `bytes`; 0 when there is none.
-std::size_t sequenceLength(std::string_view bytes);
-bool isUtf8(std::string_view bytes);
-/// `bytes` with U+FFFD for each that is no part of well-formed UTF-8.
-std::string repaired(std::string_view bytes);
-
 /// `text` with every control character replaced by U+FFFD, so that it stays on one line and in one field.
 std::string singleLine(std::string_view text);
 

@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include "model/ByteText.h"
 #include "platform/linux/services/FieldCodes.h"
 
 namespace selvane {
@@ -51,11 +52,11 @@ TEST(TextTest, trimsAllWhiteSpace) {
 
 TEST(TextTest, tellsUtf8FromOtherBytes) {
     for (const auto valid : {""sv, "a\0b"sv, "é€😀"sv, "\xED\x9F\xBF"sv, "\xF4\x8F\xBF\xBF"sv})
-        EXPECT_TRUE(text::isUtf8(valid)) << valid;
+        EXPECT_TRUE(isUtf8(valid)) << valid;
     for (const auto invalid :
          {"\x80"sv, "\xC3"sv, "\xC0\xAF"sv, "\xE0\x9F\xBF"sv, "\xED\xA0\x80"sv, "\xF0\x8F\xBF\xBF"sv,
           "\xF4\x90\x80\x80"sv, "\xE2\x82"sv, "\xF5\x80\x80\x80"sv})
-        EXPECT_FALSE(text::isUtf8(invalid)) << testing::PrintToString(invalid);
+        EXPECT_FALSE(isUtf8(invalid)) << testing::PrintToString(invalid);
 }
 
 TEST(TextTest, keepsTextOnOneLine) {
