@@ -7,15 +7,16 @@
 
 #include "model/LauncherError.h"
 #include "platform/services/ModuleFolder.h"
+#include "platform/services/Received.h"
 
 namespace selvane {
 namespace {
 
 // The border to the module: plain types and no exception cross it.
-using RunFunction = int (*)(int argc, char** argv);
+using RunFunction = int (*)(int argc, char** argv) noexcept;
+using FailFunction = void (*)(void* context, const char* message) noexcept;
 /// Returns whether it succeeded; the reason of a failure goes to `fail`.
-using RenderFunction = bool (*)(const char* folder, void (*fail)(void* context, const char* message),
-                                void* context);
+using RenderFunction = bool (*)(const char* folder, FailFunction fail, void* context) noexcept;
 
 } // namespace
 
@@ -38,12 +39,13 @@ int WindowsModule::runWindows(int argc, char** argv) {
 
 void WindowsModule::render(const char* name, const std::filesystem::path& folder) {
     const auto renderFunction = reinterpret_cast<RenderFunction>(function(name));
-    std::string reason;
-    const auto keepReason = [](void* context, const char* message) {
-        *static_cast<std::string*>(context) = message;
+    using Reason = Received<std::string>;
+    Reason reason;
+    const auto keepReason = [](void* context, const char* message) noexcept {
+        Reason::add(context, [message](std::string& text) { text = message; });
     };
     if (!renderFunction(folder.c_str(), keepReason, &reason))
-        throw LauncherError(reason);
+        throw LauncherError(reason.take());
 }
 
 void WindowsModule::renderIcon(const std::filesystem::path& iconset) {

@@ -16,13 +16,13 @@
 
 namespace {
 
-using Fail = void(void* context, const char* message);
+using Fail = void(void* context, const char* message) noexcept;
 
 void ignoreMessage(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& /*message*/) {}
 
 /// Drawing needs no display, nor what Qt misses where there is no session of a desktop.
 bool draw(void (*render)(const std::filesystem::path& folder), const char* folder, Fail* fail,
-          void* context) {
+          void* context) noexcept {
     try {
         qputenv("QT_QPA_PLATFORM", "offscreen");
         qInstallMessageHandler(ignoreMessage);
@@ -43,7 +43,7 @@ bool draw(void (*render)(const std::filesystem::path& folder), const char* folde
 
 extern "C" {
 
-__attribute__((visibility("default"))) int selvane_run_windows(int argc, char** argv) {
+__attribute__((visibility("default"))) int selvane_run_windows(int argc, char** argv) noexcept {
     try {
         return selvane::runLauncherApp(argc, argv);
     } catch (const std::exception& error) {
@@ -53,12 +53,12 @@ __attribute__((visibility("default"))) int selvane_run_windows(int argc, char** 
 }
 
 __attribute__((visibility("default"))) bool selvane_render_icon(const char* folder, Fail* fail,
-                                                                void* context) {
+                                                                void* context) noexcept {
     return draw(&selvane::IconRenderer::render, folder, fail, context);
 }
 
 __attribute__((visibility("default"))) bool selvane_render_dmg_background(const char* folder, Fail* fail,
-                                                                          void* context) {
+                                                                          void* context) noexcept {
     return draw(&selvane::DMGBackground::render, folder, fail, context);
 }
 

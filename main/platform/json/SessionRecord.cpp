@@ -5,15 +5,16 @@
 
 #include <new>
 
+#include "platform/services/Received.h"
 #include "platform/services/Services.h"
 
 namespace selvane {
 
 namespace {
 
-void takeText(void* context, SessionField field, const char* bytes, std::size_t count) {
-    SessionRecord& record = *static_cast<SessionRecord*>(context);
-    std::string text(bytes, count);
+using ReceivedRecord = Received<SessionRecord>;
+
+void set(SessionRecord& record, SessionField field, std::string text) {
     switch (field) {
     case SessionField::sessionId:
         record.sessionId = std::move(text);
@@ -33,6 +34,19 @@ void takeText(void* context, SessionField field, const char* bytes, std::size_t 
     }
 }
 
+void takeText(void* context, SessionField field, const char* bytes, std::size_t count) noexcept {
+    ReceivedRecord::add(context,
+                        [&](SessionRecord& record) { set(record, field, std::string(bytes, count)); });
+}
+
+void takeActivity(void* context, double time) noexcept {
+    ReceivedRecord::add(context, [&](SessionRecord& record) { record.lastActivityAt = time; });
+}
+
+void takeArchived(void* context) noexcept {
+    ReceivedRecord::add(context, [](SessionRecord& record) { record.isArchived = true; });
+}
+
 } // namespace
 
 bool isStrictJson(std::string_view text) {
@@ -49,17 +63,16 @@ SessionRecordReader::~SessionRecordReader() {
 }
 
 std::optional<SessionRecord> SessionRecordReader::read(const std::string& file) {
-    SessionRecord record;
+    ReceivedRecord record;
     const SessionRecordSink sink{
         .context = &record,
         .text = takeText,
-        .lastActivity = [](void* context,
-                           double time) { static_cast<SessionRecord*>(context)->lastActivityAt = time; },
-        .archived = [](void* context) { static_cast<SessionRecord*>(context)->isArchived = true; },
+        .lastActivity = takeActivity,
+        .archived = takeArchived,
     };
-    if (!services().readSession(m_state, file.c_str(), sink))
-        return std::nullopt;
-    return record;
+    const bool isRecord = services().readSession(m_state, file.c_str(), sink);
+    SessionRecord received = record.take();
+    return isRecord ? std::optional(std::move(received)) : std::nullopt;
 }
 
 } // namespace selvane

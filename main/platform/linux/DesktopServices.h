@@ -22,14 +22,15 @@ struct DesktopEntryView {
     const char* workingFolder; ///< null when it names none
 };
 
+using EntryReceiver = void (*)(void* context, const DesktopEntryView& entry) noexcept;
+
 struct DesktopServices {
-    /// 0, or an errno value with the system's message in `message`.
-    int (*trash)(const char* path, ByteSink message, void* context);
+    /// 0, or an errno value (EIO for what has none), and the system's own message goes to `message`.
+    int (*trash)(const char* path, ByteSink message, void* context) noexcept;
     /// Whether a desktop entry of that id (without ".desktop") is installed; hands it to `found` if so.
-    bool (*desktopEntry)(const char* id, void (*found)(void* context, const DesktopEntryView& entry),
-                         void* context);
+    bool (*desktopEntry)(const char* id, EntryReceiver found, void* context) noexcept;
     /// Raises a window of that process on an X11 display; false when there is none.
-    bool (*raiseWindow)(std::int32_t pid);
+    bool (*raiseWindow)(std::int32_t pid) noexcept;
 };
 
 /// As `services()`.

@@ -13,6 +13,7 @@
 #include <string_view>
 
 #include "platform/linux/DesktopServices.h"
+#include "platform/services/Received.h"
 
 namespace selvane {
 namespace {
@@ -86,20 +87,24 @@ std::optional<Application> findEntry(const std::string& id) {
     struct Found {
         std::vector<std::string> words;
         Application application;
-    } found;
-    const auto receive = [](void* context, const DesktopEntryView& entry) {
-        auto& [words, application] = *static_cast<Found*>(context);
-        std::string_view rest(entry.arguments, entry.argumentsSize);
-        while (!rest.empty()) {
-            const std::size_t end = std::min(rest.find('\0'), rest.size());
-            words.emplace_back(rest.substr(0, end));
-            rest.remove_prefix(std::min(end + 1, rest.size()));
-        }
-        application.entry = entry.file;
-        if (entry.workingFolder != nullptr)
-            application.workingFolder = entry.workingFolder;
     };
-    if (!desktopServices().desktopEntry(id.c_str(), receive, &found) || found.words.empty())
+    Received<Found> received;
+    const auto receive = [](void* context, const DesktopEntryView& entry) noexcept {
+        Received<Found>::add(context, [&entry](Found& found) {
+            std::string_view rest(entry.arguments, entry.argumentsSize);
+            while (!rest.empty()) {
+                const std::size_t end = std::min(rest.find('\0'), rest.size());
+                found.words.emplace_back(rest.substr(0, end));
+                rest.remove_prefix(std::min(end + 1, rest.size()));
+            }
+            found.application.entry = entry.file;
+            if (entry.workingFolder != nullptr)
+                found.application.workingFolder = entry.workingFolder;
+        });
+    };
+    const bool isInstalled = desktopServices().desktopEntry(id.c_str(), receive, &received);
+    Found found = received.take();
+    if (!isInstalled || found.words.empty())
         return std::nullopt;
     found.application.executable = found.words.front();
     found.application.arguments.assign(found.words.begin() + 1, found.words.end());

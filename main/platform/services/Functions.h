@@ -5,17 +5,17 @@
 
 #include "platform/services/Services.h"
 
-/// The functions behind the table. None lets an exception out.
+/// The functions behind the table.
 namespace selvane::module {
 
-void sortKey(const char* name, std::size_t size, ByteSink sink, void* context);
-void fold(const char* name, std::size_t size, ByteSink sink, void* context);
-void longDate(std::int64_t time, ByteSink sink, void* context);
-void relativeDate(std::int64_t secondsAgo, ByteSink sink, void* context);
+void sortKey(const char* name, std::size_t size, ByteSink sink, void* context) noexcept;
+void fold(const char* name, std::size_t size, ByteSink sink, void* context) noexcept;
+void longDate(std::int64_t time, ByteSink sink, void* context) noexcept;
+void relativeDate(std::int64_t secondsAgo, ByteSink sink, void* context) noexcept;
 
-void* newSessionReader();
-void deleteSessionReader(void* reader);
-bool readSession(void* reader, const char* file, const SessionRecordSink& sink);
-bool isStrictJson(const char* bytes, std::size_t size);
+void* newSessionReader() noexcept;
+void deleteSessionReader(void* reader) noexcept;
+bool readSession(void* reader, const char* file, const SessionRecordSink& sink) noexcept;
+bool isStrictJson(const char* bytes, std::size_t size) noexcept;
 
 } // namespace selvane::module

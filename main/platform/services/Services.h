@@ -6,41 +6,41 @@
 #include <cstddef>
 #include <cstdint>
 
-/// What libraries do for the core that are good at it and slow to load (ICU, simdjson). Plain functions, of
-/// which only plain types and no exception come: where loading them at every start takes too long, they are
-/// in a module of their own.
+/// What the core uses of libraries that are slow to load (ICU, simdjson). Where they would slow down every
+/// start they are in a module of their own. Only plain types cross its border, and no exception does, in
+/// either direction: all functions and callbacks are `noexcept` (see Received.h).
 namespace selvane {
 
 /// Receives bytes; `context` is the caller's own.
-using ByteSink = void (*)(void* context, const char* bytes, std::size_t count);
+using ByteSink = void (*)(void* context, const char* bytes, std::size_t count) noexcept;
 
 /// Which field of a session record a text belongs to.
 enum class SessionField : int { sessionId, title, cwd, cliSessionId, priorCliSessionId };
 
 struct SessionRecordSink {
     void* context;
-    void (*text)(void* context, SessionField field, const char* bytes, std::size_t count);
-    void (*lastActivity)(void* context, double milliseconds);
-    void (*archived)(void* context);
+    void (*text)(void* context, SessionField field, const char* bytes, std::size_t count) noexcept;
+    void (*lastActivity)(void* context, double milliseconds) noexcept;
+    void (*archived)(void* context) noexcept;
 };
 
 struct Services {
     /// Writes a key whose byte order is the Italian order of names without regard to case.
-    void (*sortKey)(const char* name, std::size_t size, ByteSink sink, void* context);
+    void (*sortKey)(const char* name, std::size_t size, ByteSink sink, void* context) noexcept;
     /// `text::folded`.
-    void (*fold)(const char* name, std::size_t size, ByteSink sink, void* context);
+    void (*fold)(const char* name, std::size_t size, ByteSink sink, void* context) noexcept;
     /// `text::longDate`; seconds since 1970.
-    void (*longDate)(std::int64_t time, ByteSink sink, void* context);
+    void (*longDate)(std::int64_t time, ByteSink sink, void* context) noexcept;
     /// `text::relativeDate`.
-    void (*relativeDate)(std::int64_t secondsAgo, ByteSink sink, void* context);
+    void (*relativeDate)(std::int64_t secondsAgo, ByteSink sink, void* context) noexcept;
 
-    void* (*newSessionReader)();
-    void (*deleteSessionReader)(void* reader);
+    void* (*newSessionReader)() noexcept;
+    void (*deleteSessionReader)(void* reader) noexcept;
     /// Whether the file is a readable JSON object with a text under "sessionId"; if so, its known fields go
     /// to the sink.
-    bool (*readSession)(void* reader, const char* file, const SessionRecordSink& sink);
+    bool (*readSession)(void* reader, const char* file, const SessionRecordSink& sink) noexcept;
     /// `isStrictJson`.
-    bool (*isStrictJson)(const char* bytes, std::size_t size);
+    bool (*isStrictJson)(const char* bytes, std::size_t size) noexcept;
 };
 
 /// The table. Loads the module, where there is one, at the first call; throws `LauncherError` when it is not

@@ -193,7 +193,7 @@ private:
 
 } // namespace
 
-void* newSessionReader() {
+void* newSessionReader() noexcept {
     try {
         return new SessionReader;
     } catch (...) {
@@ -201,11 +201,11 @@ void* newSessionReader() {
     }
 }
 
-void deleteSessionReader(void* reader) {
+void deleteSessionReader(void* reader) noexcept {
     delete static_cast<SessionReader*>(reader);
 }
 
-bool readSession(void* reader, const char* file, const SessionRecordSink& sink) {
+bool readSession(void* reader, const char* file, const SessionRecordSink& sink) noexcept {
     try {
         return reader != nullptr && static_cast<SessionReader*>(reader)->read(file, sink);
     } catch (...) {
@@ -213,7 +213,7 @@ bool readSession(void* reader, const char* file, const SessionRecordSink& sink) 
     }
 }
 
-bool isStrictJson(const char* bytes, std::size_t size) {
+bool isStrictJson(const char* bytes, std::size_t size) noexcept {
     try {
         thread_local simdjson::dom::parser parser; // its memory serves many texts
         return parser.parse(bytes, size).error() == simdjson::SUCCESS;

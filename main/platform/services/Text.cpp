@@ -116,7 +116,7 @@ Distance distanceFor(std::int64_t seconds) {
 
 } // namespace
 
-void sortKey(const char* name, std::size_t size, ByteSink sink, void* context) {
+void sortKey(const char* name, std::size_t size, ByteSink sink, void* context) noexcept {
     try {
         static const std::unique_ptr<icu::Collator> collator = makeCollator();
         if (!collator) {
@@ -140,7 +140,7 @@ void sortKey(const char* name, std::size_t size, ByteSink sink, void* context) {
     }
 }
 
-void fold(const char* name, std::size_t size, ByteSink sink, void* context) {
+void fold(const char* name, std::size_t size, ByteSink sink, void* context) noexcept {
     try {
         UErrorCode status = U_ZERO_ERROR;
         const icu::UnicodeString text = folded(decoded(name, size), status);
@@ -151,7 +151,7 @@ void fold(const char* name, std::size_t size, ByteSink sink, void* context) {
     }
 }
 
-void longDate(std::int64_t time, ByteSink sink, void* context) {
+void longDate(std::int64_t time, ByteSink sink, void* context) noexcept {
     try {
         const std::unique_ptr<icu::DateFormat> format(icu::DateFormat::createDateTimeInstance(
             icu::DateFormat::kLong, icu::DateFormat::kShort, icu::Locale("it")));
@@ -165,7 +165,7 @@ void longDate(std::int64_t time, ByteSink sink, void* context) {
     }
 }
 
-void relativeDate(std::int64_t secondsAgo, ByteSink sink, void* context) {
+void relativeDate(std::int64_t secondsAgo, ByteSink sink, void* context) noexcept {
     try {
         UErrorCode status = U_ZERO_ERROR;
         const icu::RelativeDateTimeFormatter formatter(icu::Locale("it"), status);

@@ -7,6 +7,7 @@
 #include <array>
 #include <numeric>
 
+#include "platform/services/Received.h"
 #include "platform/services/Services.h"
 
 namespace selvane::text {
@@ -29,10 +30,6 @@ constexpr std::array kWhiteSpace{
 };
 
 constexpr std::string_view kReplacementCharacter = "\xEF\xBF\xBD";
-
-void append(void* context, const char* bytes, std::size_t count) {
-    static_cast<std::string*>(context)->append(bytes, count);
-}
 
 std::uint8_t byteAt(std::string_view bytes, std::size_t index) {
     return index < bytes.size() ? static_cast<std::uint8_t>(bytes[index]) : std::uint8_t{0};
@@ -83,8 +80,11 @@ std::vector<std::size_t> sortedOrder(const std::vector<std::string_view>& names)
     if (names.size() < 2) // nothing to sort is no reason to load the services
         return order;
     std::vector<std::string> keys(names.size());
-    for (std::size_t i = 0; i < names.size(); ++i)
-        services().sortKey(names[i].data(), names[i].size(), append, &keys[i]);
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        Received<std::string> key;
+        services().sortKey(names[i].data(), names[i].size(), appendBytes, &key);
+        keys[i] = key.take();
+    }
     std::stable_sort(order.begin(), order.end(),
                      [&](std::size_t left, std::size_t right) { return keys[left] < keys[right]; });
     return order;
@@ -99,9 +99,9 @@ std::vector<std::string> sorted(std::vector<std::string> names) {
 }
 
 std::string folded(std::string_view name) {
-    std::string result;
-    services().fold(name.data(), name.size(), append, &result);
-    return result;
+    Received<std::string> result;
+    services().fold(name.data(), name.size(), appendBytes, &result);
+    return result.take();
 }
 
 std::string_view trimmed(std::string_view text) {
@@ -142,15 +142,15 @@ std::string singleLine(std::string_view text) {
 
 std::string longDate(std::chrono::system_clock::time_point time) {
     const auto seconds = std::chrono::floor<std::chrono::seconds>(time.time_since_epoch()).count();
-    std::string result;
-    services().longDate(seconds, append, &result);
-    return result;
+    Received<std::string> result;
+    services().longDate(seconds, appendBytes, &result);
+    return result.take();
 }
 
 std::string relativeDate(std::chrono::seconds ago) {
-    std::string result;
-    services().relativeDate(ago.count(), append, &result);
-    return result;
+    Received<std::string> result;
+    services().relativeDate(ago.count(), appendBytes, &result);
+    return result.take();
 }
 
 std::string byteCount(std::int64_t bytes) {

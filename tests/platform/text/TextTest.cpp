@@ -12,6 +12,8 @@
 
 #include "model/ByteText.h"
 #include "platform/linux/services/FieldCodes.h"
+#include "platform/services/Received.h"
+#include "platform/services/Services.h"
 
 namespace selvane {
 namespace {
@@ -127,6 +129,21 @@ TEST(TextTest, relativeDatesNameTheLargestUnit) {
                                                                           {800 * 24h, "2 anni fa"}};
     for (const auto& [ago, expected] : table)
         EXPECT_EQ(text::relativeDate(ago), expected) << ago.count();
+}
+
+TEST(Services, ACallbackThatThrows_WaitsUntilTheCallIsBack) {
+    const auto refuse = [](void* context, const char*, std::size_t) noexcept {
+        Received<std::string>::add(context, [](std::string&) { throw std::runtime_error("full"); });
+    };
+    Received<std::string> received;
+    services().fold("A", 1, refuse, &received);
+    services().fold("B", 1, appendBytes, &received); // too late
+    EXPECT_THROW(received.take(), std::runtime_error);
+
+    Received<std::string> whole;
+    services().fold("A", 1, appendBytes, &whole);
+    services().fold("B", 1, appendBytes, &whole);
+    EXPECT_EQ(whole.take(), "ab");
 }
 
 } // namespace

@@ -68,8 +68,7 @@ std::string arguments(GKeyFile& entry) {
 /// Whether the search ends with this file.
 enum class Found { nothing, hidden, application };
 
-Found deliver(const std::filesystem::path& file, void (*found)(void* context, const DesktopEntryView& entry),
-              void* context) {
+Found deliver(const std::filesystem::path& file, EntryReceiver found, void* context) {
     std::error_code error;
     const OwnedKeys entry(g_key_file_new(), g_key_file_unref);
     if (!std::filesystem::is_regular_file(file, error) ||
@@ -93,8 +92,7 @@ Found deliver(const std::filesystem::path& file, void (*found)(void* context, co
 
 } // namespace
 
-bool desktopEntry(const char* id, void (*found)(void* context, const DesktopEntryView& entry),
-                  void* context) {
+bool desktopEntry(const char* id, EntryReceiver found, void* context) noexcept {
     try {
         for (const std::filesystem::path& folder : entryFolders()) {
             const Found result = deliver(folder / (std::string(id) + ".desktop"), found, context);

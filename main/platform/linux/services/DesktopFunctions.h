@@ -8,8 +8,8 @@
 /// The functions behind the desktop's table. None lets an exception out.
 namespace selvane::module {
 
-int trash(const char* path, ByteSink message, void* context);
-bool desktopEntry(const char* id, void (*found)(void* context, const DesktopEntryView& entry), void* context);
-bool raiseWindow(std::int32_t pid);
+int trash(const char* path, ByteSink message, void* context) noexcept;
+bool desktopEntry(const char* id, EntryReceiver found, void* context) noexcept;
+bool raiseWindow(std::int32_t pid) noexcept;
 
 } // namespace selvane::module

@@ -128,7 +128,7 @@ bool raise(std::int32_t pid) {
 
 } // namespace
 
-bool raiseWindow(std::int32_t pid) {
+bool raiseWindow(std::int32_t pid) noexcept {
     try {
         return raise(pid);
     } catch (...) {
