@@ -15,25 +15,49 @@ constexpr std::array kClaudeMdModes = {extend, shared, separate, none};
 constexpr std::array kImportModes = {separate, none};
 
 struct Traits {
+    Component component;
     std::string_view rawValue;
+    std::string_view location;
+    ComponentKind kind;
     std::string_view title;
     std::string_view symbol;
-    bool isCollection;
     ShareMode defaultMode;
     std::span<const ShareMode> allowedModes;
+    std::string_view present = {};
+    std::string_view absent = {};
 };
 
+/// A folder of items, named on disk as everywhere.
+constexpr Traits collection(Component component, std::string_view name, std::string_view title,
+                            std::string_view symbol) {
+    return {component, name, name, ComponentKind::collection, title, symbol, shared, kCollectionModes};
+}
+
 constexpr std::array<Traits, kComponents.size()> kTraits = {{
-    {"skills", "Skill", "wand.and.stars", true, shared, kCollectionModes},
-    {"agents", "Agenti", "person.2", true, shared, kCollectionModes},
-    {"commands", "Comandi", "command", true, shared, kCollectionModes},
-    {"output-styles", "Stili di output", "text.quote", true, shared, kCollectionModes},
-    {"rules", "Regole (rules/)", "list.bullet.rectangle", true, shared, kCollectionModes},
-    {"CLAUDE.md", "Regole globali (CLAUDE.md)", "doc.text", false, extend, kClaudeMdModes},
-    {"settings", "Impostazioni e hook", "gearshape", false, separate, kImportModes},
-    {"plugins", "Plugin", "puzzlepiece.extension", false, separate, kImportModes},
-    {"mcp", "Server MCP", "server.rack", false, separate, kImportModes},
+    collection(Component::skills, "skills", "Skill", "wand.and.stars"),
+    collection(Component::agents, "agents", "Agenti", "person.2"),
+    collection(Component::commands, "commands", "Comandi", "command"),
+    collection(Component::outputStyles, "output-styles", "Stili di output", "text.quote"),
+    collection(Component::rules, "rules", "Regole (rules/)", "list.bullet.rectangle"),
+    {Component::claudeMd, "CLAUDE.md", "CLAUDE.md", ComponentKind::memory, "Regole globali (CLAUDE.md)",
+     "doc.text", extend, kClaudeMdModes, "File CLAUDE.md del profilo", "Nessun CLAUDE.md"},
+    {Component::settings, "settings", "settings.json", ComponentKind::file, "Impostazioni e hook",
+     "gearshape", separate, kImportModes, "settings.json del profilo (permessi, hook, plugin attivi)",
+     "Nessuna impostazione personalizzata"},
+    {Component::plugins, "plugins", "plugins", ComponentKind::folder, "Plugin", "puzzlepiece.extension",
+     separate, kImportModes, "Plugin e marketplace installati", "Nessun plugin"},
+    {Component::mcp, "mcp", ".claude.json", ComponentKind::servers, "Server MCP", "server.rack", separate,
+     kImportModes, "%1 server MCP", "Nessun server MCP configurato"},
 }};
+
+constexpr bool isInOrder() {
+    for (std::size_t i = 0; i < kTraits.size(); ++i) {
+        if (kTraits.at(i).component != kComponents.at(i) || static_cast<std::size_t>(kComponents.at(i)) != i)
+            return false;
+    }
+    return true;
+}
+static_assert(isInOrder(), "the enumeration, the list and this table have one order");
 
 const Traits& traits(Component component) {
     return kTraits.at(static_cast<std::size_t>(component));
@@ -50,8 +74,17 @@ std::string_view title(Component component) {
 std::string_view symbol(Component component) {
     return traits(component).symbol;
 }
+std::string_view description(Component component, bool isPresent) {
+    return isPresent ? traits(component).present : traits(component).absent;
+}
+std::string_view location(Component component) {
+    return traits(component).location;
+}
+ComponentKind kind(Component component) {
+    return traits(component).kind;
+}
 bool isCollection(Component component) {
-    return traits(component).isCollection;
+    return kind(component) == ComponentKind::collection;
 }
 ShareMode defaultMode(Component component) {
     return traits(component).defaultMode;

@@ -19,14 +19,27 @@ inline constexpr std::array kComponents = {Component::skills,       Component::a
                                            Component::outputStyles, Component::rules,   Component::claudeMd,
                                            Component::settings,     Component::plugins, Component::mcp};
 
-/// The name inside the configuration folder, which is also that on disk and on the command line.
+/// What a component is on disk, and with that how it is shared and imported.
+enum class ComponentKind {
+    collection, ///< a folder whose entries are shared, copied or left out one by one
+    memory,     ///< a text that can also be extended
+    file,       ///< copied; the paths in it that lead into the source lead into the copy's profile
+    folder,     ///< copied whole, the paths in its JSON files as in a file
+    servers     ///< one key of the global state file
+};
+
+/// The name in the profile's record and on the command line.
 std::string_view rawValue(Component component);
 /// Nothing for anything but an exact raw value.
 std::optional<Component> component(std::string_view rawValue);
 
 std::string_view title(Component component);  ///< what the user reads, in Italian
 std::string_view symbol(Component component); ///< name of its SF Symbol
-/// Whether it is a folder whose entries are shared, copied or left out one by one.
+/// What the user reads, in Italian, about one that is no collection: that it is there, that it isn't.
+std::string_view description(Component component, bool isPresent);
+/// Where it lies in the configuration folder. Of the built-in profile the global state file lies elsewhere.
+std::string_view location(Component component);
+ComponentKind kind(Component component);
 bool isCollection(Component component);
 ShareMode defaultMode(Component component);
 /// In the order in which a chooser offers them.

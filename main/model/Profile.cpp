@@ -28,7 +28,9 @@ std::set<std::string> Profile::excluded(Component component) const {
 }
 
 std::filesystem::path Profile::url(Component component) const {
-    return configDir / rawValue(component);
+    if (kind(component) == ComponentKind::servers && globalState)
+        return *globalState;
+    return configDir / location(component);
 }
 
 } // namespace selvane

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -20,6 +21,8 @@ struct Profile {
     std::string id; ///< name of its folder in the profiles root, or "default" for the built-in profile
     ProfileMeta meta;
     std::filesystem::path configDir;
+    /// The global state file, where it doesn't lie in `configDir`.
+    std::optional<std::filesystem::path> globalState = std::nullopt;
 
     /// Whether it can be the name of a profile's folder, and so of a folder for its account: one visible
     /// name, no path.
@@ -31,7 +34,7 @@ struct Profile {
     /// `none` for a component without an entry, whatever its default mode.
     ShareMode mode(Component component) const;
     std::set<std::string> excluded(Component component) const;
-    std::filesystem::path url(Component component) const; ///< where the component lies
+    std::filesystem::path url(Component component) const; ///< where the component lies, there or not
 
     bool operator==(const Profile&) const = default;
 };

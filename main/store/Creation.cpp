@@ -112,17 +112,15 @@ void ProfileStore::fill(Profile& profile, const NewProfile& request) {
 }
 
 void ProfileStore::apply(Component component, ShareMode mode, const Profile& to, const Profile& from) {
-    switch (component) {
-    case Component::claudeMd:
-        return applyClaudeMd(mode, to, from);
-    case Component::settings:
-        return importSettings(to, from);
-    case Component::plugins:
-        return importPlugins(to, from);
-    case Component::mcp:
-        return importMCP(to, from);
-    default:
+    switch (kind(component)) {
+    case ComponentKind::collection:
         return fillCollection(component, mode, to, from);
+    case ComponentKind::memory:
+        return applyClaudeMd(mode, to, from);
+    case ComponentKind::file:
+    case ComponentKind::folder:
+    case ComponentKind::servers:
+        return reimport(component, to, from);
     }
 }
 

@@ -21,22 +21,43 @@ void ProfileStore::rewritePaths(const fs::path& file, const Profile& from, const
         m_files.write(file, after);
 }
 
+void ProfileStore::reimport(Component component, const Profile& to, const Profile& from) {
+    switch (kind(component)) {
+    case ComponentKind::collection:
+    case ComponentKind::memory:
+        return; // not imported but kept in step
+    case ComponentKind::file:
+        return importFile(component, to, from);
+    case ComponentKind::folder:
+        return importFolder(component, to, from);
+    case ComponentKind::servers:
+        return importMCP(to, from);
+    }
+}
+
 void ProfileStore::importSettings(const Profile& to, const Profile& from) {
-    const std::string_view name = "settings.json";
-    const fs::path origin = from.configDir / name;
+    importFile(Component::settings, to, from);
+}
+
+void ProfileStore::importPlugins(const Profile& to, const Profile& from) {
+    importFolder(Component::plugins, to, from);
+}
+
+void ProfileStore::importFile(Component component, const Profile& to, const Profile& from) {
+    const fs::path origin = from.url(component);
     if (!m_files.isPresent(origin))
         return;
-    m_files.replaceTrashing(to.configDir / name, [&](const fs::path& temporary) {
+    m_files.replaceTrashing(to.url(component), [&](const fs::path& temporary) {
         m_files.copy(m_files.resolved(origin), temporary, Privacy::ownerOnly);
         rewritePaths(temporary, from, to);
     });
 }
 
-void ProfileStore::importPlugins(const Profile& to, const Profile& from) {
-    const fs::path origin = from.url(Component::plugins);
+void ProfileStore::importFolder(Component component, const Profile& to, const Profile& from) {
+    const fs::path origin = from.url(component);
     if (!m_files.isPresent(origin))
         return;
-    m_files.replaceTrashing(to.url(Component::plugins), [&](const fs::path& temporary) {
+    m_files.replaceTrashing(to.url(component), [&](const fs::path& temporary) {
         m_files.copy(m_files.resolved(origin), temporary);
         for (const std::string& name : m_files.entries(temporary)) {
             // A link leads to a file that isn't the profile's.

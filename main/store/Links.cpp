@@ -123,7 +123,7 @@ Profile ProfileStore::setMode(ShareMode mode, Component component, const Profile
         setCollectionMode(mode, component, changed, *source);
         return changed;
     }
-    if (component == Component::claudeMd)
+    if (kind(component) == ComponentKind::memory)
         changeClaudeMd(mode, changed, *source);
     else if (mode == ShareMode::separate)
         apply(component, mode, changed, *source);

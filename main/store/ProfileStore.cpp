@@ -67,7 +67,7 @@ fs::path ProfileStore::liveDesktopDir() const {
 }
 
 fs::path ProfileStore::globalJSON(const Profile& profile) const {
-    return profile.isDefault() ? m_defaultGlobalJSON : profile.configDir / ".claude.json";
+    return profile.url(Component::mcp);
 }
 
 Profile ProfileStore::loadDefault() const {
@@ -77,7 +77,7 @@ Profile ProfileStore::loadDefault() const {
     meta.symbol = kDefaultSymbol;
     if (const auto text = m_files.readIfPossible(m_root / kDefaultMetaFileName))
         meta = decodedProfileMeta(*text).value_or(meta);
-    return {std::string(Profile::kDefaultId), meta, m_defaultDir};
+    return {std::string(Profile::kDefaultId), meta, m_defaultDir, m_defaultGlobalJSON};
 }
 
 std::optional<Profile> ProfileStore::loadProfile(const std::string& id) const {

@@ -75,6 +75,8 @@ public:
     // Creation and deletion (Creation.cpp, Imports.cpp, Deletion.cpp)
     /// A failure removes what was made of the profile; only that of seeding its account leaves it in place.
     Profile create(const NewProfile& request);
+    /// Copies a component that is copied as a whole again; what the profile had of it goes to the Trash.
+    void reimport(Component component, const Profile& to, const Profile& from);
     void importSettings(const Profile& to, const Profile& from);
     void importPlugins(const Profile& to, const Profile& from);
     void importMCP(const Profile& to, const Profile& from);
@@ -142,6 +144,8 @@ private:
     void fill(Profile& profile, const NewProfile& request);
     void apply(Component component, ShareMode mode, const Profile& to, const Profile& from);
     void fillCollection(Component component, ShareMode mode, const Profile& to, const Profile& from);
+    void importFile(Component component, const Profile& to, const Profile& from);
+    void importFolder(Component component, const Profile& to, const Profile& from);
     void rewritePaths(const std::filesystem::path& file, const Profile& from, const Profile& to);
 
     void applyClaudeMd(ShareMode mode, const Profile& to, const Profile& from);

@@ -36,17 +36,6 @@ ItemListModel::Kind kindOf(const ComponentItem& item, bool isMerged) {
     return isMerged ? ItemListModel::Merged : ItemListModel::Linked;
 }
 
-fs::path placeOf(const ProfileStore& store, const Profile& profile, Component component) {
-    switch (component) {
-    case Component::settings:
-        return profile.configDir / "settings.json";
-    case Component::mcp:
-        return store.globalJSON(profile);
-    default:
-        return profile.url(component);
-    }
-}
-
 } // namespace
 
 ComponentModel::ComponentModel(Component component, QObject* parent)
@@ -80,17 +69,17 @@ ComponentModel::Content ComponentModel::read(const ProfileStore& store, const Pr
         return content;
     }
     const FileManager files;
-    const fs::path place = placeOf(store, profile, component);
+    const fs::path place = profile.url(component);
     content.exists = files.existsFollowingLinks(place);
     if (const auto target = files.linkTarget(place))
         content.linkTarget = target->string();
-    if (component == Component::mcp)
+    if (kind(component) == ComponentKind::servers)
         content.serverCount = serversIn(place);
     return content;
 }
 
 fs::path ComponentModel::place() const {
-    return placeOf(m_app->store(), *m_profile, m_component);
+    return m_profile->url(m_component);
 }
 
 QString ComponentModel::component() const {
@@ -160,18 +149,11 @@ QString ComponentModel::description() const {
         return {};
     if (m_content.linkTarget)
         return tr("Collegato a %1").arg(linkTarget());
-    switch (m_component) {
-    case Component::claudeMd:
-        return m_content.exists ? tr("File CLAUDE.md del profilo") : tr("Nessun CLAUDE.md");
-    case Component::settings:
-        return m_content.exists ? tr("settings.json del profilo (permessi, hook, plugin attivi)")
-                                : tr("Nessuna impostazione personalizzata");
-    case Component::plugins:
-        return m_content.exists ? tr("Plugin e marketplace installati") : tr("Nessun plugin");
-    default:
-        return m_content.serverCount > 0 ? tr("%1 server MCP").arg(m_content.serverCount)
-                                         : tr("Nessun server MCP configurato");
-    }
+    if (kind(m_component) != ComponentKind::servers)
+        return text(selvane::description(m_component, m_content.exists));
+    const int count = m_content.serverCount;
+    return count > 0 ? text(selvane::description(m_component, true)).arg(count)
+                     : text(selvane::description(m_component, false));
 }
 
 QString ComponentModel::linkTarget() const {
@@ -179,15 +161,16 @@ QString ComponentModel::linkTarget() const {
 }
 
 QString ComponentModel::openLabel() const {
-    const bool isText = m_component == Component::claudeMd || m_component == Component::settings;
+    const ComponentKind what = kind(m_component);
+    const bool isText = what == ComponentKind::memory || what == ComponentKind::file;
     if (m_content.exists)
-        return isText || m_component == Component::mcp ? tr("Apri") : QString();
+        return isText || what == ComponentKind::servers ? tr("Apri") : QString();
     // A new file would take the place of a link that leads nowhere.
     return isText && m_content.isRead && !m_content.linkTarget ? tr("Crea") : QString();
 }
 
 bool ComponentModel::canReimport() const {
-    return hasModes() && !isCollection() && m_component != Component::claudeMd;
+    return hasModes() && !isCollection() && kind(m_component) != ComponentKind::memory;
 }
 
 void ComponentModel::setMode(int index) {
@@ -219,13 +202,7 @@ void ComponentModel::reimport(const QString& profileId) {
         const Profile* source = id ? m_app->profile(QString::fromStdString(*id)) : nullptr;
         if (source == nullptr)
             throw LauncherError("Il profilo da cui «" + profile.meta.name + "» eredita non c'è più");
-        ProfileStore& store = m_app->store();
-        if (m_component == Component::settings)
-            store.importSettings(profile, *source);
-        else if (m_component == Component::plugins)
-            store.importPlugins(profile, *source);
-        else if (m_component == Component::mcp)
-            store.importMCP(profile, *source);
+        m_app->store().reimport(m_component, profile, *source);
         m_app->setNotice(tr("%1: reimportati").arg(title()));
     });
 }

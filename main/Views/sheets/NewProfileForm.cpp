@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "AppModel/Following.h"
+
 namespace selvane {
 namespace {
 
@@ -16,8 +18,8 @@ QString text(std::string_view value) {
 ShareMode nearestMode(ShareMode wanted, Component component) {
     if (allows(component, wanted))
         return wanted;
-    return wanted == ShareMode::shared && component == Component::claudeMd ? ShareMode::extend
-                                                                           : ShareMode::separate;
+    return wanted == ShareMode::shared && allows(component, ShareMode::extend) ? ShareMode::extend
+                                                                               : ShareMode::separate;
 }
 
 std::unique_ptr<ChoiceListModel> choices(const std::vector<ComponentItem>& items) {
@@ -40,16 +42,14 @@ QStringList texts(std::span<const ShareMode> modes, std::string_view (*textOf)(S
 } // namespace
 
 void NewProfileForm::setApp(AppModel* app) {
-    if (m_app == app)
-        return;
-    if (m_app != nullptr)
-        m_app->disconnect(this);
-    m_app = app;
-    if (m_app != nullptr)
-        connect(m_app, &AppModel::reloaded, this, [this] {
+    const auto connectTo = [this](AppModel& followed) {
+        connect(&followed, &AppModel::reloaded, this, [this] {
             if (m_app->profile(m_source) == nullptr)
                 setSource({});
         });
+    };
+    if (!follow(app, m_app, this, connectTo))
+        return;
     listComponents();
     emit appChanged();
     emit sourceChanged();
