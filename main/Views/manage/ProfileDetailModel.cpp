@@ -5,6 +5,8 @@
 
 #include <QtConcurrent>
 
+#include "AppModel/Following.h"
+
 namespace selvane {
 namespace {
 
@@ -22,17 +24,14 @@ ProfileDetailModel::ProfileDetailModel(QObject* parent) : QObject(parent) {
 }
 
 void ProfileDetailModel::setApp(AppModel* app) {
-    if (m_app == app)
+    const auto connectTo = [this](AppModel& followed) {
+        connect(&followed, &AppModel::reloaded, this, &ProfileDetailModel::update);
+        connect(&followed, &AppModel::selectionChanged, this, &ProfileDetailModel::update);
+        connect(&followed, &AppModel::runningChanged, this, &ProfileDetailModel::runningChanged);
+        connect(&followed, &AppModel::runningChanged, this, &ProfileDetailModel::accountChanged);
+    };
+    if (!follow(app, m_app, this, connectTo))
         return;
-    if (m_app != nullptr)
-        m_app->disconnect(this);
-    m_app = app;
-    if (m_app != nullptr) {
-        connect(m_app, &AppModel::reloaded, this, &ProfileDetailModel::update);
-        connect(m_app, &AppModel::selectionChanged, this, &ProfileDetailModel::update);
-        connect(m_app, &AppModel::runningChanged, this, &ProfileDetailModel::runningChanged);
-        connect(m_app, &AppModel::runningChanged, this, &ProfileDetailModel::accountChanged);
-    }
     update();
     emit appChanged();
 }

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <chrono>
 
+#include "AppModel/Following.h"
 #include "platform/text/Text.h"
 
 namespace selvane {
@@ -43,15 +44,12 @@ ProfileListModel::ProfileListModel(QObject* parent) : QAbstractListModel(parent)
 }
 
 void ProfileListModel::setApp(AppModel* app) {
-    if (m_app == app)
+    const auto connectTo = [this](AppModel& followed) {
+        connect(&followed, &AppModel::reloaded, this, &ProfileListModel::update);
+        connect(&followed, &AppModel::runningChanged, this, [this] { changed({IsRunningRole}); });
+    };
+    if (!follow(app, m_app, this, connectTo))
         return;
-    if (m_app != nullptr)
-        m_app->disconnect(this);
-    m_app = app;
-    if (m_app != nullptr) {
-        connect(m_app, &AppModel::reloaded, this, &ProfileListModel::update);
-        connect(m_app, &AppModel::runningChanged, this, [this] { changed({IsRunningRole}); });
-    }
     update();
     emit appChanged();
 }

@@ -3,16 +3,16 @@
 
 #include "Views/sheets/BackupForm.h"
 
+#include "AppModel/Following.h"
+
 namespace selvane {
 
 void BackupForm::setApp(AppModel* app) {
-    if (m_app == app)
+    const auto connectTo = [this](AppModel& followed) {
+        connect(&followed, &AppModel::claudeCopiesChanged, this, &BackupForm::claudeRunsChanged);
+    };
+    if (!follow(app, m_app, this, connectTo))
         return;
-    if (m_app != nullptr)
-        m_app->disconnect(this);
-    m_app = app;
-    if (m_app != nullptr)
-        connect(m_app, &AppModel::claudeCopiesChanged, this, &BackupForm::claudeRunsChanged);
     emit appChanged();
     emit claudeRunsChanged();
 }

@@ -3,16 +3,16 @@
 
 #include "Views/sheets/ProfileChoices.h"
 
+#include "AppModel/Following.h"
+
 namespace selvane {
 
 void ProfileChoices::setApp(AppModel* app) {
-    if (m_app == app)
+    const auto connectTo = [this](AppModel& followed) {
+        connect(&followed, &AppModel::reloaded, this, &ProfileChoices::changed);
+    };
+    if (!follow(app, m_app, this, connectTo))
         return;
-    if (m_app != nullptr)
-        m_app->disconnect(this);
-    m_app = app;
-    if (m_app != nullptr)
-        connect(m_app, &AppModel::reloaded, this, &ProfileChoices::changed);
     emit changed();
 }
 
