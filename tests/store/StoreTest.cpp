@@ -24,7 +24,10 @@ TEST(Store, locations_FromTheEnvironment_AreSpelledInOneWay) {
                              home.claude);
     EXPECT_EQ(store.root().string(), (home / "profili").string());
     EXPECT_TRUE(fs::is_directory(home / "profili"));
-    EXPECT_EQ(store.globalJSON(*store.profile("default")), home / "conf.json");
+    const Profile builtIn = *store.profile("default");
+    EXPECT_EQ(store.globalJSON(builtIn), home / "conf.json");
+    EXPECT_EQ(builtIn.url(Component::mcp), home / "conf.json");
+    EXPECT_EQ(builtIn.url(Component::settings), builtIn.configDir / "settings.json");
     EXPECT_EQ(store.profile("default")->configDir.string(), (home / ".claude").string());
     EXPECT_TRUE(store.testMode()) << "also with an empty value";
     writeFile(home / "file", "");
