@@ -52,7 +52,7 @@ std::string backupReadme(const std::vector<std::string>& paths) {
     return text;
 }
 
-/// A folder of our own in the system's temporary folder, gone with this object.
+/// A new folder in the system's temporary folder, removed with this object.
 class TemporaryFolder {
 public:
     explicit TemporaryFolder(const fs::path& in) : m_path(in / ("selvane-backup-" + uuid())) {
@@ -61,7 +61,7 @@ public:
     ~TemporaryFolder() {
         try {
             m_files.removeTree(m_path);
-        } catch (const fs::filesystem_error&) { // the system clears that place anyway
+        } catch (const fs::filesystem_error&) { // the system empties that folder anyway
         }
     }
     TemporaryFolder(const TemporaryFolder&) = delete;
@@ -86,7 +86,7 @@ private:
     fs::path m_path;
 };
 
-/// A folder would go to the Trash as a whole, and so would what is to be saved.
+/// Refuses a folder, which would go to the Trash whole, and a file that is itself to be saved.
 void requireUsable(const fs::path& target, const std::vector<fs::path>& sources) {
     if (fs::is_directory(target))
         throw LauncherError(text::singleLine(target.string()) +
@@ -99,7 +99,7 @@ void requireUsable(const fs::path& target, const std::vector<fs::path>& sources)
         throw fs::filesystem_error("archive folder", folder, std::error_code(errno, std::generic_category()));
 }
 
-/// zip passes over a folder that it can't read without a word.
+/// zip silently skips folders that it can't read.
 bool hasUnreadableFolder(const fs::path& source) {
     std::error_code failure;
     if (!fs::is_directory(source))
@@ -111,7 +111,7 @@ bool hasUnreadableFolder(const fs::path& source) {
 }
 
 int runZip(const std::vector<std::string>& arguments, Environment environment, const fs::path& folder) {
-    // zip takes further options from these, "-m" for example, which deletes what it has stored.
+    // zip reads more options from these, such as "-m", which deletes what it has stored.
     environment.erase("ZIP");
     environment.erase("ZIPOPT");
     return process::run(kZip, arguments, environment, folder);
@@ -139,7 +139,7 @@ std::vector<fs::path> ProfileStore::backupSources(BackupScope scope) const {
     return sources;
 }
 
-/// Those of the sources, and of the folders in them, that hold data of Claude Desktop.
+/// The folders with Claude Desktop data among the sources and inside them.
 std::vector<fs::path> ProfileStore::desktopFolders(const std::vector<fs::path>& in) const {
     std::vector<fs::path> folders = {liveDesktopDir()};
     for (const std::string& account : m_files.entriesIfReadable(desktopStore())) {
@@ -189,7 +189,7 @@ BackupResult ProfileStore::backup(BackupScope scope, const fs::path& archive) {
     } catch (...) {
         try {
             m_files.removeTree(partial);
-        } catch (const fs::filesystem_error&) { // the first error is the one to tell
+        } catch (const fs::filesystem_error&) { // report the first error
         }
         throw;
     }

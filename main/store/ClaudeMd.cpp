@@ -12,7 +12,7 @@ constexpr std::string_view kHeaderBegin = "<!-- Regole condivise dal profilo \""
 constexpr std::string_view kHeaderInclude = "\" (gestito da Selvane) -->\n@";
 constexpr std::string_view kHeaderEnd = "\n\n# Regole specifiche di questo profilo\n\n";
 
-/// A file of rules that includes the source's: Claude Code reads the line that begins with "@" as an include.
+/// Rules that include the source's: Claude Code reads a line beginning with "@" as an include.
 std::string extendTemplate(const Profile& source, std::string_view own) {
     std::string result(kHeaderBegin);
     result += source.meta.name;
@@ -30,15 +30,15 @@ struct Span {
     std::size_t end() const { return begin + size; }
 };
 
-/// A text that what follows it begins a new line after.
+/// Ends the text with a line break if something follows it.
 std::string asLines(std::string text, bool isFollowed) {
     if (isFollowed && !text.empty() && !text.ends_with('\n'))
         text += '\n';
     return text;
 }
 
-/// Where the header of `extendTemplate` stands in a text. It is found also when the source was renamed since,
-/// or when an editor has trimmed the line ends behind it.
+/// Finds the header written by `extendTemplate`, even if the source has been renamed since or an editor has
+/// trimmed the blank lines after it.
 std::optional<Span> headerIn(std::string_view text, const Profile& source) {
     const std::size_t begin = text.find(kHeaderBegin);
     if (begin == text.npos)
@@ -74,7 +74,7 @@ void ProfileStore::changeClaudeMd(ShareMode mode, const Profile& profile, const 
     const fs::path own = profile.url(Component::claudeMd);
     const fs::path origin = source.url(Component::claudeMd);
     const bool isFile = m_files.isRegularFile(own);
-    // What can't be read counts as empty: the file itself goes to the Trash whole.
+    // An unreadable file counts as empty: the whole file goes to the Trash.
     const std::string ownText = isFile ? m_files.readIfPossible(own).value_or("") : std::string();
     const auto header = headerIn(ownText, source);
     const auto writeOwn = [&](const std::string& text) {
@@ -91,12 +91,12 @@ void ProfileStore::changeClaudeMd(ShareMode mode, const Profile& profile, const 
                                 [&](const fs::path& temporary) { m_files.createLink(origin, temporary); });
         break;
     case ShareMode::extend:
-        // Only a header at the very top is ours to take off; the rest is the profile's own part.
+        // Remove only a header at the very top; the rest is the profile's own.
         writeOwn(
             extendTemplate(source, header && header->begin == 0 ? ownText.substr(header->size) : ownText));
         break;
     case ShareMode::separate: {
-        // Unreadable rules of the source count as none; without any, a profile that had none stays without.
+        // If the source's rules can't be read, a profile without rules stays without.
         const auto sourceText = m_files.readIfPossible(origin);
         if (!m_files.exists(own) && !sourceText)
             break;

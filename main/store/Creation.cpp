@@ -38,7 +38,7 @@ std::string ProfileStore::uniqueSlug(const std::string& name) const {
     return candidate;
 }
 
-/// Makes the folder of a new profile, under the first free id even when another Selvane makes one too.
+/// Creates the profile's folder under the first free id, even if another Selvane is creating one too.
 Profile ProfileStore::createFolder(const NewProfile& request, const std::string& name) {
     Profile profile;
     profile.meta.name = name;
@@ -74,7 +74,7 @@ Profile ProfileStore::create(const NewProfile& request) {
     } catch (...) {
         try {
             m_files.removeTree(profile.configDir);
-        } catch (const fs::filesystem_error&) { // the first error is the one to tell
+        } catch (const fs::filesystem_error&) { // report the first error
         }
         throw;
     }
@@ -124,7 +124,7 @@ void ProfileStore::apply(Component component, ShareMode mode, const Profile& to,
     }
 }
 
-/// Makes the folder of a new profile, complete: so its items need no temporaries of their own.
+/// Builds a new profile's folder under one temporary name, so its items need none of their own.
 void ProfileStore::fillCollection(Component component, ShareMode mode, const Profile& to,
                                   const Profile& from) {
     const fs::path origin = from.url(component);
@@ -139,7 +139,7 @@ void ProfileStore::fillCollection(Component component, ShareMode mode, const Pro
                 continue;
             if (mode == ShareMode::shared)
                 folder.createLink(item.string(), entry.name);
-            else if (entry.isLink) // to a folder that may be around the profile
+            else if (entry.isLink) // it may lead to a folder that contains the profile
                 m_files.copy(m_files.resolved(item), temporary / entry.name);
             else
                 m_files.copyDirectly(item, temporary / entry.name);

@@ -23,7 +23,7 @@ void ProfileStore::deleteProfile(const Profile& profile) {
     if (anyOther([&](const Profile& other) { return other.meta.account == profile.id; }))
         throw LauncherError("Altri profili usano l'account di \"" + profile.meta.name + "\": cambiali prima");
 
-    // Its account can still sit in the normal folder; that one belongs to the built-in profile again first.
+    // Its account may still be in the normal folder; first give that back to the built-in profile.
     if (desktopLiveOwner() == profile.id)
         restoreDesktopData();
     const std::filesystem::path data = desktopFolder(profile.id);

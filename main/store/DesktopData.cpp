@@ -28,8 +28,8 @@ fs::path ProfileStore::desktopStore() const {
     return m_root / ".desktop-data";
 }
 
-/// The folder of an account's own in the store. Records can be edited by hand: what is no plain name must not
-/// lead out of the store.
+/// An account's own folder in the store. Records can be edited by hand, so anything but a plain name, which
+/// could lead out of the store, throws.
 fs::path ProfileStore::desktopFolder(const std::string& owner) const {
     if (!Profile::isPossibleId(owner))
         throw LauncherError("Account non valido: " + text::singleLine(owner));
@@ -73,8 +73,7 @@ std::vector<ClaudeApp::Instance> ProfileStore::claudeInstances() const {
     return copies;
 }
 
-/// When nothing tells a copy's configuration, it is that of the one profile that uses its account, if there
-/// is just one.
+/// If a copy's configuration is unknown but only one profile uses its account, assumes that profile's.
 void ProfileStore::assumeConfig(ClaudeApp::Instance& copy) const {
     std::vector<Profile> users;
     for (Profile& profile : loadAll()) {
@@ -88,7 +87,7 @@ void ProfileStore::assumeConfig(ClaudeApp::Instance& copy) const {
         copy.config = normalizedPath(users.front().configDir.string());
 }
 
-/// `folder` is normalized. A record that names no possible account uses none.
+/// `folder` is normalized. A profile whose account isn't a valid id uses none.
 bool ProfileStore::usesDataFolder(const Profile& profile, const std::string& folder) const {
     return Profile::isPossibleId(profile.accountOwner()) &&
            normalizedPath(desktopDataDir(profile).string()) == folder;
@@ -106,7 +105,7 @@ std::optional<ClaudeApp::Instance> ProfileStore::instance(const Profile& usingAc
 bool ProfileStore::runs(const ClaudeApp::Instance& instance, const Profile& profile) const {
     if (!instance.isConfigKnown)
         return false;
-    // A copy started by hand has no configuration folder of its own: it uses the built-in profile's.
+    // A copy without a configuration folder, such as one started by hand, uses the built-in profile's.
     const std::string config = instance.config.value_or(normalizedPath(m_defaultDir.string()));
     return config == normalizedPath(profile.configDir.string());
 }
@@ -149,7 +148,7 @@ void ProfileStore::makeDesktopStore() {
 void ProfileStore::restoreDesktopData() {
     const FolderLock lock(m_root);
     const std::string owner = desktopLiveOwner();
-    desktopFolder(owner); // a marker that names no account stops here, before anything is touched
+    desktopFolder(owner); // throws on an invalid marker before anything is touched
     makeDesktopStore();
     if (!needsDesktopRestore())
         return;
@@ -161,7 +160,7 @@ void ProfileStore::restoreDesktopData() {
         m_files.removeFile(desktopStore() / kLiveMarkerName);
 }
 
-/// Parks the account that sits in the normal folder and brings the built-in profile's back there.
+/// Parks the account that is in the normal folder and brings the built-in profile's data back there.
 void ProfileStore::swapLiveData(const std::string& owner) {
     const fs::path& normal = liveDesktopDir();
     const fs::path parked = desktopFolder(owner);
@@ -179,15 +178,15 @@ void ProfileStore::swapLiveData(const std::string& owner) {
     returnBuiltInData(owner);
 }
 
-/// The last steps, when the account of `owner` is parked. Either they succeed or it goes back.
+/// The last steps, once the account of `owner` is parked. If they fail, it goes back.
 void ProfileStore::returnBuiltInData(const std::string& owner) {
     const fs::path& normal = liveDesktopDir();
     const fs::path parked = desktopFolder(owner);
     const fs::path builtIn = desktopFolder(std::string(Profile::kDefaultId));
     const fs::path marker = desktopStore() / kLiveMarkerName;
     try {
-        // The marker goes before the move: a run interrupted in between can be repeated. After the move it
-        // would name an account that isn't in the normal folder any more.
+        // Remove the marker before the move: if interrupted in between, the run can be repeated. After the
+        // move, the marker would name an account that is no longer in the normal folder.
         if (m_files.exists(marker))
             m_files.removeFile(marker);
         if (!m_files.exists(builtIn))
@@ -200,7 +199,7 @@ void ProfileStore::returnBuiltInData(const std::string& owner) {
                 m_files.write(marker, owner);
             if (m_files.exists(parked))
                 m_files.move(parked, normal);
-        } catch (const fs::filesystem_error&) { // the first error is the one to tell
+        } catch (const fs::filesystem_error&) { // report the first error
         }
         throw;
     }
@@ -217,7 +216,7 @@ void ProfileStore::seedDesktopData(const Profile& profile, const Profile& source
         try {
             if (m_files.exists(origin / name))
                 m_files.copy(origin / name, folder / name);
-        } catch (const fs::filesystem_error&) { // a convenience: Claude Desktop makes these anew
+        } catch (const fs::filesystem_error&) { // optional: Claude Desktop creates these itself
         }
     }
 }

@@ -11,7 +11,7 @@ namespace selvane {
 
 namespace fs = std::filesystem;
 
-/// Makes the paths in a settings file that lead into the source's folder lead into the profile's.
+/// Changes the paths in a settings file from the source's folder to the profile's.
 void ProfileStore::rewritePaths(const fs::path& file, const Profile& from, const Profile& to) {
     const auto before = m_files.readIfPossible(file);
     if (!before)

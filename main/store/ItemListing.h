@@ -8,12 +8,12 @@
 
 namespace selvane {
 
-/// What of a collection's folder are items, with the folder kept open to ask more about them.
+/// The items in a collection's folder, which stays open for further questions about them.
 struct ItemListing {
     ItemListing(Component component, const std::filesystem::path& path);
 
-    std::optional<OpenFolder> folder; ///< nothing when it can't be read; then there are no entries
-    std::vector<FolderEntry> entries; ///< in the order of the listing
+    std::optional<OpenFolder> folder; ///< nothing if it can't be read; then there are no entries
+    std::vector<FolderEntry> entries; ///< in the folder's own order
 };
 
 } // namespace selvane

@@ -44,7 +44,7 @@ bool ProfileStore::isLinked(const ComponentItem& item, const Profile& to, Compon
     return item.linkTarget && item.linkTarget->starts_with(to.url(component).string() + "/");
 }
 
-/// A folder linked as a whole is another profile's: what is done in it would be done there.
+/// A folder that is itself a link belongs to another profile, and so would any change in it.
 void ProfileStore::requireOwnFolder(Component component, const Profile& profile) const {
     if (m_files.linkTarget(profile.url(component)))
         throw LauncherError("La cartella \"" + std::string(rawValue(component)) + "\" di " +
@@ -52,7 +52,7 @@ void ProfileStore::requireOwnFolder(Component component, const Profile& profile)
                             " è un collegamento: gli elementi si cambiano nella cartella a cui porta");
 }
 
-/// Where a new item of that name belongs, its folder made; throws when something is there already.
+/// The path for a new item, in its folder, which is created if missing. Throws if the name is taken.
 fs::path ProfileStore::freePlace(const std::string& name, const Profile& in, Component component) {
     const fs::path folder = in.url(component);
     requireOwnFolder(component, in);

@@ -26,10 +26,10 @@ std::unordered_set<std::string> namesOf(const std::vector<ComponentItem>& items)
     return names;
 }
 
-/// The links below `origin`, which `offered` lists, that lead nowhere.
+/// The dangling links in `own` to something below `origin`, the folder that `offered` lists.
 std::vector<std::string> brokenLinks(const ItemListing& own, const ItemListing& offered,
                                      std::string_view origin) {
-    std::unordered_set<std::string_view> there; // the listing says so: no need to look
+    std::unordered_set<std::string_view> there; // these exist, so there is no need to look
     for (const FolderEntry& entry : offered.entries) {
         if (!entry.isLink)
             there.insert(entry.name);
@@ -52,7 +52,7 @@ std::vector<std::string> missingItems(const ItemListing& own, const ItemListing&
         present.insert(entry.name);
     std::vector<std::string> missing;
     for (const FolderEntry& entry : offered.entries) {
-        // One that leads nowhere itself would be dropped again by the next run.
+        // A link to a dangling link would be removed again by the next run.
         if (!present.contains(entry.name) && !excluded.contains(entry.name) &&
             (!entry.isLink || offered.folder->existsFollowingLinks(entry.name)))
             missing.push_back(entry.name);
@@ -95,7 +95,7 @@ void ProfileStore::syncCollection(Component component, const Profile& profile, c
         if (own.folder->removeLink(name))
             report.removed.push_back(reportLine(component, name));
     }
-    // Names just removed count as present: none is dropped and made again in one run.
+    // The names just removed still count as present, so no link is removed and made again in one run.
     const std::vector<std::string> missing = missingItems(own, offered, profile.excluded(component));
     if (missing.empty())
         return;
@@ -145,7 +145,7 @@ void ProfileStore::setCollectionMode(ShareMode mode, Component component, Profil
             continue;
         if (mode == ShareMode::none)
             m_files.removeLink(item.url);
-        else if (!item.isBroken) // a link that leads nowhere has nothing to copy, and may lead there again
+        else if (!item.isBroken) // a dangling link has nothing to copy, and may lead somewhere again
             makeOwn(item, profile);
     }
     if (mode == ShareMode::separate && profile.mode(component) == ShareMode::none)
@@ -174,7 +174,7 @@ Profile ProfileStore::remove(const ComponentItem& item, const Profile& from, Com
     requireOwnFolder(component, from);
     const FolderLock lock = locked(from);
     Profile changed = current(from);
-    // Looked at again: since it was listed, another program may have put a file in the place of the link.
+    // Check again: another program may have replaced the link by a file since it was listed.
     if (!m_files.removeLink(item.url)) {
         m_files.moveToTrash(item.url);
         return changed;

@@ -71,11 +71,11 @@ void ProfileStore::writeProfileNote(const Profile& profile) {
         return;
     const fs::path folder = profile.url(Component::rules);
     if (m_files.linkTarget(folder))
-        return; // a folder linked as a whole is another profile's
+        return; // a folder that is itself a link belongs to another profile
     m_files.createFolders(folder);
     const fs::path file = folder / kProfileNoteName;
     const std::string text = profileNote(profile);
-    // A link would be the source's note. Writing replaces it, and the source keeps its own.
+    // A link here would lead to the source's note. Writing replaces the link and leaves that note alone.
     if (m_files.linkTarget(file) || m_files.readIfPossible(file) != text)
         m_files.write(file, text);
 }

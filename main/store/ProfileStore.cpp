@@ -19,11 +19,11 @@ constexpr std::string_view kDefaultSymbol = "house";
 constexpr std::string_view kDefaultMetaFileName = "default.json";
 constexpr std::string_view kActiveFileName = ".active";
 
-/// Absolute, in the one spelling that links and logins are tied to.
+/// Absolute, in the one spelling that links and logins depend on.
 fs::path spelled(const fs::path& path) {
     fs::path result;
     for (const fs::path& part : fs::absolute(path)) {
-        // Behind a link, ".." leads elsewhere than the text says: only the file system knows where.
+        // After a link, ".." doesn't lead where the text says: only the file system knows where.
         if (part == "..")
             return fs::weakly_canonical(fs::absolute(path));
         if (!part.empty() && part != ".")
@@ -47,7 +47,7 @@ ProfileStore::ProfileStore(const Environment& environment, const ClaudeApp& clau
       m_testMode(environment.contains("CLAUDE_LAUNCHER_DESKTOP_DIR")) {
     try {
         m_files.createFolders(m_root, Privacy::ownerOnly);
-    } catch (const fs::filesystem_error&) { // what needs the root says so itself
+    } catch (const fs::filesystem_error&) { // operations that need the root report it themselves
     }
 }
 
@@ -112,7 +112,7 @@ std::optional<Profile> ProfileStore::profile(std::string_view id) const {
 }
 
 std::optional<Profile> ProfileStore::sourceOf(const Profile& profile) const {
-    // A record edited by hand can name the profile itself, which can't inherit from itself.
+    // A record edited by hand may name the profile as its own source; that counts as none.
     if (!profile.meta.source || *profile.meta.source == profile.id)
         return std::nullopt;
     return this->profile(*profile.meta.source);
@@ -126,13 +126,13 @@ void ProfileStore::saveMeta(const Profile& profile) {
 
 FolderLock ProfileStore::locked(const Profile& profile) const {
     FolderLock lock(profile.configDir);
-    // Writing would make its folder again, with nothing else in it.
+    // Writing would create the folder again, with nothing else in it.
     if (!profile.isDefault() && !m_files.existsFollowingLinks(profile.configDir))
         throw LauncherError("Il profilo \"" + profile.meta.name + "\" è stato eliminato nel frattempo");
     return lock;
 }
 
-/// As its record is by now: it may have been edited since `profile` was loaded.
+/// The profile as it is on disk now: its record may have changed since `profile` was loaded.
 Profile ProfileStore::current(const Profile& profile) const {
     return this->profile(profile.id).value_or(profile);
 }

@@ -26,29 +26,29 @@
 
 namespace selvane {
 
-/// What a new profile is made from.
+/// The parts of a new profile.
 struct NewProfile {
     std::string name; ///< trimmed before use; must not be blank
     std::string summary;
     std::string symbol = ProfileMeta{}.symbol;
     std::optional<Profile> from;                          ///< the source of its components
-    std::map<Component, ShareMode> modes;                 ///< the default mode for those missing
-    std::map<Component, std::set<std::string>> selection; ///< items to take; all for those missing
+    std::map<Component, ShareMode> modes;                 ///< the default mode for those not listed
+    std::map<Component, std::set<std::string>> selection; ///< items to take; all of them for those not listed
     std::optional<std::string> account;                   ///< id of the profile whose account it uses
 };
 
 /// The profiles on disk. It keeps no cache: every query reads the file system again.
 ///
-/// Operations throw `LauncherError` for what is the program's own business and pass file-system and JSON
-/// errors on; what a failed operation had already finished stays. Listings never fail: what can't be read is
-/// left out. Of several Selvanes that change one profile at once, each waits for the one before. Paths are
-/// absolute and always spelled the same way.
+/// Operations throw `LauncherError` for Selvane's own errors and let file-system and JSON errors pass;
+/// whatever a failed operation had already finished stays. Listings never fail: they leave out what can't be
+/// read. If several Selvanes change one profile at once, each waits its turn. Paths are absolute and always
+/// spelled the same way.
 class ProfileStore {
 public:
     static constexpr std::string_view kMetaFileName = ".launcher.json";
     static constexpr std::string_view kProfileNoteName = "selvane-profile.md";
 
-    /// Creates the profiles root when it is missing (a failure is ignored).
+    /// Creates the profiles root if it is missing, ignoring failures.
     ProfileStore(const Environment& environment, const ClaudeApp& claude);
 
     // Locations (ProfileStore.cpp)
@@ -56,9 +56,10 @@ public:
     const std::filesystem::path& root() const { return m_root; }
     const std::filesystem::path& defaultDir() const { return m_defaultDir; }
     const std::filesystem::path& defaultGlobalJSON() const { return m_defaultGlobalJSON; }
-    /// The data folder that Claude Desktop uses when it is started without saying otherwise.
+    /// The data folder that Claude Desktop uses unless told otherwise.
     std::filesystem::path liveDesktopDir() const;
-    /// Against a substitute data folder: processes are never looked at, Claude Desktop counts as not running.
+    /// Set when a substitute data folder is in use: processes are never looked at, and Claude Desktop counts
+    /// as not running.
     bool testMode() const { return m_testMode; }
     std::filesystem::path globalJSON(const Profile& profile) const;
 
@@ -66,27 +67,28 @@ public:
     std::vector<Profile> loadAll() const; ///< the built-in profile, then the others by name
     std::optional<Profile> profile(std::string_view id) const;
     void saveMeta(const Profile& profile);
-    /// Changes the record as it is by now, which may not be how it was when `profile` was loaded.
+    /// Changes the record on disk, which may differ from `profile` as loaded.
     Profile changeMeta(const Profile& profile, const std::function<void(ProfileMeta&)>& change);
     void markLaunched(const Profile& profile);   ///< never fails
-    std::optional<std::string> activeID() const; ///< may name a profile that is gone
+    std::optional<std::string> activeID() const; ///< may name a profile that no longer exists
     bool exists(const std::filesystem::path& path) const { return m_files.exists(path); }
 
     // Creation and deletion (Creation.cpp, Imports.cpp, Deletion.cpp)
-    /// A failure removes what was made of the profile; only that of seeding its account leaves it in place.
+    /// On failure, removes what it created, unless only seeding the account's data failed.
     Profile create(const NewProfile& request);
     /// Copies a component that is copied as a whole again; what the profile had of it goes to the Trash.
     void reimport(Component component, const Profile& to, const Profile& from);
     void importSettings(const Profile& to, const Profile& from);
     void importPlugins(const Profile& to, const Profile& from);
     void importMCP(const Profile& to, const Profile& from);
-    /// To the Trash, with its own desktop data. Refused while others depend on it or its account is open.
+    /// Moves it to the Trash with its own desktop data. Refuses if other profiles depend on it or its account
+    /// is open.
     void deleteProfile(const Profile& profile);
 
     // Items, links and share modes (Items.cpp, Links.cpp, ClaudeMd.cpp)
     std::vector<ComponentItem> items(Component component, const Profile& profile) const;
     bool isLinked(const ComponentItem& item, const Profile& to, Component component) const;
-    /// Never overwrites: fails when anything of that name is there.
+    /// Never overwrites: fails if the name is taken.
     void addItem(const ComponentItem& item, const Profile& to, Component component, bool link);
     SyncReport sync(const Profile& profile);
     Profile setMode(ShareMode mode, Component component, const Profile& profile);
@@ -96,22 +98,22 @@ public:
                         Component component, bool link);
 
     // Generated files (ProfileNote.cpp, TerminalHelper.cpp)
-    void writeProfileNote(const Profile& profile); ///< leaves an up-to-date note untouched
+    void writeProfileNote(const Profile& profile); ///< doesn't touch a note that is up to date
     std::filesystem::path installTerminalHelper();
 
-    // Desktop data folders (DesktopData.cpp). An account that is no plain name throws.
+    // Desktop data folders (DesktopData.cpp). An account that isn't a plain name throws.
     std::filesystem::path desktopStore() const;
-    std::string desktopLiveOwner() const; ///< as recorded, which may be no valid account
+    std::string desktopLiveOwner() const; ///< as recorded; it may not be a valid account
     std::filesystem::path desktopDataDir(const Profile& profile) const;
     bool hasDesktopData(const Profile& profile) const;
-    DataFolders dataFolders() const; ///< the normal one and every account's, whoever uses it
+    DataFolders dataFolders() const; ///< the normal one and every account's, used or not
     bool desktopDataInUse(const std::filesystem::path& folder) const;
     std::vector<ClaudeApp::Instance> claudeInstances() const;
     std::optional<ClaudeApp::Instance> instance(const Profile& usingAccountOf) const;
-    /// False for every profile when the copy's configuration can't be told.
+    /// False for every profile if the copy's configuration is unknown.
     bool runs(const ClaudeApp::Instance& instance, const Profile& profile) const;
-    /// Whether `copy` and its helper processes have left the profile's account. So they have for certain when
-    /// another Selvane has opened the next copy with it.
+    /// Whether `copy` and its helper processes have left the profile's account. They certainly have if
+    /// another Selvane has already opened the next copy with it.
     bool hasLeft(const ClaudeApp::Instance& copy, const Profile& profile) const;
     std::set<std::string> runningProfileIDs() const;
     bool needsDesktopRestore() const;
@@ -124,18 +126,18 @@ public:
     int pendingSessionCount(const Profile& profile) const;
     ImportCount importSessions(const std::vector<CodeSession>& sessions, const Profile& source,
                                const Profile& target);
-    int flushPendingSessions(const Profile& profile); ///< how many were placed
+    int flushPendingSessions(const Profile& profile); ///< returns how many were placed
 
     // Backup (Backup.cpp)
     std::vector<std::filesystem::path> backupSources(BackupScope scope) const;
-    /// Replaces `archive` (the old one goes to the Trash) only when the new one is complete.
+    /// Replaces `archive` only once the new one is complete; the old one goes to the Trash.
     BackupResult backup(BackupScope scope, const std::filesystem::path& archive);
 
 private:
     Profile loadDefault() const;
     std::optional<Profile> loadProfile(const std::string& id) const;
     std::optional<Profile> sourceOf(const Profile& profile) const;
-    /// To itself among all Selvanes. Throws when the profile has been deleted.
+    /// Locks the profile against other Selvanes. Throws if it has been deleted.
     FolderLock locked(const Profile& profile) const;
     Profile current(const Profile& profile) const;
 
@@ -180,9 +182,9 @@ private:
     std::filesystem::path m_defaultDir;
     std::filesystem::path m_defaultGlobalJSON;
     bool m_testMode;
-    // Found out when first asked for: it can mean looking for the installed application.
+    // Determined on first use, as it may take a search for the installed application.
     mutable std::mutex m_liveDesktopDirMutex;
-    mutable std::filesystem::path m_liveDesktopDir; ///< empty while it isn't settled
+    mutable std::filesystem::path m_liveDesktopDir; ///< empty until it can no longer change
 };
 
 } // namespace selvane

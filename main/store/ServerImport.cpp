@@ -16,7 +16,7 @@ const Json* serversIn(const Json& globalState) {
     return servers != nullptr && servers->is_object() ? servers : nullptr;
 }
 
-/// Whether every entry of `some` stands in `all` as well.
+/// Whether `all` contains every entry of `some`.
 bool isContained(const Json* some, const Json& all) {
     if (some == nullptr)
         return true;
@@ -40,7 +40,7 @@ ServerImport importedServers(const Json& source, const std::optional<Json>& targ
         result.losesServers = !isContained(serversIn(result.state), *servers);
         json::set(result.state, kServersKey, *servers);
     }
-    // Otherwise Claude Code would greet a user it knows with its first steps.
+    // Otherwise Claude Code would take a known user through its first steps again.
     if (!target && isTrue(source, kOnboardingKey))
         json::set(result.state, kOnboardingKey, true);
     return result;

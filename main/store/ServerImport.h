@@ -9,14 +9,14 @@
 
 namespace selvane {
 
-/// What taking over MCP servers makes of Claude Code's global state.
+/// Claude Code's global state after MCP servers were imported.
 struct ServerImport {
     Json state;
-    bool losesServers = false; ///< the target had servers that are gone or changed now
+    bool losesServers = false; ///< the target had servers that were removed or changed
 };
 
-/// Puts the servers of `source` in the place of those of `target`; every other key of `target` stays. Without
-/// a target a new state is made. `target` must be an object.
+/// Replaces the servers of `target` with those of `source`; every other key of `target` stays. Without a
+/// target, creates a new state. `target` must be an object.
 ServerImport importedServers(const Json& source, const std::optional<Json>& target);
 
 } // namespace selvane

@@ -24,7 +24,7 @@ std::string withoutAccount(const std::string& record, const std::filesystem::pat
             return std::move(*laidOut);
     }
     Json object = json::parse(record, file);
-    if (!object.is_object()) // only an object has keys to lose
+    if (!object.is_object()) // only an object has keys to remove
         return record;
     for (const std::string_view key : kAccountBoundKeys)
         json::remove(object, key);

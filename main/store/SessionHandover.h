@@ -8,8 +8,8 @@
 
 namespace selvane {
 
-/// The bytes of a session record for another account: without what describes connections and tools of the
-/// account that it leaves. A record that is no JSON throws a `JsonError` that names `file`.
+/// A session record prepared for another account: without the connections and tools of the account it leaves.
+/// If the record isn't JSON, throws a `JsonError` that names `file`.
 std::string withoutAccount(const std::string& record, const std::filesystem::path& file);
 
 } // namespace selvane

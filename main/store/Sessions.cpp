@@ -48,7 +48,7 @@ std::optional<CodeSession> parseSession(const std::string& file, SessionRecordRe
 
 } // namespace
 
-/// The folders that hold session records, the one changed last first.
+/// The folders that hold session records, the most recently changed first.
 std::vector<fs::path> ProfileStore::sessionFolders(const fs::path& dataDir) const {
     std::vector<std::pair<fs::file_time_type, fs::path>> dated;
     const fs::path top = dataDir / kSessionsFolder;
@@ -100,7 +100,7 @@ int ProfileStore::pendingSessionCount(const Profile& profile) const {
                             static_cast<std::size_t>(std::count_if(queued.begin(), queued.end(), isHidden)));
 }
 
-/// Existing transcripts of the target are never overwritten.
+/// Never overwrites the target's existing transcripts.
 void ProfileStore::copyTranscripts(const CodeSession& session, const TranscriptIndex& from,
                                    const Profile& target) {
     for (const std::string& id : session.cliSessionIDs) {
@@ -131,7 +131,7 @@ ImportCount ProfileStore::importSessions(const std::vector<CodeSession>& session
     for (const CodeSession& session : sessions) {
         if (!sameConfiguration)
             copyTranscripts(session, index, target);
-        if (sameAccount) { // the record already lies where both look for it
+        if (sameAccount) { // both profiles already read this record
             ++count.copied;
             continue;
         }

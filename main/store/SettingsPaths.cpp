@@ -17,7 +17,7 @@ struct Replacement {
     std::string to;
 };
 
-/// In one pass: what was put in is not looked at again, also where it begins like what is replaced.
+/// Replaces in one pass: never looks again at text it has put in, even if that matches too.
 std::string replaced(std::string_view text, const std::vector<Replacement>& replacements) {
     std::string result;
     while (!text.empty()) {
@@ -30,7 +30,7 @@ std::string replaced(std::string_view text, const std::vector<Replacement>& repl
     return result;
 }
 
-/// A text as it stands between the quotes of a JSON string.
+/// The text as written between the quotes of a JSON string.
 std::string jsonEscaped(const std::string& bytes, bool asciiOnly) {
     const std::string quoted = Json(textFromBytes(bytes)).dump(-1, ' ', asciiOnly);
     return quoted.substr(1, quoted.size() - 2);
@@ -42,10 +42,10 @@ bool needsEscapes(const std::string& text) {
     });
 }
 
-/// The spellings that a path can have inside a JSON string.
+/// The ways a path can be written in a JSON string.
 std::vector<std::string> jsonSpellings(const std::filesystem::path& path) {
     std::vector<std::string> spellings = {jsonEscaped(path.string(), false)};
-    // As it is, also where it is no UTF-8; but not so that it could end a string and begin another.
+    // Include the raw bytes even if they aren't UTF-8, unless they could end the string and begin another.
     for (const std::string& spelling : {needsEscapes(path.string()) ? spellings.front() : path.string(),
                                         jsonEscaped(path.string(), true)}) {
         if (spelling != spellings.front())

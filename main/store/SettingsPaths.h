@@ -10,8 +10,8 @@
 
 namespace selvane {
 
-/// The text of a settings file (JSON) in which the paths that lead into the folder of `from` lead into that
-/// of `to`. Nothing else in it changes.
+/// The text of a settings file (JSON) with the paths into the folder of `from` changed to that of `to`.
+/// Nothing else in it changes.
 std::string withRewrittenPaths(std::string_view text, const Profile& from, const Profile& to);
 
 } // namespace selvane

@@ -8,9 +8,8 @@
 
 namespace selvane {
 
-/// The folder name for a profile's display name: lower case without diacritics, everything but letters and
-/// numbers turned into single dashes; "profilo" where nothing is left; never a name with a meaning of its
-/// own.
+/// The folder name for a profile's display name: lower case without diacritics, with a single dash for
+/// anything but letters and numbers; "profilo" if nothing is left. Never a reserved name.
 std::string slug(std::string_view name);
 
 } // namespace selvane

@@ -6,7 +6,7 @@
 namespace selvane {
 namespace {
 
-/// A text between double quotes of a shell script, read literally.
+/// Escapes a text so that a shell reads it literally between double quotes.
 std::string shellEscaped(const std::string& text) {
     std::string result;
     for (const char c : text) {

@@ -13,16 +13,15 @@
 
 namespace selvane {
 
-/// Where the transcripts of one configuration folder lie, read once: looking a session up costs no file
-/// access.
+/// Where a configuration folder's transcripts are. It reads the folders once, so lookups need no file access.
 class TranscriptIndex {
 public:
-    /// Reads `configDir`/projects; what can't be read counts as empty.
+    /// Reads `configDir`/projects; whatever can't be read counts as empty.
     explicit TranscriptIndex(const std::filesystem::path& configDir);
 
-    /// The project folder that holds the transcript of a Claude Code session: the first in listing order.
+    /// The project folder that holds a Claude Code session's transcript: the first one listed.
     std::optional<std::filesystem::path> transcriptFolder(const std::string& cliSessionID) const;
-    /// Whether any of the session's transcripts is there.
+    /// Whether any of the session's transcripts exists.
     bool hasTranscript(const CodeSession& session) const;
 
 private:

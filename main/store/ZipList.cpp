@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 constexpr std::array<std::string_view, 6> kBackupExcludedDesktopPaths = {
     "vm_bundles/*", "claude-code/*", "claude-code-vm/*", "Crashpad/*", "*Cache/*", "*CacheStorage/*"};
 
-/// zip takes names with these characters in a pattern for wildcards.
+/// zip treats these characters in a pattern as wildcards.
 std::string patternFor(const std::string& name) {
     std::string pattern;
     for (const char c : name) {
@@ -26,19 +26,19 @@ std::string patternFor(const std::string& name) {
     return pattern;
 }
 
-/// zip drops the "./" from the names it stores, and doesn't take the rest for an option.
+/// A leading "./" keeps zip from reading the path as an option; zip drops it from the stored name.
 std::string asArgument(const std::string& path) {
     return path.starts_with('-') || path.starts_with('@') ? "./" + path : path;
 }
 
-/// A source that is itself a link: what the user wants to keep is what it leads to.
+/// For a source that is a link, the user wants to keep what it leads to.
 void addTarget(const fs::path& link, const fs::path& home, ZipList& list) {
     std::error_code failure;
     const fs::path target = fs::canonical(link, failure);
     if (failure)
         return;
     if (fs::is_directory(target)) {
-        // With a slash behind its name, zip goes through the link. It would then take the name itself twice.
+        // With a slash after the name, zip follows the link, but then it would store the name itself twice.
         list.paths.back() += '/';
         list.patterns.push_back(patternFor(list.paths.back()));
     } else {

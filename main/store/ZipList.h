@@ -9,17 +9,17 @@
 
 namespace selvane {
 
-/// What one run of zip takes, as it is to be named on its command line.
+/// The paths and patterns for one run of zip, as written on its command line.
 struct ZipList {
     std::vector<std::string> paths;    ///< relative to the home folder, absolute outside it
-    std::vector<std::string> patterns; ///< of names to leave out
+    std::vector<std::string> patterns; ///< names to leave out
 };
 
-/// `path` without the home folder in front; as it is when it lies elsewhere.
+/// `path` relative to the home folder, or unchanged if it is elsewhere.
 std::string relativeToHome(const std::filesystem::path& path, const std::filesystem::path& home);
 
-/// The list for `sources`, which exist. `desktopFolders` are those among and below them that hold data of
-/// Claude Desktop, whose caches and downloads are left out.
+/// The list for `sources`, which must exist. `desktopFolders` are the folders among or inside them that hold
+/// Claude Desktop's data; its caches and downloads are left out.
 ZipList zipList(const std::vector<std::filesystem::path>& sources,
                 const std::vector<std::filesystem::path>& desktopFolders, const std::filesystem::path& home);
 
