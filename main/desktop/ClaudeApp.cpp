@@ -23,7 +23,7 @@ constexpr int kMaximumAncestors = 31;
 constexpr std::string_view kConfigDirVariable = "CLAUDE_CONFIG_DIR";
 constexpr std::string_view kMacInstallPrefix = "/Applications/Claude.app/";
 
-/// What belongs to Selvane, or to the copy that Selvane was started from, must not reach a new copy.
+/// A new copy must not inherit variables meant for Selvane or for the copy that started it.
 bool isWithheld(std::string_view variable) {
     return variable == kConfigDirVariable || variable == "ELECTRON_RUN_AS_NODE" ||
            variable.starts_with("CLAUDE_LAUNCHER_");
@@ -96,7 +96,7 @@ CopyEvidence ClaudeApp::evidence(const std::vector<ProcInfo>& processes, std::ve
 }
 
 ClaudeApp::Look ClaudeApp::look(const DataFolders& folders) const {
-    // The notes first: a copy that one of them tells of has started by the time the processes are read.
+    // Read the notes first: every copy they mention has then started by the time we read the processes.
     std::vector<LaunchNote> notes = m_notes.all();
     Look look = {ProcInfo::all(), {}};
     const ProcessFamily family(look.processes);
@@ -108,7 +108,7 @@ ClaudeApp::Look ClaudeApp::look(const DataFolders& folders) const {
         return !isRunning;
     });
     look.copies = openCopies(evidence(look.processes, std::move(notes), folders));
-    // One that ended while it was read may have shown only a part of what it was.
+    // A copy that ended while we were reading it may have shown only part of itself.
     std::erase_if(look.copies, [&](const Instance& copy) { return m_workspace.isTerminated(copy.app); });
     return look;
 }
@@ -126,7 +126,7 @@ std::vector<ProcInfo> ClaudeApp::processes(const fs::path& dataDir, const DataFo
             roots.push_back(instance.pid());
     }
     std::vector<ProcInfo> result = processesOf(folder, roots, now.processes, folders);
-    // A command of ours may well name the folder; that is no use of it.
+    // A Selvane command may well name the folder in its arguments. That doesn't mean it uses it.
     std::erase_if(result, [self = getpid()](const ProcInfo& process) { return process.pid == self; });
     return result;
 }
@@ -138,8 +138,9 @@ std::vector<ProcInfo> ClaudeApp::allProcesses(const DataFolders& folders) const 
         prefixes.push_back(installed->folder.string() + "/");
 
     const Look now = look(folders);
-    // Copies started through a wrapper in a shared folder lie in none of these places. What runs the
-    // executable of a copy belongs to it as well, unless other applications run it too.
+    // Copies started by a wrapper in a shared folder are in none of these places. A process that runs a
+    // copy's executable also belongs to Claude Desktop, unless it is an unrelated application with the same
+    // executable.
     const ProcessFamily family(now.processes);
     const auto isCopy = [&](const ProcInfo& process) {
         return std::ranges::count(now.copies, process.pid, &Instance::pid) > 0;
@@ -197,7 +198,7 @@ bool ClaudeApp::quit(const std::vector<Instance>& instances, QuitKind kind, std:
 void ClaudeApp::launch(const Profile& profile, ProfileStore& store) const {
     const Application installed = requireApplication();
     store.restoreDesktopData();
-    // One launch at a time: the next one must find this one's copy among the processes.
+    // One launch at a time: the next one must find this copy among the processes.
     const FolderLock lock(store.desktopStore());
     requireFree(profile, store);
     const fs::path dataDir = prepared(profile, store);
@@ -214,7 +215,7 @@ void ClaudeApp::launch(const Profile& profile, ProfileStore& store) const {
     store.markLaunched(profile);
 }
 
-/// Throws while a copy has the profile's account. The helpers of one that has just ended are waited for.
+/// Throws while a copy is using the profile's account. Waits for the helpers of a copy that has just ended.
 void ClaudeApp::requireFree(const Profile& profile, const ProfileStore& store) const {
     const auto deadline = m_clock.now() + kLeavingTimeout;
     while (store.desktopDataInUse(store.desktopDataDir(profile))) {
@@ -225,8 +226,8 @@ void ClaudeApp::requireFree(const Profile& profile, const ProfileStore& store) c
     }
 }
 
-/// Looks until the new copy shows the data folder it was given. Its own word counts here: the note says what
-/// it should be.
+/// Waits until the new copy shows its data folder. Ignores the launch note, which only says what the folder
+/// should be.
 void ClaudeApp::awaitCopy(const LaunchNote& note, const Profile& profile, const ProfileStore& store,
                           const fs::path& executable) const {
     const auto deadline = m_clock.now() + kOpeningTimeout;
@@ -241,7 +242,7 @@ void ClaudeApp::awaitCopy(const LaunchNote& note, const Profile& profile, const 
             const bool isOurs = process != nullptr && belongsTo(note.opened, *process, family);
             if (copy.dataDir.empty() || (!isOurs && copy.dataDir != note.dataDir))
                 continue;
-            // Arguments alone may be those of a wrapper on the way.
+            // The arguments alone may still be those of a wrapper.
             const bool isProven = usesDataFolder(evidence, copy.pid(), copy.dataDir);
             if (!isProven && !isLast)
                 continue;

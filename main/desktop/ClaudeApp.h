@@ -24,51 +24,51 @@ namespace selvane {
 
 class ProfileStore;
 
-/// The Claude Desktop application: where it is, which copies run and for whom, how to start and end them.
-/// It keeps no state; every question is answered from the system at the moment of asking.
+/// The Claude Desktop application: where it is, which copies are running and for whom, how to start and end
+/// them. It keeps no state: every answer comes from the system at that moment.
 class ClaudeApp {
 public:
     static constexpr std::string_view kBundleId = "com.anthropic.claudefordesktop";
     static constexpr std::chrono::milliseconds kQuitTimeout{20'000};
     static constexpr std::chrono::milliseconds kForcedQuitTimeout{3'000};
     static constexpr std::chrono::milliseconds kPollInterval{250};
-    /// How long a new copy may take to show what it uses.
+    /// How long a new copy may take to show its data folder.
     static constexpr std::chrono::milliseconds kOpeningTimeout{3'000};
     static constexpr std::chrono::milliseconds kOpeningPollInterval{50};
-    /// How long the helpers of a copy that has ended may take to end, too.
+    /// How long to wait for the helpers of a copy that has ended.
     static constexpr std::chrono::milliseconds kLeavingTimeout{2'000};
 
     using Instance = OpenCopy;
 
     enum class QuitKind { polite, forced };
 
-    /// How the system knows the application, for `makeWorkspace`.
+    /// The names by which the system knows the application, for `makeWorkspace`.
     static ApplicationIdentity identity();
 
-    /// `environment` is the user's session, which says where the notes of launches lie.
+    /// `environment` is that of the user's session: it says where the launch notes are.
     ClaudeApp(Workspace& workspace, Clock& clock, const Environment& environment);
 
-    std::optional<Application> application() const; ///< nothing when not installed
-    Application requireApplication() const;         ///< throws when not installed
-    /// The copies that run, one per main process.
+    std::optional<Application> application() const; ///< nothing if not installed
+    Application requireApplication() const;         ///< throws if not installed
+    /// The running copies, one per main process.
     std::vector<Instance> instances(const DataFolders& folders) const;
-    /// Every process that belongs to the data folder `dataDir`, but this one.
+    /// Every process that uses the data folder `dataDir`, except this one.
     std::vector<ProcInfo> processes(const std::filesystem::path& dataDir, const DataFolders& folders) const;
-    /// Every process whose executable belongs to Claude Desktop or lies in one of the data folders.
+    /// Every process whose executable is Claude Desktop's or is inside a data folder.
     std::vector<ProcInfo> allProcesses(const DataFolders& folders) const;
 
     void activate(const Instance& instance) const;
-    /// Asks the copies to end and waits until all have and `until` holds, at most `timeout` (a forced quit:
-    /// three seconds at most). False when they haven't by then. Blocks.
+    /// Asks the copies to end, then waits until they all have and `until` holds, for `timeout` at most (three
+    /// seconds if forced). Returns false if time runs out. Blocks.
     bool quit(const std::vector<Instance>& instances, QuitKind kind, std::chrono::milliseconds timeout,
               const std::function<bool()>& until) const;
-    /// Brings the profile up to date, opens a new copy for it and looks, three seconds at most, until that
-    /// shows its data folder. Throws when nothing was opened, and when the copy that was opened uses another
-    /// data folder or configuration; that one stays open. Blocks.
+    /// Brings the profile up to date, opens a new copy with it and waits up to three seconds for the copy to
+    /// show its data folder. Throws if nothing was opened, or if the copy uses another data folder or
+    /// configuration; that copy stays open. Blocks.
     void launch(const Profile& profile, ProfileStore& store) const;
 
 private:
-    /// The machine at one moment.
+    /// The state of the machine at one moment.
     struct Look {
         std::vector<ProcInfo> processes;
         std::vector<Instance> copies;
@@ -85,8 +85,8 @@ private:
     const LaunchNotes m_notes;
 };
 
-/// The processes of `all` that belong to the data folder `dataDir` (normalized): by the place of their
-/// executable, by an argument, or because one of `roots` is among their ancestors.
+/// The processes in `all` that belong to the data folder `dataDir` (normalized): their executable is inside
+/// it, an argument names it, or they are one of `roots` or a descendant of one.
 std::vector<ProcInfo> processesOf(const std::string& dataDir, const std::vector<std::int32_t>& roots,
                                   const std::vector<ProcInfo>& all, const DataFolders& folders);
 

@@ -8,7 +8,7 @@
 namespace selvane {
 namespace {
 
-/// Separate arguments begin with the program; whatever follows the joined ones is empty.
+/// Separate arguments begin with the program's path. In joined ones, everything after the first is empty.
 bool areJoined(const std::vector<std::string>& arguments) {
     return !arguments.empty() && arguments.front().find(" --") != std::string::npos &&
            std::all_of(arguments.begin() + 1, arguments.end(),

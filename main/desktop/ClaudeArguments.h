@@ -14,13 +14,13 @@ namespace selvane {
 
 constexpr std::string_view kDataDirSwitch = "--user-data-dir=";
 
-/// The data folder that a process of Claude Desktop names in its arguments, normalized. Nothing when it names
-/// none, or has no arguments. Many of its processes join their arguments to one text: of what stands there
-/// only known folders can be told, and for another one the result is empty.
+/// The data folder that a Claude Desktop process names in its arguments, normalized. Nothing if it names none
+/// or has no arguments. Many of these processes join their arguments into one text; only a known folder can
+/// be recognised there, so any other gives nothing.
 std::optional<std::string> dataDirArgument(const ProcInfo& process, const DataFolders& folders);
 
 /// Whether an argument names a data folder (normalized) or something in it: it contains the folder followed
-/// by "/", or ends with "=" followed by the folder, which in joined arguments a blank may follow.
+/// by "/", or ends with "=" and the folder. In joined arguments, a space may follow the folder.
 bool namesDataFolder(const ProcInfo& process, const std::string& folder, const DataFolders& folders);
 
 } // namespace selvane

@@ -18,13 +18,13 @@ const std::string* variable(const ProcInfo& process, std::string_view name) {
     return found == process.env.end() || found->second.empty() ? nullptr : &found->second;
 }
 
-/// An environment that was wiped holds nothing, or a part of the process's title.
+/// A wiped environment is empty or holds part of the process's title.
 bool hasEnvironment(const ProcInfo& process) {
     return variable(process, "HOME") || variable(process, "PATH") || variable(process, kConfigDirVariable);
 }
 
-/// Servers and tools are often started with the few variables that every program needs. Those of the session
-/// show that all were handed on.
+/// Servers and tools are often started with only the few variables that every program needs. Session
+/// variables show that a process inherited them all.
 bool hasSessionEnvironment(const ProcInfo& process) {
     return variable(process, "DISPLAY") || variable(process, "WAYLAND_DISPLAY") ||
            variable(process, "DBUS_SESSION_BUS_ADDRESS") || variable(process, "XDG_RUNTIME_DIR");
@@ -77,7 +77,7 @@ void CopyEnvironment::tellConfig(OpenCopy& copy, const LaunchNote* note) const {
         copy.isConfigKnown = handedOn() != nullptr;
 }
 
-/// The main process itself or its crash handler, which leaves its parent and keeps its environment.
+/// The main process itself or its crash handler, which leaves the process tree but keeps its environment.
 const ProcInfo* CopyEnvironment::original() const {
     if (hasEnvironment(m_main))
         return &m_main;
@@ -87,7 +87,7 @@ const ProcInfo* CopyEnvironment::original() const {
     return handler == all.end() ? nullptr : &*handler;
 }
 
-/// The nearest descendant that was given the whole environment.
+/// The nearest descendant that inherited the whole environment.
 const ProcInfo* CopyEnvironment::handedOn() const {
     const auto found = std::find_if(m_descendants.begin(), m_descendants.end(),
                                     [](const ProcInfo* each) { return hasSessionEnvironment(*each); });
@@ -108,7 +108,7 @@ bool CopyEnvironment::isHandler(const ProcInfo& process) const {
     return writesThere || (starter != nullptr && *starter == std::to_string(m_main.pid));
 }
 
-/// Helpers are told where to report a crash.
+/// Helpers are given the pid of the crash handler.
 bool CopyEnvironment::isNamedByHelper(std::int32_t handler) const {
     const std::string argument = "--crashpad-handler-pid=" + std::to_string(handler);
     return std::ranges::any_of(m_descendants, [&](const ProcInfo* process) {
@@ -120,8 +120,8 @@ bool CopyEnvironment::isNamedByHelper(std::int32_t handler) const {
     });
 }
 
-/// A crash handler from the same folder that started right after the main process, when no other main process
-/// started around that time.
+/// A crash handler from the same folder that started right after the main process, provided that no other
+/// main process started around that time.
 const ProcInfo* CopyEnvironment::nearestHandler() const {
     const std::uint64_t kWhile = 2 * ProcInfo::startTimePerSecond();
     const auto isSoonAfter = [&](const ProcInfo& later, const ProcInfo& earlier) {

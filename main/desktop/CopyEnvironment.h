@@ -8,17 +8,17 @@
 
 namespace selvane {
 
-/// The environment that the main process of a copy was started with. Most wipe their own; then other
-/// processes tell what it was: crash handlers, and what the copy has started.
+/// The environment that a copy's main process was started with. Most wipe theirs; then crash handlers and the
+/// copy's child processes show what it was.
 class CopyEnvironment {
 public:
-    /// They must live longer. `dataDir` is the copy's data folder, empty when it isn't known yet.
+    /// The arguments must outlive this object. `dataDir` is the copy's data folder, empty if not yet known.
     CopyEnvironment(const CopyEvidence& evidence, const ProcessFamily& family, const ProcInfo& main,
                     const std::string& dataDir);
 
-    /// The normal data folder of the home that it was given, `otherwise` when that can't be told.
+    /// The normal data folder in the copy's home folder, or `otherwise` if that is unknown.
     std::string normalDataDir(const std::string& otherwise) const;
-    /// Sets the configuration, as far as it can be told.
+    /// Sets the configuration if it can be determined.
     void tellConfig(OpenCopy& copy, const LaunchNote* note) const;
 
 private:

@@ -14,7 +14,7 @@
 namespace selvane {
 
 std::optional<DataFolderLock> DataFolderLock::parse(const std::string& folder, std::string_view target) {
-    const std::size_t dash = target.rfind('-'); // a host's name can hold dashes
+    const std::size_t dash = target.rfind('-'); // a host name can contain dashes
     if (dash == std::string_view::npos)
         return std::nullopt;
     const std::string_view number = target.substr(dash + 1);
@@ -27,7 +27,7 @@ std::optional<DataFolderLock> DataFolderLock::parse(const std::string& folder, s
 
 std::optional<DataFolderLock> DataFolderLock::read(const std::string& folder) {
     using namespace std::chrono;
-    constexpr seconds kClockError(2); // of the file system against the kernel
+    constexpr seconds kClockError(2); // the file system's clock against the kernel's
     const std::string link = folder + "/SingletonLock";
     const auto target = FileManager().linkTarget(link);
     auto lock = target ? parse(folder, target->native()) : std::nullopt;

@@ -10,17 +10,18 @@
 
 namespace selvane {
 
-/// The lock that Chromium and Electron keep in a data folder: a link "HOST-PID", left behind by a crash.
+/// The lock that Chromium and Electron keep in a data folder: a symbolic link to "HOST-PID". It can outlive
+/// its process.
 struct DataFolderLock {
     std::string folder; ///< normalized
     std::string host;
     std::int32_t pid = 0;
-    /// Whoever made the lock had started by then (as `ProcInfo::startTime`); 0 when that isn't known.
+    /// The process that made the lock started before this (same unit as `ProcInfo::startTime`); 0 if unknown.
     std::uint64_t madeBefore = 0;
 
-    /// Nothing when there is no lock.
+    /// Nothing if there is no lock.
     static std::optional<DataFolderLock> read(const std::string& folder);
-    /// The lock whose link has this text; nothing when it isn't one.
+    /// Parses the link's target; nothing if it isn't a lock.
     static std::optional<DataFolderLock> parse(const std::string& folder, std::string_view target);
 };
 

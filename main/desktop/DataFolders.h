@@ -10,33 +10,33 @@
 
 namespace selvane {
 
-/// A path in the form in which paths are compared: absolute, without "." and ".." parts, doubled or trailing
-/// slashes. Links are not resolved.
+/// A path normalized for comparison: absolute, without "." or ".." and without doubled or trailing slashes.
+/// Links are not resolved.
 std::string normalizedPath(const std::string& path);
 
-/// The data folders of Claude Desktop that are known: the normal one and those of the accounts.
+/// The known data folders of Claude Desktop: the normal one and one per account.
 class DataFolders {
 public:
-    /// `accounts` are the names of folders in `accountsFolder`.
+    /// `accounts` are folder names in `accountsFolder`.
     DataFolders(const std::filesystem::path& normal, const std::filesystem::path& accountsFolder,
                 const std::vector<std::string>& accounts);
 
     const std::string& normal() const { return m_normal; }
     const std::string& accountsFolder() const { return m_accountsFolder; }
-    /// All of them, normalized; of two that begin alike the longer one first.
+    /// All of them, normalized, the longest path first.
     const std::vector<std::string>& all() const { return m_all; }
 
-    /// The one in which `file` lies, spelled with links or without; empty when none does.
+    /// The data folder that contains `file`, whether or not its path goes through links; empty if none does.
     std::string holding(std::string_view file) const;
-    /// The one that `text` begins with, as a whole word: a blank or nothing follows. Folders may hold blanks
-    /// themselves, so the longest counts. Empty when there is none.
+    /// The data folder that `text` begins with, followed by a space or nothing; trailing slashes are ignored.
+    /// Folder names may contain spaces, so the longest match wins. Empty if none matches.
     std::string named(std::string_view text) const;
 
 private:
     std::string m_normal;
     std::string m_accountsFolder;
     std::vector<std::string> m_all;
-    std::vector<std::string> m_resolved; ///< the same with all links resolved
+    std::vector<std::string> m_resolved; ///< the same, with all links resolved
 };
 
 } // namespace selvane

@@ -34,7 +34,7 @@ std::string serialized(const LaunchNote& note) {
                              {"configDir", config}});
 }
 
-/// Throws when the record isn't one of ours, and gives nothing when it is of an earlier run of the system.
+/// Throws if the record isn't ours; returns nothing if it was written before the last boot.
 std::optional<LaunchNote> parsed(const std::string& record, const fs::path& file) {
     const Json object = json::parse(record, file);
     if (object.at("boot").get<std::string>() != bootId())
@@ -54,14 +54,14 @@ void removeIfPossible(const fs::path& file) {
     fs::remove(file, ignored);
 }
 
-/// Nothing for what isn't a note of this run of the system; one of an earlier run is removed.
+/// Nothing if the file isn't a note written since the last boot. Removes older notes.
 std::optional<LaunchNote> current(const fs::path& file) {
     try {
         std::optional<LaunchNote> note = parsed(FileManager().read(file), file);
         if (!note)
             removeIfPossible(file);
         return note;
-    } catch (const std::exception&) { // not one of ours, or gone meanwhile
+    } catch (const std::exception&) { // not ours, or already gone
         return std::nullopt;
     }
 }
@@ -72,7 +72,7 @@ void LaunchNotes::add(const LaunchNote& note) const {
     try {
         if (const auto folder = runtimeFolder(m_environment))
             FileManager().write(*folder / nameOf(note), serialized(note), Privacy::ownerOnly);
-    } catch (const fs::filesystem_error&) { // the copy runs all the same
+    } catch (const fs::filesystem_error&) { // the copy runs anyway
     }
 }
 

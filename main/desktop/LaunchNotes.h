@@ -13,25 +13,25 @@
 
 namespace selvane {
 
-/// What Selvane wrote down of a copy of Claude Desktop when it opened it.
+/// What Selvane recorded about a copy of Claude Desktop when it opened it.
 struct LaunchNote {
     OpenedApplication opened;
     std::string profile;               ///< its id
     std::string dataDir;               ///< normalized
-    std::optional<std::string> config; ///< the CLAUDE_CONFIG_DIR that it was given, normalized
+    std::optional<std::string> config; ///< its CLAUDE_CONFIG_DIR, normalized
 
     bool operator==(const LaunchNote&) const = default;
 };
 
-/// The notes of all launches whose copies may still run. They lie in the user's runtime folder, and hold only
-/// until the system restarts. They are a help: where they can't be written or read there are none.
+/// Notes of all launches whose copies may still be running. They are kept in the user's runtime folder and
+/// are valid only until the next boot. They are optional: notes that can't be written or read are skipped.
 class LaunchNotes {
 public:
     explicit LaunchNotes(Environment environment) : m_environment(std::move(environment)) {}
 
     void add(const LaunchNote& note) const;
     void remove(const LaunchNote& note) const;
-    /// Those of this run of the system; removes what is left of an earlier one.
+    /// The notes written since the last boot; removes older ones.
     std::vector<LaunchNote> all() const;
 
 private:

@@ -15,7 +15,7 @@
 namespace selvane {
 namespace {
 
-/// Weighs the evidence for one look at the machine.
+/// Weighs the evidence from one look at the machine.
 class Weighing {
 public:
     explicit Weighing(const CopyEvidence& evidence)
@@ -44,7 +44,7 @@ public:
         return wasThere || heldBy(process.pid).contains(lock.folder);
     }
 
-    /// The known data folders in which a process has files open.
+    /// The known data folders in which the process has open files.
     std::set<std::string> heldBy(std::int32_t pid) const {
         std::set<std::string> folders;
         for (const std::string& file : m_evidence.openFiles(pid)) {
@@ -85,7 +85,7 @@ private:
         }
     }
 
-    /// Wrappers may lie between what was opened and the main process, and may have ended.
+    /// There may be wrappers between the process we opened and the main process, and they may have ended.
     const ProcInfo* mainOf(const LaunchNote& note) const {
         const auto isMember = [&](const ProcInfo& each) {
             return belongsTo(note.opened, each, m_family) && canBeMainProcess(each);
@@ -102,7 +102,7 @@ private:
             return locked;
         if (const ProcInfo* known = topmost([this](const ProcInfo& each) { return isRecognised(each); }))
             return known;
-        // What the copy has started may outlive it, in the same session.
+        // A copy's child processes may outlive it in the same session.
         return topmost([&](const ProcInfo& each) {
             return RunningApplication{each.pid, each.startTime} == note.opened.app ||
                    heldWithDescendants(each.pid).contains(note.dataDir);
@@ -120,8 +120,8 @@ private:
         }
     }
 
-    /// Others that run the executable of a copy. It may be one that other applications run too, so these need
-    /// a proof of their own.
+    /// Other processes that run a copy's executable. Unrelated applications may run it too, so each needs
+    /// evidence of its own.
     void addRelatives() {
         std::set<std::string_view> executables;
         for (const auto& [pid, copy] : m_copies)
@@ -137,7 +137,7 @@ private:
         return named ? std::ranges::count(m_folders.all(), *named) > 0 : !heldBy(process.pid).empty();
     }
 
-    /// What an application without an argument for it uses: the normal folder of its own home.
+    /// The folder used without a data folder argument: the normal one in the copy's home folder.
     std::string normalFolderOf(const Copy& copy) const {
         return CopyEnvironment(m_evidence, m_family, copy.process, copy.dataDir)
             .normalDataDir(m_folders.normal());
@@ -171,13 +171,13 @@ private:
         return isElsewhere ? "" : normal;
     }
 
-    /// A copy that shows its files shows some of its data folder.
+    /// A copy whose open files we can see would also show some in its data folder.
     bool showsFiles(std::int32_t pid) const {
         return std::ranges::any_of(m_evidence.openFiles(pid),
                                    [](const std::string& file) { return !file.starts_with("/dev/"); });
     }
 
-    /// Those of the descendants count only for a process that has none itself.
+    /// Files held by descendants count only if the process itself holds none.
     std::set<std::string> heldWithDescendants(std::int32_t pid) const {
         std::set<std::string> held = heldBy(pid);
         if (held.empty()) {
@@ -191,7 +191,7 @@ private:
                            [&](const auto& entry) { return entry.second.locked.contains(folder); });
     }
 
-    /// A folder is used by the copy that has its lock. Another one is about to end, or only led to it.
+    /// The copy that holds the lock uses the folder. Any other is about to end or only started it.
     void dropOvertaken() {
         std::set<std::string> locked;
         for (const auto& [pid, copy] : m_copies)
@@ -242,7 +242,8 @@ bool belongsTo(const OpenedApplication& opened, const ProcInfo& process, const P
         return RunningApplication{process.pid, process.startTime} == opened.app;
     if (process.session != opened.session || process.startTime < opened.app.startTime)
         return false;
-    // The number stays taken while its session lasts. Whoever has it with another start is a later one.
+    // The pid can't be reused while its session lasts. A leader with another start time belongs to a later
+    // session.
     const ProcInfo* leader = family.find(opened.session);
     return leader == nullptr || leader->startTime == opened.app.startTime;
 }
