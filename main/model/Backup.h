@@ -8,14 +8,14 @@
 
 namespace selvane {
 
-/// What a backup holds: a set of bits.
+/// What a backup contains, as a set of bits.
 struct BackupScope {
     std::uint32_t rawValue = 0;
 
     constexpr bool contains(BackupScope other) const { return (rawValue & other.rawValue) == other.rawValue; }
     bool operator==(const BackupScope&) const = default;
 
-    static constexpr BackupScope principal() { return {1}; } ///< the built-in profile's items
+    static constexpr BackupScope principal() { return {1}; } ///< the built-in profile
     static constexpr BackupScope profiles() { return {2}; }  ///< the profiles root
     static constexpr BackupScope all() { return {3}; }
 };

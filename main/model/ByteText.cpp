@@ -9,8 +9,8 @@
 namespace selvane {
 namespace {
 
-// In UTF-8 every character from U+EF80 to U+EFFF begins with EE BE or EE BF, and none else does. The low bits
-// of its second and third byte are those of the byte it stands for, whose highest bit is always set.
+// In UTF-8 the characters U+EF80 to U+EFFF, and no others, begin with EE BE or EE BF. The low bits of the
+// second and third bytes are those of the original byte, whose highest bit is always set.
 constexpr std::string_view kLowerHalf = "\xEE\xBE";
 constexpr std::string_view kUpperHalf = "\xEE\xBF";
 constexpr unsigned int kThirdBits = 0x3F;

@@ -15,9 +15,9 @@ bool isUtf8(std::string_view bytes);
 /// `bytes` with U+FFFD for each that is no part of well-formed UTF-8.
 std::string repaired(std::string_view bytes);
 
-/// JSON texts are UTF-8, names of files are bytes. These two turn any bytes into UTF-8 and back without loss:
-/// valid UTF-8 stays as it is, a byte that isn't part of it becomes a character of the private range U+EF80
-/// to U+EFFF (and so do the bytes of a character that already lies there).
+/// JSON text is UTF-8, but file names are bytes. These two convert any bytes to UTF-8 and back without loss.
+/// Valid UTF-8 stays as it is; each byte that isn't part of it becomes a character in the private range
+/// U+EF80 to U+EFFF, and so does each byte of a character already in that range.
 std::string textFromBytes(std::string_view bytes);
 std::string bytesFromText(std::string_view text);
 

@@ -9,14 +9,14 @@
 
 namespace selvane {
 
-/// One session of Claude Desktop's Code tab.
+/// One session in the Code tab of Claude Desktop.
 struct CodeSession {
     std::string id;
     std::string title;
-    std::string cwd;                        ///< working folder; empty when unknown
+    std::string cwd;                        ///< working folder; empty if unknown
     std::optional<double> lastActivity;     ///< seconds since 1970
-    std::vector<std::string> cliSessionIDs; ///< the Claude Code sessions whose transcripts belong to it
-    std::string file;                       ///< the path of its record: one text, for there can be many
+    std::vector<std::string> cliSessionIDs; ///< the Claude Code sessions that hold its transcripts
+    std::string file;                       ///< the path of its record; a plain string, as there can be many
 
     bool operator==(const CodeSession&) const = default;
 };
@@ -24,7 +24,7 @@ struct CodeSession {
 /// What an import did.
 struct ImportCount {
     int copied = 0;
-    int pending = 0; ///< queued for the target's next launch
+    int pending = 0; ///< queued until the target's next launch
 
     bool operator==(const ImportCount&) const = default;
 };

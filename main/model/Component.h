@@ -12,7 +12,7 @@
 
 namespace selvane {
 
-/// One shareable part of a Claude Code configuration folder, in the order of every list and every loop.
+/// One shareable part of a Claude Code configuration folder, in the order used everywhere.
 enum class Component { skills, agents, commands, outputStyles, rules, claudeMd, settings, plugins, mcp };
 
 inline constexpr std::array kComponents = {Component::skills,       Component::agents,  Component::commands,
@@ -30,10 +30,10 @@ enum class ComponentKind {
 
 /// The name in the profile's record and on the command line.
 std::string_view rawValue(Component component);
-/// Nothing for anything but an exact raw value.
+/// Nothing unless the text is exactly a raw value.
 std::optional<Component> component(std::string_view rawValue);
 
-std::string_view title(Component component);  ///< what the user reads, in Italian
+std::string_view title(Component component);  ///< what the user sees, in Italian
 std::string_view symbol(Component component); ///< name of its SF Symbol
 /// What the user reads, in Italian, about one that is no collection: that it is there, that it isn't.
 std::string_view description(Component component, bool isPresent);
@@ -42,7 +42,7 @@ std::string_view location(Component component);
 ComponentKind kind(Component component);
 bool isCollection(Component component);
 ShareMode defaultMode(Component component);
-/// In the order in which a chooser offers them.
+/// In the order in which they are offered.
 std::span<const ShareMode> allowedModes(Component component);
 bool allows(Component component, ShareMode mode);
 

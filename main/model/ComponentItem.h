@@ -9,12 +9,12 @@
 
 namespace selvane {
 
-/// One entry of a collection component's folder.
+/// One item in the folder of a collection.
 struct ComponentItem {
     std::string name;
     std::filesystem::path url;
-    std::optional<std::string> linkTarget; ///< the text of the symbolic link; none for a file or folder
-    bool isBroken = false;                 ///< a link that leads nowhere
+    std::optional<std::string> linkTarget; ///< the link's text; nothing for a file or folder
+    bool isBroken = false;                 ///< a dangling link
 
     bool isLinked() const { return linkTarget.has_value(); }
     bool operator==(const ComponentItem&) const = default;

@@ -8,7 +8,7 @@
 
 namespace selvane {
 
-/// The one error of the program's own operations; its message is the Italian sentence that the user reads.
+/// The error that Selvane's own operations throw. Its message is the Italian sentence shown to the user.
 class LauncherError : public std::runtime_error {
 public:
     explicit LauncherError(const std::string& message) : std::runtime_error(message) {}

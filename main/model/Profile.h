@@ -14,24 +14,24 @@
 
 namespace selvane {
 
-/// One profile: a Claude Code configuration folder with its metadata.
+/// A profile: a Claude Code configuration folder with its metadata.
 struct Profile {
     static constexpr std::string_view kDefaultId = "default";
 
-    std::string id; ///< name of its folder in the profiles root, or "default" for the built-in profile
+    std::string id; ///< its folder's name in the profiles root, or "default" for the built-in profile
     ProfileMeta meta;
     std::filesystem::path configDir;
     /// The global state file, where it doesn't lie in `configDir`.
     std::optional<std::filesystem::path> globalState = std::nullopt;
 
-    /// Whether it can be the name of a profile's folder, and so of a folder for its account: one visible
-    /// name, no path.
+    /// Whether a profile's folder, and so its account's, could have this name: a single path component that
+    /// isn't hidden.
     static bool isPossibleId(std::string_view id);
 
     bool isDefault() const { return id == kDefaultId; }
     /// Profiles with the same owner share one Claude Desktop data folder.
     std::string accountOwner() const;
-    /// `none` for a component without an entry, whatever its default mode.
+    /// `none` for a component without an entry, whatever its default mode is.
     ShareMode mode(Component component) const;
     std::set<std::string> excluded(Component component) const;
     std::filesystem::path url(Component component) const; ///< where the component lies, there or not

@@ -28,7 +28,7 @@ std::string iso8601(Timestamp time) {
     return text;
 }
 
-/// Reads fixed-width fields of a date from left to right.
+/// Reads a date's fixed-width fields from left to right.
 class DateReader {
 public:
     explicit DateReader(std::string_view text) : m_rest(text) {}
@@ -91,7 +91,7 @@ Timestamp timestamp(std::string_view text) {
     if (!reader.atEnd() || !date.ok() || hour > 23 || minute > 59 || second > 60)
         throw InvalidRecord{};
     const Timestamp time = sys_days(date) + hours(hour) + minutes(minute) + seconds(second) - offset;
-    // What could not be written again in four digits would make the record unreadable.
+    // A year that doesn't fit in four digits would make the record unreadable once written.
     if (time < Timestamp(sys_days(year(0) / 1 / 1)) || time >= Timestamp(sys_days(year(10000) / 1 / 1)))
         throw InvalidRecord{};
     return time;

@@ -18,16 +18,16 @@ using Timestamp = std::chrono::sys_seconds; ///< UTC, whole seconds
 
 Timestamp currentTimestamp();
 
-/// The metadata record of one profile, as kept in its `.launcher.json`.
+/// The metadata of one profile, as stored in its `.launcher.json`.
 struct ProfileMeta {
     std::string name;
     std::string summary;
     std::string symbol = "person.crop.circle"; ///< name of an SF Symbol
-    std::optional<std::string> source;         ///< id of the profile the components were taken from
+    std::optional<std::string> source;         ///< id of the profile its components come from
     std::map<std::string, ShareMode> modes;    ///< by the component's raw value
-    /// By the component's raw value: names of items deliberately not taken from the source. Names are bytes.
+    /// By the component's raw value: names of items deliberately left out. Names are bytes.
     std::map<std::string, std::vector<std::string>> excluded;
-    std::optional<std::string> account; ///< id of the profile whose account this one uses; none: its own
+    std::optional<std::string> account; ///< id of the profile whose account it uses; nothing for its own
     Timestamp created = currentTimestamp();
     std::optional<Timestamp> lastLaunched;
 

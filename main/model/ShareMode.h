@@ -19,7 +19,7 @@ inline constexpr std::array kShareModes = {ShareMode::shared, ShareMode::separat
 std::string_view rawValue(ShareMode mode);
 std::optional<ShareMode> shareMode(std::string_view rawValue);
 
-/// What the user reads, in Italian.
+/// What the user sees, in Italian.
 std::string_view label(ShareMode mode);
 std::string_view help(ShareMode mode);
 

@@ -8,7 +8,7 @@
 
 namespace selvane {
 
-/// What a synchronisation did; each text names one link as "title: item".
+/// What a sync did; each entry names one link as "title: item".
 struct SyncReport {
     std::vector<std::string> added;
     std::vector<std::string> removed;
