@@ -13,10 +13,10 @@
 #include <unistd.h>
 #include <utility>
 
-/// What everything that works with open files and folders shares.
+/// Shared by everything that works with open files and folders.
 namespace selvane::files {
 
-/// An open file, closed with its owner.
+/// An open file, closed with this object.
 class Descriptor {
 public:
     Descriptor() = default;
@@ -50,8 +50,8 @@ private:
                                             std::error_code(error, std::generic_category()));
 }
 
-/// Calls `use` with the name and the `d_type` of each entry but "." and ".."; `folder` stays open, its
-/// position is moved. Returns 0 or the error of the listing.
+/// Calls `use` with the name and `d_type` of each entry except "." and "..". `folder` stays open, but its
+/// read position moves. Returns 0 or the error.
 template <typename Use>
 int forEachEntry(int folder, Use use) {
     struct Closing {

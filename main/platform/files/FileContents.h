@@ -11,8 +11,8 @@
 
 namespace selvane::files {
 
-/// Makes files that hold what others hold, by the quickest way there is. It remembers what the file systems
-/// can't do: use one for a whole tree.
+/// Creates files with the contents of others, as fast as the system can. It remembers what the file systems
+/// don't support, so use one for a whole tree.
 class ContentCopier {
 public:
     ContentCopier();
@@ -20,15 +20,15 @@ public:
     ContentCopier(const ContentCopier&) = delete;
     ContentCopier& operator=(const ContentCopier&) = delete;
 
-    /// Makes the file `name` in `folder`, where nothing may be, with all that the regular file `from` holds,
-    /// whose status is given, and hands it out as `to`. Who may read it is still to be set; until then those
-    /// can at most who could read `from`, and of an `ownerOnly` one its owner alone. Returns 0 or an error,
-    /// and then `to` is empty when nothing was made.
+    /// Creates the file `name`, which must not exist, in `folder` and copies the contents of the regular file
+    /// `from` into it. `status` is that of `from`; the new file is returned in `to`. The caller still has to
+    /// set its permissions: until then at most those who can read `from` can read it, and only its owner if
+    /// it is `ownerOnly`. Returns 0 or an error; after an error, `to` is empty if nothing was created.
     int copy(int from, const struct stat& status, int folder, const char* name, Privacy privacy,
              Descriptor& to);
 
 private:
-    class System; ///< what this system's way takes
+    class System; ///< the system's own way of copying
     std::unique_ptr<System> m_system;
 };
 

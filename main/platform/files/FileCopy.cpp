@@ -15,13 +15,13 @@
 namespace selvane::files {
 namespace {
 
-/// One entry to copy: its name in the current folder of either side, which differs for the top only.
+/// One entry to copy: its name in the current folder on each side. The two differ only at the top.
 struct Item {
     const char* from;
     const char* to;
 };
 
-/// The bits a copy takes over. What runs as its owner does so for that owner only.
+/// The mode bits that a copy keeps. Set-user-ID and set-group-ID bits are kept only on the user's own files.
 mode_t copiedMode(const struct stat& status) {
     const mode_t mode = status.st_mode & ALLPERMS;
     constexpr mode_t kActsAsOwner = S_ISUID | S_ISGID;
@@ -34,8 +34,8 @@ unsigned char entryType(const struct stat& status) {
     return static_cast<unsigned char>(IFTODT(status.st_mode));
 }
 
-/// Copies one tree, without recursion and with few open files whatever its depth. The files of a folder are
-/// copied while it is listed, so that only the names of its folders are kept.
+/// Copies a tree without recursion and with few open files, whatever its depth. It copies a folder's files
+/// while listing it, so it keeps only the names of subfolders.
 class TreeCopy {
 public:
     TreeCopy(const std::filesystem::path& from, const std::filesystem::path& named, Privacy privacy)
@@ -47,10 +47,11 @@ private:
     struct Level {
         std::string name;
         struct stat status;
-        std::vector<std::string> folders; ///< those inside that are still to be copied
+        std::vector<std::string> folders; ///< subfolders still to be copied
     };
 
-    /// The entry of that name in the current folder, or with none that folder, as the user calls it.
+    /// The path, in the user's terms, of an entry in the current folder, or of that folder if there is no
+    /// name.
     std::filesystem::path below(const std::filesystem::path& top, const char* name) const;
     [[noreturn]] void failFrom(const char* name, int error) const {
         fail("copy", below(m_from, name), error);
@@ -77,7 +78,7 @@ private:
     ContentCopier m_contents;
     FolderTrail m_source;
     FolderTrail m_target;
-    std::vector<Level> m_levels; ///< of the open folders, the top first
+    std::vector<Level> m_levels; ///< the open folders, starting at the top
     struct stat m_targetTop = {};
 };
 
@@ -129,7 +130,7 @@ void TreeCopy::copyEntry(const Item& item, unsigned char type) {
 }
 
 void TreeCopy::copyFile(const Item& item) {
-    // O_NONBLOCK: what was a file when it was listed may be a FIFO by now.
+    // O_NONBLOCK: a file may have become a FIFO since it was listed.
     const Descriptor from(
         ::openat(m_source.current(), item.from, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
     struct stat status = {};
@@ -160,7 +161,7 @@ void TreeCopy::copyLink(const Item& item) {
     setTimesOfEntry(item, status);
 }
 
-/// FIFOs, sockets and devices: made anew, never opened.
+/// Creates FIFOs, sockets and devices anew; never opens them.
 void TreeCopy::copySpecial(const Item& item, const struct stat& status) {
     int error = makeSpecial(m_target.current(), item.to, status);
     if (error == 0 && ::fchmodat(m_target.current(), item.to, copiedMode(status), 0) != 0)
@@ -181,7 +182,7 @@ void TreeCopy::enterFolder(const Item& item) {
     struct stat status = {};
     if (!from || ::fstat(from.get(), &status) != 0)
         failFrom(item.from, errno);
-    // Through a mount, or moved there meanwhile, the copy can lie inside its origin: it would never end.
+    // A mount, or a folder moved meanwhile, can put the copy inside its source; it would never end.
     if (!m_levels.empty() && status.st_dev == m_targetTop.st_dev && status.st_ino == m_targetTop.st_ino)
         fail("copy", m_from, m_named, EINVAL);
     Descriptor to = makeFolder(item);
@@ -198,7 +199,7 @@ void TreeCopy::enterFolder(const Item& item) {
         failFrom("", error);
 }
 
-/// For its owner alone until it is complete.
+/// Only the owner can enter it until the copy is complete.
 Descriptor TreeCopy::makeFolder(const Item& item) {
     if (::mkdirat(m_target.current(), item.to, S_IRWXU) != 0)
         failTo(item.to, errno);
@@ -208,13 +209,13 @@ Descriptor TreeCopy::makeFolder(const Item& item) {
     if (m_levels.empty()) {
         if (::fstat(folder.get(), &m_targetTop) != 0)
             failTo(item.to, errno);
-        dropInheritedAccess(folder.get()); // then nothing below inherits either
+        dropInheritedAccess(folder.get()); // so nothing inside inherits it either
     }
     return folder;
 }
 
 void TreeCopy::finishFolder() {
-    // The way up first: the final mode may close it.
+    // Go up first: the final mode may make that impossible.
     Descriptor from;
     Descriptor to;
     int error = m_source.leave(from);

@@ -11,31 +11,32 @@
 
 #include "platform/files/FileManager.h"
 
-/// What the file manager needs of the system beyond POSIX.
+/// What the file manager needs from the system beyond POSIX.
 namespace selvane::files {
 
-/// Copies what is at `from` to `to`, where nothing may be, as `FileManager::copy` says; what was made before
-/// a failure stays. Errors name the path at or below
-/// `from`, or at or below `named`, which is what the user calls `to`.
+/// Copies `from` to `to`, which must not exist, as `FileManager::copy` describes. After a failure, whatever
+/// was created stays. Errors name the path at or below `from`, or at or below `named`, the user's name for
+/// `to`.
 void copyTree(const std::filesystem::path& from, const std::filesystem::path& to,
               const std::filesystem::path& named, Privacy privacy);
 
-/// Copies the user's extended attributes and the access lists of one open file to another. Returns the bits
-/// of `mode` that then mean at `to` what they mean at `from`; nothing, and `errno`, on failure. File systems
-/// that keep no attributes are no failure. An `ownerOnly` copy gives nobody else anything.
+/// Copies the user's extended attributes and the access lists from one open file to another. Returns the bits
+/// of `mode` that still mean at `to` what they mean at `from`, or nothing, with errno, on failure. A file
+/// system without attributes is no failure. An `ownerOnly` copy gives nobody else access.
 std::optional<mode_t> copyAttributes(int from, int to, mode_t mode, Privacy privacy);
-/// Drops the access list that a new file has got from its folder, which would give others what its mode
-/// denies them.
+/// Drops the access list that a new file inherited from its folder: it would allow others what the mode
+/// denies.
 void dropInheritedAccess(int file);
 
-/// When a file was last read and last changed, as `utimensat` takes them.
+/// When a file was last read and last changed, in the form `utimensat` takes.
 std::array<timespec, 2> timesOf(const struct stat& status);
-/// Makes a FIFO, socket or device like the one of that status, for its owner alone. Returns 0 or the error.
+/// Creates a FIFO, socket or device like the one `status` describes, for its owner alone. Returns 0 or the
+/// error.
 int makeSpecial(int folder, const char* name, const struct stat& status);
 
-/// Gives `from` the name `to`. Returns 0 or the error, EEXIST when anything is at `to`.
+/// Renames `from` to `to`. Returns 0 or the error, EEXIST if anything is at `to`.
 int renameExclusively(const std::filesystem::path& from, const std::filesystem::path& to);
-/// Exchanges two names in one step. Returns 0 or the error, ENOTSUP where the file system can't.
+/// Exchanges two names in one step. Returns 0 or the error, ENOTSUP if the file system can't.
 int exchangeNames(const std::filesystem::path& first, const std::filesystem::path& second);
 
 } // namespace selvane::files

@@ -20,7 +20,7 @@ using files::fail;
 
 namespace {
 
-/// What is read is settings and records. Something larger is none, and would only exhaust the memory.
+/// Selvane reads settings and records. A larger file isn't one, and reading it would only exhaust memory.
 constexpr off_t kLongestText = 1 << 30;
 
 std::optional<struct stat> statusOf(const std::filesystem::path& path) {
@@ -34,10 +34,10 @@ Descriptor openFolder(const std::filesystem::path& folder) {
     return Descriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
 }
 
-/// All bytes of an open file of about that size, or nothing and errno.
+/// All bytes of an open file of about `size` bytes; nothing, with errno, on failure.
 std::optional<std::string> readAll(int file, std::size_t size) {
     constexpr std::size_t kLeast = 4096;
-    // Room for one byte more, so that a file of the expected size shows its end at once.
+    // With room for one more byte, a file of the expected size shows its end at once.
     std::string bytes(std::max(size + 1, kLeast), '\0');
     std::size_t used = 0;
     while (true) {
@@ -47,7 +47,7 @@ std::optional<std::string> readAll(int file, std::size_t size) {
         if (count < 0)
             return std::nullopt;
         used += static_cast<std::size_t>(count);
-        // Files of /proc say that they are empty: only there the end has to be seen.
+        // Files in /proc report size 0; only those must be read until the end.
         if (count == 0 || (size > 0 && used == size)) {
             bytes.resize(used);
             return bytes;
@@ -120,7 +120,7 @@ std::vector<std::string> FileManager::entriesIfReadable(const std::filesystem::p
 }
 
 std::string FileManager::read(const std::filesystem::path& file) const {
-    // O_NONBLOCK: a FIFO without a writer would keep us waiting.
+    // O_NONBLOCK: opening a FIFO without a writer would block.
     const Descriptor open(::open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     struct stat status = {};
     if (!open || ::fstat(open.get(), &status) != 0)

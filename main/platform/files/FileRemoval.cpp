@@ -13,11 +13,11 @@
 namespace selvane::files {
 namespace {
 
-/// How often a folder is emptied again when it turns out not to be empty: listings of some file systems skip
-/// entries while others are removed.
+/// How many times to try to empty a folder: on some file systems, a listing skips entries while others are
+/// being removed.
 constexpr int kPasses = 3;
 
-/// Removes one folder, without recursion and with few open files whatever its depth.
+/// Removes a folder without recursion and with few open files, whatever its depth.
 class TreeRemoval {
 public:
     explicit TreeRemoval(const std::filesystem::path& named) : m_named(named) {}
@@ -40,10 +40,10 @@ private:
     struct Level {
         std::string name;
         int pass;
-        std::vector<std::string> folders; ///< those inside that are still to be removed
+        std::vector<std::string> folders; ///< subfolders still to be removed
     };
 
-    /// Names the entry in the current folder, or with no name that folder.
+    /// Names an entry in the current folder, or that folder itself if the name is empty.
     [[noreturn]] void failAt(const char* name, int error) const {
         std::filesystem::path path = m_named;
         for (std::size_t i = 1; i < m_levels.size(); ++i)
@@ -77,7 +77,7 @@ void TreeRemoval::enter(std::string name, int pass) {
     Descriptor folder = open(name);
     struct stat status = {};
     if (::fstat(folder.get(), &status) == 0 && (status.st_mode & S_IRWXU) != S_IRWXU) {
-        // Where this is refused, removing an entry fails and says why.
+        // If this fails, removing an entry fails too and reports why.
         static_cast<void>(::fchmod(folder.get(), (status.st_mode & ALLPERMS) | S_IRWXU));
     }
     if (const int error = m_trail.enter(std::move(folder)); error != 0)

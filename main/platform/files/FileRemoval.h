@@ -7,7 +7,7 @@
 
 namespace selvane::files {
 
-/// `FileManager::removeTree`. Errors name the path below `named` (what the user calls `path`).
+/// `FileManager::removeTree`. Errors name paths below `named`, the user's name for `path`.
 void removeTree(const std::filesystem::path& path, const std::filesystem::path& named);
 
 } // namespace selvane::files

@@ -13,7 +13,7 @@
 #include "platform/files/FileManager.h"
 #include "platform/files/FileRemoval.h"
 
-/// The operations of `FileManager` that make something new beside the place it is for.
+/// The operations of `FileManager` that build something new beside its final place.
 namespace selvane {
 
 using files::Descriptor;
@@ -21,13 +21,13 @@ using files::fail;
 
 namespace {
 
-/// A path that ends in "/" names its folder: what is beside it is beside that folder.
+/// A path that ends in "/" names a folder; its siblings are those of that folder.
 std::filesystem::path withoutEndingSlash(const std::filesystem::path& path) {
     return path.has_filename() ? path : path.parent_path();
 }
 
-/// A path for a temporary beside `path`. Its name is not made of that of `path`, which may already be as
-/// long as a name can be.
+/// A path for a temporary beside `path`. It doesn't contain the name of `path`, which may already have the
+/// maximum length.
 std::filesystem::path newSibling(const std::filesystem::path& path) {
     constexpr std::string_view kDigits = "0123456789abcdef";
     std::array<unsigned char, 8> bytes = {};
@@ -41,7 +41,7 @@ std::filesystem::path newSibling(const std::filesystem::path& path) {
     return path.parent_path() / name;
 }
 
-/// Something new beside `target`, removed again unless it was put in place.
+/// Something new beside `target`, removed again unless it is put in place.
 class Temporary {
 public:
     explicit Temporary(const std::filesystem::path& target) : m_path(newSibling(target)) {}
@@ -52,7 +52,7 @@ public:
             try {
                 files::removeTree(m_path, m_path);
             } catch (const std::exception&) {
-                // The error that led here is the one to tell.
+                // Report the error that led here.
             }
         }
     }
@@ -60,13 +60,13 @@ public:
     const std::filesystem::path& path() const { return m_path; }
     void setPlaced() { m_isPlaced = true; }
 
-    /// Gives it the name `target`, where nothing may be.
+    /// Renames it to `target`, which must not exist.
     void place(const std::filesystem::path& target) {
         if (const int error = files::renameExclusively(m_path, target); error != 0)
             fail("create", target, error);
         setPlaced();
     }
-    /// Takes the name `target` away from it again, where that can be done.
+    /// Undoes `place` if possible.
     void takeBack(const std::filesystem::path& target) {
         m_isPlaced = files::renameExclusively(target, m_path) != 0;
     }
@@ -76,7 +76,7 @@ private:
     bool m_isPlaced = false;
 };
 
-/// Lets `make` build the temporary. What fails about it fails, for the user, about `target`.
+/// Lets `make` build the temporary. Errors about it name `target` instead, the path that the user knows.
 void build(const Temporary& temporary, const std::filesystem::path& target,
            const std::function<void(const std::filesystem::path& temporary)>& make) {
     const auto named = [&](const std::filesystem::path& path) -> std::filesystem::path {
@@ -112,11 +112,11 @@ void writeAll(int file, std::string_view bytes, const std::filesystem::path& nam
     }
 }
 
-/// Gives a new file the mode, the access list and the attributes of the one that it replaces.
+/// Gives a new file the mode, access list and attributes of the one it replaces.
 void inherit(int file, const std::filesystem::path& old, mode_t mode, Privacy privacy) {
     files::dropInheritedAccess(file);
     std::optional<mode_t> known = mode & ALLPERMS;
-    // One that can't be read keeps them to itself.
+    // If the old file can't be read, its attributes can't be copied.
     const Descriptor origin(::open(old.c_str(), O_RDONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC));
     if (origin)
         known = files::copyAttributes(origin.get(), file, *known, privacy);
@@ -126,7 +126,7 @@ void inherit(int file, const std::filesystem::path& old, mode_t mode, Privacy pr
         fail("write", old, errno);
 }
 
-/// A folder that is copied to a place inside itself would grow while it is copied.
+/// A folder copied into itself would keep growing during the copy.
 void requireOutside(const char* operation, const std::filesystem::path& from,
                     const std::filesystem::path& to) {
     const std::filesystem::path origin = std::filesystem::canonical(from);
@@ -146,7 +146,7 @@ void copyBeside(const std::filesystem::path& from, const std::filesystem::path& 
     files::copyTree(from, temporary.path(), to, privacy);
 }
 
-/// Puts `temporary` in the place of a link where names can't be exchanged: for a moment neither is there.
+/// Replaces a link by `temporary` where names can't be exchanged. For a moment, neither is there.
 void replaceLinkInSteps(const std::filesystem::path& link, Temporary& temporary) {
     const std::filesystem::path aside = newSibling(link);
     if (const int error = files::renameExclusively(link, aside); error != 0)
@@ -174,7 +174,7 @@ void FileManager::write(const std::filesystem::path& file, std::string_view byte
     writeAll(open.get(), bytes, file);
     if (replaces)
         inherit(open.get(), file, old.st_mode, privacy);
-    // The old content must not be lost with a power cut before the new one is on the disk.
+    // A power cut must not destroy the old content before the new content is on the disk.
     if ((replaces && ::fsync(open.get()) != 0) || ::rename(temporary.path().c_str(), file.c_str()) != 0)
         fail("write", file, errno);
     temporary.setPlaced();
@@ -202,17 +202,17 @@ void FileManager::move(const std::filesystem::path& from, const std::filesystem:
     if (error == EINVAL && isFolder(origin))
         requireOutside("move", origin, target);
     if (error == EINVAL)
-        fail("move", target, error); // no name for this file system
+        fail("move", target, error); // the file system doesn't allow this name
     if (error != EXDEV)
         fail("move", origin, target, error);
     Temporary copied(target);
     copyBeside(origin, target, copied, Privacy::inherited);
-    // The target first: whatever ends this, the content has its name in one of the two places.
+    // Place the target first: whatever happens next, the content keeps its name in one of the two places.
     copied.place(target);
-    // The origin goes in one step as well, or not at all: its folder may be read-only.
+    // Remove the original in one step too, or not at all: its folder may be read-only.
     const std::filesystem::path aside = newSibling(origin);
     error = files::renameExclusively(origin, aside);
-    // Layered file systems can't rename some folders at all.
+    // Overlay file systems can't rename some folders at all.
     const bool isAside = error == 0;
     if (!isAside && error != EXDEV) {
         copied.takeBack(target);
@@ -239,19 +239,19 @@ void FileManager::replaceLink(const std::filesystem::path& link,
         fail("replace link", place, exists(place) ? EEXIST : ENOENT);
     Temporary temporary(place);
     build(temporary, place, make);
-    // Renaming alone can't put a folder in the place of a link.
+    // A plain rename can't replace a link by a folder.
     const int error = files::exchangeNames(temporary.path(), place);
     if (error == ENOTSUP) {
         replaceLinkInSteps(place, temporary);
     } else if (error != 0) {
         fail("replace link", place, error);
     } else if (!isLink(temporary.path())) {
-        // The link was replaced meanwhile, by something of the user's that must go back or at least stay.
+        // Something of the user's has replaced the link meanwhile; put it back or at least keep it.
         if (files::exchangeNames(temporary.path(), place) != 0)
             temporary.setPlaced();
         fail("replace link", place, EEXIST);
     }
-    // Otherwise the old link has the temporary name now, and is removed with it.
+    // Otherwise the old link now has the temporary name and is removed with it.
 }
 
 } // namespace selvane

@@ -9,7 +9,7 @@
 namespace selvane {
 namespace {
 
-/// Whether `folder` is still at that path: while the lock was waited for it can have been moved away.
+/// Whether `folder` is still at `path`: it may have been moved while we waited for the lock.
 bool isAt(const std::filesystem::path& path, int folder) {
     struct stat open = {};
     struct stat there = {};

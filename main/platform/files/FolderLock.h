@@ -9,10 +9,10 @@
 
 namespace selvane {
 
-/// Has a folder to itself among all Selvanes for as long as it lives; until then the others wait. A second
-/// one on the same folder waits for ever, also in the same thread. It leaves nothing behind, not even after a
-/// crash. Where there is no such folder (any more, when it has waited), or its file system knows no locks, it
-/// does nothing.
+/// Locks a folder against other Selvanes for the lifetime of this object; they wait. A second lock on the
+/// same folder waits for ever, even in the same thread. It leaves nothing behind, not even after a crash. It
+/// does nothing if there is no such folder, even if that only turns out after waiting, or if the file system
+/// has no locks.
 class FolderLock {
 public:
     explicit FolderLock(const std::filesystem::path& folder);

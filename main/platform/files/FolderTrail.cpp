@@ -38,7 +38,7 @@ int FolderTrail::leave(Descriptor& left) {
     struct stat status = {};
     if (!parent || ::fstat(parent.get(), &status) != 0)
         return errno;
-    // Somebody has moved the folder: what lies above it now is no part of the tree.
+    // Somebody moved the folder: its new parent isn't part of the tree.
     if (status.st_dev != level.device || status.st_ino != level.inode)
         return ENOENT;
     level.folder = std::move(parent);

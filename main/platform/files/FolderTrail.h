@@ -10,18 +10,18 @@
 
 namespace selvane::files {
 
-/// The open folders from the top of a tree down to the one that is being worked on. Only the deepest few
-/// stay open, so that no depth exhausts the file descriptors: the others are opened again on the way back,
-/// by "..", and must be the same folders as before.
+/// The open folders from the top of a tree down to the current one. Only the deepest few stay open, so a deep
+/// tree can't exhaust the file descriptors. The others are reopened through ".." on the way back and must
+/// still be the same folders.
 class FolderTrail {
 public:
     bool isEmpty() const { return m_levels.empty(); }
-    /// The deepest folder, or what stands for the working folder when there is none.
+    /// The deepest folder; AT_FDCWD, the working folder, if there is none.
     int current() const { return isEmpty() ? AT_FDCWD : m_levels.back().folder.get(); }
 
-    /// Returns 0 or an error, and then holds what it held before.
+    /// Returns 0 or an error; after an error, the trail is unchanged.
     int enter(Descriptor folder);
-    /// Hands the deepest folder out as `left`. Returns 0 or an error: its parent can't be found again.
+    /// Returns the deepest folder in `left`. The result is 0, or an error if its parent can't be found again.
     int leave(Descriptor& left);
 
 private:

@@ -11,8 +11,8 @@
 
 namespace selvane {
 
-/// The folder in which the desktop application `name` keeps its data when it is started without saying
-/// otherwise. `isInstalled` is only asked where the answer matters.
+/// The folder in which the desktop application `name` keeps its data unless told otherwise. `isInstalled` is
+/// called only if the answer matters.
 std::filesystem::path applicationDataFolder(const Environment& environment, const std::string& name,
                                             const std::function<bool()>& isInstalled);
 

@@ -17,27 +17,27 @@ struct FolderEntry {
     bool isLink = false;
 };
 
-/// A folder for work on many of its entries: they are reached by their name in the open folder, without the
-/// way there being looked up for each, and what the listing tells is not asked again.
+/// A folder kept open for work on many of its entries. They are reached by name, so the system needn't look
+/// up the path for each, and what the listing says isn't asked again.
 ///
-/// What fails throws `std::filesystem::filesystem_error` with the path of the entry.
+/// Failures throw `std::filesystem::filesystem_error` with the path of the entry.
 class OpenFolder {
 public:
-    /// Throws for anything but a folder, a link to one included.
+    /// Throws unless it is a folder; a link to one throws too.
     explicit OpenFolder(const std::filesystem::path& folder);
-    /// Follows a link to a folder. Nothing when there is no folder or it can't be read.
+    /// Follows a link to a folder. Nothing if there is no folder or it can't be read.
     static std::optional<OpenFolder> ifReadable(const std::filesystem::path& folder);
 
-    /// In the order of the listing, hidden ones included; empty when that fails.
+    /// In listing order, including hidden ones; empty on failure.
     std::vector<FolderEntry> entriesIfReadable() const;
-    /// The text of the symbolic link of that name; nothing when there is no link.
+    /// The text of the symbolic link `name`; nothing if there is no link.
     std::optional<std::string> linkTarget(const std::string& name) const;
-    /// Whether something is there once links are followed; false on any error.
+    /// Whether something exists after following links; false on any error.
     bool existsFollowingLinks(const std::string& name) const;
 
-    /// Makes a symbolic link whose text is `target`. Fails when anything has that name.
+    /// Creates a symbolic link whose text is `target`. Fails if the name is taken.
     void createLink(const std::string& target, const std::string& name) const;
-    /// Removes a symbolic link. False, with nothing done, when anything else or nothing has that name.
+    /// Removes a symbolic link. If there is none of that name, does nothing and returns false.
     bool removeLink(const std::string& name) const;
 
 private:

@@ -16,7 +16,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Whether nobody else can put something of theirs in the place of `folder`, which is open at `descriptor`.
+/// Whether others are unable to replace the entries of the folder open at `descriptor`.
 bool isSafe(int descriptor) {
     struct stat status = {};
     if (::fstat(descriptor, &status) != 0)

@@ -11,15 +11,15 @@
 
 namespace selvane {
 
-/// Selvane's own folder for what is only true until the system restarts or the user logs out. It belongs to
-/// the user, and nobody else can enter it. Made when it is missing; nothing where there is no safe place.
+/// Selvane's own folder for data that is valid only until the next boot or logout. It belongs to the user,
+/// and nobody else can enter it. Creates it if missing; nothing if there is no safe place.
 std::optional<std::filesystem::path> runtimeFolder(const Environment& environment);
-/// All such folders that there are: a program that was started in another way may have chosen another one.
+/// All such folders that exist: a program started in another way may have chosen another one.
 std::vector<std::filesystem::path> runtimeFolders(const Environment& environment);
 
-/// Where such a folder may lie, the preferred place first. The folders around them exist or don't.
+/// The candidate places for such a folder, in order of preference. Their parent folders may not exist.
 std::vector<std::filesystem::path> runtimeFolderPlaces(const Environment& environment);
-/// The first of `places` that is or becomes a folder of the user's alone.
+/// The first of `places` that is, or can be created as, a folder for the user alone.
 std::optional<std::filesystem::path> privateFolder(const std::vector<std::filesystem::path>& places);
 
 } // namespace selvane

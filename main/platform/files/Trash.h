@@ -7,8 +7,8 @@
 
 namespace selvane {
 
-/// Moves `path` (a link itself, not what it points to) to the user's Trash. Throws `LauncherError`, with the
-/// original untouched, where the Trash can't take it.
+/// Moves `path` to the user's Trash; a link goes itself, not its target. If the Trash can't take it, throws
+/// `LauncherError` and leaves it as it was.
 void moveToTrash(const std::filesystem::path& path);
 
 } // namespace selvane
