@@ -22,7 +22,7 @@ constexpr int kNotStarted = 127;
 
 void send(int report, Message::Stage stage, int value) {
     const Message message = {stage, value};
-    // Less than PIPE_BUF goes as one piece. With no reader left there is nobody to tell.
+    // Less than PIPE_BUF is written in one piece. If no reader is left, there is nobody to tell.
     while (::write(report, &message, sizeof message) < 0 && errno == EINTR) {
     }
 }
@@ -42,13 +42,13 @@ void resetSignals() {
     ::sigprocmask(SIG_SETMASK, &none, nullptr);
 }
 
-/// Standard streams to the null device, all other files but `report` closed.
+/// Connects the standard streams to the null device and closes all other files except `report`.
 void dropFiles(int report) {
     const int null = ::open("/dev/null", O_RDWR | O_CLOEXEC);
     if (null < 0)
         giveUp(report, Message::Stage::executable, errno);
     for (int stream = 0; stream <= 2; ++stream) {
-        // Onto itself it would keep being closed on exec.
+        // dup2() onto itself would keep the close-on-exec flag.
         const int result = stream == null ? ::fcntl(null, F_SETFD, 0) : ::dup2(null, stream);
         if (result < 0)
             giveUp(report, Message::Stage::executable, errno);
@@ -77,7 +77,7 @@ void writeNumber(char* text, unsigned int number) {
     giveUp(report, Message::Stage::executable, errno);
 }
 
-/// Reports a failure within the first moments. Looks now and then: there is no waitpid() with a time limit.
+/// Reports a failure in the first moments. It polls, as waitpid() has no timeout.
 void watch(pid_t child, int report) {
     for (int waited = 0; waited < kWatchMilliseconds; waited += kLookMilliseconds) {
         int status = 0;

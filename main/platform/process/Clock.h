@@ -8,7 +8,7 @@
 
 namespace selvane {
 
-/// Waiting, so that what waits can be tested without it.
+/// Time and waiting, behind an interface so that tests needn't wait.
 class Clock {
 public:
     virtual ~Clock() = default;

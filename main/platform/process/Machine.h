@@ -10,7 +10,7 @@ namespace selvane {
 /// The name of this machine, as programs write it into their locks. It can change while they run.
 std::string hostName();
 
-/// What tells this run of the system from earlier and later ones; empty when the system doesn't say.
+/// Distinguishes this boot from earlier and later ones; empty if the system doesn't say.
 std::string bootId();
 
 } // namespace selvane

@@ -11,7 +11,7 @@ namespace selvane {
 namespace {
 
 constexpr std::array<std::string_view, 2> kHelperExecutables = {"chrome_crashpad_handler", "chrome-sandbox"};
-/// Prefixes: versions follow, as in "python3.11".
+/// Prefixes: a version may follow, as in "python3.11".
 constexpr std::array<std::string_view, 8> kInterpreters = {"bash", "busybox", "dash", "node",
                                                            "perl", "python",  "sh",   "zsh"};
 
@@ -26,7 +26,7 @@ bool isInterpreter(std::string_view name) {
     });
 }
 
-/// A process that has rewritten its title shows all arguments in the first one, joined by blanks.
+/// A process that has rewritten its title has all its arguments in the first one, joined by spaces.
 bool hasTypeArgument(const ProcInfo& process) {
     const auto isType = [](const std::string& argument) { return argument.starts_with("--type="); };
     return std::any_of(process.args.begin(), process.args.end(), isType) ||

@@ -7,8 +7,8 @@
 
 namespace selvane {
 
-/// Whether a process can be the main one of an Electron or Chromium application. Helpers can't (renderers,
-/// crash handlers, those that run as plain Node), and neither can the shell of a wrapper script.
+/// Whether a process can be the main process of an Electron or Chromium application. Helpers can't
+/// (renderers, crash handlers, processes that run as plain Node), nor can the shell of a wrapper script.
 bool canBeMainProcess(const ProcInfo& process);
 
 } // namespace selvane

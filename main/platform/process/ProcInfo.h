@@ -12,23 +12,23 @@
 
 namespace selvane {
 
-/// One process of the machine, as the kernel keeps it at the moment of reading.
+/// One process, as the kernel describes it at the moment of reading.
 struct ProcInfo {
     std::int32_t pid = 0;
-    std::int32_t ppid = 0;       ///< 0 when it couldn't be read
-    std::int32_t session = 0;    ///< pid of the process session's leader; 0 when it couldn't be read
-    std::uint64_t startTime = 0; ///< tells a process from a later one with the same pid; 0 when unknown
-    std::string path;            ///< absolute path of the executable, also when it was replaced since
+    std::int32_t ppid = 0;       ///< 0 if it couldn't be read
+    std::int32_t session = 0;    ///< pid of its session leader; 0 if it couldn't be read
+    std::uint64_t startTime = 0; ///< distinguishes it from a later process with the same pid; 0 if unknown
+    std::string path;            ///< absolute path of the executable, even if it has been replaced since
     std::vector<std::string> args;
     std::map<std::string, std::string> env;
 
-    /// Nothing when there is no such process or its executable can't be told (another user's process).
+    /// Nothing if there is no such process or its executable is unknown (another user's process).
     static std::optional<ProcInfo> read(std::int32_t pid);
-    /// Every readable process, in the order of the kernel's list.
+    /// Every readable process, in the kernel's order.
     static std::vector<ProcInfo> all();
-    /// The paths of the files that a process has open; empty when it can't be asked.
+    /// The paths of the files that a process has open; empty if that can't be determined.
     static std::vector<std::string> openFiles(std::int32_t pid);
-    /// The units in which `startTime` counts.
+    /// How many units of `startTime` make a second.
     static std::uint64_t startTimePerSecond();
     /// The `startTime` of a process that starts at that moment.
     static std::uint64_t startTimeAt(std::chrono::system_clock::time_point moment);

@@ -22,7 +22,7 @@ Environment currentEnvironment() {
     for (char** entry = process::environmentBlock(); entry != nullptr && *entry != nullptr; ++entry) {
         const std::string_view text = *entry;
         const std::size_t equals = text.find('=');
-        // Of a name that occurs twice the first counts, as it does for getenv().
+        // If a name occurs twice, the first counts, as for getenv().
         if (equals != std::string_view::npos)
             environment.emplace(text.substr(0, equals), text.substr(equals + 1));
     }
@@ -47,7 +47,7 @@ namespace {
 
 using files::Descriptor;
 
-/// Texts as the system takes them: an array of pointers that ends with a null pointer.
+/// Texts in the form the system takes: an array of pointers that ends with a null pointer.
 class Texts {
 public:
     explicit Texts(std::vector<std::string> texts) : m_texts(std::move(texts)) {
@@ -73,7 +73,7 @@ std::vector<std::string> commandLine(const std::filesystem::path& executable,
     return result;
 }
 
-/// With `pidVariable` as the first entry, unless it is empty, and room for its value.
+/// Unless `pidVariable` is empty, it comes first, with room for its value.
 std::vector<std::string> environmentTexts(const Environment& environment, const std::string& pidVariable) {
     std::vector<std::string> result;
     if (!pidVariable.empty())
@@ -90,7 +90,7 @@ struct Pipe {
     Descriptor writing;
 };
 
-/// Closed on exec, and clear of the standard streams, which a child sets anew.
+/// A pipe that is closed on exec and stays clear of the standard streams, which a child sets anew.
 Pipe makePipe(const std::filesystem::path& executable) {
     std::array<int, 2> ends = {};
     if (!openPipe(ends))
@@ -103,7 +103,7 @@ Pipe makePipe(const std::filesystem::path& executable) {
     return pipe;
 }
 
-/// The next thing that the child tells; nothing when it has got on.
+/// The child's next message; nothing once it has closed its end.
 std::optional<Message> receive(Pipe& pipe) {
     pipe.writing.close();
     Message message = {};
@@ -123,7 +123,7 @@ std::optional<Message> receive(Pipe& pipe) {
     files::fail("start", failure.stage == Message::Stage::folder ? folder : executable, failure.value);
 }
 
-/// Whoever started this process may have it ignore the end of its children: no exit status would be kept.
+/// Our parent may have left SIGCHLD ignored; then no exit status would be kept.
 void keepExitStatus() {
     struct sigaction current = {};
     if (::sigaction(SIGCHLD, nullptr, &current) == 0 && current.sa_handler == SIG_IGN)
@@ -161,7 +161,7 @@ Started startDetached(const std::filesystem::path& executable, const std::vector
     const Texts words(commandLine(executable, arguments));
     const Texts variables(environmentTexts(environment, pidVariable));
     char* const pidText =
-        pidVariable.empty() ? nullptr : variables.data()[0] + pidVariable.size() + 1; // behind "="
+        pidVariable.empty() ? nullptr : variables.data()[0] + pidVariable.size() + 1; // after "="
     const Plan plan = {executable.c_str(), folder.c_str(), words.data(), variables.data(), pidText};
     Pipe pipe = makePipe(executable);
     Started started = {0, ProcInfo::startTimeAt(std::chrono::system_clock::now())};
@@ -177,7 +177,7 @@ Started startDetached(const std::filesystem::path& executable, const std::vector
             if (const auto process = ProcInfo::read(started.pid)) // a wrapper may have ended already
                 started.startTime = process->startTime;
         } else if (!failure) {
-            failure = message; // the end that follows from it is told as well
+            failure = message; // the end that follows is reported too
         }
     }
     int status = 0;

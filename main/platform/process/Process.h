@@ -13,29 +13,30 @@ namespace selvane {
 
 using Environment = std::map<std::string, std::string>;
 
-/// The environment this process was started with.
+/// The environment of this process.
 Environment currentEnvironment();
 
-/// `$HOME` when it is an absolute path, else the home folder of the user database.
+/// `$HOME` if it is an absolute path, otherwise the home folder from the user database.
 std::filesystem::path homeFolder(const Environment& environment);
 
 namespace process {
 
-/// Runs a program to its end with its output discarded, files it makes readable by the owner alone. Returns
-/// its exit status, or 128 plus the signal that ended it. It ends with this process. Throws
-/// `std::filesystem::filesystem_error` naming the executable when it can't be started.
+/// Runs a program to its end and discards its output; only the owner can read the files it creates. Returns
+/// its exit status, or 128 plus the signal that ended it. The program ends if this process does. Throws
+/// `std::filesystem::filesystem_error` naming the executable if it can't be started.
 int run(const std::filesystem::path& executable, const std::vector<std::string>& arguments,
         const Environment& environment, const std::filesystem::path& folder);
 
 struct Started {
-    std::int32_t pid = 0;        ///< also the number of its session
-    std::uint64_t startTime = 0; ///< at the latest, as `ProcInfo::startTime`
+    std::int32_t pid = 0; ///< also its session
+    std::uint64_t startTime =
+        0; ///< as in `ProcInfo`; if unreadable, a time just before the start
 };
 
-/// Starts a program that outlives this process: a session of its own, standard streams to the null device,
-/// no other file of ours open. Throws `std::filesystem::filesystem_error` when it can't be started, and
-/// `LauncherError` when it ends with a failure within its first moments.
-/// `pidVariable`, when not empty, is set in its environment to its own process id.
+/// Starts a program that outlives this process: in a session of its own, with its standard streams connected
+/// to the null device and none of our other files open. Throws `std::filesystem::filesystem_error` if it
+/// can't be started, and `LauncherError` if it fails within its first moments. `pidVariable`, unless empty,
+/// is set to the program's own pid in its environment.
 Started startDetached(const std::filesystem::path& executable, const std::vector<std::string>& arguments,
                       const Environment& environment, const std::filesystem::path& folder,
                       const std::string& pidVariable = {});

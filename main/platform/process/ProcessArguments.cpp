@@ -11,7 +11,7 @@
 namespace selvane {
 namespace {
 
-/// The pieces between the NULs of an area, empty ones left out.
+/// The pieces between the NULs of an area, without empty ones.
 class Pieces {
 public:
     explicit Pieces(std::string_view bytes) : m_rest(bytes) { skipNuls(); }

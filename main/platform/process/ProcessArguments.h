@@ -10,7 +10,7 @@
 
 namespace selvane {
 
-/// What a process was started with.
+/// The arguments and environment with which a process was started.
 struct ProcessArguments {
     std::vector<std::string> args;
     std::map<std::string, std::string> env;
@@ -18,13 +18,13 @@ struct ProcessArguments {
     bool operator==(const ProcessArguments&) const = default;
 };
 
-/// Reads the area in which some kernels hand over how a process was started: the number of arguments as a
-/// native 32-bit integer, then, each ended by one or more NULs, the path of the executable, the arguments,
-/// and the environment. Without a path in it there are neither arguments nor an environment.
+/// Reads the area in which some kernels describe how a process was started: the number of arguments as a
+/// native 32-bit integer, then the path of the executable, the arguments and the environment, each ended by
+/// one or more NULs. Without a path there are no arguments and no environment.
 ///
-/// Empty arguments can't be told from padding: they are left out, and then as many of the first variables are
-/// taken for arguments. Bytes that are no UTF-8 are replaced by U+FFFD. A variable without "=" is left out;
-/// of two with the same name the later one counts.
+/// Empty arguments look like padding: they are left out, and as many of the first variables are then taken
+/// for arguments. Bytes that aren't UTF-8 become U+FFFD. A variable without "=" is left out; if a name occurs
+/// twice, the later one counts.
 ProcessArguments processArguments(std::string_view area);
 
 } // namespace selvane

@@ -10,17 +10,17 @@
 
 namespace selvane {
 
-/// Who descends from whom in one list of processes, which must live longer. Processes come and go while such
-/// a list is read, so that a reused pid can close a circle: no question about one runs for ever.
+/// The family tree of a list of processes, which must outlive it. Processes come and go while such a list is
+/// read, so a reused pid can close a circle; no search runs for ever, even then.
 class ProcessFamily {
 public:
     explicit ProcessFamily(const std::vector<ProcInfo>& processes);
 
-    const ProcInfo* find(std::int32_t pid) const; ///< null when it isn't in the list
-    /// Everything below a process, the nearest first.
+    const ProcInfo* find(std::int32_t pid) const; ///< null if it isn't in the list
+    /// All descendants of a process, the nearest first.
     std::vector<const ProcInfo*> descendants(std::int32_t pid) const;
 
-    /// The nearest ancestor that meets `test`, at most `generations` above; null without one.
+    /// The nearest ancestor that passes `test`, at most `generations` up; null if there is none.
     template <typename Test>
     const ProcInfo* ancestor(const ProcInfo& process, Test test, std::size_t generations) const {
         const ProcInfo* current = find(process.ppid);
@@ -38,7 +38,7 @@ public:
 
 private:
     std::unordered_map<std::int32_t, const ProcInfo*> m_byPid;
-    std::unordered_multimap<std::int32_t, const ProcInfo*> m_children; ///< by the pid of their parent
+    std::unordered_multimap<std::int32_t, const ProcInfo*> m_children; ///< by their parent's pid
 };
 
 } // namespace selvane

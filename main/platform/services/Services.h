@@ -14,7 +14,7 @@ namespace selvane {
 /// Receives bytes; `context` is the caller's own.
 using ByteSink = void (*)(void* context, const char* bytes, std::size_t count) noexcept;
 
-/// Which field of a session record a text belongs to.
+/// The field of a session record that a text belongs to.
 enum class SessionField : int { sessionId, title, cwd, cliSessionId, priorCliSessionId };
 
 struct SessionRecordSink {
@@ -25,7 +25,7 @@ struct SessionRecordSink {
 };
 
 struct Services {
-    /// Writes a key whose byte order is the Italian order of names without regard to case.
+    /// Writes a key whose byte order is the Italian order of names, ignoring case.
     void (*sortKey)(const char* name, std::size_t size, ByteSink sink, void* context) noexcept;
     /// `text::folded`.
     void (*fold)(const char* name, std::size_t size, ByteSink sink, void* context) noexcept;
@@ -43,8 +43,7 @@ struct Services {
     bool (*isStrictJson)(const char* bytes, std::size_t size) noexcept;
 };
 
-/// The table. Loads the module, where there is one, at the first call; throws `LauncherError` when it is not
-/// there.
+/// The table. If there is a module, the first call loads it, and throws `LauncherError` if it is missing.
 const Services& services();
 
 } // namespace selvane

@@ -31,7 +31,7 @@ std::optional<std::size_t> sizeOfRegularFile(const files::Descriptor& file) {
     return static_cast<std::size_t>(status.st_size);
 }
 
-/// How many of at most `size` bytes there were.
+/// How many bytes were read, at most `size`.
 std::optional<std::size_t> readBytes(const files::Descriptor& file, char* bytes, std::size_t size) {
     std::size_t done = 0;
     while (done < size) {
@@ -86,7 +86,7 @@ void setTexts(std::vector<std::string_view>& texts, simdjson::dom::element value
     }
 }
 
-/// Every occurrence of a key is stored, so the last one counts.
+/// Each occurrence of a key is stored, so the last one counts.
 Fields fieldsOf(simdjson::dom::object record) {
     Fields fields;
     for (const auto& [key, value] : record) {
@@ -125,8 +125,8 @@ void deliver(const Fields& fields, const SessionRecordSink& sink) {
         sink.archived(sink.context);
 }
 
-/// Rewrites, in their own place, the numbers that the parser refuses: a long integer as a double of almost
-/// the same digits, one beyond any double as null. Returns whether there were any.
+/// Rewrites in place the numbers that the parser refuses: a long integer as a double of nearly the same
+/// value, a number too large for a double as null. Returns whether it found any.
 bool replaceLargeNumbers(char* bytes, std::size_t size) {
     bool found = false;
     json::forEachNumber({bytes, size}, [&](std::size_t position, std::string_view number) {
@@ -138,7 +138,7 @@ bool replaceLargeNumbers(char* bytes, std::size_t size) {
             std::string_view("null").copy(place, 4);
             found = true;
         } else if (number.find_first_of(".eE") == std::string_view::npos && number != "-0") {
-            // Two of at least nineteen digits carry nothing a double could show.
+            // With nineteen digits or more, a double can't show the last two.
             std::string_view("e2").copy(place + number.size() - 2, 2);
             found = true;
         }
@@ -159,7 +159,7 @@ public:
 
 private:
     std::optional<std::size_t> load(const char* file) {
-        // Non-blocking, so that a FIFO of the right name can't stop the program.
+        // Non-blocking, so that a FIFO with the right name can't block the program.
         const files::Descriptor descriptor(::open(file, O_RDONLY | O_NONBLOCK | O_CLOEXEC));
         const auto size = sizeOfRegularFile(descriptor);
         if (!size)
@@ -215,7 +215,7 @@ bool readSession(void* reader, const char* file, const SessionRecordSink& sink) 
 
 bool isStrictJson(const char* bytes, std::size_t size) noexcept {
     try {
-        thread_local simdjson::dom::parser parser; // its memory serves many texts
+        thread_local simdjson::dom::parser parser; // its memory is reused for many texts
         return parser.parse(bytes, size).error() == simdjson::SUCCESS;
     } catch (...) {
         return false;

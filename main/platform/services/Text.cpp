@@ -20,8 +20,8 @@ namespace selvane::module {
 
 namespace {
 
-/// Letters below this code point (Latin, Greek, Cyrillic, Armenian) are read the same without their marks;
-/// in the scripts above it marks are vowels and part of the word.
+/// Below this code point (Latin, Greek, Cyrillic, Armenian), letters are still readable without their marks;
+/// in the scripts above it, marks are vowels and part of the word.
 constexpr UChar32 kFirstScriptOfMarks = 0x0590;
 
 icu::UnicodeString decoded(const char* bytes, std::size_t size) {
@@ -57,7 +57,7 @@ icu::UnicodeString withoutDiacritics(const icu::UnicodeString& decomposed) {
     return result;
 }
 
-/// A mark goes with the character it stands on, so that no lone mark is left of a symbol.
+/// A mark shares the fate of its base character, so a removed symbol leaves no lone mark.
 icu::UnicodeString withoutSymbols(const icu::UnicodeString& text) {
     constexpr UChar32 kReplacement = '-';
     icu::UnicodeString result;
@@ -82,8 +82,8 @@ icu::UnicodeString folded(icu::UnicodeString text, UErrorCode& status) {
     return withoutSymbols(text.toLower(icu::Locale::getRoot()));
 }
 
-/// The wall clock at `time` as if it were UTC. The C library knows the local zone, which ICU would find
-/// only by comparing the files of the zone database.
+/// The local time at `time`, as if it were UTC. The C library knows the local zone, which ICU could only find
+/// by comparing the files of the zone database.
 UDate localWallClock(std::int64_t time) {
     const std::time_t seconds = time;
     std::tm parts{};
@@ -96,7 +96,7 @@ struct Distance {
     URelativeDateTimeUnit unit;
 };
 
-/// In the largest unit of which at least one has passed.
+/// The distance in the largest unit of which at least one has passed.
 Distance distanceFor(std::int64_t seconds) {
     constexpr std::int64_t kMinute = 60;
     constexpr std::int64_t kHour = 60 * kMinute;
