@@ -18,20 +18,20 @@ namespace selvane::json {
 namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-/// Marks a binary value, which JSON itself doesn't know, as the text of a number.
+/// Subtype of a binary value, which JSON itself doesn't have, that holds the text of a number.
 constexpr std::uint64_t kNumberText = 1;
 
 using Object = Json::object_t;
 using Members = std::vector<Object::value_type>;
 
-/// The base has no look-up: appending to it is quick and keeps a key that is already there.
+/// As the base type, which doesn't look keys up: appending is fast and keeps duplicate keys.
 Members& membersOf(Object& object) {
     return object;
 }
 
-/// A number that only stays as it was written when it is kept as text.
+/// A number that must be kept as text to stay as it was written.
 struct WrittenNumber {
-    std::size_t index; ///< among all numbers of the document
+    std::size_t index; ///< among all numbers in the document
     std::string_view text;
 };
 
@@ -53,8 +53,8 @@ Json numberValue(std::string_view written) {
     return Json::binary(Json::binary_t::container_type(written.begin(), written.end()), kNumberText);
 }
 
-/// Builds the value from the parser's events. Values wait in one list until their object or array ends and
-/// then move to their place: each moves once, however many there are and however deep.
+/// Builds a value from the parser's events. Values wait in one list until their object or array ends, then
+/// move into it. So each value moves only once, however many there are and however deep.
 class Builder final : public nlohmann::json_sax<Json> {
 public:
     explicit Builder(const std::vector<WrittenNumber>& written) : m_written(written) {}
@@ -98,7 +98,7 @@ public:
 private:
     struct Level {
         std::size_t first; ///< its first waiting value
-        std::string key;   ///< its own in the level above
+        std::string key;   ///< its key in the level above
     };
 
     bool open() {
@@ -133,8 +133,8 @@ private:
     std::optional<std::size_t> m_errorPosition;
 };
 
-/// Takes the numbers that the parser would not hand over as they stand, or at all, out of the text: a zero
-/// stands in for each, so that positions stay the same. `copy` holds the changed text.
+/// Replaces the numbers that the parser would change or refuse by zeros of the same length, so that positions
+/// stay the same. `copy` receives the changed text.
 std::vector<WrittenNumber> takeOutNumbers(std::string_view text, std::string& copy) {
     std::vector<WrittenNumber> written;
     std::size_t index = 0;
@@ -143,7 +143,7 @@ std::vector<WrittenNumber> takeOutNumbers(std::string_view text, std::string& co
             if (written.empty())
                 copy = text;
             written.push_back({index, number});
-            // The sign stays: without it "1-2e3" would read as one number.
+            // Keep the sign: without it "1-2e3" would read as one number.
             const std::size_t sign = number.front() == '-' ? 1 : 0;
             std::fill_n(copy.begin() + static_cast<std::ptrdiff_t>(position + sign), number.size() - sign,
                         ' ');
@@ -157,7 +157,7 @@ std::vector<WrittenNumber> takeOutNumbers(std::string_view text, std::string& co
 [[noreturn]] void failAt(std::size_t position, std::string_view text, const std::filesystem::path& file) {
     const std::string_view before = text.substr(0, position);
     const auto row = std::count(before.begin(), before.end(), '\n') + 1;
-    const std::string_view line = before.substr(before.rfind('\n') + 1); // npos + 1 is the start
+    const std::string_view line = before.substr(before.rfind('\n') + 1); // npos + 1 is 0
     const auto column =
         std::count_if(line.begin(), line.end(), [](char byte) { return (byte & 0xC0) != 0x80; });
     throw JsonError(file.string() + ": JSON non valido (riga " + std::to_string(row) + ", colonna " +
@@ -174,7 +174,7 @@ std::string quoted(const std::string& text) {
 
 void write(const Json& value, std::size_t depth, std::string& out);
 
-/// Writes `count` elements between `brackets`, each on a line of its own.
+/// Writes `count` elements between `brackets`, each on its own line.
 template <typename WriteElement>
 void writeLines(std::string_view brackets, std::size_t count, std::size_t depth, std::string& out,
                 WriteElement writeElement) {
@@ -207,7 +207,7 @@ void write(const Json& value, std::size_t depth, std::string& out) {
     }
 }
 
-/// Drops the members of `object` that `stays` does not accept.
+/// Drops the members of `object` for which `stays` returns false.
 template <typename Predicate>
 void keep(Object& object, Predicate stays) {
     Object kept;
@@ -236,7 +236,7 @@ Json parse(std::string_view text, const std::filesystem::path& file) {
             failAt(*position > 0 ? *position - 1 : 0, text, file);
         throw JsonError(file.string() + ": JSON annidato troppo in profondità");
     }
-    // The parser takes a NUL for the end and would pass over what follows it.
+    // The parser stops at a NUL and would ignore everything after it.
     if (const std::size_t position = text.find('\0'); position != std::string_view::npos)
         failAt(position, text, file);
     return builder.result();

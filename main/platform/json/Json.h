@@ -12,10 +12,10 @@
 
 namespace selvane {
 
-/// A JSON value that keeps the order of its keys, keys that occur twice, and numbers as they were written.
+/// A JSON value that keeps the order of its keys, duplicate keys, and numbers as they were written.
 using Json = nlohmann::ordered_json;
 
-/// A text that is no JSON (or is nested deeper than `json::kDeepest`). The message names the file.
+/// The text isn't JSON, or is nested more deeply than `json::kDeepest`. The message names the file.
 class JsonError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
@@ -23,20 +23,20 @@ public:
 
 namespace json {
 
-/// How deep arrays and objects may lie in each other.
+/// How deeply arrays and objects may be nested.
 constexpr std::size_t kDeepest = 512;
 
-/// Parses `text`; `file` is only named in the `JsonError`.
+/// Parses `text`. `file` only appears in the message of a `JsonError`.
 Json parse(std::string_view text, const std::filesystem::path& file);
 
-/// The value under `key`, or null when `object` is no object or has no such key.
+/// The value of `key`; null if `object` isn't an object or has no such key.
 const Json* find(const Json& object, std::string_view key);
-/// Sets a key of an object, in its place when it is there, else at the end.
+/// Sets a key of an object where it is, or adds it at the end.
 void set(Json& object, std::string_view key, Json value);
-/// Removes a key of an object, each time that it occurs.
+/// Removes every occurrence of a key from an object.
 void remove(Json& object, std::string_view key);
 
-/// Pretty-printed with two spaces, numbers as they were read, with a line end.
+/// Pretty-printed with two spaces and a final line break; numbers stay as they were read.
 std::string serialized(const Json& value);
 
 } // namespace json

@@ -10,7 +10,7 @@
 namespace selvane::json {
 namespace {
 
-/// Goes through a valid JSON text once, from token to token.
+/// Walks through valid JSON once, token by token.
 class Layout {
 public:
     explicit Layout(std::string_view text) : m_text(text) {}
@@ -21,7 +21,7 @@ public:
     }
     void skip() { ++m_position; }
 
-    /// A text with its quotes, or a number or word.
+    /// A string with its quotes, a number or a word.
     std::string_view scalar() {
         const std::size_t begin = m_position;
         if (m_text[begin] != '"') {
@@ -35,8 +35,7 @@ public:
         return m_text.substr(begin, m_position - begin);
     }
 
-    /// Appends the value that comes next to `out`, where it stands `depth` levels deep. False when it is
-    /// nested too deep.
+    /// Appends the next value to `out`, indented for `depth` levels. False if it is nested too deeply.
     bool value(std::size_t depth, std::string& out) {
         const std::size_t outside = depth;
         do {
@@ -68,7 +67,7 @@ private:
 
     static void breakLine(std::size_t depth, std::string& out) { out.append(1, '\n').append(2 * depth, ' '); }
 
-    /// Appends what stands between a value and the next; returns the depth of that.
+    /// Appends what stands between this value and the next; returns the depth of the next.
     std::size_t separators(std::size_t depth, std::size_t outside, std::string& out) {
         while (depth > outside) {
             const char token = next();

@@ -10,9 +10,9 @@
 
 namespace selvane::json {
 
-/// `object`, a valid JSON text, without its members of these names, laid out as `serialized` does. Texts and
-/// numbers stay as they are written, repeated members and their order as well: no value is built, which makes
-/// it many times quicker than parsing. Nothing when it is no object, or nested deeper than `parse` takes.
+/// The valid JSON text `object` without its members of these names, laid out like `serialized`. Strings,
+/// numbers, duplicate members and their order stay as written. It builds no values, which makes it many times
+/// faster than parsing. Nothing if it isn't an object or is nested more deeply than `parse` accepts.
 std::optional<std::string> withoutMembers(std::string_view object, std::span<const std::string_view> names);
 
 } // namespace selvane::json

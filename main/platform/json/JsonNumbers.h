@@ -8,7 +8,7 @@
 
 namespace selvane::json {
 
-/// The bytes of the JSON number at the start of `text`; 0 when there is none.
+/// Length in bytes of the JSON number at the start of `text`; 0 if there is none.
 inline std::size_t numberLength(std::string_view text) {
     std::size_t end = 0;
     const auto is = [&](std::string_view characters) {
@@ -26,7 +26,7 @@ inline std::size_t numberLength(std::string_view text) {
         ++end;
     else if (!skipDigits())
         return 0;
-    // A fraction or an exponent without digits is not part of the number; the parser trips over it.
+    // A point or exponent without digits isn't part of the number; the parser will reject it.
     std::size_t length = end;
     if (is(".") && (++end, skipDigits()))
         length = end;
@@ -41,15 +41,15 @@ inline std::size_t numberLength(std::string_view text) {
     return length;
 }
 
-/// Whether a number is written as an integer that fits 64 bits whatever its digits, and is not "-0".
+/// Whether a number is an integer, other than "-0", with so few digits that it must fit in 64 bits.
 inline bool isPlainInteger(std::string_view number) {
     constexpr std::size_t kAlwaysFits = 18;
     return number.size() <= kAlwaysFits && number != "-0" &&
            number.find_first_of(".eE") == std::string_view::npos;
 }
 
-/// Calls `visit(position, number)` for each number of a JSON text, in order; texts are skipped. What is no
-/// JSON is visited as far as it looks like it.
+/// Calls `visit(position, number)` for each number in a JSON text, in order, skipping strings. In text that
+/// isn't JSON, it visits whatever looks like a number.
 template <typename Visitor>
 void forEachNumber(std::string_view text, Visitor visit) {
     bool inText = false;

@@ -11,7 +11,7 @@
 
 namespace selvane::json {
 
-/// The UTF-16 unit of an escape like "\ud83d" at the start of `text`, if there is one.
+/// The UTF-16 unit of an escape such as "\ud83d" at the start of `text`, if there is one.
 inline std::optional<std::uint16_t> escapedUnit(std::string_view text) {
     constexpr std::size_t kLength = 6;
     if (text.size() < kLength || !text.starts_with("\\u"))
@@ -21,9 +21,9 @@ inline std::optional<std::uint16_t> escapedUnit(std::string_view text) {
     return result.ptr == text.data() + kLength ? std::optional(unit) : std::nullopt;
 }
 
-/// JavaScript writes a text that was cut in the middle of an emoji with half a pair of UTF-16 units, which no
-/// strict parser takes. Rewrites such escapes of a JSON text, in their own place, as that of the replacement
-/// character. Returns whether there were any.
+/// When JavaScript writes a string that was cut in the middle of an emoji, it leaves half a UTF-16 pair,
+/// which no strict parser accepts. This replaces such escapes in place by that of U+FFFD. Returns whether it
+/// found any.
 inline bool replaceLoneSurrogates(char* bytes, std::size_t size) {
     const std::string_view text(bytes, size);
     bool found = false;
@@ -37,7 +37,7 @@ inline bool replaceLoneSurrogates(char* bytes, std::size_t size) {
             std::string_view("fffd").copy(bytes + i + 2, 4);
             found = true;
         }
-        i += isPair ? 12 : unit ? 6 : 2; // an escaped backslash doesn't begin an escape of its own
+        i += isPair ? 12 : unit ? 6 : 2; // the second of two backslashes doesn't begin an escape
     }
     return found;
 }

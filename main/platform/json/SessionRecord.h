@@ -10,7 +10,7 @@
 
 namespace selvane {
 
-/// The fields of a session record that the program reads, absent where missing or of another type.
+/// The fields of a session record that Selvane reads; those missing or of another type are absent.
 struct SessionRecord {
     std::string sessionId;
     std::optional<std::string> title;
@@ -18,14 +18,14 @@ struct SessionRecord {
     std::optional<double> lastActivityAt; ///< milliseconds since 1970
     bool isArchived = false;
     std::optional<std::string> cliSessionId;
-    std::vector<std::string> priorCliSessionIds; ///< empty unless all elements are texts
+    std::vector<std::string> priorCliSessionIds; ///< empty unless all elements are strings
 };
 
-/// Whether `text` is JSON as the standard has it, told quickly. False as well for some of what `json::parse`
-/// takes beyond that: halves of surrogate pairs, numbers that no machine number holds, a byte order mark.
+/// Whether `text` is strictly valid JSON; fast. Also false for some things that `json::parse` accepts: lone
+/// surrogates, numbers too large to represent, a byte order mark.
 bool isStrictJson(std::string_view text);
 
-/// Reads session records quickly; one reader serves many files and reuses its memory.
+/// Reads session records quickly. One reader can read many files and reuses its memory.
 class SessionRecordReader {
 public:
     SessionRecordReader();
@@ -33,7 +33,7 @@ public:
     SessionRecordReader(const SessionRecordReader&) = delete;
     SessionRecordReader& operator=(const SessionRecordReader&) = delete;
 
-    /// Nothing when the file can't be read, is no JSON object, or has no text under "sessionId".
+    /// Nothing if the file can't be read, isn't a JSON object, or has no string under "sessionId".
     std::optional<SessionRecord> read(const std::string& file);
 
 private:

@@ -21,7 +21,7 @@ bool openPipe(std::array<int, 2>& ends) {
     return ::pipe2(ends.data(), O_CLOEXEC) == 0;
 }
 
-/// Unlike fork() it runs no handlers of libraries, which may wait for a lock.
+/// Unlike fork(), it runs no library handlers, which might wait for a lock.
 pid_t forkPlainly() {
     return ::_Fork();
 }
@@ -29,7 +29,7 @@ pid_t forkPlainly() {
 void closeBetween(unsigned int first, unsigned int last) {
     if (first > last || ::close_range(first, last, 0) == 0)
         return;
-    // A kernel before 5.9.
+    // Kernels before 5.9.
     rlimit limit = {};
     ::getrlimit(RLIMIT_NOFILE, &limit);
     const rlim_t end = std::min<rlim_t>({limit.rlim_cur, rlim_t{last} + 1, 65536});
@@ -40,7 +40,7 @@ void closeBetween(unsigned int first, unsigned int last) {
 bool endWith(pid_t parent, int /*report*/) {
     ::prctl(PR_SET_PDEATHSIG, SIGTERM);
     if (::getppid() != parent)
-        ::_exit(EXIT_FAILURE); // it ended before the line above
+        ::_exit(EXIT_FAILURE); // the parent ended before the call above
     return true;
 }
 

@@ -8,18 +8,18 @@
 
 #include "platform/services/Services.h"
 
-/// The system libraries that would make every start slower (ICU, simdjson, and of the desktop GIO and XCB)
-/// are linked to a module of their own, `libselvane-services.so`, which is loaded when one of them is first
-/// needed. It hands out two tables: `Services`, and this one.
+/// System libraries that would slow down every start (ICU, simdjson and, for the desktop, GIO and XCB) are
+/// linked to a separate module, `libselvane-services.so`, loaded when one is first needed. It provides two
+/// tables: `Services` and this one.
 namespace selvane {
 
-/// Where a desktop entry points. `arguments` are the words of its command line, field codes dropped, each
-/// ended by a NUL; the first one is the program.
+/// A desktop entry. `arguments` are the words of its command line without field codes, each ended by a NUL;
+/// the first is the program.
 struct DesktopEntryView {
     const char* file;
     const char* arguments;
     std::size_t argumentsSize;
-    const char* workingFolder; ///< null when it names none
+    const char* workingFolder; ///< null if it names none
 };
 
 using EntryReceiver = void (*)(void* context, const DesktopEntryView& entry) noexcept;
@@ -33,7 +33,7 @@ struct DesktopServices {
     bool (*raiseWindow)(std::int32_t pid) noexcept;
 };
 
-/// As `services()`.
+/// Like `services()`.
 const DesktopServices& desktopServices();
 
 } // namespace selvane

@@ -19,12 +19,12 @@ bool isCopied(std::string_view name) {
     return name.starts_with("user.") || name == kAccessList || name == kDefaultAccessList;
 }
 
-/// Refused by the file system or its mount, as opposed to broken.
+/// Whether the file system or its mount refused the call, as opposed to failing.
 bool isUnsupported(int error) {
     return error == ENOTSUP || error == EPERM;
 }
 
-/// Reads what a call of the form (buffer, size) gives; nothing, and errno, on failure.
+/// Returns what a call of the form (buffer, size) reads; nothing, with errno, on failure.
 template <typename Read>
 std::optional<std::string> readGrowing(Read read) {
     std::string bytes(256, '\0');
@@ -40,7 +40,7 @@ std::optional<std::string> readGrowing(Read read) {
     }
 }
 
-/// 0 or the error; an attribute that is gone by now counts as copied.
+/// 0 or the error. An attribute that has disappeared counts as copied.
 int copyAttribute(int from, int to, const char* name) {
     const auto value =
         readGrowing([&](char* buffer, std::size_t size) { return ::fgetxattr(from, name, buffer, size); });
@@ -53,7 +53,7 @@ int copyAttribute(int from, int to, const char* name) {
 
 std::optional<mode_t> copyAttributes(int from, int to, mode_t mode, Privacy privacy) {
     if (privacy == Privacy::ownerOnly)
-        mode &= S_IRWXU; // which an access list can't exceed: the group's bits are the most that it gives
+        mode &= S_IRWXU; // this also limits an access list: its entries get at most the group's bits
     const ssize_t needed = ::flistxattr(from, nullptr, 0);
     if (needed == 0 || (needed < 0 && isUnsupported(errno)))
         return mode;
@@ -71,8 +71,8 @@ std::optional<mode_t> copyAttributes(int from, int to, mode_t mode, Privacy priv
             errno = error;
             return std::nullopt;
         }
-        // With an access list the group's bits say what its entries get at most, without it what the group
-        // gets: those are others.
+        // With an access list, the group bits are the most that its entries get; without one, they are what
+        // the group itself gets. That isn't the same.
         if (std::string_view(name) == kAccessList)
             mode &= ~static_cast<mode_t>(S_IRWXG);
     }
@@ -80,7 +80,7 @@ std::optional<mode_t> copyAttributes(int from, int to, mode_t mode, Privacy priv
 }
 
 void dropInheritedAccess(int file) {
-    // No failure matters: there is none, or there can be none.
+    // Failures don't matter: there is no list, or there can't be one.
     static_cast<void>(::fremovexattr(file, kAccessList));
     static_cast<void>(::fremovexattr(file, kDefaultAccessList));
 }

@@ -37,7 +37,7 @@ int writeAt(int to, const char* bytes, std::size_t count, off_t offset) {
 
 class ContentCopier::System {
 public:
-    /// Copies all of `from`, whose status is given, to the empty `to`. Returns 0 or an error.
+    /// Copies all of `from`, described by `status`, into the empty file `to`. Returns 0 or an error.
     int copy(int from, int to, const struct stat& status);
 
 private:
@@ -62,7 +62,7 @@ int ContentCopier::copy(int from, const struct stat& status, int folder, const c
 }
 
 int ContentCopier::System::copy(int from, int to, const struct stat& status) {
-    // Files of /proc say that they are empty, and only reading tells.
+    // Files in /proc report size 0; only reading shows what is in them.
     if (status.st_size == 0)
         return copyThroughMemory(from, to, 0, kToTheEnd);
     if (clone(from, to))
@@ -77,12 +77,12 @@ bool ContentCopier::System::clone(int from, int to) {
         return false;
     if (::ioctl(to, FICLONE, from) == 0)
         return true;
-    // Other errors may concern this file alone; copying it tells which.
+    // Other errors may affect only this file; copying it will tell.
     m_canClone = errno != EOPNOTSUPP && errno != ENOTTY && errno != EXDEV && errno != ENOSYS;
     return false;
 }
 
-/// Disk images are mostly holes: their copy must not take their nominal size.
+/// Disk images are mostly holes; their copy must not grow to their nominal size.
 int ContentCopier::System::copyDataOfSparse(int from, int to, off_t size) {
     off_t end = 0;
     while (end < size) {
@@ -108,10 +108,10 @@ int ContentCopier::System::copyRange(int from, int to, off_t offset, off_t end) 
         if (copied > 0) {
             offset += copied;
         } else if (copied == 0) {
-            break; // shorter than it was said to be, unless reading shows otherwise
+            break; // the file is shorter than it claimed, unless reading shows otherwise
         } else if (errno != EINTR) {
             m_canCopyRanges = errno != EXDEV && errno != ENOSYS && errno != EOPNOTSUPP;
-            break; // whatever it was, reading and writing works or tells the error
+            break; // whatever the error was, reading and writing works or reports it
         }
     }
     return offset < end ? copyThroughMemory(from, to, offset, end) : 0;

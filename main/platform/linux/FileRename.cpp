@@ -15,7 +15,7 @@ int rename(const std::filesystem::path& from, const std::filesystem::path& to, u
     return ::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), flags) == 0 ? 0 : errno;
 }
 
-/// Network and older file systems answer a flag that they don't know so.
+/// How network file systems and older ones answer a flag that they don't know.
 bool isUnsupported(int error) {
     return error == EINVAL || error == ENOSYS || error == ENOTSUP;
 }

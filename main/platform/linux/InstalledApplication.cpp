@@ -20,7 +20,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Folders that belong to no application, although one may have put its executable there.
+/// Folders that belong to no single application, even if one has put its executable there.
 constexpr std::array<std::string_view, 12> kCommonFolders = {
     "/",          "/opt",           "/tmp",         "/usr",       "/usr/lib", "/usr/lib64",
     "/usr/local", "/usr/local/lib", "/usr/libexec", "/usr/share", "/var",     "/srv"};
@@ -30,7 +30,7 @@ bool isExecutableFile(const fs::path& file) {
     return fs::is_regular_file(file, error) && ::faccessat(AT_FDCWD, file.c_str(), X_OK, AT_EACCESS) == 0;
 }
 
-/// Folders of PATH that are relative are skipped: the application starts in another folder.
+/// Skips relative folders in PATH: the application starts in another folder.
 std::optional<fs::path> findOnPath(const std::string& name, const Environment& environment) {
     if (name.empty())
         return std::nullopt;
@@ -55,12 +55,12 @@ std::optional<fs::path> findProgram(const std::string& word, const Environment& 
     return word.find('/') == std::string::npos ? findOnPath(word, environment) : std::nullopt;
 }
 
-/// Whether `folder` is `home` or one that holds it.
+/// Whether `folder` is `home` or contains it.
 bool holdsHome(const fs::path& folder, const fs::path& home) {
     return std::mismatch(folder.begin(), folder.end(), home.begin(), home.end()).first == folder.end();
 }
 
-/// An AppImage is one file that people keep among others of all kinds; it runs from a mount elsewhere.
+/// An AppImage is a single file that people keep anywhere. It runs from a mount elsewhere.
 bool isAppImage(const fs::path& executable) {
     constexpr std::string_view kMark = "AI";
     constexpr std::streamoff kMarkPosition = 8;
@@ -70,7 +70,7 @@ bool isAppImage(const fs::path& executable) {
     return file && std::equal(bytes.begin(), bytes.end(), kMark.begin());
 }
 
-/// The folder where all programs are the application's; empty when there is none.
+/// The folder in which every program belongs to the application; empty if there is none.
 fs::path ownFolder(const fs::path& executable, const fs::path& home) {
     std::error_code error;
     const fs::path resolved = fs::canonical(executable, error);
@@ -82,7 +82,7 @@ fs::path ownFolder(const fs::path& executable, const fs::path& home) {
     return folder;
 }
 
-/// Nothing when no such entry is installed. The entry's program is its first word, still to be looked up.
+/// Nothing if no such entry is installed. Its program is only the first word, not yet looked up.
 std::optional<Application> findEntry(const std::string& id) {
     struct Found {
         std::vector<std::string> words;

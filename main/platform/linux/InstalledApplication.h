@@ -10,11 +10,11 @@
 
 namespace selvane {
 
-/// The first of the identity's desktop entries whose program is there, else its executable on PATH.
+/// The first of the identity's desktop entries whose program exists, otherwise its executable on PATH.
 std::optional<Application> findApplication(const ApplicationIdentity& identity,
                                            const Environment& environment);
 
-/// Whether `folder` is one where programs of all kinds lie side by side, such as `/usr/bin`.
+/// Whether `folder` is one that all kinds of programs share, such as `/usr/bin`.
 bool isProgramsFolder(const std::filesystem::path& folder);
 
 } // namespace selvane

@@ -9,7 +9,7 @@ std::filesystem::path applicationDataFolder(const Environment& environment, cons
                                             const std::function<bool()>& isInstalled) {
     const std::filesystem::path home = homeFolder(environment);
     const auto configured = environment.find("XDG_CONFIG_HOME");
-    // The base-directory rules make a relative value as good as none.
+    // The XDG rules say to ignore a relative path.
     const bool usable = configured != environment.end() && configured->second.starts_with('/');
     const auto folder = (usable ? std::filesystem::path(configured->second) : home / ".config") / name;
     std::error_code ignored;

@@ -31,7 +31,7 @@ std::optional<Number> parseNumber(std::string_view text) {
     return number;
 }
 
-/// Calls `use` for each part of `bytes` that a NUL ends; the last one may lack it.
+/// Calls `use` for each NUL-terminated part of `bytes`; the last may lack its NUL.
 template <typename Use>
 void forEachTerminated(std::string_view bytes, Use use) {
     while (!bytes.empty()) {
@@ -58,19 +58,19 @@ std::map<std::string, std::string> splitEnvironment(std::string_view bytes) {
     return environment;
 }
 
-/// Reads processes one after the other, with one buffer for all of them.
+/// Reads processes one after another into one buffer.
 class ProcReader {
 public:
     ProcReader() : m_table(::open("/proc", O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {}
 
-    /// Names in the process table, those that are no process included.
+    /// All names in the process table, including those that aren't processes.
     template <typename Use>
     void forEachName(Use use) const {
         files::forEachEntry(m_table.get(), [&](const char* name, unsigned char) { use(name); });
     }
 
-    /// Opened once, the folder stands for this very process: its files are gone when a later process gets
-    /// the same pid.
+    /// Once open, the folder stands for this very process: if a later process gets the same pid, the files in
+    /// it are gone.
     bool open(const char* pid) {
         m_process = files::Descriptor(::openat(m_table.get(), pid, O_PATH | O_DIRECTORY | O_CLOEXEC));
         return static_cast<bool>(m_process);
@@ -108,7 +108,7 @@ public:
     }
 
 private:
-    /// Empty when that fails. The kernel gives no longer text than fits.
+    /// Empty on failure. The kernel never gives more text than fits.
     static std::string_view readLink(int folder, const char* name, std::array<char, PATH_MAX>& target) {
         const ssize_t size = ::readlinkat(folder, name, target.data(), target.size());
         return {target.data(), static_cast<std::size_t>(std::max<ssize_t>(size, 0))};
@@ -119,13 +119,13 @@ private:
         std::string_view path = readLink(m_process.get(), "exe", target);
         if (!path.starts_with('/'))
             return std::nullopt;
-        // The application was upgraded while it runs.
+        // The application has been upgraded while running.
         if (path.ends_with(kDeletedMark))
             path.remove_suffix(kDeletedMark.size());
         return std::string(path);
     }
 
-    /// Valid until the next call; empty when it can't be read.
+    /// Valid until the next call; empty if it can't be read.
     std::string_view contents(const char* name) {
         const files::Descriptor file(::openat(m_process.get(), name, O_RDONLY | O_CLOEXEC));
         if (!file)
@@ -134,7 +134,7 @@ private:
         for (;;) {
             const ssize_t count = ::read(file.get(), m_buffer.data() + filled, m_buffer.size() - filled);
             filled += count > 0 ? static_cast<std::size_t>(count) : 0;
-            // The kernel fills the buffer as far as there is something to tell: room left means the end.
+            // The kernel fills the buffer as far as it can, so space left over means the end.
             if (count <= 0 || filled < m_buffer.size())
                 return {m_buffer.data(), filled};
             m_buffer.resize(m_buffer.size() * 2);
@@ -149,12 +149,12 @@ private:
 } // namespace
 
 std::optional<ProcStat> ProcStat::parse(std::string_view line) {
-    // The command name may itself hold spaces and parentheses; what follows it never does.
+    // The command name may contain spaces and parentheses; the fields after it never do.
     const std::size_t nameEnd = line.rfind(')');
     if (nameEnd == std::string_view::npos)
         return std::nullopt;
     constexpr std::size_t kState = 3, kParent = 4, kSession = 6,
-                          kStartTime = 22; // as the kernel counts the fields
+                          kStartTime = 22; // field numbers as in the kernel's documentation
     std::array<std::string_view, kStartTime + 1> fields;
     std::size_t position = nameEnd + 1;
     for (std::size_t field = kState; field <= kStartTime; ++field) {
@@ -204,7 +204,7 @@ std::uint64_t ProcInfo::startTimePerSecond() {
     return static_cast<std::uint64_t>(::sysconf(_SC_CLK_TCK));
 }
 
-/// The kernel counts from the boot, in ticks.
+/// The kernel counts ticks since boot.
 std::uint64_t ProcInfo::startTimeAt(std::chrono::system_clock::time_point moment) {
     using namespace std::chrono;
     timespec sinceBoot = {};

@@ -9,7 +9,7 @@
 
 namespace selvane {
 
-/// What the status line of a process tells, whoever owns it.
+/// The status line of a process, which anyone may read.
 struct ProcStat {
     char state = 0;
     std::int32_t ppid = 0;
@@ -18,9 +18,9 @@ struct ProcStat {
 
     bool isEnded() const { return state == 'Z' || state == 'X'; } ///< only its exit status is left
 
-    /// Nothing when the line is not complete.
+    /// Nothing if the line is incomplete.
     static std::optional<ProcStat> parse(std::string_view line);
-    /// Nothing when there is no such process.
+    /// Nothing if there is no such process.
     static std::optional<ProcStat> read(std::int32_t pid);
 };
 

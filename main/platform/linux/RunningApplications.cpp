@@ -15,7 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The rules for one application over one list of processes.
+/// Finds the main processes of one application in a list of processes.
 class Recognition {
 public:
     Recognition(const std::vector<ProcInfo>& processes, const ApplicationIdentity& identity,
@@ -43,16 +43,16 @@ private:
         return isOurs && canBeMainProcess(process);
     }
 
-    /// Programs among the application's resources are started by others too, such as a browser that talks
-    /// to the application through one of them.
+    /// Other applications also start programs from the application's resources: a browser, for example, talks
+    /// to it through one of them.
     bool liesInFolder(const ProcInfo& process) const {
         if (m_folder.empty() || !process.path.starts_with(m_folder))
             return false;
         return !std::string_view(process.path).substr(m_folder.size()).starts_with("resources/");
     }
 
-    /// Whether the process comes from a start of one of our entries. The variables of such a start are
-    /// inherited by everything below it, so they count only while the process that was started lives above.
+    /// Whether the process was started from one of our desktop entries. All descendants inherit the variables
+    /// of such a start, so they count only while the process that was started is this one or an ancestor.
     bool isStartedByEntry(const ProcInfo& process) const {
         const auto entry = process.env.find("GIO_LAUNCHED_DESKTOP_FILE");
         const auto started = process.env.find("GIO_LAUNCHED_DESKTOP_FILE_PID");
@@ -71,7 +71,7 @@ private:
 
     const std::vector<ProcInfo>& m_processes;
     const ApplicationIdentity& m_identity;
-    std::string m_folder; ///< with a slash at its end; empty when unknown
+    std::string m_folder; ///< ends with a slash; empty if unknown
     const ProcessFamily m_family;
 };
 

@@ -11,8 +11,8 @@
 
 namespace selvane {
 
-/// The main processes of an application among `processes`, in their order. `folder` is the application's
-/// own one, empty when it is not known.
+/// The main processes of an application among `processes`, in the same order. `folder` is the application's
+/// own folder, empty if unknown.
 std::vector<RunningApplication> mainProcesses(const std::vector<ProcInfo>& processes,
                                               const ApplicationIdentity& identity,
                                               const std::filesystem::path& folder);

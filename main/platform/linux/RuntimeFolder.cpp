@@ -9,7 +9,7 @@
 
 namespace selvane {
 
-/// Without a session there may still be its folder, or else the memory that all processes can share.
+/// Without session variables, the session's folder may still exist; otherwise there is shared memory.
 std::vector<std::filesystem::path> runtimeFolderPlaces(const Environment& environment) {
     const std::string user = std::to_string(::geteuid());
     std::vector<std::filesystem::path> places = {"/run/user/" + user + "/selvane",

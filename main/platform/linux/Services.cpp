@@ -30,7 +30,7 @@ void* loadModule() {
     return handle;
 }
 
-/// What the module's function of that name hands out.
+/// The table returned by the module's function of that name.
 template <typename Table>
 const Table& table(const char* function) {
     static void* const module = loadModule();

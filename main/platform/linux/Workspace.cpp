@@ -23,7 +23,7 @@ namespace fs = std::filesystem;
 constexpr const char* kEntryVariable = "GIO_LAUNCHED_DESKTOP_FILE";
 constexpr const char* kEntryPidVariable = "GIO_LAUNCHED_DESKTOP_FILE_PID";
 
-/// A process that is ending loses its executable, its arguments and its environment before it shows as ended.
+/// A process that is ending loses its executable, arguments and environment before it is shown as ended.
 bool hasExecutable(std::int32_t pid) {
     char first = 0;
     const std::string link = "/proc/" + std::to_string(pid) + "/exe";
@@ -35,8 +35,8 @@ bool isAlive(const RunningApplication& app) {
     return stat && !stat->isEnded() && stat->startTime == app.startTime && hasExecutable(app.pid);
 }
 
-/// Never reaches another process: the descriptor stands for the one whose start time is compared after it
-/// was opened. A signal that can't be sent is no error of its own, the application just doesn't end.
+/// Can't reach another process: the start time is compared after the descriptor is opened. A signal that
+/// can't be sent is not reported; the application just doesn't end.
 void sendSignal(const RunningApplication& app, int signal) {
     const files::Descriptor process(static_cast<int>(::syscall(SYS_pidfd_open, app.pid, 0)));
     if (process && isAlive(app))
@@ -73,7 +73,7 @@ public:
         try {
             desktopServices().raiseWindow(app.pid);
         } catch (const LauncherError&) {
-            // Without the services the window stays where it is, as on a display that can't raise it.
+            // Without the services the window stays where it is, as on a display that can't raise windows.
             return;
         }
     }
@@ -86,7 +86,7 @@ private:
                       [&](const auto& variable) { return configuration.withholds(variable.first); });
         for (const auto& [name, value] : configuration.environment)
             environment.insert_or_assign(name, value);
-        // Those of our own start would make the new process look like a part of another application.
+        // Variables from our own start would make the new process look like part of another application.
         environment.erase(kEntryVariable);
         environment.erase(kEntryPidVariable);
         if (!application.entry.empty())

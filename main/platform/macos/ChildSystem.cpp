@@ -15,7 +15,7 @@
 namespace selvane::process {
 namespace {
 
-/// Whether the end of that process will be told by the queue.
+/// Whether the queue will report the end of that process.
 bool watchEnd(int queue, pid_t process) {
     struct kevent watched = {};
     EV_SET(&watched, static_cast<uintptr_t>(process), EVFILT_PROC, EV_ADD | EV_ONESHOT, NOTE_EXIT, 0,
@@ -23,7 +23,7 @@ bool watchEnd(int queue, pid_t process) {
     return ::kevent(queue, &watched, 1, nullptr, 0, nullptr) == 0;
 }
 
-/// The process whose end comes first; -1 when that can't be told.
+/// The first process to end; -1 if that can't be determined.
 pid_t firstEnd(int queue) {
     struct kevent happened = {};
     int count = -1;
@@ -33,11 +33,11 @@ pid_t firstEnd(int queue) {
     return count == 1 ? static_cast<pid_t>(happened.ident) : -1;
 }
 
-/// Stays while `worker` runs, and has it end when `parent` ends first.
+/// Waits while `worker` runs, and ends it if `parent` ends first.
 [[noreturn]] void standBetween(pid_t parent, pid_t worker) {
     const int queue = ::kqueue();
     const bool parentLives = queue >= 0 && watchEnd(queue, parent);
-    // One that can't be watched has just ended.
+    // A process that can't be watched has just ended.
     if (!parentLives || (watchEnd(queue, worker) && firstEnd(queue) == parent))
         ::kill(worker, SIGTERM);
     int status = 0;
@@ -46,7 +46,7 @@ pid_t firstEnd(int queue) {
 
 } // namespace
 
-/// The variable itself can only be named by an executable, and this is part of a module too.
+/// Only an executable can use the variable itself, and this code is also part of a module.
 char** environmentBlock() {
     return *_NSGetEnviron();
 }

@@ -22,12 +22,12 @@ struct Freeing {
 };
 using AccessList = std::unique_ptr<std::remove_pointer_t<acl_t>, Freeing>;
 
-/// Refused by the file system, as opposed to broken.
+/// Whether the file system refused the call, as opposed to failing.
 bool isUnsupported(int error) {
     return error == ENOTSUP || error == EOPNOTSUPP || error == EPERM;
 }
 
-/// The path that a socket gets its name by: the system has no call that takes an open folder.
+/// The path under which to bind a socket: the system has no call that takes an open folder.
 std::optional<std::string> pathIn(int folder, const char* name) {
     if (folder == AT_FDCWD)
         return name;
@@ -61,7 +61,7 @@ std::optional<mode_t> copyAttributes(int from, int to, mode_t mode, Privacy priv
         return std::nullopt;
     constexpr mode_t kOwner = S_IRWXU;
     if (privacy == Privacy::ownerOnly) {
-        dropInheritedAccess(to); // an access list gives what the mode denies
+        dropInheritedAccess(to); // an access list can allow what the mode denies
         return mode & kOwner;
     }
     const AccessList list(::acl_get_fd_np(from, ACL_TYPE_EXTENDED));
@@ -69,12 +69,12 @@ std::optional<mode_t> copyAttributes(int from, int to, mode_t mode, Privacy priv
         return errno == ENOENT || isUnsupported(errno) ? std::optional(mode) : std::nullopt;
     if (::acl_set_fd_np(to, list.get(), ACL_TYPE_EXTENDED) == 0)
         return mode;
-    // Without its list, which can deny too, nobody else is sure to be meant.
+    // A list can also deny access, so without it no one else may be meant to have any.
     return isUnsupported(errno) ? std::optional<mode_t>(mode & kOwner) : std::nullopt;
 }
 
 void dropInheritedAccess(int file) {
-    // No failure matters: there is none, or there can be none.
+    // Failures don't matter: there is no list, or there can't be one.
     if (const AccessList none{::acl_init(1)})
         static_cast<void>(::acl_set_fd_np(file, none.get(), ACL_TYPE_EXTENDED));
 }

@@ -10,14 +10,14 @@
 namespace selvane::files {
 namespace {
 
-/// A file with such a flag would hand it to its clone, which then could neither be finished nor removed.
+/// A clone inherits these flags, and could then be neither finished nor removed.
 constexpr unsigned int kLocks = UF_IMMUTABLE | UF_APPEND | SF_IMMUTABLE | SF_APPEND;
 
 } // namespace
 
 class ContentCopier::System {
 public:
-    /// By descriptor, so that what is cloned is what was looked at. Returns 0 or an error.
+    /// Clones by descriptor, so that it clones the file that was checked. Returns 0 or an error.
     int clone(int from, int folder, const char* name, Descriptor& to);
     int copyData(int from, int folder, const char* name, Descriptor& to) const;
 
@@ -29,7 +29,7 @@ private:
 
 int ContentCopier::System::clone(int from, int folder, const char* name, Descriptor& to) {
     if (::fclonefileat(from, folder, name, CLONE_NOOWNERCOPY) != 0) {
-        // Other errors may concern this file alone; copying it tells which.
+        // Other errors may affect only this file; copying it will tell.
         m_canClone = errno != ENOTSUP && errno != EXDEV;
         return errno;
     }
@@ -46,7 +46,7 @@ int ContentCopier::System::copyData(int from, int folder, const char* name, Desc
     to = Descriptor(::openat(folder, name, kFlags, S_IRUSR | S_IWUSR));
     if (!to)
         return errno;
-    // Holes stay holes where that is possible.
+    // Keep holes where possible.
     constexpr copyfile_flags_t kWhat = COPYFILE_DATA | COPYFILE_DATA_SPARSE;
     return ::fcopyfile(from, to.get(), nullptr, kWhat) == 0 ? 0 : errno;
 }
@@ -56,7 +56,7 @@ ContentCopier::~ContentCopier() = default;
 
 int ContentCopier::copy(int from, const struct stat& status, int folder, const char* name, Privacy privacy,
                         Descriptor& to) {
-    // A clone can be read by whoever can read its origin, from its first moment on.
+    // From its first moment, a clone can be read by anyone who can read the original.
     const bool maybe = privacy == Privacy::inherited && m_system->canClone(status);
     if (maybe && m_system->clone(from, folder, name, to) == 0)
         return 0;

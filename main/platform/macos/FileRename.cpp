@@ -14,7 +14,7 @@ int rename(const std::filesystem::path& from, const std::filesystem::path& to, u
     return ::renameatx_np(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), flags) == 0 ? 0 : errno;
 }
 
-/// How file systems that don't know a flag answer it.
+/// How file systems answer a flag that they don't know.
 bool isUnsupported(int error) {
     return error == ENOTSUP || error == EOPNOTSUPP || error == EINVAL || error == ENOSYS;
 }

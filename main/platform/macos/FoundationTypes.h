@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-/// From this program's types to those of the system and back.
+/// Conversions between Selvane's types and the system's.
 namespace selvane::macos {
 
 inline NSString* textOf(const std::string& bytes) {
@@ -18,7 +18,7 @@ inline NSString* textOf(const std::string& bytes) {
                                             encoding:NSUTF8StringEncoding];
     if (text != nil)
         return text;
-    // No UTF-8: every byte stands for a character.
+    // Not UTF-8: each byte becomes a character.
     return [[NSString alloc] initWithBytes:bytes.data()
                                     length:bytes.size()
                                   encoding:NSISOLatin1StringEncoding];
@@ -29,7 +29,8 @@ inline std::string textOf(NSString* text) {
     return bytes == nullptr ? std::string() : std::string(bytes);
 }
 
-/// `isFolder`: of the thing itself. A link to a folder is none, or the system would go through it.
+/// `isFolder` refers to `path` itself. It is false for a link to a folder, or the system would follow the
+/// link.
 inline NSURL* urlOf(const std::filesystem::path& path, bool isFolder) {
     return [NSURL fileURLWithFileSystemRepresentation:path.c_str() isDirectory:isFolder relativeToURL:nil];
 }
@@ -38,7 +39,7 @@ inline std::filesystem::path pathOf(NSURL* url) {
     return url.fileSystemRepresentation;
 }
 
-/// Why something failed, in the words that this program has for it, else in those of the system.
+/// The reason for an error, in Selvane's own words if it has any, otherwise in the system's.
 std::string reasonOf(NSError* error);
 
 } // namespace selvane::macos

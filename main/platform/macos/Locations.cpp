@@ -5,7 +5,7 @@
 
 namespace selvane {
 
-/// One folder for all, whether or not the application is installed.
+/// There is only one folder, whether or not the application is installed.
 std::filesystem::path applicationDataFolder(const Environment& environment, const std::string& name,
                                             const std::function<bool()>& /*isInstalled*/) {
     return homeFolder(environment) / "Library/Application Support" / name;

@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// As it was started, links in it resolved: a link to the executable may lie on PATH.
+/// The executable with links resolved: PATH may contain a link to it.
 fs::path executable() {
     std::array<char, PATH_MAX> buffer = {};
     auto size = static_cast<std::uint32_t>(buffer.size());
@@ -21,7 +21,7 @@ fs::path executable() {
     if (::_NSGetExecutablePath(buffer.data(), &size) == 0) {
         path = buffer.data();
     } else {
-        path.resize(size); // the room it takes
+        path.resize(size); // the size it needs
         ::_NSGetExecutablePath(path.data(), &size);
         path.resize(path.find('\0'));
     }

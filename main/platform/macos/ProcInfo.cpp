@@ -22,7 +22,7 @@ std::optional<std::string> executableOf(std::int32_t pid) {
     return path.data();
 }
 
-/// Empty when the kernel refuses it, as for another user's process.
+/// Empty if the kernel refuses, as it does for another user's process.
 std::string argumentsArea(std::int32_t pid) {
     std::array<int, 3> name = {CTL_KERN, KERN_PROCARGS2, pid};
     constexpr auto kParts = static_cast<unsigned int>(name.size());
@@ -74,7 +74,7 @@ std::vector<ProcInfo> ProcInfo::all() {
     const int expected = ::proc_listallpids(nullptr, 0);
     if (expected < 1)
         return {};
-    // Some may start between the two calls.
+    // More may start between the two calls.
     std::vector<pid_t> pids(2 * static_cast<std::size_t>(expected));
     const int listed = ::proc_listallpids(pids.data(), static_cast<int>(pids.size() * sizeof(pid_t)));
     pids.resize(std::min(pids.size(), static_cast<std::size_t>(std::max(listed, 0))));
@@ -91,7 +91,7 @@ std::vector<std::string> ProcInfo::openFiles(std::int32_t pid) {
     const int expected = ::proc_pidinfo(pid, PROC_PIDLISTFDS, 0, nullptr, 0);
     if (expected <= 0)
         return {};
-    constexpr std::size_t kSpare = 64; // some may be opened between the two calls
+    constexpr std::size_t kSpare = 64; // more may be opened between the two calls
     std::vector<proc_fdinfo> files(static_cast<std::size_t>(expected) / sizeof(proc_fdinfo) + kSpare);
     const int listed = ::proc_pidinfo(pid, PROC_PIDLISTFDS, 0, files.data(),
                                       static_cast<int>(files.size() * sizeof(proc_fdinfo)));
@@ -111,7 +111,7 @@ std::uint64_t ProcInfo::startTimePerSecond() {
     return 1'000'000;
 }
 
-/// The kernel tells the time of day, in microseconds.
+/// The kernel gives the time of day, in microseconds.
 std::uint64_t ProcInfo::startTimeAt(std::chrono::system_clock::time_point moment) {
     const auto since = std::chrono::duration_cast<std::chrono::microseconds>(moment.time_since_epoch());
     return static_cast<std::uint64_t>(std::max<std::int64_t>(since.count(), 0));

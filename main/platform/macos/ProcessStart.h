@@ -10,8 +10,8 @@
 
 namespace selvane {
 
-/// What the kernel tells of a process of this user; nothing when there is none, or when it has ended and only
-/// its exit status is left.
+/// The kernel's data on a process of this user; nothing if there is none, or if it has ended and only its
+/// exit status is left.
 std::optional<proc_bsdinfo> processStatus(std::int32_t pid);
 
 /// Microseconds since 1970.

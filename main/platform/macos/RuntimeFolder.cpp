@@ -10,7 +10,7 @@
 
 namespace selvane {
 
-/// The user's temporary folder, which the system empties when it starts.
+/// The user's temporary folder, which the system empties when it boots.
 std::vector<std::filesystem::path> runtimeFolderPlaces(const Environment& /*environment*/) {
     std::array<char, PATH_MAX> folder = {};
     const std::size_t size = ::confstr(_CS_DARWIN_USER_TEMP_DIR, folder.data(), folder.size());

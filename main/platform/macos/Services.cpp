@@ -7,7 +7,7 @@
 
 namespace selvane {
 
-/// No module: the libraries lie in the bundle, and the core is linked to them.
+/// There is no module: the libraries are in the bundle, and the core is linked to them.
 const Services& services() {
     return module::kTable;
 }

@@ -14,7 +14,7 @@
 namespace selvane {
 namespace {
 
-/// Returns why it failed, if it did.
+/// Returns the reason if it fails.
 std::optional<std::string> trash(const std::filesystem::path& path) {
     @autoreleasepool {
         struct stat status = {};

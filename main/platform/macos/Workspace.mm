@@ -22,7 +22,7 @@ using macos::pathOf;
 using macos::textOf;
 using macos::urlOf;
 
-/// Asks the kernel: what AppKit says about an application only changes while the main run loop runs, and a
+/// Asks the kernel: what AppKit says about an application changes only while the main run loop runs, and a
 /// command has none.
 bool isAlive(const RunningApplication& app) {
     if (const auto status = processStatus(app.pid))
@@ -30,8 +30,8 @@ bool isAlive(const RunningApplication& app) {
     return app.startTime == 0 && (::kill(app.pid, 0) == 0 || errno == EPERM);
 }
 
-/// Nothing when it has ended: made first and looked at then, it can't be a later process with the same
-/// number.
+/// Nothing if the application has ended. It checks after getting the object, so that can't be a later process
+/// with the same pid.
 NSRunningApplication* systemApplication(const RunningApplication& app) {
     NSRunningApplication* found = [NSRunningApplication runningApplicationWithProcessIdentifier:app.pid];
     return isAlive(app) ? found : nil;
@@ -56,8 +56,8 @@ NSDictionary<NSString*, NSString*>* dictionaryOf(const Environment& environment)
     return dictionary;
 }
 
-/// The session starts the application, not this process: of the caller's environment nothing reaches it, so
-/// that there is nothing to withhold.
+/// The session starts the application, not this process. It inherits nothing from the caller's environment,
+/// so there is nothing to withhold.
 NSWorkspaceOpenConfiguration* systemConfiguration(const OpenConfiguration& configuration) {
     NSWorkspaceOpenConfiguration* result = [NSWorkspaceOpenConfiguration configuration];
     result.activates = YES;
@@ -69,8 +69,8 @@ NSWorkspaceOpenConfiguration* systemConfiguration(const OpenConfiguration& confi
     return result;
 }
 
-/// Opens and waits. Returns what was opened, or why it failed. The answer comes on a queue of the system's
-/// own, so that waiting is safe on any thread, with or without a run loop.
+/// Opens the application and waits. Returns what was opened, or why that failed. The answer comes on one of
+/// the system's own queues, so waiting is safe on any thread, with or without a run loop.
 std::variant<RunningApplication, std::string> openAndWait(NSURL* application,
                                                           NSWorkspaceOpenConfiguration* configuration) {
     __block std::variant<RunningApplication, std::string> result;
@@ -113,7 +113,7 @@ public:
             if (pids.erase(process.pid) > 0)
                 result.push_back({process.pid, process.startTime});
         }
-        // Those that can't be read count all the same, unless they have ended since.
+        // Processes that can't be read count too, unless they have ended since.
         for (const std::int32_t pid : pids) {
             const RunningApplication app = {pid, 0};
             if (isAlive(app))
@@ -149,7 +149,8 @@ public:
     void activate(const RunningApplication& app) override {
         @autoreleasepool {
             NSRunningApplication* target = systemApplication(app);
-            // The application in front has to give way; NSApp is null in a command, which never is in front.
+            // The frontmost application has to give way. NSApp is null in a command, which is never
+            // frontmost.
             if (target != nil && NSApp != nil && NSThread.isMainThread)
                 [NSApp yieldActivationToApplication:target];
             [target activateWithOptions:0];
@@ -162,7 +163,7 @@ private:
             std::set<std::int32_t> pids;
             for (NSRunningApplication* app in
                  [NSRunningApplication runningApplicationsWithBundleIdentifier:textOf(m_bundleId)]) {
-                if (app.processIdentifier > 0) // -1: it has none any more
+                if (app.processIdentifier > 0) // -1: it no longer has one
                     pids.insert(app.processIdentifier);
             }
             return pids;
@@ -174,7 +175,7 @@ private:
 
 } // namespace
 
-/// The session gives a new copy its environment itself.
+/// The session itself gives a new copy its environment.
 std::unique_ptr<Workspace> makeWorkspace(ApplicationIdentity identity, Environment /*environment*/) {
     return std::make_unique<MacWorkspace>(identity);
 }

@@ -17,14 +17,14 @@
 
 namespace selvane {
 
-/// A number written with digits, a point and an exponent, as in JSON.
+/// A number with digits, a point and an exponent, as in JSON.
 struct Decimal {
     double value = 0;
-    std::size_t length = 0; ///< of its text; 0 when there is none
-    bool fits = false;      ///< false for one that is too large or too small for a double
+    std::size_t length = 0; ///< of its text; 0 if there is no number
+    bool fits = false;      ///< false if it is too large or too small for a double
 };
 
-/// The number at the start of `text`, read the same under any locale.
+/// The number at the start of `text`, read the same way in any locale.
 inline Decimal readDecimal(std::string_view text) {
     Decimal result;
 #ifdef __cpp_lib_to_chars
@@ -32,7 +32,7 @@ inline Decimal readDecimal(std::string_view text) {
     result.length = static_cast<std::size_t>(end - text.data());
     result.fits = error == std::errc();
 #else
-    // Not every C++ library has the above; C's function takes more than numbers of this kind.
+    // Not every C++ library has from_chars for doubles. C's function also accepts other kinds of numbers.
     static const locale_t plain = ::newlocale(LC_ALL_MASK, "C", nullptr);
     if (text.empty() || text.front() == '+')
         return result;

@@ -68,7 +68,7 @@ std::string describe(const std::exception& error) {
         paths += ", " + text::singleLine(failure->path2().native());
     if (!paths.empty())
         paths += ": ";
-    // Only a copy or move has two paths, and this is the one invalid pair.
+    // Only a copy or a move has two paths, and this is the only invalid pair.
     if (hasTwoPaths && failure->code() == std::errc::invalid_argument)
         return paths + "una cartella non può stare dentro se stessa";
     return paths + describe(failure->code());

@@ -9,8 +9,8 @@
 
 namespace selvane {
 
-/// The Italian sentence a user reads for an error: the message of the program's own errors, and path and
-/// reason of the system's.
+/// The Italian sentence that tells the user of an error: the message of one of Selvane's own errors, or the
+/// path and reason of a system error.
 std::string describe(const std::exception& error);
 /// The reason alone.
 std::string describe(const std::error_code& code);

@@ -16,7 +16,7 @@ namespace {
 
 using namespace std::string_view_literals;
 
-/// Unicode white space, which includes the line ends, in UTF-8.
+/// Unicode white space, including line ends, in UTF-8.
 constexpr std::array kWhiteSpace{
     "\t"sv,           "\n"sv,           "\v"sv,
     "\f"sv,           "\r"sv,           " "sv,
@@ -35,7 +35,7 @@ std::uint8_t byteAt(std::string_view bytes, std::size_t index) {
     return index < bytes.size() ? static_cast<std::uint8_t>(bytes[index]) : std::uint8_t{0};
 }
 
-/// Length of the control character or line separator at the start of `bytes`; 0 for anything else.
+/// Length of the control character or line separator at the start of `bytes`; 0 if there is none.
 std::size_t controlLength(std::string_view bytes) {
     const std::uint8_t first = byteAt(bytes, 0);
     const std::uint8_t second = byteAt(bytes, 1);
@@ -48,7 +48,7 @@ std::size_t controlLength(std::string_view bytes) {
 
 struct Unit {
     std::string_view name;
-    std::int64_t step; ///< bytes that the last shown decimal stands for
+    std::int64_t step; ///< bytes per unit of the last decimal shown
     int decimals;
 };
 
@@ -77,7 +77,7 @@ std::string decimal(std::int64_t value, int decimals) {
 std::vector<std::size_t> sortedOrder(const std::vector<std::string_view>& names) {
     std::vector<std::size_t> order(names.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
-    if (names.size() < 2) // nothing to sort is no reason to load the services
+    if (names.size() < 2) // don't load the services when there is nothing to sort
         return order;
     std::vector<std::string> keys(names.size());
     for (std::size_t i = 0; i < names.size(); ++i) {
@@ -164,7 +164,7 @@ std::string byteCount(std::int64_t bytes) {
         if (steps < stepsInNext)
             return decimal(steps, unit.decimals) + ' ' + std::string(unit.name);
     }
-    return {}; // not reached: the largest number of bytes is 9,22 EB
+    return {}; // not reached: the largest possible number of bytes is 9,22 EB
 }
 
 } // namespace selvane::text

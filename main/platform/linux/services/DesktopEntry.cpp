@@ -25,8 +25,8 @@ std::string variable(const char* name, const std::string& otherwise) {
     return value != nullptr && *value != '\0' ? value : otherwise;
 }
 
-/// The folders with desktop entries, the user's own first. Not those of GIO, which keeps the first
-/// environment that it saw and starts a thread that watches the folders for good.
+/// The folders with desktop entries, the user's own first. GIO's own search isn't used: it keeps the first
+/// environment it sees and starts a thread that watches the folders for good.
 std::vector<std::filesystem::path> entryFolders() {
     const std::string user =
         variable("XDG_DATA_HOME", (std::filesystem::path(g_get_home_dir()) / ".local/share").string());
@@ -50,7 +50,7 @@ bool isProgram(const char* name) {
     return path != nullptr;
 }
 
-/// The words of the entry's command, each ended by a NUL; empty when it can't be read.
+/// The words of the entry's command, each ended by a NUL; empty if it can't be read.
 std::string arguments(GKeyFile& entry) {
     const OwnedText line = valueOf(entry, G_KEY_FILE_DESKTOP_KEY_EXEC);
     char** split = nullptr;
@@ -74,7 +74,7 @@ Found deliver(const std::filesystem::path& file, EntryReceiver found, void* cont
     if (!std::filesystem::is_regular_file(file, error) ||
         g_key_file_load_from_file(entry.get(), file.c_str(), G_KEY_FILE_NONE, nullptr) == FALSE)
         return Found::nothing;
-    // A file that hides the packaged entry need not be a complete one.
+    // A file that hides the packaged entry need not be complete.
     if (g_key_file_get_boolean(entry.get(), G_KEY_FILE_DESKTOP_GROUP, G_KEY_FILE_DESKTOP_KEY_HIDDEN,
                                nullptr) != FALSE)
         return Found::hidden;

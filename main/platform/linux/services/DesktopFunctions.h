@@ -5,7 +5,7 @@
 
 #include "platform/linux/DesktopServices.h"
 
-/// The functions behind the desktop's table. None lets an exception out.
+/// The functions in the desktop's table. None lets an exception out.
 namespace selvane::module {
 
 int trash(const char* path, ByteSink message, void* context) noexcept;

@@ -9,9 +9,9 @@
 
 namespace selvane {
 
-/// A word of a desktop entry's command line without its field codes, and with "%%" read as "%". Nothing
-/// when the word consists of field codes alone. A "%" before any other character stays: entries hold
-/// addresses with such escapes.
+/// A word of a desktop entry's command line without its field codes, and with "%%" read as "%". Nothing if
+/// the word has only field codes. A "%" before any other character stays, as some entries contain URLs with
+/// such escapes.
 inline std::optional<std::string> withoutFieldCodes(std::string_view word) {
     constexpr std::string_view kCodes = "fFuUdDnNickvm";
     std::string result;

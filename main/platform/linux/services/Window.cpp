@@ -18,7 +18,7 @@ namespace {
 
 /// In units of four bytes; no desktop has that many windows.
 constexpr std::uint32_t kLongestProperty = 0x10000;
-/// In a request to activate a window: it comes from the user, not from the application itself.
+/// Marks a request to activate a window as coming from the user, not from the application.
 constexpr std::uint32_t kFromPager = 2;
 
 struct FreeReply {
@@ -37,7 +37,7 @@ struct Atoms {
     xcb_atom_t activeWindow;
 };
 
-/// Nothing when no window manager ever made them known.
+/// Nothing if no window manager has ever registered them.
 std::optional<Atoms> findAtoms(xcb_connection_t* connection) {
     constexpr std::array<const char*, 3> kNames{"_NET_CLIENT_LIST", "_NET_WM_PID", "_NET_ACTIVE_WINDOW"};
     std::array<xcb_intern_atom_cookie_t, kNames.size()> cookies{};
@@ -57,7 +57,7 @@ std::optional<Atoms> findAtoms(xcb_connection_t* connection) {
     return Atoms{atoms[0], atoms[1], atoms[2]};
 }
 
-/// The 32-bit values of a property; empty when it is not there or of another type.
+/// The 32-bit values of a property; empty if it is missing or has another format.
 std::vector<std::uint32_t> values(xcb_connection_t* connection, xcb_get_property_cookie_t cookie) {
     const OwnedReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(connection, cookie, nullptr));
     if (!reply || reply->format != 32)
@@ -80,7 +80,7 @@ std::optional<xcb_window_t> windowOf(xcb_connection_t* connection, const Atoms& 
     for (const xcb_window_t window : windows)
         cookies.push_back(xcb_get_property(connection, 0, window, atoms.pid, XCB_ATOM_CARDINAL, 0, 1));
     std::optional<xcb_window_t> found;
-    for (std::size_t i = 0; i < windows.size(); ++i) { // every reply is taken, so that none is left behind
+    for (std::size_t i = 0; i < windows.size(); ++i) { // take every reply, so that none is left behind
         const auto owner = values(connection, cookies[i]);
         if (!found && owner.size() == 1 && owner.front() == static_cast<std::uint32_t>(pid))
             found = windows[i];
@@ -99,8 +99,8 @@ void askToActivate(xcb_connection_t* connection, const Atoms& atoms, xcb_window_
     xcb_send_event(connection, 0, root,
                    XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
                    reinterpret_cast<const char*>(&event));
-    // An answer shows that the server has read the request. It drops what it hasn't read of a client that
-    // leaves.
+    // Wait for an answer, which shows that the server has read the request. When a client leaves, it drops
+    // the requests that it hasn't read.
     const OwnedReply<xcb_get_input_focus_reply_t> answer(
         xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
 }
