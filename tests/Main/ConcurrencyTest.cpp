@@ -33,7 +33,7 @@ std::vector<Outcome> together(const CommandHome& home, const std::vector<Words>&
     std::vector<Outcome> outcomes(commands.size());
     std::vector<std::thread> threads;
     for (std::size_t i = 0; i < commands.size(); ++i)
-        threads.emplace_back([&, i] { outcomes[i] = home.run(commands[i]); });
+        threads.emplace_back([&, i] { outcomes[i] = home.execute(commands[i]); });
     for (std::thread& thread : threads)
         thread.join();
     return outcomes;

@@ -13,14 +13,14 @@ namespace fs = std::filesystem;
 
 TEST(CommandProfiles, TheProgramSaysWhatItIs) {
     const CommandHome home;
-    const std::string help = home.output({"--help"});
-    EXPECT_EQ(home.output({"-h"}), help);
+    const Outcome help = home.execute({"--help"});
+    EXPECT_EQ(home.execute({"-h"}), help);
     for (const std::string usage :
          {"list", "set-mode <id> componente=modalità", "render-dmg-background <cartella>"})
-        EXPECT_NE(help.find("\n  " + usage + "\n"), std::string::npos) << usage;
-    EXPECT_TRUE(home.output({"--version"}).starts_with("selvane 1."));
+        EXPECT_NE(help.out.find("\n  " + usage + "\n"), std::string::npos) << usage;
+    EXPECT_TRUE(home.execute({"--version"}).out.starts_with("selvane 1."));
     EXPECT_TRUE(treeOf(home.path()).empty()) << "nothing was looked for or made";
-    EXPECT_EQ(home.output({"create", "--Nome"}), "nome\n");
+    EXPECT_EQ(home.execute({"create", "--Nome"}), (Outcome{0, "nome\n", ""}));
 }
 
 TEST(CommandProfiles, WrongCallsSayWhatIsWrongAndChangeNothing) {
@@ -108,7 +108,7 @@ TEST(CommandProfiles, ItemsAreSortedAsInItalianWhateverTheLanguageOfTheSystem) {
         expected += "skills\t" + name + "\town\n";
     for (const std::string language : {"C", "POSIX", "it_IT.UTF-8", "sv_SE.UTF-8"}) {
         home.environment["LANG"] = home.environment["LC_ALL"] = language;
-        EXPECT_EQ(home.output({"items", "default"}), expected) << language;
+        EXPECT_EQ(home.execute({"items", "default"}), (Outcome{0, expected, ""})) << language;
     }
 }
 

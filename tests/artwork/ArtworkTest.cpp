@@ -24,7 +24,7 @@ QImage read(const fs::path& file) {
 TEST(Artwork, renderIcon_TenSharpPictures_TheSameEachTime) {
     const CommandHome home;
     const fs::path set = home / "nuova/Sel vane.iconset";
-    ASSERT_EQ(home.run({"render-icon", set.string()}), (Outcome{0, "", ""}));
+    ASSERT_EQ(home.execute({"render-icon", set.string()}), (Outcome{0, "", ""}));
     const Tree first = treeOf(set);
     EXPECT_EQ(first.size(), 10U);
     for (const int points : {16, 32, 128, 256, 512}) {
@@ -46,14 +46,14 @@ TEST(Artwork, renderIcon_TenSharpPictures_TheSameEachTime) {
     EXPECT_GT(largest.pixelColor(512, 930).alpha(), largest.pixelColor(512, 94).alpha());
     EXPECT_EQ(largest.pixelColor(512, 110).alpha(), 255);
 
-    ASSERT_EQ(home.run({"render-icon", set.string()}), (Outcome{0, "", ""}));
+    ASSERT_EQ(home.execute({"render-icon", set.string()}), (Outcome{0, "", ""}));
     EXPECT_EQ(treeOf(set), first);
 }
 
 TEST(Artwork, renderDMGBackground_TwoResolutionsOfOneSize_TheSameEachTime) {
     const CommandHome home;
     const fs::path folder = home / "sfondo";
-    ASSERT_EQ(home.run({"render-dmg-background", folder.string()}), (Outcome{0, "", ""}));
+    ASSERT_EQ(home.execute({"render-dmg-background", folder.string()}), (Outcome{0, "", ""}));
     const Tree first = treeOf(folder);
     EXPECT_EQ(first.size(), 2U);
     for (const int scale : {1, 2}) {
@@ -76,7 +76,7 @@ TEST(Artwork, renderDMGBackground_TwoResolutionsOfOneSize_TheSameEachTime) {
         EXPECT_TRUE(has({330, 52, 215, 44}, Brand::accent));
         EXPECT_TRUE(has({200, 100, 280, 28}, Brand::fg2));
     }
-    ASSERT_EQ(home.run({"render-dmg-background", folder.string()}), (Outcome{0, "", ""}));
+    ASSERT_EQ(home.execute({"render-dmg-background", folder.string()}), (Outcome{0, "", ""}));
     EXPECT_EQ(treeOf(folder), first);
 }
 
@@ -84,7 +84,7 @@ TEST(Artwork, render_WhereNothingCanBeWritten_SaysSo) {
     const CommandHome home;
     writeFile(home / "file", "resta");
     for (const char* command : {"render-icon", "render-dmg-background"}) {
-        const Outcome outcome = home.run({command, (home / "file").string()});
+        const Outcome outcome = home.execute({command, (home / "file").string()});
         EXPECT_EQ(outcome.status, 1);
         EXPECT_EQ(outcome.out, "");
         EXPECT_TRUE(outcome.err.starts_with("Errore: ")) << outcome.err;

@@ -10,7 +10,7 @@ TEST_F(Windows, ASecondStartShowsThePickerOfTheFirst) {
     auto selvane = start();
     press({XK_Control_L, ','});
     selvane.waitForWindow("Impostazioni");
-    EXPECT_EQ(home.run({}), Outcome{});
+    EXPECT_EQ(home.execute({}), Outcome{});
     selvane.waitForWindow("Selvane");
 }
 
@@ -21,7 +21,7 @@ TEST_F(Windows, AStartCanAskForANewProfile) {
     selvane.waitUntilGone(ATSPI_ROLE_DIALOG, "Nuovo profilo");
     press({XK_Control_L, ','});
     selvane.waitForWindow("Impostazioni");
-    EXPECT_EQ(home.run({"--new-profile"}), Outcome{});
+    EXPECT_EQ(home.execute({"--new-profile"}), Outcome{});
     selvane.waitForWindow("Selvane");
     selvane.waitForFocus("Nome");
 }
@@ -30,9 +30,9 @@ TEST_F(Windows, ADisplayThatIsMissingIsNoCrash) {
     const Outcome expected =
         failure("Nessuno schermo disponibile: senza, Selvane si usa con i suoi comandi (selvane --help)");
     home.environment["DISPLAY"] = ":9999";
-    EXPECT_EQ(home.run({}), expected);
+    EXPECT_EQ(home.execute({}), expected);
     home.environment.erase("DISPLAY");
-    EXPECT_EQ(home.run({}), expected);
+    EXPECT_EQ(home.execute({}), expected);
 }
 
 } // namespace

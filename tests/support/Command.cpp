@@ -3,12 +3,17 @@
 
 #include "support/Command.h"
 
-#include <cstdio>
+#include <cstdlib>
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sstream>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "Main/CLI.h"
+#include "desktop/ClaudeApp.h"
+#include "platform/process/Workspace.h"
+#include "store/ProfileStore.h"
 #include "support/Home.h"
 #include "support/Pointers.h"
 
@@ -26,6 +31,39 @@ void redirect(int stream, const fs::path& file) {
     close(descriptor);
 }
 
+std::vector<std::string> entries(const Environment& environment) {
+    std::vector<std::string> result;
+    for (const auto& [name, value] : environment)
+        result.push_back(name + "=" + value);
+    return result;
+}
+
+/// The environment of this process as long as it lives: some libraries ask for it themselves.
+class ProcessEnvironment {
+public:
+    explicit ProcessEnvironment(const Environment& environment)
+        : m_entries(entries(environment)), m_pointers(pointers(m_entries)) {
+        environ = m_pointers.data();
+    }
+    ProcessEnvironment(const ProcessEnvironment&) = delete;
+    ProcessEnvironment& operator=(const ProcessEnvironment&) = delete;
+    ~ProcessEnvironment() { environ = m_before; }
+
+private:
+    char** const m_before = environ;
+    std::vector<std::string> m_entries;
+    std::vector<char*> m_pointers;
+};
+
+class NoArtwork final : public Artwork {
+public:
+    void renderIcon(const fs::path& iconset) override { refuse(iconset); }
+    void renderDMGBackground(const fs::path& folder) override { refuse(folder); }
+
+private:
+    static void refuse(const fs::path& folder) { ADD_FAILURE() << "draws " << folder; }
+};
+
 } // namespace
 
 std::ostream& operator<<(std::ostream& out, const Outcome& outcome) {
@@ -36,7 +74,10 @@ Outcome failure(const std::string& message) {
     return {1, "", "Errore: " + message + "\n"};
 }
 
-CommandHome::CommandHome() {
+CommandHome::CommandHome() : m_path(std::getenv("HOME")) {
+    // The same folder each time: GLib remembers where the first one was.
+    TemporaryFolder::remove(m_path);
+    makePrivate(m_path);
     environment["HOME"] = path().string();
     environment["PATH"] = (*this / "bin").string();
     environment["XDG_RUNTIME_DIR"] = m_session.path().string();
@@ -49,9 +90,7 @@ CommandHome::CommandHome() {
 Outcome CommandHome::runProgram(const std::vector<std::string>& words) const {
     const TemporaryFolder streams;
     std::vector<std::string> arguments = words;
-    std::vector<std::string> variables;
-    for (const auto& [name, value] : environment)
-        variables.push_back(name + "=" + value);
+    std::vector<std::string> variables = entries(environment);
     const pid_t child = fork();
     if (child == 0) {
         redirect(STDOUT_FILENO, streams / "out");
@@ -67,6 +106,18 @@ Outcome CommandHome::runProgram(const std::vector<std::string>& words) const {
 }
 
 Outcome CommandHome::run(const std::vector<std::string>& arguments) const {
+    const ProcessEnvironment ours(environment);
+    const auto workspace = makeWorkspace(ClaudeApp::identity(), environment);
+    const ClaudeApp claude(*workspace, *clock, environment);
+    ProfileStore store(environment, claude);
+    NoArtwork artwork;
+    std::ostringstream out;
+    std::ostringstream err;
+    const int status = CLI::run({arguments, store, claude, artwork, out}, err);
+    return {status, out.str(), err.str()};
+}
+
+Outcome CommandHome::execute(const std::vector<std::string>& arguments) const {
     std::vector<std::string> words = {SELVANE_EXECUTABLE};
     words.insert(words.end(), arguments.begin(), arguments.end());
     return runProgram(words);
@@ -74,7 +125,7 @@ Outcome CommandHome::run(const std::vector<std::string>& arguments) const {
 
 Outcome CommandHome::runUnprivileged(const std::vector<std::string>& arguments) const {
     if (geteuid() != 0)
-        return run(arguments);
+        return execute(arguments);
     // The build tree can lie where another user has no way in.
     const TemporaryFolder programs;
     fs::permissions(programs.path(), fs::perms(0755));

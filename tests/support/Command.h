@@ -5,15 +5,17 @@
 
 #include <filesystem>
 #include <iosfwd>
+#include <memory>
 #include <string>
 #include <vector>
 
+#include "platform/process/Clock.h"
 #include "platform/process/Process.h"
 #include "support/TemporaryFolder.h"
 
 namespace selvane::test {
 
-/// What a run of the real executable gave.
+/// What a run of a command gave.
 struct Outcome {
     int status = 0; ///< 128 and the signal's number when a signal ended it
     std::string out;
@@ -26,31 +28,37 @@ struct Outcome {
 /// What a run gives that fails with this message.
 Outcome failure(const std::string& message);
 
-/// A throw-away home in which the real executable runs.
+/// The test's home folder, empty at first, in which commands run: here in the test, or as processes of their
+/// own where that is what a test is about.
 class CommandHome {
 public:
     CommandHome();
 
-    std::filesystem::path operator/(const std::filesystem::path& path) const { return m_folder / path; }
-    const std::filesystem::path& path() const { return m_folder.path(); }
+    std::filesystem::path operator/(const std::filesystem::path& path) const { return m_path / path; }
+    const std::filesystem::path& path() const { return m_path; }
 
     /// The environment of later runs. At first no program is on its PATH, and no desktop entry of
     /// the system is seen, so that a Claude Desktop installed on this machine isn't either.
     Environment environment;
+    /// What later runs in the test wait with.
+    std::shared_ptr<Clock> clock = std::make_shared<SystemClock>();
 
-    /// Runs `selvane` with these arguments; the test fails when it takes over a minute.
+    /// Runs a command in the test itself. None that draws.
     Outcome run(const std::vector<std::string>& arguments) const;
+    /// The output of a run that must succeed.
+    std::string output(const std::vector<std::string>& arguments) const;
+
+    /// Runs the real executable with these arguments; it is ended when it takes over a minute.
+    Outcome execute(const std::vector<std::string>& arguments) const;
     /// The same as a user without privileges, to whom the whole home is handed over first.
     Outcome runUnprivileged(const std::vector<std::string>& arguments) const;
     /// Runs a script of /bin/sh, in which "$selvane" is the executable.
     Outcome shell(const std::string& script) const;
-    /// The output of a run that must succeed.
-    std::string output(const std::vector<std::string>& arguments) const;
 
 private:
     Outcome runProgram(const std::vector<std::string>& words) const;
 
-    TemporaryFolder m_folder;
+    std::filesystem::path m_path;
     TemporaryFolder m_session; ///< its runtime folder
 };
 

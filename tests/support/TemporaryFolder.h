@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <filesystem>
+#include <stdexcept>
 #include <string>
 #include <system_error>
 
@@ -16,23 +17,30 @@ class TemporaryFolder {
 public:
     TemporaryFolder() {
         namespace fs = std::filesystem;
-        std::string name = fs::canonical(fs::temp_directory_path()) / "selvane-test-XXXXXX";
+        std::string name = fs::canonical(fs::temp_directory_path()) / (kPrefix + "XXXXXX");
         if (::mkdtemp(name.data()) == nullptr)
             throw std::system_error(errno, std::generic_category(), name);
         m_path = name;
     }
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-    ~TemporaryFolder() {
+    ~TemporaryFolder() { remove(m_path); }
+
+    /// Removes one whatever its permissions, and those of the folders inside, are. Throws for any other folder.
+    static void remove(const std::filesystem::path& folder) {
+        if (!folder.filename().string().starts_with(kPrefix))
+            throw std::logic_error("no temporary folder: " + folder.string());
         std::error_code ignored; // what can't be removed is no fault of what was tested
-        makeWritable(m_path);
-        std::filesystem::remove_all(m_path, ignored);
+        makeWritable(folder);
+        std::filesystem::remove_all(folder, ignored);
     }
 
     const std::filesystem::path& path() const { return m_path; }
     std::filesystem::path operator/(const std::filesystem::path& path) const { return m_path / path; }
 
 private:
+    static inline const std::string kPrefix = "selvane-test-";
+
     /// Each folder before it is listed: only then can the ones inside be reached.
     static void makeWritable(const std::filesystem::path& folder) {
         namespace fs = std::filesystem;
