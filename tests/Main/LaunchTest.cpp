@@ -194,6 +194,7 @@ TEST_F(CommandLaunch, ACopyThatStaysOpenIsLeftAlone) {
     home.environment["STAND_IN_OPTIONS"] = "--stand-in-refuse-quit";
     const Json builtIn = launch("default", normalData);
     const auto before = pids();
+    home.clock = std::make_shared<FakeClock>();
     EXPECT_EQ(home.run({"launch", "ospite"}), failure("Claude non si è chiuso"));
     EXPECT_EQ(pids(), before);
     EXPECT_EQ(readFile(home / ".claude-profiles/.active"), "default");
