@@ -98,8 +98,7 @@ bool FakeWorkspace::isTerminated(const RunningApplication& app) {
 }
 
 void FakeClock::sleep(std::chrono::milliseconds duration) {
-    time += duration;
-    ++sleeps;
+    time += duration * speed;
 }
 
 NewProfile request(const std::string& name, const std::optional<Profile>& from,
@@ -112,7 +111,8 @@ NewProfile request(const std::string& name, const std::optional<Profile>& from,
 }
 
 Home::Home(Processes processes, const std::string& name)
-    : path(folder / name), claude(workspace, clock, homeEnvironment(path, processes)),
+    : path(folder / name), clock(processes == Processes::seen ? FakeClock::kFast : 1),
+      claude(workspace, clock, homeEnvironment(path, processes)),
       store(homeEnvironment(path, processes), claude) {
     fs::create_directories(path);
     fs::remove_all(trashFolder());

@@ -49,10 +49,15 @@ struct FakeWorkspace final : Workspace {
     void activate(const RunningApplication& app) override { activated.push_back(app.pid); }
 };
 
-/// Time that passes only by sleeping.
+/// Time that passes only by sleeping, and then `speed` times as fast.
 struct FakeClock final : Clock {
+    /// For what looks at the processes of the machine, which takes long, whenever it wakes.
+    static constexpr int kFast = 20;
+
+    explicit FakeClock(int times = 1) : speed(times) {}
+
+    const int speed;
     std::chrono::steady_clock::time_point time;
-    int sleeps = 0;
 
     std::chrono::steady_clock::time_point now() override { return time; }
     void sleep(std::chrono::milliseconds duration) override;
