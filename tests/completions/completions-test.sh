@@ -24,26 +24,20 @@ selvane create 'Lavoro' >/dev/null
 selvane create 'Cliente "X"' >/dev/null
 cd "$HOME"
 
-# One a line, sorted; without what stands before "=", which some shells repeat and some don't.
-bash_offers() { bash --noprofile --norc "$here/offers.bash" "$1"; }
-zsh_offers() { zsh --no-rcs "$here/offers.zsh" "$1"; }
+# Each asks one shell about all of these lines. It prints one offer a line, and END after those for one line.
+bash_offers() { bash --noprofile --norc "$here/offers.bash" "$@"; }
+zsh_offers() { zsh --no-rcs "$here/offers.zsh" "$@"; }
 fish_offers() {
     # shellcheck disable=SC2016 # fish reads its variables
-    line=$1 fish -c 'test -z $completions; or source $completions/selvane.fish; complete -C $line' | cut -f 1
-}
-offers() {
-    "$1_offers" "$2" | sed -E 's/^[^=]*=(.)/\1/; s/[=/]$//' | sort -u | paste -sd ' '
+    fish -c 'test -z $completions; or source $completions/selvane.fish
+        for line in $argv; complete -C $line; echo END; end' "$@" | cut -f 1
 }
 
-failures=0
+lines=()
+wanted=()
 expect() {
-    local line=$1 wanted=$2 shell found
-    for shell in bash zsh fish; do
-        found=$(offers "$shell" "$line")
-        [[ $found != "$wanted" ]] || continue
-        printf '%s after "%s": offers "%s", not "%s"\n' "$shell" "$line" "$found" "$wanted" >&2
-        failures=$((failures + 1))
-    done
+    lines+=("$1")
+    wanted+=("$2")
 }
 
 expect 'selvane re' 'render-dmg-background render-icon restore-desktop'
@@ -63,4 +57,28 @@ expect 'selvane backup v' 'vecchio.zip'
 expect 'selvane backup x.zip --solo-' '--solo-principale --solo-profili'
 expect 'selvane render-icon c' 'cartella'
 
+failures=0
+for shell in bash zsh fish; do
+    answers=0
+    offers=()
+    while IFS= read -r offer; do
+        if [[ $offer != END ]]; then
+            offers+=("$offer")
+            continue
+        fi
+        found=$(printf '%s\n' "${offers[@]}" | sort -u | paste -sd ' ')
+        if [[ $found != "${wanted[answers]}" ]]; then
+            printf '%s after "%s": offers "%s", not "%s"\n' \
+                "$shell" "${lines[answers]}" "$found" "${wanted[answers]}" >&2
+            failures=$((failures + 1))
+        fi
+        answers=$((answers + 1))
+        offers=()
+        # Without what stands before "=", which some shells repeat and some don't.
+    done < <("${shell}_offers" "${lines[@]}" | sed -E 's/^[^=]*=(.)/\1/; s/[=/]$//')
+    if [[ $answers != "${#lines[@]}" ]]; then
+        printf '%s answers %d of %d lines\n' "$shell" "$answers" "${#lines[@]}" >&2
+        failures=$((failures + 1))
+    fi
+done
 [[ $failures == 0 ]]

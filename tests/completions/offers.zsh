@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Selvane developers
 # SPDX-License-Identifier: MIT
 #
-# offers.zsh LINE: prints what zsh lists after LINE, in a terminal of its own.
+# offers.zsh LINE...: prints what zsh lists after each LINE, then END, in a terminal of its own.
 
 zmodload zsh/zpty
 
@@ -18,10 +18,11 @@ zstyle ':completion:*' verbose no
 finish() { zle -I; print '<''END>'; BUFFER= }
 zle -N finish; bindkey '^I' list-choices; bindkey '^T' finish; print READ''Y"
 read-until READY >/dev/null
-zpty -w -n terminal "$1"$'\t\x14'
-shown=$(read-until '<END>')
+for line in "$@"; do
+  zpty -w -n terminal "$line"$'\t\x14'
+  shown=$(read-until '<END>')
+  shown=${shown%<END>*}
+  shown=${shown//$'\r'/$'\n'}
+  print -rl -- ${=${(f)shown}:#*selvane*} END
+done
 zpty -d terminal
-
-shown=${shown%<END>*}
-shown=${shown//$'\r'/$'\n'}
-print -rl -- ${=${(f)shown}:#*selvane*}
