@@ -13,36 +13,18 @@
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
-#include <sys/wait.h>
 #include <sys/xattr.h>
 #include <unistd.h>
 
 #include "platform/text/ErrorText.h"
-#include "support/TemporaryFolder.h"
+#include "support/Files.h"
 
 namespace selvane {
 namespace {
 
 namespace fs = std::filesystem;
 using Names = std::vector<std::string>;
-using test::TemporaryFolder;
-
-const FileManager kFiles;
-
-struct stat statusOf(const fs::path& path) {
-    struct stat status = {};
-    EXPECT_EQ(::lstat(path.c_str(), &status), 0) << path;
-    return status;
-}
-
-mode_t modeOf(const fs::path& path) {
-    return statusOf(path).st_mode & 07777;
-}
-
-void makeFile(const fs::path& file, const std::string& text, mode_t mode) {
-    kFiles.write(file, text);
-    kFiles.setMode(file, mode);
-}
+using namespace test;
 
 void setTime(const fs::path& path, time_t seconds, long nanoseconds) {
     const std::array<timespec, 2> times = {timespec{seconds, 0}, timespec{seconds, nanoseconds}};
@@ -72,37 +54,6 @@ std::map<std::string, std::string> picture(const fs::path& top) {
     for (const auto& entry : fs::recursive_directory_iterator(top))
         add(entry);
     return result;
-}
-
-/// The code that `operation` fails with.
-template <typename Operation>
-int failure(Operation operation) {
-    try {
-        operation();
-    } catch (const fs::filesystem_error& error) {
-        return error.code().value();
-    }
-    return 0;
-}
-
-/// Whether `check` holds for a user without privileges.
-template <typename Check>
-bool holdsUnprivileged(const TemporaryFolder& folder, Check check) {
-    constexpr uid_t kNobody = 65534;
-    if (::geteuid() != 0)
-        return check();
-    for (const auto& entry : fs::recursive_directory_iterator(folder.path()))
-        EXPECT_EQ(::lchown(entry.path().c_str(), kNobody, kNobody), 0);
-    EXPECT_EQ(::lchown(folder.path().c_str(), kNobody, kNobody), 0);
-    const pid_t child = ::fork();
-    if (child == 0) {
-        // An exception must end the child, which would go on with the other tests.
-        const auto holds = [&]() noexcept { return check(); };
-        ::_exit(::setgid(kNobody) == 0 && ::setuid(kNobody) == 0 && holds() ? 0 : 1);
-    }
-    int status = -1;
-    EXPECT_EQ(::waitpid(child, &status, 0), child);
-    return status == 0;
 }
 
 /// A folder with everything a folder can hold.
@@ -299,42 +250,6 @@ TEST(FileManager, RemoveTreeOpensFoldersButFollowsNoLink) {
     EXPECT_EQ(kFiles.entries(folder / "other"), Names{"kept"});
 }
 
-TEST(FileManager, WriteKeepsTheModeAndReplacesALink) {
-    const TemporaryFolder folder;
-    const mode_t mask = ::umask(027);
-    makeFile(folder / "open", "old", 0664);
-    kFiles.write(folder / "open", "new");
-    EXPECT_EQ(modeOf(folder / "open"), 0664U);
-    kFiles.write(folder / "open", "newer", Privacy::ownerOnly);
-    EXPECT_EQ(modeOf(folder / "open"), 0600U);
-    kFiles.createLink("open", folder / "link");
-    kFiles.write(folder / "link", "own");
-    EXPECT_EQ(modeOf(folder / "link"), 0640U);
-    EXPECT_TRUE(kFiles.isRegularFile(folder / "link"));
-    EXPECT_EQ(kFiles.read(folder / "open"), "newer");
-    const std::string longest(255, 'n');
-    kFiles.write(folder / longest, std::string("a\0b", 3), Privacy::ownerOnly);
-    EXPECT_EQ(modeOf(folder / longest), 0600U);
-    EXPECT_EQ(kFiles.read(folder / longest), std::string("a\0b", 3));
-    ::umask(mask);
-    EXPECT_EQ(kFiles.entries(folder.path()).size(), 3U);
-}
-
-TEST(FileManager, WriteThatFailsLeavesEverythingAsItWas) {
-    const TemporaryFolder folder;
-    kFiles.createFolder(folder / "folder");
-    makeFile(folder / "folder/file", "old", 0600);
-    kFiles.setMode(folder / "folder", 0555);
-    EXPECT_TRUE(holdsUnprivileged(folder, [&] {
-        return failure([&] { kFiles.write(folder / "folder/file", "new"); }) == EACCES &&
-               failure([&] { kFiles.write(folder / "folder", "new"); }) == EISDIR &&
-               failure([&] { kFiles.write(folder / "folder/file/x", "new"); }) == ENOTDIR &&
-               failure([&] { kFiles.write(folder / "missing/x", "new"); }) == ENOENT;
-    }));
-    EXPECT_EQ(kFiles.entries(folder.path()), Names{"folder"});
-    EXPECT_EQ(kFiles.read(folder / "folder/file"), "old");
-}
-
 TEST(FileManager, ReadsRegularFilesOnly) {
     const TemporaryFolder folder;
     makeFile(folder / "file", std::string(4096, 'x'), 0600);
@@ -345,59 +260,6 @@ TEST(FileManager, ReadsRegularFilesOnly) {
     EXPECT_EQ(failure([&] { kFiles.read(folder.path()); }), EISDIR);
     EXPECT_EQ(kFiles.readIfPossible(folder / "missing"), std::nullopt);
     EXPECT_EQ(kFiles.entriesIfReadable(folder / "fifo"), Names());
-}
-
-TEST(FileManager, ReplaceLinkPutsAFolderInItsPlace) {
-    const TemporaryFolder folder;
-    kFiles.createFolder(folder / "target");
-    kFiles.createLink("target", folder / "link");
-    EXPECT_THROW(kFiles.replaceLink(folder / "link",
-                                    [](const fs::path& temporary) {
-                                        kFiles.createFolders(temporary / "half");
-                                        throw std::runtime_error("stopped");
-                                    }),
-                 std::runtime_error);
-    EXPECT_EQ(kFiles.linkTarget(folder / "link"), "target");
-    const auto make = [](const fs::path& temporary) { kFiles.createFolders(temporary / "whole"); };
-    kFiles.replaceLink(folder / "link", make);
-    EXPECT_TRUE(kFiles.isFolder(folder / "link/whole"));
-    EXPECT_EQ(failure([&] { kFiles.replaceLink(folder / "link", make); }), EEXIST);
-    EXPECT_EQ(failure([&] { kFiles.replaceLink(folder / "missing", make); }), ENOENT);
-    EXPECT_EQ(kFiles.entries(folder.path()).size(), 2U);
-    EXPECT_EQ(kFiles.entries(folder / "target"), Names());
-}
-
-TEST(FileManager, ReplaceLinkGivesBackWhatIsNoLinkAnyMore) {
-    const TemporaryFolder folder;
-    kFiles.createLink("target", folder / "link");
-    const auto meanwhile = [&](const fs::path& temporary) {
-        kFiles.createFolder(temporary);
-        kFiles.removeFile(folder / "link");
-        kFiles.write(folder / "link", "the user's");
-    };
-    EXPECT_EQ(failure([&] { kFiles.replaceLink(folder / "link", meanwhile); }), EEXIST);
-    EXPECT_EQ(kFiles.read(folder / "link"), "the user's");
-    EXPECT_EQ(kFiles.entries(folder.path()), Names{"link"});
-}
-
-TEST(FileManager, ReplaceTrashingNeedsACompleteSuccessor) {
-    const TemporaryFolder folder;
-    makeFile(folder / "file", "old", 0600);
-    const auto incomplete = [](const fs::path& temporary) {
-        kFiles.write(temporary, "half");
-        kFiles.createFolder(temporary / "inside");
-    };
-    try {
-        kFiles.replaceTrashing(folder / "file", incomplete);
-        FAIL() << "no error";
-    } catch (const fs::filesystem_error& error) {
-        EXPECT_EQ(error.path1(), folder / "file/inside");
-    }
-    EXPECT_EQ(kFiles.read(folder / "file"), "old");
-    kFiles.replaceTrashing(folder / "other",
-                           [](const fs::path& temporary) { kFiles.write(temporary, "new"); });
-    EXPECT_EQ(kFiles.read(folder / "other"), "new");
-    EXPECT_EQ(kFiles.entries(folder.path()).size(), 2U);
 }
 
 /// Tells which of the names in some folders were taken and given up, in that order.
@@ -447,19 +309,6 @@ TEST(FileManager, MovesAcrossFileSystems) {
     EXPECT_EQ(kFiles.entries(elsewhere), Names{});
     EXPECT_EQ(kFiles.entries(folder.path()), Names{"moved"});
     kFiles.removeTree(elsewhere);
-}
-
-TEST(ErrorText, NamesPathsAndReasonOnOneLine) {
-    const auto text = [](int code, const fs::path& first, const fs::path& second) {
-        return describe(
-            fs::filesystem_error("x", first, second, std::error_code(code, std::system_category())));
-    };
-    EXPECT_EQ(text(ENOSPC, "/a\nb", ""), "/a\xEF\xBF\xBD"
-                                         "b: spazio sul disco esaurito");
-    EXPECT_EQ(text(EXDEV, "/a", "/b"), "/a, /b: si trova su un altro disco");
-    EXPECT_EQ(text(EINVAL, "/a", "/a/b"), "/a, /a/b: una cartella non può stare dentro se stessa");
-    EXPECT_EQ(text(EMLINK, "/a", ""), "/a: " + std::system_category().message(EMLINK));
-    EXPECT_EQ(describe(std::runtime_error("testo")), "testo");
 }
 
 } // namespace

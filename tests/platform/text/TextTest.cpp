@@ -5,6 +5,7 @@
 
 #include <cstdlib>
 #include <ctime>
+#include <filesystem>
 #include <limits>
 #include <utility>
 
@@ -14,6 +15,7 @@
 #include "platform/linux/services/FieldCodes.h"
 #include "platform/services/Received.h"
 #include "platform/services/Services.h"
+#include "platform/text/ErrorText.h"
 
 namespace selvane {
 namespace {
@@ -144,6 +146,19 @@ TEST(Services, ACallbackThatThrows_WaitsUntilTheCallIsBack) {
     services().fold("A", 1, appendBytes, &whole);
     services().fold("B", 1, appendBytes, &whole);
     EXPECT_EQ(whole.take(), "ab");
+}
+
+TEST(ErrorText, NamesPathsAndReasonOnOneLine) {
+    const auto text = [](int code, const std::filesystem::path& first, const std::filesystem::path& second) {
+        return describe(std::filesystem::filesystem_error("x", first, second,
+                                                          std::error_code(code, std::system_category())));
+    };
+    EXPECT_EQ(text(ENOSPC, "/a\nb", ""), "/a\xEF\xBF\xBD"
+                                         "b: spazio sul disco esaurito");
+    EXPECT_EQ(text(EXDEV, "/a", "/b"), "/a, /b: si trova su un altro disco");
+    EXPECT_EQ(text(EINVAL, "/a", "/a/b"), "/a, /a/b: una cartella non può stare dentro se stessa");
+    EXPECT_EQ(text(EMLINK, "/a", ""), "/a: " + std::system_category().message(EMLINK));
+    EXPECT_EQ(describe(std::runtime_error("testo")), "testo");
 }
 
 } // namespace
