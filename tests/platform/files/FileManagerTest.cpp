@@ -16,8 +16,10 @@
 #include <sys/xattr.h>
 #include <unistd.h>
 
+#include "platform/files/FolderLock.h"
 #include "platform/text/ErrorText.h"
 #include "support/Files.h"
+#include "support/WaitWatch.h"
 
 namespace selvane {
 namespace {
@@ -309,6 +311,20 @@ TEST(FileManager, MovesAcrossFileSystems) {
     EXPECT_EQ(kFiles.entries(elsewhere), Names{});
     EXPECT_EQ(kFiles.entries(folder.path()), Names{"moved"});
     kFiles.removeTree(elsewhere);
+}
+
+TEST(FolderLock, IsThatOfAFolderWhichAppearsWhileItWaits) {
+    const TemporaryFolder folder;
+    kFiles.createFolder(folder / "locked");
+    const WaitWatch watch(WaitWatch::For::lock, [&](const fs::path& waitedFor) {
+        if (kFiles.exists(folder / "away"))
+            return;
+        fs::rename(waitedFor, folder / "away");
+        kFiles.createFolder(waitedFor);
+    });
+    const FolderLock lock(folder / "locked");
+    EXPECT_TRUE(isLocked(folder / "locked"));
+    EXPECT_FALSE(isLocked(folder / "away"));
 }
 
 } // namespace
