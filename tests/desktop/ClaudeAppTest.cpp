@@ -7,6 +7,7 @@
 
 #include "support/Home.h"
 #include "support/RunningProcess.h"
+#include "support/WaitWatch.h"
 
 namespace selvane {
 namespace {
@@ -101,6 +102,7 @@ TEST(ClaudeApp, launch_EachKindOfProfile_PassesWhatItNeeds) {
                           {".config/Claude/claude-code-sessions/a/b", "/"},
                           {".claude-profiles/lavoro/.pending-sessions/local_1.json", "{}"}});
     home.workspace.whenOpening = [&] { // what is prepared is ready by then
+        EXPECT_TRUE(isLocked(home.store.desktopStore())) << "the next launch must find this copy";
         EXPECT_TRUE(fs::is_symlink(own.configDir / "skills/uno"));
         EXPECT_EQ(readFile(data / "claude-code-sessions/a/b/local_1.json"), "{}")
             << "in its account's own folder again";
@@ -134,7 +136,12 @@ TEST(ClaudeApp, launch_NotPossible_IsNotRecorded) {
     EXPECT_EQ(refusal(), "Claude.app non trovata. Installala in /Applications.");
     home.workspace = {};
     {
-        const RunningProcess copy({"--user-data-dir=" + home.store.desktopDataDir(profile).string()}, {});
+        std::optional<RunningProcess> copy; // is opened by another launch, which has the lock until then
+        const WaitWatch watch(WaitWatch::For::lock, [&](const fs::path& folder) {
+            if (folder == home.store.desktopStore())
+                copy.emplace(Texts{"--user-data-dir=" + home.store.desktopDataDir(profile).string()},
+                             Environment{});
+        });
         EXPECT_EQ(refusal(), "L'account di «Lavoro» è già aperto in Claude: chiudilo prima.");
     }
     EXPECT_EQ(treeOf(home.path), before) << "refused before anything is written";
