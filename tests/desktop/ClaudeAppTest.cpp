@@ -117,7 +117,7 @@ TEST(ClaudeApp, launch_EachKindOfProfile_PassesWhatItNeeds) {
                                            ? Environment{}
                                            : (Environment{{"CLAUDE_CONFIG_DIR", profile.configDir}}))
             << profile.id;
-        for (const char* withheld : {"CLAUDE_CONFIG_DIR", "CLAUDE_LAUNCHER_ROOT"})
+        for (const char* withheld : {"CLAUDE_CONFIG_DIR", "CLAUDE_LAUNCHER_ROOT", "ELECTRON_RUN_AS_NODE"})
             EXPECT_TRUE(opening.withholds(withheld)) << withheld;
         EXPECT_FALSE(opening.withholds("XDG_CURRENT_DESKTOP"));
         EXPECT_EQ(home.store.activeID(), profile.id);
