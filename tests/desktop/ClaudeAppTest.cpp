@@ -147,6 +147,7 @@ TEST(ClaudeApp, launch_NotPossible_IsNotRecorded) {
     EXPECT_EQ(treeOf(home.path), before) << "refused before anything is written";
     home.workspace.refusesToOpen = true;
     EXPECT_EQ(refusal(), "refused");
+    EXPECT_EQ(fs::status(home.store.desktopDataDir(profile)).permissions(), fs::perms::owner_all);
     EXPECT_FALSE(home.store.activeID() || home.store.profile("lavoro")->meta.lastLaunched);
 }
 

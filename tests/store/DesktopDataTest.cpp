@@ -190,8 +190,8 @@ TEST(DesktopData, create_WithAnAccount_SeedsItsDesktopDataOnce) {
     home.store.seedDesktopData(profile, home.builtIn());
     EXPECT_EQ(treeOf(folder),
               (Tree{{"extensions-blocklist.json", "[]"}, {"claude-code", "/"}, {"claude-code/bin", "b"}}));
-    EXPECT_EQ(fs::status(home.store.desktopStore()).permissions(), fs::perms::owner_all)
-        << "it will hold logins";
+    for (const fs::path& secret : {home.store.desktopStore(), folder})
+        EXPECT_EQ(fs::status(secret).permissions(), fs::perms::owner_all) << "it will hold logins";
     EXPECT_EQ(profile.meta.account, "default");
 }
 

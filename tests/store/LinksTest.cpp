@@ -200,13 +200,20 @@ TEST_F(Links, setMode_ClaudeMd_KeepsTheOwnRules) {
     const auto tree = [](const std::string& content) {
         return content.empty() ? Tree{} : Tree{{"CLAUDE.md", content}};
     };
+    const fs::path rules = profile.url(Component::claudeMd);
     for (const auto& [from, before, to, after] : cases) {
         fs::remove_all(profile.configDir);
         fs::create_directory(profile.configDir);
         writeTree(profile.configDir, tree(before));
+        const bool isFile = fs::is_regular_file(fs::symlink_status(rules));
+        if (isFile)
+            fs::permissions(rules, fs::perms(0640));
         profile.meta.modes["CLAUDE.md"] = from;
         setMode(to, Component::claudeMd);
         fs::remove(profile.configDir / ".launcher.json");
+        if (isFile && fs::is_regular_file(fs::symlink_status(rules))) {
+            EXPECT_EQ(fs::status(rules).permissions(), fs::perms(0640)) << rawValue(to);
+        }
         EXPECT_EQ(treeOf(profile.configDir), tree(after))
             << rawValue(from) << " to " << rawValue(to) << ": " << before;
         EXPECT_EQ(takeTrash(), tree(before)) << rawValue(from) << " to " << rawValue(to) << ": " << before;

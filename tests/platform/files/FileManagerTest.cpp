@@ -156,6 +156,19 @@ TEST(FileManager, CopyForTheOwnerOnlyNarrowsTheMode) {
     EXPECT_EQ(modeOf(folder / "private"), 0700U);
 }
 
+TEST(FileManager, CopyOfAForeignFileDoesNotRunAsItsOwner) {
+    const TemporaryFolder folder;
+    makeFile(folder / "foreign", "x", 0700);
+    makeFile(folder / "own", "x", 06755);
+    if (::chown((folder / "foreign").c_str(), 65534, 65534) != 0)
+        GTEST_SKIP() << "only root can give a file away";
+    kFiles.setMode(folder / "foreign", 06755);
+    kFiles.copy(folder / "foreign", folder / "copy of foreign");
+    kFiles.copy(folder / "own", folder / "copy of own");
+    EXPECT_EQ(modeOf(folder / "copy of foreign"), 0755U);
+    EXPECT_EQ(modeOf(folder / "copy of own"), 06755U);
+}
+
 TEST(FileManager, CopyAndMoveRefuseWithoutATrace) {
     const TemporaryFolder folder;
     kFiles.createFolders(folder / "tree/inner");
