@@ -34,6 +34,10 @@ TEST(Store, locations_FromTheEnvironment_AreSpelledInOneWay) {
     const ProfileStore broken({{"HOME", home.path}, {"CLAUDE_LAUNCHER_ROOT", home / "file"}}, home.claude);
     EXPECT_EQ(broken.loadAll().size(), 1U);
     EXPECT_FALSE(broken.testMode());
+    for (const auto& [configured, folder] : Tree{{"relativo", home / ".config"}, {"/conf", "/conf"}}) {
+        const ProfileStore plain({{"HOME", home.path}, {"XDG_CONFIG_HOME", configured}}, home.claude);
+        EXPECT_EQ(plain.liveDesktopDir().string(), folder + "/Claude");
+    }
 }
 
 TEST(Store, loadAll_MixedRoot_ListsValidProfilesByName) {
