@@ -323,6 +323,14 @@ TEST(FileManager, MovesAcrossFileSystems) {
     EXPECT_EQ(picture(folder / "moved"), before);
     EXPECT_EQ(kFiles.entries(elsewhere), Names{});
     EXPECT_EQ(kFiles.entries(folder.path()), Names{"moved"});
+
+    makeFile(origin, "can't go", 0644);
+    kFiles.setMode(elsewhere, 0555);
+    EXPECT_TRUE(holdsUnprivileged(folder, [&] {
+        return failure([&] { kFiles.move(origin, folder / "copied"); }) == EACCES &&
+               kFiles.read(origin) == "can't go";
+    }));
+    EXPECT_EQ(kFiles.entries(folder.path()), Names{"moved"}) << "the copy is taken back";
     kFiles.removeTree(elsewhere);
 }
 
