@@ -15,11 +15,13 @@ namespace fs = std::filesystem;
 constexpr std::array<std::string_view, 6> kBackupExcludedDesktopPaths = {
     "vm_bundles/*", "claude-code/*", "claude-code-vm/*", "Crashpad/*", "*Cache/*", "*CacheStorage/*"};
 
-/// zip treats these characters in a pattern as wildcards.
+/// zip has wildcards in patterns, and takes one that begins with "-" for an option and with "@" for a file of
+/// patterns.
 std::string patternFor(const std::string& name) {
     std::string pattern;
     for (const char c : name) {
-        if (std::string_view("*?[]\\").find(c) != std::string_view::npos)
+        const std::string_view special = pattern.empty() ? "*?[]\\-@" : "*?[]\\";
+        if (special.find(c) != std::string_view::npos)
             pattern += '\\';
         pattern += c;
     }
@@ -28,7 +30,7 @@ std::string patternFor(const std::string& name) {
 
 /// A leading "./" keeps zip from reading the path as an option; zip drops it from the stored name.
 std::string asArgument(const std::string& path) {
-    return path.starts_with('-') || path.starts_with('@') ? "./" + path : path;
+    return path.starts_with('-') ? "./" + path : path;
 }
 
 /// For a source that is a link, the user wants to keep what it leads to.
