@@ -10,6 +10,7 @@
 #include "desktop/ClaudeArguments.h"
 #include "model/LauncherError.h"
 #include "platform/files/FolderLock.h"
+#include "platform/files/NormalizedPath.h"
 #include "platform/process/Machine.h"
 #include "platform/process/ProcessFamily.h"
 #include "store/ProfileStore.h"
@@ -118,7 +119,7 @@ std::vector<ClaudeApp::Instance> ClaudeApp::instances(const DataFolders& folders
 }
 
 std::vector<ProcInfo> ClaudeApp::processes(const fs::path& dataDir, const DataFolders& folders) const {
-    const std::string folder = normalizedPath(dataDir.string());
+    const std::string folder = normalizedPath(dataDir);
     const Look now = look(folders);
     std::vector<std::int32_t> roots;
     for (const Instance& instance : now.copies) {
@@ -204,9 +205,9 @@ void ClaudeApp::launch(const Profile& profile, ProfileStore& store) const {
     const fs::path dataDir = prepared(profile, store);
     LaunchNote note;
     note.profile = profile.id;
-    note.dataDir = normalizedPath(dataDir.string());
+    note.dataDir = normalizedPath(dataDir);
     if (!profile.isDefault())
-        note.config = normalizedPath(profile.configDir.string());
+        note.config = normalizedPath(profile.configDir);
     note.opened = m_workspace.open(installed, configuration(profile, dataDir, store.liveDesktopDir()));
     if (!store.testMode()) {
         m_notes.add(note);

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+#include "platform/files/NormalizedPath.h"
+
 namespace selvane {
 namespace {
 

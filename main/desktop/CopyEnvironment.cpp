@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "platform/files/Locations.h"
+#include "platform/files/NormalizedPath.h"
 #include "platform/process/MainProcess.h"
 
 namespace selvane {
@@ -56,7 +57,7 @@ std::string CopyEnvironment::normalDataDir(const std::string& otherwise) const {
         source = handedOn();
     if (source == nullptr || variable(*source, "HOME") == nullptr)
         return otherwise;
-    return normalizedPath(applicationDataFolder(source->env, "Claude", [] { return true; }).string());
+    return normalizedPath(applicationDataFolder(source->env, "Claude", [] { return true; }));
 }
 
 void CopyEnvironment::tellConfig(OpenCopy& copy, const LaunchNote* note) const {

@@ -5,21 +5,15 @@
 
 #include <algorithm>
 
+#include "platform/files/NormalizedPath.h"
+
 namespace selvane {
 
 namespace fs = std::filesystem;
 
-std::string normalizedPath(const std::string& path) {
-    std::string result = fs::absolute(path).lexically_normal().string();
-    while (result.size() > 1 && result.ends_with('/'))
-        result.pop_back();
-    return result;
-}
-
 DataFolders::DataFolders(const fs::path& normal, const fs::path& accountsFolder,
                          const std::vector<std::string>& accounts)
-    : m_normal(normalizedPath(normal.string())), m_accountsFolder(normalizedPath(accountsFolder.string())),
-      m_all({m_normal}) {
+    : m_normal(normalizedPath(normal)), m_accountsFolder(normalizedPath(accountsFolder)), m_all({m_normal}) {
     for (const std::string& account : accounts)
         m_all.push_back(m_accountsFolder + "/" + account);
     std::sort(m_all.begin(), m_all.end(),

@@ -10,11 +10,7 @@
 
 namespace selvane {
 
-/// A path normalized for comparison: absolute, without "." or ".." and without doubled or trailing slashes.
-/// Links are not resolved.
-std::string normalizedPath(const std::string& path);
-
-/// The known data folders of Claude Desktop: the normal one and one per account.
+/// The data folders of Claude Desktop that are known: the normal one and those of the accounts.
 class DataFolders {
 public:
     /// `accounts` are folder names in `accountsFolder`.

@@ -14,6 +14,7 @@
 
 #include "model/LauncherError.h"
 #include "platform/files/Locations.h"
+#include "platform/files/NormalizedPath.h"
 #include "platform/text/Text.h"
 #include "store/ZipList.h"
 
@@ -155,7 +156,7 @@ std::vector<fs::path> ProfileStore::desktopFolders(const std::vector<fs::path>& 
 }
 
 BackupResult ProfileStore::backup(BackupScope scope, const fs::path& archive) {
-    const fs::path target = normalizedPath(archive.string());
+    const fs::path target = normalizedPath(archive);
     const std::vector<fs::path> sources = backupSources(scope);
     if (sources.empty())
         throw LauncherError("Non c'è niente da salvare");

@@ -6,6 +6,7 @@
 #include <array>
 
 #include "model/LauncherError.h"
+#include "platform/files/NormalizedPath.h"
 #include "platform/text/Text.h"
 
 namespace selvane {
@@ -84,17 +85,16 @@ void ProfileStore::assumeConfig(ClaudeApp::Instance& copy) const {
         return;
     copy.isConfigKnown = true;
     if (!users.front().isDefault())
-        copy.config = normalizedPath(users.front().configDir.string());
+        copy.config = normalizedPath(users.front().configDir);
 }
 
 /// `folder` is normalized. A profile whose account isn't a valid id uses none.
 bool ProfileStore::usesDataFolder(const Profile& profile, const std::string& folder) const {
-    return Profile::isPossibleId(profile.accountOwner()) &&
-           normalizedPath(desktopDataDir(profile).string()) == folder;
+    return Profile::isPossibleId(profile.accountOwner()) && normalizedPath(desktopDataDir(profile)) == folder;
 }
 
 std::optional<ClaudeApp::Instance> ProfileStore::instance(const Profile& usingAccountOf) const {
-    const std::string folder = normalizedPath(desktopDataDir(usingAccountOf).string());
+    const std::string folder = normalizedPath(desktopDataDir(usingAccountOf));
     for (const ClaudeApp::Instance& candidate : claudeInstances()) {
         if (candidate.dataDir == folder)
             return candidate;
@@ -105,9 +105,9 @@ std::optional<ClaudeApp::Instance> ProfileStore::instance(const Profile& usingAc
 bool ProfileStore::runs(const ClaudeApp::Instance& instance, const Profile& profile) const {
     if (!instance.isConfigKnown)
         return false;
-    // A copy without a configuration folder, such as one started by hand, uses the built-in profile's.
-    const std::string config = instance.config.value_or(normalizedPath(m_defaultDir.string()));
-    return config == normalizedPath(profile.configDir.string());
+    // A copy started by hand has no configuration folder of its own: it uses the built-in profile's.
+    const std::string config = instance.config.value_or(normalizedPath(m_defaultDir));
+    return config == normalizedPath(profile.configDir);
 }
 
 bool ProfileStore::hasLeft(const ClaudeApp::Instance& copy, const Profile& profile) const {

@@ -5,6 +5,7 @@
 
 #include "model/LauncherError.h"
 #include "platform/files/Locations.h"
+#include "platform/files/NormalizedPath.h"
 #include "platform/text/Text.h"
 #include "store/ProfileRecord.h"
 
@@ -19,28 +20,17 @@ constexpr std::string_view kDefaultSymbol = "house";
 constexpr std::string_view kDefaultMetaFileName = "default.json";
 constexpr std::string_view kActiveFileName = ".active";
 
-/// Absolute, in the one spelling that links and logins depend on.
-fs::path spelled(const fs::path& path) {
-    fs::path result;
-    for (const fs::path& part : fs::absolute(path)) {
-        // After a link, ".." doesn't lead where the text says: only the file system knows where.
-        if (part == "..")
-            return fs::weakly_canonical(fs::absolute(path));
-        if (!part.empty() && part != ".")
-            result /= part;
-    }
-    return result;
-}
-
+/// Links and logins are tied to the spelling.
 fs::path location(const Environment& environment, const std::string& variable, const fs::path& standard) {
     const auto entry = environment.find(variable);
-    return spelled(entry == environment.end() || entry->second.empty() ? standard : fs::path(entry->second));
+    return normalizedPath(entry == environment.end() || entry->second.empty() ? standard
+                                                                              : fs::path(entry->second));
 }
 
 } // namespace
 
 ProfileStore::ProfileStore(const Environment& environment, const ClaudeApp& claude)
-    : m_claude(claude), m_environment(environment), m_home(spelled(homeFolder(environment))),
+    : m_claude(claude), m_environment(environment), m_home(normalizedPath(homeFolder(environment))),
       m_root(location(environment, "CLAUDE_LAUNCHER_ROOT", m_home / ".claude-profiles")),
       m_defaultDir(location(environment, "CLAUDE_LAUNCHER_DEFAULT_DIR", m_home / ".claude")),
       m_defaultGlobalJSON(location(environment, "CLAUDE_LAUNCHER_DEFAULT_JSON", m_home / ".claude.json")),
@@ -57,10 +47,10 @@ fs::path ProfileStore::liveDesktopDir() const {
         return m_liveDesktopDir;
     const auto entry = m_environment.find("CLAUDE_LAUNCHER_DESKTOP_DIR");
     if (entry != m_environment.end() && !entry->second.empty())
-        return m_liveDesktopDir = spelled(entry->second);
+        return m_liveDesktopDir = normalizedPath(entry->second);
     bool isSettled = true; // installing the application can still change it
     const auto isInstalled = [&] { return isSettled = m_claude.application().has_value(); };
-    fs::path folder = spelled(applicationDataFolder(m_environment, "Claude", isInstalled));
+    fs::path folder = normalizedPath(applicationDataFolder(m_environment, "Claude", isInstalled));
     if (isSettled)
         m_liveDesktopDir = folder;
     return folder;

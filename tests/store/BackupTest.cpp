@@ -100,7 +100,10 @@ TEST(Backup, backup_UnreadableFile_IsReportedAndLeftOut) {
     const int socketFile = socket(AF_UNIX, SOCK_STREAM, 0);
     ASSERT_EQ(bind(socketFile, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
     close(socketFile);
-    const BackupResult result = home.store.backup(BackupScope::principal(), home / "b.zip");
+    fs::create_directories(home.folder / "archives/new");
+    fs::create_directory_symlink(home.folder / "archives/new", home / "link");
+    const BackupResult result = home.store.backup(BackupScope::principal(), home / "link/../b.zip");
+    EXPECT_EQ(result.archive, home.folder / "archives/b.zip") << "where the link leads, and then up";
     EXPECT_TRUE(result.skippedFiles);
     EXPECT_EQ(unpacked(result.archive).at(".claude/a"), "a");
 }
