@@ -6,21 +6,9 @@
 #include <utility>
 
 #include "platform/text/ErrorText.h"
+#include "platform/text/Text.h"
 
 namespace selvane {
-namespace {
-
-QString quotedForShell(const std::string& text) {
-    QString result;
-    for (const QChar c : QString::fromStdString(text)) {
-        if (QStringLiteral("\"$\\`").contains(c))
-            result += '\\';
-        result += c;
-    }
-    return '"' + result + '"';
-}
-
-} // namespace
 
 AppModel::AppModel(ProfileStore& store, const ClaudeApp& claude, DesktopBridge& desktop,
                    Preferences& preferences, QObject* parent)
@@ -177,7 +165,7 @@ void AppModel::sync(const QString& id) {
 void AppModel::copyTerminalCommand(const QString& id) {
     perform([&] {
         const std::filesystem::path helper = m_store.installTerminalHelper();
-        m_desktop.copyToClipboard(quotedForShell(helper.string()) + ' ' + id);
+        m_desktop.copyToClipboard(QString::fromStdString(text::quotedForShell(helper.string())) + ' ' + id);
         setNotice(tr("Comando copiato negli appunti"));
     });
 }

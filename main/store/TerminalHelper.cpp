@@ -3,26 +3,17 @@
 
 #include "store/ProfileStore.h"
 
+#include "platform/text/Text.h"
+
 namespace selvane {
 namespace {
-
-/// Escapes a text so that a shell reads it literally between double quotes.
-std::string shellEscaped(const std::string& text) {
-    std::string result;
-    for (const char c : text) {
-        if (c == '"' || c == '$' || c == '\\' || c == '`')
-            result += '\\';
-        result += c;
-    }
-    return result;
-}
 
 constexpr std::string_view kScriptBegin = R"(#!/bin/sh
 # Avvia il CLI di Claude Code con un profilo di Selvane.
 # Uso: claude-profile <id-profilo> [argomenti di claude...]
-ROOT=")";
+ROOT=)";
 
-constexpr std::string_view kScriptEnd = R"("
+constexpr std::string_view kScriptEnd = R"(
 if [ -z "$1" ] || [ "$1" = "--list" ]; then
   echo "default"; for d in "$ROOT"/*/; do [ -f "$d.launcher.json" ] && basename "$d"; done; exit 0
 fi
@@ -39,8 +30,8 @@ std::filesystem::path ProfileStore::installTerminalHelper() {
     const std::filesystem::path folder = m_root / "bin";
     m_files.createFolders(folder);
     const std::filesystem::path script = folder / "claude-profile";
-    m_files.write(script,
-                  std::string(kScriptBegin) + shellEscaped(m_root.string()) + std::string(kScriptEnd));
+    m_files.write(script, std::string(kScriptBegin) + text::quotedForShell(m_root.string()) +
+                              std::string(kScriptEnd));
     m_files.setMode(script, 0755);
     return script;
 }

@@ -140,6 +140,16 @@ std::string singleLine(std::string_view text) {
     return result;
 }
 
+std::string quotedForShell(std::string_view text) {
+    std::string result = "\"";
+    for (const char c : text) {
+        if ("\"$\\`"sv.find(c) != std::string_view::npos)
+            result += '\\';
+        result += c;
+    }
+    return result + '"';
+}
+
 std::string longDate(std::chrono::system_clock::time_point time) {
     const auto seconds = std::chrono::floor<std::chrono::seconds>(time.time_since_epoch()).count();
     Received<std::string> result;

@@ -29,6 +29,9 @@ std::string_view trimmed(std::string_view text);
 /// `text` with every control character replaced by U+FFFD, so that it stays on one line and in one field.
 std::string singleLine(std::string_view text);
 
+/// `text` between double quotes, so that a shell takes it for one word that means just itself.
+std::string quotedForShell(std::string_view text);
+
 /// For example "15 novembre 2026 alle ore 09:30", in the local time zone.
 std::string longDate(std::chrono::system_clock::time_point time);
 
