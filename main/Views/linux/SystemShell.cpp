@@ -8,13 +8,12 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDesktopServices>
-#include <QFile>
 #include <QGuiApplication>
 #include <QIcon>
 #include <QPixmap>
 #include <QStandardPaths>
-#include <QUrl>
 
+#include "Views/shell/FileUrl.h"
 #include "Views/shell/LauncherApp.h"
 #include "artwork/AppIcon.h"
 
@@ -27,10 +26,6 @@ void setWindowIcon() {
     for (const int size : {16, 32, 48, 128})
         icon.addPixmap(QPixmap::fromImage(appIcon(size)));
     QGuiApplication::setWindowIcon(icon);
-}
-
-QUrl fileUrl(const std::filesystem::path& path) {
-    return QUrl::fromLocalFile(QFile::decodeName(QByteArray::fromStdString(path.native())));
 }
 
 } // namespace

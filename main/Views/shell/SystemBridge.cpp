@@ -13,17 +13,13 @@
 
 #include <utility>
 
+#include "Views/shell/FileUrl.h"
 #include "Views/shell/SystemShell.h"
 
 namespace selvane {
 namespace {
 
 namespace fs = std::filesystem;
-
-QUrl fileUrl(const fs::path& path) {
-    return QUrl::fromLocalFile(
-        QString::fromLocal8Bit(path.native().data(), static_cast<qsizetype>(path.native().size())));
-}
 
 fs::path pathOf(const QString& file) {
     return QFile::encodeName(file).toStdString();
