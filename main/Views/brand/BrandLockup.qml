@@ -22,14 +22,14 @@ Row {
         anchors.verticalCenter: parent.verticalCenter
 
         StyledText {
-            look: Theme.wordmark
+            look: Theme.type.wordmark
             text: Theme.brand.name
             Accessible.ignored: true
         }
         StyledText {
             id: tagline
 
-            look: Theme.tagline
+            look: Theme.type.tagline
             text: qsTr("I tuoi profili, fianco a fianco")
             color: Theme.textSoft
             Accessible.ignored: true

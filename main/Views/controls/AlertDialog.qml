@@ -44,13 +44,13 @@ ModalLayer {
 
         StyledText {
             width: parent.width
-            look: Theme.alertTitle
+            look: Theme.type.alertTitle
             text: alert.title
             wrapMode: Text.Wrap
         }
         StyledText {
             width: parent.width
-            look: Theme.body
+            look: Theme.type.body
             text: alert.message
             color: Theme.textSoft
             wrapMode: Text.Wrap

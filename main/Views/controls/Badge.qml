@@ -53,7 +53,7 @@ Rectangle {
 
         anchors.centerIn: parent
         width: Math.min(implicitWidth, badge.width - 2 * Theme.space8)
-        look: Theme.badge
+        look: Theme.type.badge
         text: badge.text
         color: badge.label
         elide: Text.ElideRight

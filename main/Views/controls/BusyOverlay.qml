@@ -96,7 +96,7 @@ FocusScope {
             x: 40
             width: parent.width - 2 * x
             horizontalAlignment: Text.AlignHCenter
-            look: Theme.busyMessage
+            look: Theme.type.busyMessage
             text: overlay.lastMessage
             wrapMode: Text.Wrap
             Accessible.ignored: true

@@ -74,7 +74,7 @@ Pressable {
             id: caption
 
             width: parent.width
-            look: row.detail !== "" ? Theme.menuLabel : Theme.control
+            look: row.detail !== "" ? Theme.type.menuLabel : Theme.type.control
             text: row.text
             color: row.checked || !row.fadesUnchecked ? Theme.text : Theme.textSoft
             elide: Text.ElideRight
@@ -84,7 +84,7 @@ Pressable {
 
             width: parent.width
             visible: row.detail !== ""
-            look: Theme.listPath
+            look: Theme.type.listPath
             text: row.detail
             color: Theme.textFaint
             elide: Text.ElideMiddle

@@ -43,7 +43,7 @@ Pressable {
         anchors.verticalCenter: parent.verticalCenter
         anchors.left: disclosure.expandable ? caret.right : parent.left
         anchors.leftMargin: disclosure.expandable ? Theme.space4 : 0
-        look: Theme.small
+        look: Theme.type.small
         text: disclosure.text
         color: disclosure.hovered ? Theme.text : Theme.textSoft
     }

@@ -62,8 +62,8 @@ Pressable {
         anchors.right: caret.left
         anchors.leftMargin: (dropDown.size === DropDown.Small ? 10 : Theme.space12) + Theme.hairline
         anchors.rightMargin: Theme.space8
-        look: dropDown.size === DropDown.Large ? Theme.field : dropDown.size === DropDown.Small ? Theme.smallControl
-                                                                                               : Theme.control
+        look: dropDown.size === DropDown.Large ? Theme.type.field
+            : dropDown.size === DropDown.Small ? Theme.type.smallControl : Theme.type.control
         text: dropDown.currentText
         elide: Text.ElideRight
     }

@@ -8,7 +8,7 @@ import Selvane
 
 /// A short label over what follows, in capitals; assistive technology hears the text as it is written.
 StyledText {
-    look: Theme.overline
+    look: Theme.type.overline
     color: Theme.textFaint
 
     Accessible.role: Accessible.StaticText

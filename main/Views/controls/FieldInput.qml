@@ -10,7 +10,7 @@ import Selvane
 TextInput {
     id: input
 
-    property TextStyle look: Theme.field
+    property TextStyle look: Theme.type.field
     property string label ///< accessible name
     property string placeholder
 

@@ -20,7 +20,7 @@ FocusScope {
 
         width: parent.width
         visible: !input.activeFocus
-        look: Theme.path
+        look: Theme.type.path
         text: field.path
         color: Theme.textFaint
         elide: Text.ElideMiddle

@@ -64,7 +64,7 @@ Pressable {
         StyledText {
             anchors.verticalCenter: parent.verticalCenter
             visible: !button.iconOnly
-            look: button.small ? Theme.smallControl : Theme.control
+            look: button.small ? Theme.type.smallControl : Theme.type.control
             text: button.text
             color: button.soft && !button.active ? Theme.textSoft : Theme.text
         }

@@ -12,7 +12,7 @@ Item {
 
     required property string symbol
     required property string text
-    property TextStyle look: Theme.body
+    property TextStyle look: Theme.type.body
     property color color: Theme.textSoft
 
     implicitWidth: caption.x + caption.implicitWidth

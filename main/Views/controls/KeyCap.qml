@@ -47,7 +47,7 @@ Rectangle {
                 readonly property string icon: cap.icons[modelData] ?? ""
 
                 implicitWidth: icon !== "" ? drawn.width : caption.implicitWidth
-                implicitHeight: Theme.keyCap.lineHeight
+                implicitHeight: Theme.type.keyCap.lineHeight
 
                 PathIcon {
                     id: drawn
@@ -64,7 +64,7 @@ Rectangle {
 
                     anchors.centerIn: parent
                     // A drawn key has no letters: looking for a face that has them takes long.
-                    look: Theme.keyCap
+                    look: Theme.type.keyCap
                     text: part.icon === "" ? part.modelData : ""
                     color: Theme.textSoft
                 }

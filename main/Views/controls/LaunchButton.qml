@@ -63,7 +63,7 @@ Pressable {
 
         StyledText {
             anchors.verticalCenter: parent.verticalCenter
-            look: button.large ? Theme.launchLabel : Theme.confirmLabel
+            look: button.large ? Theme.type.launchLabel : Theme.type.confirmLabel
             text: button.hasArrow ? button.text.slice(0, -1).trim() : button.text
             color: button.labelColor
         }

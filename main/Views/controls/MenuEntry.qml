@@ -70,7 +70,7 @@ Pressable {
             id: caption
 
             width: parent.width
-            look: Theme.menuLabel
+            look: Theme.type.menuLabel
             text: entry.text
             elide: Text.ElideRight
         }
@@ -79,7 +79,7 @@ Pressable {
 
             width: parent.width
             visible: entry.explanation !== ""
-            look: Theme.small
+            look: Theme.type.small
             text: entry.explanation
             color: Theme.textSoft
             wrapMode: Text.Wrap

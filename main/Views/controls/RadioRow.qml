@@ -66,7 +66,7 @@ Pressable {
                 id: caption
 
                 width: Math.min(implicitWidth, texts.width - row.symbolWidth)
-                look: Theme.control
+                look: Theme.type.control
                 text: row.text
                 elide: Text.ElideRight
             }
@@ -84,7 +84,7 @@ Pressable {
 
             width: parent.width
             visible: row.detail !== ""
-            look: Theme.small
+            look: Theme.type.small
             text: row.detail
             color: Theme.textSoft
             wrapMode: Text.Wrap

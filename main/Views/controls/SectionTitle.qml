@@ -8,7 +8,7 @@ import Selvane
 
 /// Heads a part of a sheet, or a card.
 StyledText {
-    look: Theme.sectionTitle
+    look: Theme.type.sectionTitle
     elide: Text.ElideRight
     Accessible.role: Accessible.Heading
     Accessible.name: text

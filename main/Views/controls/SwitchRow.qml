@@ -12,7 +12,7 @@ Item {
 
     required property string text
     required property bool checked
-    property TextStyle look: Theme.control
+    property TextStyle look: Theme.type.control
     property color textColor: Theme.text
     property string help
     property bool leading: false ///< the switch stands before the text
@@ -50,7 +50,7 @@ Item {
 
             width: parent.width
             visible: row.detail !== ""
-            look: Theme.small
+            look: Theme.type.small
             text: Theme.withPaths(row.detail, look)
             textFormat: Text.RichText
             color: Theme.textSoft

@@ -27,7 +27,7 @@ FocusScope {
         id: caption
 
         visible: field.showsLabel && text !== ""
-        look: Theme.fieldLabel
+        look: Theme.type.fieldLabel
         text: field.label
         color: Theme.textSoft
         Accessible.ignored: true

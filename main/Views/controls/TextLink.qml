@@ -23,7 +23,7 @@ Pressable {
         id: caption
 
         anchors.centerIn: parent
-        look: Theme.smallControl
+        look: Theme.type.smallControl
         text: link.text
     }
     Rectangle {

@@ -70,7 +70,7 @@ Item {
             anchors.verticalCenter: parent.verticalCenter
             x: sign.x + sign.width + 10
             width: parent.width - x - Theme.space20
-            look: Theme.notice
+            look: Theme.type.notice
             text: toast.lastText
             color: Theme.onFill
             elide: Text.ElideRight

@@ -49,7 +49,7 @@ Rectangle {
 
         StyledText {
             anchors.verticalCenter: parent.verticalCenter
-            look: Theme.small
+            look: Theme.type.small
             text: bubble.pieces[1]
             width: Math.min(implicitWidth, Theme.menuWidth)
             wrapMode: Text.Wrap

@@ -41,7 +41,7 @@ Card {
         }
         StyledText {
             width: parent.width
-            look: Theme.small
+            look: Theme.type.small
             text: section.profile.account
             color: Theme.textSoft
             wrapMode: Text.Wrap
@@ -53,7 +53,7 @@ Card {
         x: section.isNarrow ? choices.x - Theme.space12 - width : Theme.space16
         anchors.verticalCenter: choices.verticalCenter
         visible: section.hasChoice
-        look: Theme.small
+        look: Theme.type.small
         text: qsTr("Account")
         color: Theme.textSoft
         Accessible.ignored: true

@@ -24,7 +24,7 @@ Item {
             size: Theme.manage.emptyMark
         }
         StyledText {
-            look: Theme.emptyTitle
+            look: Theme.type.emptyTitle
             text: qsTr("Scegli un profilo")
             Accessible.role: Accessible.Heading
             Accessible.name: text

@@ -44,7 +44,7 @@ Card {
             readonly property string target: section.component.linkTarget
 
             width: Math.min(implicitWidth, buttons.x - description.x - Theme.space12)
-            look: Theme.small
+            look: Theme.type.small
             text: section.component.description.slice(0, section.component.description.length - target.length)
             color: Theme.textSoft
             wrapMode: Text.Wrap
@@ -53,7 +53,7 @@ Card {
         StyledText {
             anchors.verticalCenter: parent.verticalCenter
             width: Math.min(implicitWidth, buttons.x - description.x - words.width - Theme.space12)
-            look: Theme.listPath
+            look: Theme.type.listPath
             text: words.target
             color: Theme.textFaint
             elide: Text.ElideMiddle

@@ -33,7 +33,7 @@ FocusScope {
     StyledText {
         id: caption
 
-        look: Theme.headerLabel
+        look: Theme.type.headerLabel
         text: field.label
         color: Theme.textFaint
         Accessible.ignored: true

@@ -72,7 +72,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         x: Theme.manage.itemTextLeft - Theme.hairline
         width: badge.x - x - Theme.space12
-        look: Theme.control
+        look: Theme.type.control
         text: row.name
         elide: Text.ElideRight
         Accessible.ignored: true

@@ -36,7 +36,7 @@ Item {
 
         HeaderField {
             width: parent.width
-            look: Theme.nameField
+            look: Theme.type.nameField
             label: qsTr("Nome")
             value: header.profile.name
             subject: header.profile.profileId
@@ -44,7 +44,7 @@ Item {
         }
         HeaderField {
             width: parent.width
-            look: Theme.field
+            look: Theme.type.field
             label: qsTr("Descrizione")
             placeholder: qsTr("Aggiungi una descrizione")
             value: header.profile.summary
@@ -75,7 +75,7 @@ Item {
                 color: Theme.linked
             }
             StyledText {
-                look: Theme.smallControl
+                look: Theme.type.smallControl
                 text: qsTr("eredita da «%1»").arg(header.profile.sourceName)
                 color: Theme.linked
                 width: Math.min(implicitWidth, header.width / 2)

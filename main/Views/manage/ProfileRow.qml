@@ -76,14 +76,14 @@ Item {
 
         StyledText {
             width: parent.width
-            look: Theme.rowName
+            look: Theme.type.rowName
             text: row.name
             elide: Text.ElideRight
             Accessible.ignored: true
         }
         StyledText {
             width: parent.width
-            look: Theme.small
+            look: Theme.type.small
             text: row.subtitle
             color: row.isSelected ? Theme.textSoft : Theme.textFaint
             elide: Text.ElideRight

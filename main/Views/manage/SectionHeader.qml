@@ -33,7 +33,7 @@ Item {
         x: heading.x + heading.width + Theme.space12
         width: mode.x - x - Theme.space12
         visible: header.note !== "" && width > 0
-        look: Theme.small
+        look: Theme.type.small
         text: header.note
         color: Theme.textFaint
         elide: Text.ElideRight

@@ -52,14 +52,14 @@ Card {
 
         StyledText {
             width: parent.width
-            look: Theme.small
+            look: Theme.type.small
             text: section.profile.sessions
             elide: Text.ElideRight
         }
         StyledText {
             width: parent.width
             visible: text !== ""
-            look: Theme.small
+            look: Theme.type.small
             text: section.profile.pendingSessions
             color: Theme.lit
             wrapMode: Text.Wrap
@@ -67,7 +67,7 @@ Card {
         StyledText {
             width: parent.width
             topPadding: Theme.space8
-            look: Theme.small
+            look: Theme.type.small
             text: qsTr("Le chat di claude.ai restano nel loro account; le sessioni Code si possono copiare tra profili")
             color: Theme.textFaint
             wrapMode: Text.Wrap

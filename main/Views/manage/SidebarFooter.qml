@@ -39,7 +39,7 @@ Item {
 
         SwitchRow {
             width: parent.width
-            look: Theme.small
+            look: Theme.type.small
             textColor: Theme.textSoft
             text: qsTr("Chiudi Selvane dopo l'avvio")
             checked: footer.app.closeAfterLaunch
@@ -48,7 +48,7 @@ Item {
         SwitchRow {
             visible: footer.hasUpdates
             width: parent.width
-            look: Theme.small
+            look: Theme.type.small
             textColor: Theme.textSoft
             text: qsTr("Installa gli aggiornamenti da sola")
             help: qsTr("Selvane scarica le nuove versioni e le installa quando si chiude")
@@ -64,7 +64,7 @@ Item {
                 id: version
 
                 height: Theme.smallHeight
-                look: Theme.small
+                look: Theme.type.small
                 text: qsTr("Versione %1").arg(footer.updates.version)
                 color: Theme.textFaint
             }

@@ -50,7 +50,7 @@ Pressable {
             }
         }
         StyledText {
-            look: Theme.confirmLabel
+            look: Theme.type.confirmLabel
             text: tile.label
             color: tile.isLit ? Theme.text : Theme.textSoft
             Accessible.ignored: true

@@ -34,7 +34,7 @@ Row {
             StyledText {
                 visible: group.index > 0
                 anchors.verticalCenter: parent.verticalCenter
-                look: Theme.small
+                look: Theme.type.small
                 text: "·"
                 color: Theme.controlBorder
                 rightPadding: Theme.space4
@@ -50,7 +50,7 @@ Row {
             }
             StyledText {
                 anchors.verticalCenter: parent.verticalCenter
-                look: Theme.small
+                look: Theme.type.small
                 text: group.pieces[2]
                 color: Theme.textFaint
             }

@@ -102,13 +102,13 @@ FocusScope {
         StyledText {
             id: question
 
-            look: view.isCompact ? Theme.titleCompact : Theme.title
+            look: view.isCompact ? Theme.type.titleCompact : Theme.type.title
             text: qsTr("Chi usa ")
             Accessible.ignored: true
         }
         StyledText {
             anchors.baseline: question.baseline
-            look: view.isCompact ? Theme.titleSerifCompact : Theme.titleSerif
+            look: view.isCompact ? Theme.type.titleSerifCompact : Theme.type.titleSerif
             text: qsTr("Claude?")
             color: Theme.lit
             Accessible.ignored: true
@@ -117,7 +117,7 @@ FocusScope {
     StyledText {
         x: view.columnLeft
         y: view.places.subtitle + view.spareAbove
-        look: Theme.subtitle
+        look: Theme.type.subtitle
         text: qsTr("Ogni profilo ha il suo account, le sue skill e le sue regole.")
         color: Theme.textSoft
         Accessible.role: Accessible.StaticText

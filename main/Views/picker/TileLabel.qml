@@ -32,7 +32,7 @@ Item {
     StyledText {
         anchors { left: parent.left; right: parent.right; margins: Theme.space16 }
         y: Theme.picker.tileNameTop
-        look: Theme.tileName
+        look: Theme.type.tileName
         text: label.name
         elide: Text.ElideRight
         Accessible.ignored: true
@@ -47,7 +47,7 @@ Item {
         // Only plain text can be cut by lines.
         height: Math.min(implicitHeight, lines * look.lineHeight)
         clip: hasPath
-        look: Theme.summary
+        look: Theme.type.summary
         text: hasPath ? Theme.withPaths(label.summary, look) : label.summary
         textFormat: hasPath ? Text.RichText : Text.PlainText
         color: Theme.textSoft
@@ -69,7 +69,7 @@ Item {
             color: Theme.linked
         }
         StyledText {
-            look: Theme.badge
+            look: Theme.type.badge
             text: qsTr("Account Claude separato")
             color: Theme.linked
             Accessible.ignored: true
@@ -88,7 +88,7 @@ Item {
             color: Theme.opened
         }
         StyledText {
-            look: Theme.status
+            look: Theme.type.status
             text: label.status
             color: label.isRunning ? Theme.opened : label.wasLaunched ? Theme.textSoft : Theme.textFaint
             Accessible.ignored: true
@@ -97,7 +97,7 @@ Item {
     StyledText {
         anchors { right: parent.right; bottom: parent.bottom; margins: Theme.space16 }
         visible: label.position < 10 // only these have a key
-        look: Theme.digit
+        look: Theme.type.digit
         text: label.position
         color: Theme.textFaint
         Accessible.ignored: true

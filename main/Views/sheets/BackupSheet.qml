@@ -25,7 +25,7 @@ Sheet {
     }
     StyledText {
         width: parent.width
-        look: Theme.body
+        look: Theme.type.body
         text: qsTr("Creare profili non modifica il profilo Principale, ma puoi salvarlo prima per poterlo rimettere "
                    + "com'era. Cache, macchine virtuali e binari di Claude Code non vengono inclusi: Claude li "
                    + "riscarica da solo. Le istruzioni per ripristinare sono dentro l'archivio.")
@@ -73,7 +73,7 @@ Sheet {
         width: parent.width
         visible: form.claudeRuns
         symbol: "exclamationmark.triangle"
-        look: Theme.control
+        look: Theme.type.control
         color: Theme.danger
         text: qsTr("Chiudi Claude prima del backup")
         Accessible.role: Accessible.AlertMessage

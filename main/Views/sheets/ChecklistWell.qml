@@ -39,7 +39,7 @@ ListWell {
         width: parent.width - 2 * Theme.space16
         visible: well.isEmpty
         horizontalAlignment: Text.AlignHCenter
-        look: Theme.body
+        look: Theme.type.body
         text: well.emptyText
         color: Theme.textFaint
         wrapMode: Text.Wrap

@@ -58,7 +58,7 @@ Item {
                 anchors.leftMargin: 10
                 anchors.right: modes.left
                 anchors.rightMargin: Theme.space12
-                look: Theme.control
+                look: Theme.type.control
                 text: row.title
                 elide: Text.ElideRight
                 Accessible.role: Accessible.Heading

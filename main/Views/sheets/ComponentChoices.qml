@@ -23,7 +23,7 @@ Column {
 
         StyledText {
             anchors.verticalCenter: parent.verticalCenter
-            look: Theme.small
+            look: Theme.type.small
             text: qsTr("Imposta tutto:")
             rightPadding: Theme.space4
             Accessible.ignored: true
@@ -43,7 +43,7 @@ Column {
     }
     StyledText {
         width: parent.width
-        look: Theme.small
+        look: Theme.type.small
         text: qsTr("Unificato: il profilo usa gli stessi elementi della sorgente (modifiche condivise, i nuovi "
                    + "arrivano in automatico). Separato: ne riceve una copia indipendente.")
         color: Theme.textSoft

@@ -16,7 +16,7 @@ Column {
 
     StyledText {
         width: parent.width
-        look: Theme.fieldLabel
+        look: Theme.type.fieldLabel
         text: group.label
         color: Theme.textSoft
         elide: Text.ElideRight

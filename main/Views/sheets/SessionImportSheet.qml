@@ -67,7 +67,7 @@ Sheet {
 
             StyledText {
                 anchors.verticalCenter: parent.verticalCenter
-                look: Theme.small
+                look: Theme.type.small
                 text: qsTr("%1 di %2 selezionate").arg(form.sessions.chosenCount).arg(form.sessions.total)
                 color: Theme.textSoft
                 Accessible.role: Accessible.StaticText
@@ -96,7 +96,7 @@ Sheet {
         id: note
 
         width: parent.width
-        look: Theme.small
+        look: Theme.type.small
         text: qsTr("Vengono copiate le conversazioni e la voce nell'elenco di Claude.")
         color: Theme.textSoft
         wrapMode: Text.Wrap

@@ -35,7 +35,7 @@ ModalLayer {
             x: Theme.sheetMargin
             y: Theme.space20
             width: parent.width - 2 * Theme.sheetMargin
-            look: Theme.sheetTitle
+            look: Theme.type.sheetTitle
             text: sheet.title
             elide: Text.ElideRight
             Accessible.role: Accessible.Heading

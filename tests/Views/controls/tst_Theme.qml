@@ -12,7 +12,7 @@ TestCase {
 
     name: "Theme"
 
-    TextMetrics { id: light; font: Theme.body.font; text: "Chi usa" }
+    TextMetrics { id: light; font: Theme.type.body.font; text: "Chi usa" }
     TextMetrics { id: heavy; font.family: light.font.family; font.pixelSize: light.font.pixelSize; font.weight: Font.ExtraBold; text: light.text }
 
     function test_fontsAreThereInTheirWeights() {
@@ -31,7 +31,7 @@ TestCase {
         ]
     }
     function test_pathsAreSetApart(row) {
-        const markup = Theme.withPaths(row.sentence, Theme.body)
+        const markup = Theme.withPaths(row.sentence, Theme.type.body)
         compare(markup.replace(/<span[^>]*>[^<]*<\/span> ?/g, ""), row.rest)
         compare((/<span[^>]*>([^<]*)</.exec(markup) ?? ["", ""])[1], row.path)
     }

@@ -19,7 +19,7 @@ Grid {
             required property string modelData
 
             width: 164
-            look: Theme.listPath
+            look: Theme.type.listPath
             text: modelData
             color: Theme.textSoft
         }

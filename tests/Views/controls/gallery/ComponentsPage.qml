@@ -73,7 +73,7 @@ Item {
         TextInputField { label: "normale"; text: "Lavoro" }
         TextInputField { label: "segnaposto"; placeholder: "Facoltativa" }
         TextInputField { label: "fuoco"; text: "Lavoro"; ringed: true }
-        HeaderField { label: "Nome"; value: "Lavoro"; look: Theme.nameField }
+        HeaderField { label: "Nome"; value: "Lavoro"; look: Theme.type.nameField }
     }
 
     DropDown {
