@@ -48,15 +48,15 @@ FocusScope {
     Keys.onPressed: event => event.accepted = true
 
     Behavior on opacity {
-        NumberAnimation { duration: Theme.busyFade }
+        NumberAnimation { duration: Theme.motion.busyFade }
     }
     SequentialAnimation on light {
         running: overlay.isBusy && !Theme.reducedMotion
         loops: Animation.Infinite
         onStopped: overlay.light = 0
 
-        NumberAnimation { to: 1; duration: Theme.busyCross; easing.type: Easing.InOutSine }
-        NumberAnimation { to: 0; duration: Theme.busyCross; easing.type: Easing.InOutSine }
+        NumberAnimation { to: 1; duration: Theme.motion.busyCross; easing.type: Easing.InOutSine }
+        NumberAnimation { to: 0; duration: Theme.motion.busyCross; easing.type: Easing.InOutSine }
     }
 
     Rectangle {

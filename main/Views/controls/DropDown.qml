@@ -50,7 +50,7 @@ Pressable {
         border.color: Theme.controlBorder
 
         Behavior on color {
-            ColorAnimation { duration: Theme.hover }
+            ColorAnimation { duration: Theme.motion.hover }
         }
     }
     FocusRing {

@@ -39,10 +39,10 @@ Pressable {
                                                                         : Theme.separator
 
         Behavior on color {
-            ColorAnimation { duration: Theme.hover }
+            ColorAnimation { duration: Theme.motion.hover }
         }
         Behavior on border.color {
-            ColorAnimation { duration: Theme.hover }
+            ColorAnimation { duration: Theme.motion.hover }
         }
     }
     FocusRing {

@@ -32,10 +32,10 @@ Pressable {
     label: text
     implicitWidth: Math.ceil(content.implicitWidth) + 2 * (large ? 20 : 18)
     implicitHeight: large ? Theme.launchHeight : Theme.sheetControlHeight
-    scale: pressed ? Theme.pressedScale : 1
+    scale: pressed ? Theme.motion.pressedScale : 1
 
     Behavior on scale {
-        NumberAnimation { duration: Theme.tilePress; easing.type: Easing.OutQuad }
+        NumberAnimation { duration: Theme.motion.tilePress; easing.type: Easing.OutQuad }
     }
 
     LeafShape {
@@ -44,7 +44,7 @@ Pressable {
         color: button.fill
 
         Behavior on color {
-            ColorAnimation { duration: Theme.hover }
+            ColorAnimation { duration: Theme.motion.hover }
         }
     }
     LeafShape {

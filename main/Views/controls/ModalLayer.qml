@@ -81,7 +81,7 @@ FocusScope {
 
             NumberAnimation {
                 properties: "opacity,slide"
-                duration: Theme.sheetIn
+                duration: Theme.motion.sheetIn
                 easing.type: Easing.OutCubic
             }
         },
@@ -91,7 +91,7 @@ FocusScope {
             SequentialAnimation {
                 NumberAnimation {
                     properties: "opacity,slide"
-                    duration: Theme.sheetOut
+                    duration: Theme.motion.sheetOut
                     easing.type: Easing.InCubic
                 }
                 ScriptAction {
@@ -130,7 +130,7 @@ FocusScope {
     Rectangle {
         id: plate
 
-        property real slide: Theme.sheetSlide
+        property real slide: Theme.motion.sheetSlide
 
         x: Math.round((layer.width - width) / 2)
         y: Math.round((layer.height - height) / 2) + slide

@@ -66,7 +66,7 @@ FocusScope {
         property real openerHeight
 
         readonly property bool fitsBelow: at.y + height + Theme.space8 <= popover.height
-        property real slide: popover.isOpen ? 0 : -Theme.menuSlide
+        property real slide: popover.isOpen ? 0 : -Theme.motion.menuSlide
 
         x: Math.round(Math.max(Theme.space8, Math.min(at.x, popover.width - width - Theme.space8)))
         y: Math.round(Math.max(Theme.space8, fitsBelow ? at.y : at.y - openerHeight - height - 2 * Theme.space4))
@@ -80,10 +80,16 @@ FocusScope {
         opacity: popover.isOpen ? 1 : 0
 
         Behavior on opacity {
-            NumberAnimation { duration: popover.isOpen ? Theme.menuIn : Theme.menuOut; easing.type: Easing.OutQuad }
+            NumberAnimation {
+                duration: popover.isOpen ? Theme.motion.menuIn : Theme.motion.menuOut
+                easing.type: Easing.OutQuad
+            }
         }
         Behavior on slide {
-            NumberAnimation { duration: popover.isOpen ? Theme.menuIn : Theme.menuOut; easing.type: Easing.OutQuad }
+            NumberAnimation {
+                duration: popover.isOpen ? Theme.motion.menuIn : Theme.motion.menuOut
+                easing.type: Easing.OutQuad
+            }
         }
 
         // Presses between the entries don't reach the area that closes.

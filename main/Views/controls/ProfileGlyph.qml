@@ -25,7 +25,7 @@ Item {
         color: glyph.isLit ? Theme.lit : Theme.raised
 
         Behavior on color {
-            ColorAnimation { duration: Theme.tileFocus; easing.type: Easing.OutCubic }
+            ColorAnimation { duration: Theme.motion.tileFocus; easing.type: Easing.OutCubic }
         }
     }
     PathIcon {

@@ -27,7 +27,7 @@ Item {
     LeafShape {
         id: plate
 
-        property real slide: toast.isShown ? 0 : Theme.toastSlide
+        property real slide: toast.isShown ? 0 : Theme.motion.toastSlide
 
         anchors.horizontalCenter: parent.horizontalCenter
         y: toast.height - height - Theme.toastMargin + slide
@@ -43,13 +43,13 @@ Item {
 
         Behavior on opacity {
             NumberAnimation {
-                duration: toast.isShown ? Theme.toastIn : Theme.toastOut
+                duration: toast.isShown ? Theme.motion.toastIn : Theme.motion.toastOut
                 easing.type: toast.isShown ? Easing.OutCubic : Easing.InCubic
             }
         }
         Behavior on slide {
             NumberAnimation {
-                duration: toast.isShown ? Theme.toastIn : Theme.toastOut
+                duration: toast.isShown ? Theme.motion.toastIn : Theme.motion.toastOut
                 easing.type: toast.isShown ? Easing.OutCubic : Easing.InCubic
             }
         }

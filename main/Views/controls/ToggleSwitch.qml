@@ -39,7 +39,7 @@ Pressable {
         border.color: Theme.controlBorder
 
         Behavior on color {
-            ColorAnimation { duration: Theme.toggle; easing.type: Easing.OutQuad }
+            ColorAnimation { duration: Theme.motion.toggle; easing.type: Easing.OutQuad }
         }
 
         Rectangle {
@@ -51,7 +51,7 @@ Pressable {
             color: toggle.checked ? Theme.onFill : Theme.textSoft
 
             Behavior on x {
-                NumberAnimation { duration: Theme.toggle; easing.type: Easing.OutQuad }
+                NumberAnimation { duration: Theme.motion.toggle; easing.type: Easing.OutQuad }
             }
         }
         FocusRing {

@@ -37,7 +37,7 @@ Rectangle {
     Accessible.ignored: true
 
     Timer {
-        interval: Theme.toolTipDelay
+        interval: Theme.motion.toolTipDelay
         running: true
         onTriggered: bubble.show()
     }

@@ -46,7 +46,7 @@ Item {
         border.color: Theme.focusRing
 
         Behavior on color {
-            ColorAnimation { duration: Theme.hover }
+            ColorAnimation { duration: Theme.motion.hover }
         }
     }
     MouseArea {

@@ -32,7 +32,7 @@ Item {
 
     width: Theme.picker.tileWidth
     height: isCompact ? Theme.picker.tileHeightCompact : Theme.picker.tileHeight
-    scale: isFocused ? Theme.focusedScale : 1
+    scale: isFocused ? Theme.motion.focusedScale : 1
     z: isFocused ? 1 : 0
     activeFocusOnTab: isFocused
 
@@ -43,7 +43,7 @@ Item {
     Accessible.onPressAction: tile.launched()
 
     Behavior on scale {
-        NumberAnimation { duration: Theme.tileFocus; easing.type: Easing.OutCubic }
+        NumberAnimation { duration: Theme.motion.tileFocus; easing.type: Easing.OutCubic }
     }
 
     Rectangle {
@@ -54,7 +54,7 @@ Item {
         border.color: tile.isFocused ? Theme.lit : Theme.separator
 
         Behavior on color {
-            ColorAnimation { duration: Theme.tileFocus }
+            ColorAnimation { duration: Theme.motion.tileFocus }
         }
     }
     MouseArea {
@@ -71,7 +71,7 @@ Item {
     }
     TileLabel {
         anchors.fill: parent
-        scale: area.pressed ? Theme.pressedScale : 1
+        scale: area.pressed ? Theme.motion.pressedScale : 1
         name: tile.name
         summary: tile.summary
         symbol: tile.symbol
@@ -84,7 +84,7 @@ Item {
         isCompact: tile.isCompact
 
         Behavior on scale {
-            NumberAnimation { duration: Theme.tilePress; easing.type: Easing.OutQuad }
+            NumberAnimation { duration: Theme.motion.tilePress; easing.type: Easing.OutQuad }
         }
     }
     TileGear {

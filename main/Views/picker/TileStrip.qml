@@ -82,7 +82,7 @@ ListView {
         id: scrolling
 
         running: false
-        duration: Theme.stripScroll
+        duration: Theme.motion.stripScroll
         easing.type: Easing.OutCubic
     }
 

@@ -13,7 +13,7 @@ Item {
 
     required property AppModel app
     required property bool isKey
-    property int noticeDuration: Theme.noticeDuration
+    property int noticeDuration: Theme.motion.noticeDuration
     property AlertDialog alert: null
     property string alertKind
 

@@ -38,8 +38,8 @@ TestCase {
 
     function test_reducedMotionLeavesNoMovement() {
         Theme.reducedMotion = true
-        compare([Theme.tileFocus, Theme.toggle, Theme.sheetSlide], [0, 0, 0])
-        verify(Theme.sheetIn > 0 && Theme.sheetIn <= 80)
+        compare([Theme.motion.tileFocus, Theme.motion.toggle, Theme.motion.sheetSlide], [0, 0, 0])
+        verify(Theme.motion.sheetIn > 0 && Theme.motion.sheetIn <= 80)
         Theme.reducedMotion = false
     }
 }

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+/// How long things take to change, in milliseconds, and how far they move. With reduced motion nothing moves or
+/// grows, and fades are short.
+QtObject {
+    id: motion
+
+    required property bool reducedMotion
+
+    readonly property real focusedScale: 1.04
+    readonly property real pressedScale: 0.97
+    readonly property int tileFocus: moving(140)
+    readonly property int tilePress: moving(100)
+    readonly property int stripScroll: moving(180)
+    readonly property int hover: fading(120)
+    readonly property int toggle: moving(120)
+    readonly property int menuIn: fading(120)
+    readonly property int menuOut: fading(80)
+    readonly property int sheetIn: fading(180)
+    readonly property int sheetOut: fading(120)
+    readonly property int toastIn: fading(200)
+    readonly property int toastOut: fading(160)
+    readonly property int busyFade: fading(150)
+    readonly property int busyCross: 900
+    readonly property int noticeDuration: 2500
+    readonly property int toolTipDelay: 600
+    readonly property real menuSlide: reducedMotion ? 0 : 4
+    readonly property real sheetSlide: reducedMotion ? 0 : 8
+    readonly property real toastSlide: reducedMotion ? 0 : 12
+
+    function moving(duration: int): int {
+        return motion.reducedMotion ? 0 : duration
+    }
+    function fading(duration: int): int {
+        return motion.reducedMotion ? Math.min(duration, 80) : duration
+    }
+}
