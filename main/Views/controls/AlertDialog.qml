@@ -18,7 +18,7 @@ ModalLayer {
 
     z: Theme.alertLayer
     firstFocus: destructive && cancelText !== "" ? buttons.cancelButton : buttons.confirmButton
-    plateWidth: Theme.alertWidth
+    plateWidth: Theme.sheets.alertWidth
     plateHeight: texts.height + buttons.height + 2 * Theme.space24 + Theme.space20
 
     Accessible.role: Accessible.AlertMessage

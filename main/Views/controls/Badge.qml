@@ -28,7 +28,7 @@ Rectangle {
     }
 
     implicitWidth: Math.ceil(caption.implicitWidth) + 2 * Theme.space8
-    implicitHeight: Theme.badgeHeight
+    implicitHeight: Theme.controls.badgeHeight
     radius: height / 2
     color: {
         switch (badge.kind) {

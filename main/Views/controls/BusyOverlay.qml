@@ -71,8 +71,8 @@ FocusScope {
     }
     Rectangle {
         anchors.centerIn: parent
-        width: Math.min(parent.width - 2 * Theme.sheetMargin,
-                        Math.max(Theme.busyWidth, caption.implicitWidth + 2 * 40))
+        width: Math.min(parent.width - 2 * Theme.sheets.margin,
+                        Math.max(Theme.sheets.busyWidth, caption.implicitWidth + 2 * 40))
         height: 32 + mark.height + Theme.space20 + caption.height + 32
         radius: Theme.radiusTile
         color: Theme.surface

@@ -22,7 +22,8 @@ Pressable {
     answersReturn: false
     takesFocusOnClick: true
     implicitWidth: texts.x + Math.max(caption.implicitWidth, path.implicitWidth)
-    implicitHeight: detail !== "" ? Theme.scaled(52) : inList ? Theme.scaled(40) : Theme.rowTarget
+    implicitHeight: detail !== "" ? Theme.controls.pathRow : inList ? Theme.controls.listRow
+                                                                    : Theme.controls.rowTarget
     opacity: enabled ? 1 : Theme.disabledOpacity
 
     Accessible.role: Accessible.CheckBox

@@ -20,7 +20,7 @@ Pressable {
     tabStop: expandable
     enabled: expandable
     implicitWidth: caret.width + caption.anchors.leftMargin + caption.implicitWidth
-    implicitHeight: Theme.rowTarget
+    implicitHeight: Theme.controls.rowTarget
 
     Accessible.role: expandable ? Accessible.Button : Accessible.StaticText
     Accessible.description: !expandable ? "" : expanded ? qsTr("aperto") : qsTr("chiuso")

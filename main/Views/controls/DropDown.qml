@@ -30,9 +30,9 @@ Pressable {
 
     answersReturn: false
     takesFocusOnClick: true
-    implicitWidth: Theme.modeWidth
-    implicitHeight: size === DropDown.Small ? Theme.smallHeight
-                  : size === DropDown.Large ? Theme.sheetControlHeight : Theme.controlHeight
+    implicitWidth: Theme.controls.modeWidth
+    implicitHeight: size === DropDown.Small ? Theme.controls.smallHeight
+                  : size === DropDown.Large ? Theme.controls.largeHeight : Theme.controls.height
     opacity: enabled ? 1 : Theme.disabledOpacity
 
     Accessible.role: Accessible.ComboBox

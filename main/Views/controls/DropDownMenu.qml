@@ -47,8 +47,8 @@ Popover {
     ListView {
         id: list
 
-        width: menu.explanations.length > 0 ? Theme.menuWidth - 2 * menu.padding
-                                            : Math.max(menu.narrowest, Theme.modeWidth) - 2 * menu.padding
+        width: menu.explanations.length > 0 ? Theme.controls.menuWidth - 2 * menu.padding
+                                            : Math.max(menu.narrowest, Theme.controls.modeWidth) - 2 * menu.padding
         // No binding: how high the content is depends on how much of it is made.
         onContentHeightChanged: menu.fit()
         model: menu.labels

@@ -25,8 +25,8 @@ Pressable {
     readonly property real padding: small ? 10 : size === GhostButton.Large ? 16 : 12
 
     label: text
-    implicitHeight: small ? Theme.smallHeight : size === GhostButton.Large ? Theme.sheetControlHeight
-                                                                           : Theme.controlHeight
+    implicitHeight: small ? Theme.controls.smallHeight : size === GhostButton.Large ? Theme.controls.largeHeight
+                                                                           : Theme.controls.height
     implicitWidth: iconOnly ? implicitHeight : Math.ceil(content.implicitWidth) + 2 * (padding + Theme.hairline)
     opacity: enabled ? 1 : Theme.disabledOpacity
 

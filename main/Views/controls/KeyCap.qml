@@ -21,8 +21,8 @@ Rectangle {
     /// Runs of text, and each drawn key by itself.
     readonly property list<string> parts: keys.match(/[←→⌘↩]|[^←→⌘↩]+/g) ?? []
 
-    implicitWidth: Math.max(Math.ceil(content.implicitWidth) + 2 * 6, Theme.scaled(24))
-    implicitHeight: Theme.keyCapHeight
+    implicitWidth: Math.max(Math.ceil(content.implicitWidth) + 2 * 6, Theme.controls.keyCapWidth)
+    implicitHeight: Theme.controls.keyCapHeight
     radius: Theme.radiusKeyCap
     color: Theme.surface
     border.width: Theme.hairline
@@ -55,7 +55,7 @@ Rectangle {
                     anchors.centerIn: parent
                     visible: part.icon !== ""
                     name: part.icon
-                    size: Theme.scaled(12)
+                    size: Theme.controls.keyCapIcon
                     weight: PathIcon.Bold
                     color: Theme.textSoft
                 }

@@ -31,7 +31,7 @@ Pressable {
 
     label: text
     implicitWidth: Math.ceil(content.implicitWidth) + 2 * (large ? 20 : 18)
-    implicitHeight: large ? Theme.launchHeight : Theme.sheetControlHeight
+    implicitHeight: large ? Theme.controls.launchHeight : Theme.controls.largeHeight
     scale: pressed ? Theme.motion.pressedScale : 1
 
     Behavior on scale {

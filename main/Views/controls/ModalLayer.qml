@@ -16,7 +16,7 @@ FocusScope {
     property bool confirmEnabled: true
     property bool cancellable: true
     property Item firstFocus: null ///< else the first control
-    property real plateWidth: Theme.alertWidth
+    property real plateWidth: Theme.sheets.alertWidth
     property real plateHeight: 0
     property Item previousFocus: null
     property bool isOpen: false
@@ -134,7 +134,7 @@ FocusScope {
 
         x: Math.round((layer.width - width) / 2)
         y: Math.round((layer.height - height) / 2) + slide
-        width: Math.min(layer.plateWidth, layer.width - 2 * Theme.sheetMargin)
+        width: Math.min(layer.plateWidth, layer.width - 2 * Theme.sheets.margin)
         height: layer.plateHeight
         radius: Theme.radiusSheet
         color: Theme.surface

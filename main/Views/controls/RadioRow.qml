@@ -23,7 +23,7 @@ Pressable {
     answersReturn: false
     takesFocusOnClick: true
     implicitWidth: texts.x + Math.ceil(Math.max(caption.implicitWidth + symbolWidth, explanation.implicitWidth))
-    implicitHeight: Math.max(Theme.rowTarget, texts.implicitHeight)
+    implicitHeight: Math.max(Theme.controls.rowTarget, texts.implicitHeight)
     opacity: enabled ? 1 : Theme.disabledOpacity
 
     Accessible.role: Accessible.RadioButton

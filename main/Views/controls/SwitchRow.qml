@@ -21,7 +21,7 @@ Item {
     signal toggled(bool checked)
 
     implicitWidth: Math.max(caption.implicitWidth, note.implicitWidth) + toggle.implicitWidth + Theme.space12
-    implicitHeight: Math.max(texts.implicitHeight, Theme.scaled(24))
+    implicitHeight: Math.max(texts.implicitHeight, Theme.controls.switchRow)
 
     MouseArea {
         anchors.fill: parent

@@ -14,8 +14,8 @@ Pressable {
     required property bool chosen
 
     takesFocusOnClick: true
-    implicitWidth: Theme.gridCell
-    implicitHeight: Theme.gridCell
+    implicitWidth: Theme.controls.gridCell
+    implicitHeight: Theme.controls.gridCell
 
     Accessible.role: Accessible.RadioButton
     Accessible.checked: chosen
@@ -23,7 +23,7 @@ Pressable {
     LeafShape {
         anchors.fill: parent
         visible: cell.chosen || cell.hovered
-        tip: Theme.glyphTip * Theme.gridCell
+        tip: Theme.glyphTip * Theme.controls.gridCell
         color: cell.chosen ? Theme.lit : Theme.raised
     }
     LeafShape {
@@ -37,7 +37,7 @@ Pressable {
     PathIcon {
         anchors.centerIn: parent
         symbol: cell.symbol
-        size: Theme.gridIcon
+        size: Theme.controls.gridIcon
         color: cell.chosen ? Theme.onFill : cell.hovered ? Theme.text : Theme.textSoft
     }
 }

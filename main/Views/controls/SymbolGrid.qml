@@ -45,7 +45,7 @@ ListWell {
 
     onSelectionChanged: current = Math.max(0, symbols.indexOf(selection))
 
-    implicitWidth: columns * Theme.gridCell + 2 * Theme.space16
+    implicitWidth: columns * Theme.controls.gridCell + 2 * Theme.space16
     implicitHeight: layout.implicitHeight + 2 * Theme.space16
 
     Accessible.role: Accessible.Grouping

@@ -37,7 +37,7 @@ FocusScope {
 
         y: caption.visible ? caption.height + 6 : 0
         width: field.width
-        height: Theme.sheetControlHeight
+        height: Theme.controls.largeHeight
         radius: Theme.radiusControl
         color: Theme.wellFill
         border.width: field.ringed ? Theme.thickLine : Theme.hairline

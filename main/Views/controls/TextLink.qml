@@ -14,7 +14,7 @@ Pressable {
 
     label: text
     implicitWidth: Math.ceil(caption.implicitWidth)
-    implicitHeight: Theme.rowTarget
+    implicitHeight: Theme.controls.rowTarget
     opacity: enabled ? 1 : Theme.disabledOpacity
 
     Accessible.role: Accessible.Link

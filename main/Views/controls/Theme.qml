@@ -84,11 +84,6 @@ QtObject {
         return plain.replace(/(^|[\s(«])(~?\/[^\s,;()«»]+)/g, `$1<span style="${style}">$2</span>`)
     }
 
-    /// A measure that grows with the text: heights of whatever holds a line of it.
-    function scaled(measure: real): real {
-        return Math.round(measure * theme.textScale)
-    }
-
     // ---- Spacing, radii, lines
 
     readonly property real space4: 4
@@ -113,47 +108,14 @@ QtObject {
     readonly property real ringGap: 4 ///< from the control to the outer edge of its focus ring
     readonly property real ringTip: 8
 
-    // ---- Controls
-
-    readonly property real rowTarget: scaled(28) ///< at least, for whatever can be pressed
-    readonly property real smallHeight: scaled(28)
-    readonly property real controlHeight: scaled(32)
-    readonly property real sheetControlHeight: scaled(36)
-    readonly property real launchHeight: scaled(40)
-    readonly property real badgeHeight: scaled(20)
-    readonly property real keyCapHeight: scaled(20)
-    readonly property real toastHeight: scaled(40)
     readonly property real iconSmall: 14
     readonly property real iconControl: 16
     readonly property real iconAlone: 18
     readonly property real iconCaret: 12
-    readonly property real gridCell: 40
-    readonly property real gridIcon: 20
-    readonly property real menuWidth: 320
-    readonly property real modeWidth: 128
-    readonly property real scrollBarWidth: 4
 
-    // ---- Windows, sheets and layers
-
-    readonly property real detailMargin: 24
     readonly property real cardGap: 12
-    readonly property real sheetMargin: 24
-    readonly property real alertWidth: 400
-    readonly property real newProfileWidth: 560
-    readonly property real importWidth: 480
-    readonly property real sessionImportWidth: 560
-    readonly property real backupWidth: 480
-    readonly property real labelGap: 6 ///< from a field's label to the field
-    readonly property real titleGap: 10 ///< from the title of a section to what it heads
-    readonly property real checklistRows: 7.5 ///< at most, of a list among others
-    readonly property int checklistLeast: 3 ///< rows, of a list that gives way
-    readonly property real importRow: scaled(40)
-    readonly property real importRows: 5.5
-    readonly property real sessionRow: scaled(52)
-    readonly property real sessionListHeight: 280
-    readonly property real sessionSourceWidth: 200
-    readonly property real busyWidth: 304
-    readonly property real toastMargin: 24
+
+    // ---- Layers
 
     readonly property int sheetLayer: 10
     readonly property int popoverLayer: 20
@@ -162,12 +124,11 @@ QtObject {
     readonly property int busyLayer: 50
     readonly property int toolTipLayer: 60
 
-    // ---- Windows
-
-    readonly property size manageWindow: Qt.size(1000, 700)
-    readonly property size manageMinimum: Qt.size(880, 600)
-    readonly property PickerMeasures picker: PickerMeasures { textScale: theme.textScale }
-    readonly property ManageMeasures manage: ManageMeasures { textScale: theme.textScale }
+    // ---- By subject
 
     readonly property Motion motion: Motion { reducedMotion: theme.reducedMotion }
+    readonly property ControlMeasures controls: ControlMeasures { textScale: theme.textScale }
+    readonly property SheetMeasures sheets: SheetMeasures { textScale: theme.textScale }
+    readonly property PickerMeasures picker: PickerMeasures { textScale: theme.textScale }
+    readonly property ManageMeasures manage: ManageMeasures { textScale: theme.textScale }
 }

@@ -16,7 +16,7 @@ Item {
     anchors.top: flickable.top
     anchors.bottom: flickable.bottom
     anchors.right: flickable.right
-    width: Theme.scrollBarWidth + 2 * inset
+    width: Theme.controls.scrollBarWidth + 2 * inset
     visible: flickable.visibleArea.heightRatio < 1
 
     Accessible.ignored: true
@@ -29,7 +29,7 @@ Item {
 
         x: bar.inset
         y: bar.inset + bar.flickable.visibleArea.yPosition / (1 - bar.flickable.visibleArea.heightRatio) * room
-        width: Theme.scrollBarWidth
+        width: Theme.controls.scrollBarWidth
         height: Math.max(Theme.space24, bar.flickable.visibleArea.heightRatio * length)
         radius: width / 2
         color: Theme.controlBorder

@@ -30,10 +30,10 @@ Item {
         property real slide: toast.isShown ? 0 : Theme.motion.toastSlide
 
         anchors.horizontalCenter: parent.horizontalCenter
-        y: toast.height - height - Theme.toastMargin + slide
+        y: toast.height - height - Theme.sheets.toastMargin + slide
         width: Math.min(Theme.space16 + sign.width + 10 + Math.ceil(caption.implicitWidth) + Theme.space20,
-                        toast.width - 2 * Theme.toastMargin)
-        height: Theme.toastHeight
+                        toast.width - 2 * Theme.sheets.toastMargin)
+        height: Theme.controls.toastHeight
         tip: Theme.buttonTip
         color: Theme.text
         opacity: toast.isShown ? 1 : 0

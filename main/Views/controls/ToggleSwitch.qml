@@ -17,7 +17,7 @@ Pressable {
     answersReturn: false
     takesFocusOnClick: true
     implicitWidth: 34
-    implicitHeight: Theme.rowTarget
+    implicitHeight: Theme.controls.rowTarget
     opacity: enabled ? 1 : Theme.disabledOpacity
 
     Accessible.role: Accessible.CheckBox

@@ -51,7 +51,7 @@ Rectangle {
             anchors.verticalCenter: parent.verticalCenter
             look: Theme.type.small
             text: bubble.pieces[1]
-            width: Math.min(implicitWidth, Theme.menuWidth)
+            width: Math.min(implicitWidth, Theme.controls.menuWidth)
             wrapMode: Text.Wrap
         }
         KeyCap {

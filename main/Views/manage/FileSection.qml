@@ -26,7 +26,7 @@ Card {
 
         y: Theme.space12
         width: parent.width
-        height: Theme.smallHeight
+        height: Theme.controls.smallHeight
         component: section.component
     }
     Row {

@@ -33,7 +33,8 @@ Item {
             list.menu.openFor(list.component, list.currentItem, cursor, x, y, height)
     }
     function openMenuByKey(): void {
-        list.openMenu(cursor.width - Theme.manage.itemMenuRight - Theme.smallHeight, cursor.height, cursor.height)
+        list.openMenu(cursor.width - Theme.manage.itemMenuRight - Theme.controls.smallHeight,
+                      cursor.height, cursor.height)
         list.menu.move(1)
     }
     function within(y: real): real {

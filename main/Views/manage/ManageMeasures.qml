@@ -6,14 +6,11 @@ pragma ComponentBehavior: Bound
 import QtQuick
 
 /// The measures of the management window.
-QtObject {
-    id: measures
+Measures {
+    // ---- Window
 
-    required property real textScale
-
-    function scaled(measure: real): real {
-        return Math.round(measure * measures.textScale)
-    }
+    readonly property size window: Qt.size(1000, 700)
+    readonly property size minimum: Qt.size(880, 600)
 
     // ---- Sidebar
 
@@ -31,6 +28,7 @@ QtObject {
 
     // ---- Detail
 
+    readonly property real detailMargin: 24
     readonly property real narrowDetail: scaled(680) ///< below it the narrow layout applies
     readonly property real toolBarHeight: scaled(48)
     readonly property real toolBarInset: 14

@@ -12,10 +12,10 @@ Window {
 
     required property LauncherApp launcher
 
-    width: Theme.manageWindow.width
-    height: Theme.manageWindow.height
-    minimumWidth: Theme.manageMinimum.width
-    minimumHeight: Theme.manageMinimum.height
+    width: Theme.manage.window.width
+    height: Theme.manage.window.height
+    minimumWidth: Theme.manage.minimum.width
+    minimumHeight: Theme.manage.minimum.height
     title: qsTr("Impostazioni")
     color: Theme.windowFill
 

@@ -15,7 +15,7 @@ FocusScope {
     required property bool answersShortcut
 
     readonly property bool isNarrow: width < Theme.manage.narrowDetail
-    readonly property real columnWidth: width - 2 * Theme.detailMargin
+    readonly property real columnWidth: width - 2 * Theme.manage.detailMargin
 
     signal duplicateAsked
     signal deleteAsked
@@ -45,9 +45,9 @@ FocusScope {
 
         anchors { top: toolBar.bottom; bottom: parent.bottom }
         width: detail.width
-        sideMargin: Theme.detailMargin
+        sideMargin: Theme.manage.detailMargin
         topMargin: Theme.space20
-        bottomMargin: Theme.detailMargin
+        bottomMargin: Theme.manage.detailMargin
         spacing: Theme.cardGap
 
         ProfileHeader {

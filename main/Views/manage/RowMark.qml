@@ -14,7 +14,7 @@ Pressable {
 
     tabStop: false
     implicitWidth: Theme.iconSmall
-    implicitHeight: Theme.rowTarget
+    implicitHeight: Theme.controls.rowTarget
 
     Accessible.ignored: true
 

@@ -63,7 +63,7 @@ Item {
             StyledText {
                 id: version
 
-                height: Theme.smallHeight
+                height: Theme.controls.smallHeight
                 look: Theme.type.small
                 text: qsTr("Versione %1").arg(footer.updates.version)
                 color: Theme.textFaint

@@ -6,14 +6,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 
 /// The measures of the picker and its tiles. What holds text grows with it; the title is large enough as it is.
-QtObject {
+Measures {
     id: measures
-
-    required property real textScale
-
-    function scaled(measure: real): real {
-        return Math.round(measure * measures.textScale)
-    }
 
     // ---- Window
 

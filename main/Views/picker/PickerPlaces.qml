@@ -6,10 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 
 /// Where the parts of the picker lie, from the top; `height` is the window's that they are drawn for.
-QtObject {
-    id: places
-
-    required property real textScale
+Measures {
     required property real margin
     required property real barTop
     required property real overline
@@ -24,8 +21,4 @@ QtObject {
     readonly property real subtitle: title + titleHeight + titleGap
     readonly property real tiles: subtitle + scaled(24) + subtitleGap
     readonly property real height: tiles + tileHeight + below
-
-    function scaled(measure: real): real {
-        return Math.round(measure * places.textScale)
-    }
 }

@@ -147,7 +147,7 @@ FocusScope {
         y: view.height - view.places.footer - height
     }
     Kelvo8Logo {
-        size: Theme.keyCapHeight
+        size: Theme.controls.keyCapHeight
         color: Theme.textFaint
         anchors.right: parent.right
         anchors.rightMargin: view.columnLeft

@@ -12,7 +12,7 @@ Column {
 
     required property NewProfileForm form
 
-    spacing: Theme.titleGap
+    spacing: Theme.sheets.titleGap
 
     SectionTitle {
         width: parent.width

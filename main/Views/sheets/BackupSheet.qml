@@ -15,7 +15,7 @@ Sheet {
     title: qsTr("Cosa salvare")
     confirmText: qsTr("Salva backup…")
     confirmEnabled: form.canSave
-    plateWidth: Theme.backupWidth
+    plateWidth: Theme.sheets.backupWidth
     onConfirmed: form.submit()
 
     BackupForm {

@@ -14,7 +14,7 @@ Item {
     required property ChoiceListModel choices ///< may be null
     property string label ///< accessible name
     property int columns: 1
-    property real rowHeight: Theme.rowTarget
+    property real rowHeight: Theme.controls.rowTarget
     property bool inList: false ///< rows of a well, with lines between them
 
     property alias view: view

@@ -14,7 +14,7 @@ ListWell {
     required property ChoiceListModel choices
     required property string label ///< accessible name
     required property string emptyText
-    property real rowHeight: Theme.importRow
+    property real rowHeight: Theme.controls.listRow
     required property real wantedHeight
     required property real room
 
@@ -23,7 +23,7 @@ ListWell {
     /// What takes the focus; none while there is nothing to tick.
     readonly property Item focusTarget: isEmpty ? null : checklist.view
 
-    height: Math.min(wantedHeight, Math.max(room, Theme.checklistLeast * rowHeight))
+    height: Math.min(wantedHeight, Math.max(room, Theme.sheets.checklistLeast * rowHeight))
 
     Checklist {
         id: checklist

@@ -19,7 +19,7 @@ Item {
     property bool expanded: false
 
     readonly property real inset: icon.width + icon.anchors.rightMargin
-    readonly property real shownRows: Math.min(list.contentHeight, Theme.checklistRows * list.rowHeight)
+    readonly property real shownRows: Math.min(list.contentHeight, Theme.sheets.checklistRows * list.rowHeight)
 
     signal modeChosen(int index)
 

@@ -12,7 +12,7 @@ Column {
 
     required property string label
 
-    spacing: Theme.labelGap
+    spacing: Theme.sheets.labelGap
 
     StyledText {
         width: parent.width

@@ -17,7 +17,7 @@ Sheet {
     title: qsTr("Aggiungi da un altro profilo")
     confirmText: qsTr("Aggiungi %1").arg(form.items.chosenCount)
     confirmEnabled: form.items.chosenCount > 0
-    plateWidth: Theme.importWidth
+    plateWidth: Theme.sheets.importWidth
     spacing: Theme.space20
     firstFocus: items.focusTarget
     onConfirmed: form.submit()
@@ -41,7 +41,7 @@ Sheet {
     }
     Column {
         width: parent.width
-        spacing: Theme.titleGap
+        spacing: Theme.sheets.titleGap
 
         SectionTitle {
             id: heading
@@ -53,8 +53,9 @@ Sheet {
             id: items
 
             width: parent.width
-            wantedHeight: isEmpty ? 2 * rowHeight : Math.min(contentHeight, Theme.importRows * rowHeight)
-            room: sheet.bodyRoom - source.height - heading.height - way.height - 2 * sheet.spacing - Theme.titleGap
+            wantedHeight: isEmpty ? 2 * rowHeight : Math.min(contentHeight, Theme.sheets.importRows * rowHeight)
+            room: sheet.bodyRoom - source.height - heading.height - way.height - 2 * sheet.spacing
+                  - Theme.sheets.titleGap
             choices: form.items
             label: form.heading
             emptyText: qsTr("Niente da aggiungere")

@@ -16,7 +16,7 @@ Sheet {
     title: qsTr("Nuovo profilo")
     confirmText: qsTr("Crea profilo")
     confirmEnabled: form.canCreate
-    plateWidth: Theme.newProfileWidth
+    plateWidth: Theme.sheets.newProfileWidth
     spacing: Theme.space24
     firstFocus: nameField
     onConfirmed: form.create()

@@ -16,7 +16,7 @@ Sheet {
     title: qsTr("Sessioni del tab Code")
     confirmText: qsTr("Importa %1").arg(form.sessions.chosenCount)
     confirmEnabled: form.sessions.chosenCount > 0
-    plateWidth: Theme.sessionImportWidth
+    plateWidth: Theme.sheets.sessionImportWidth
     spacing: Theme.space12
     firstFocus: search
     onConfirmed: form.submit()
@@ -36,7 +36,7 @@ Sheet {
         ProfileDropDown {
             id: source
 
-            width: Theme.sessionSourceWidth
+            width: Theme.sheets.sessionSourceWidth
             label: qsTr("Profilo")
             app: sheet.app
             except: sheet.target
@@ -84,9 +84,9 @@ Sheet {
         }
         ChecklistWell {
             width: parent.width
-            wantedHeight: Theme.sessionListHeight
+            wantedHeight: Theme.sheets.sessionListHeight
             room: sheet.bodyRoom - inputs.height - count.height - note.height - 2 * sheet.spacing - Theme.space4
-            rowHeight: Theme.sessionRow
+            rowHeight: Theme.controls.pathRow
             choices: form.sessions
             label: sheet.title
             emptyText: form.isLoading ? qsTr("Lettura delle sessioni…") : qsTr("Nessuna sessione")

@@ -16,11 +16,11 @@ ModalLayer {
     property alias spacing: pane.spacing
 
     readonly property real fixedHeight: header.height + footer.height
-    readonly property real highest: height - 2 * Theme.sheetMargin
+    readonly property real highest: height - 2 * Theme.sheets.margin
     /// How high the body can be before it scrolls.
     readonly property real bodyRoom: highest - fixedHeight - pane.bottomMargin
 
-    plateWidth: Theme.newProfileWidth
+    plateWidth: Theme.sheets.newProfileWidth
     plateHeight: Math.min(highest, fixedHeight + pane.implicitHeight)
 
     Item {
@@ -32,9 +32,9 @@ ModalLayer {
         StyledText {
             id: heading
 
-            x: Theme.sheetMargin
+            x: Theme.sheets.margin
             y: Theme.space20
-            width: parent.width - 2 * Theme.sheetMargin
+            width: parent.width - 2 * Theme.sheets.margin
             look: Theme.type.sheetTitle
             text: sheet.title
             elide: Text.ElideRight
@@ -56,7 +56,7 @@ ModalLayer {
         anchors.top: header.bottom
         anchors.bottom: footer.top
         width: parent.width
-        sideMargin: Theme.sheetMargin
+        sideMargin: Theme.sheets.margin
         bottomMargin: Theme.space20
         spacing: Theme.space16
     }
@@ -65,7 +65,7 @@ ModalLayer {
 
         anchors.bottom: parent.bottom
         width: parent.width
-        height: Theme.sheetControlHeight + 2 * Theme.space16 + Theme.hairline
+        height: Theme.controls.largeHeight + 2 * Theme.space16 + Theme.hairline
 
         Rectangle {
             x: Theme.hairline
@@ -76,7 +76,7 @@ ModalLayer {
         DialogButtons {
             anchors.right: parent.right
             anchors.bottom: parent.bottom
-            anchors.rightMargin: Theme.sheetMargin
+            anchors.rightMargin: Theme.sheets.margin
             anchors.bottomMargin: Theme.space16
             confirmText: sheet.confirmText
             confirmEnabled: sheet.confirmEnabled

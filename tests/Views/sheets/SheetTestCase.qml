@@ -64,7 +64,7 @@ TestCase {
     }
     /// Whether the whole item lies inside the window's margin and inside every view that it scrolls in.
     function isInSight(item: Item): bool {
-        const margin = Theme.sheetMargin
+        const margin = Theme.sheets.margin
         const inWindow = item.mapToItem(test.scene, 0, 0, item.width, item.height)
         if (inWindow.x < margin || inWindow.right > test.scene.width - margin || inWindow.y < margin
                 || inWindow.bottom > test.scene.height - margin)
