@@ -16,7 +16,7 @@ Row {
 
     BrandMark {
         anchors.verticalCenter: parent.verticalCenter
-        size: 36
+        size: Theme.controls.lockupMark
     }
     Column {
         anchors.verticalCenter: parent.verticalCenter

@@ -28,10 +28,10 @@ ModalLayer {
         id: sign
 
         x: Theme.space24
-        y: Theme.space24 + 1
+        y: Theme.space24 + Math.round((Theme.type.alertTitle.lineHeight - height) / 2)
         visible: alert.isError
         symbol: "exclamationmark.triangle"
-        size: 22
+        size: Theme.sheets.alertSign
         color: Theme.danger
     }
     Column {
@@ -40,7 +40,7 @@ ModalLayer {
         x: alert.isError ? sign.x + sign.width + Theme.space12 : Theme.space24
         y: Theme.space24
         width: parent.width - x - Theme.space24
-        spacing: 6
+        spacing: Theme.space6
 
         StyledText {
             width: parent.width

@@ -72,8 +72,8 @@ FocusScope {
     Rectangle {
         anchors.centerIn: parent
         width: Math.min(parent.width - 2 * Theme.sheets.margin,
-                        Math.max(Theme.sheets.busyWidth, caption.implicitWidth + 2 * 40))
-        height: 32 + mark.height + Theme.space20 + caption.height + 32
+                        Math.max(Theme.sheets.busyWidth, caption.implicitWidth + 2 * Theme.sheets.busySide))
+        height: mark.height + Theme.space20 + caption.height + 2 * Theme.sheets.busyMargin
         radius: Theme.radiusTile
         color: Theme.surface
         border.width: Theme.hairline
@@ -83,8 +83,8 @@ FocusScope {
             id: mark
 
             anchors.horizontalCenter: parent.horizontalCenter
-            y: 32
-            size: 56
+            y: Theme.sheets.busyMargin
+            size: Theme.sheets.busyMark
             upper: overlay.mix(overlay.light)
             lower: overlay.mix(1 - overlay.light)
         }
@@ -93,7 +93,7 @@ FocusScope {
 
             anchors.top: mark.bottom
             anchors.topMargin: Theme.space20
-            x: 40
+            x: Theme.sheets.busySide
             width: parent.width - 2 * x
             horizontalAlignment: Text.AlignHCenter
             look: Theme.type.busyMessage

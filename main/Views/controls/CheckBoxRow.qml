@@ -44,8 +44,8 @@ Pressable {
 
         anchors.verticalCenter: parent.verticalCenter
         x: row.inList ? Theme.space16 : 0
-        width: 16
-        height: 16
+        width: Theme.controls.mark
+        height: width
         radius: Theme.radiusSmall
         color: row.checked ? Theme.switchedOn : Theme.transparent
         border.width: row.checked ? 0 : Theme.hairline
@@ -55,7 +55,7 @@ Pressable {
             anchors.centerIn: parent
             visible: row.checked
             name: "check"
-            size: 12
+            size: Theme.controls.tick
             weight: PathIcon.Bold
             color: Theme.onFill
         }

@@ -19,10 +19,24 @@ Measures {
     readonly property real keyCapHeight: scaled(20)
     readonly property real keyCapWidth: scaled(24) ///< at least
     readonly property real keyCapIcon: scaled(12)
-    readonly property real toastHeight: scaled(40)
+    readonly property real launchPadding: 20
+    readonly property real confirmPadding: 18
+    readonly property real fieldWidth: 240
+    readonly property real labelGap: 6 ///< from a field's label to the field
+    readonly property real mark: 16 ///< of a check box or a radio button
+    readonly property real tick: 12 ///< in a check box
+    readonly property real radioRing: 5
+    readonly property real switchWidth: 34
+    readonly property real switchHeight: 20
+    readonly property real switchKnob: 12
+    readonly property real switchInset: 4 ///< from the knob to the end
+    readonly property real lockupMark: 36
+    readonly property real halfSymbol: 40 ///< from this size on a profile's symbol takes half of its leaf
     readonly property real gridCell: 40
     readonly property real gridIcon: 20
+    readonly property real menuPadding: 6
     readonly property real menuWidth: 320
     readonly property real modeWidth: 128
     readonly property real scrollBarWidth: 4
+    readonly property real scrollBarInset: 6
 }

@@ -60,7 +60,7 @@ Pressable {
         anchors.verticalCenter: parent.verticalCenter
         anchors.left: parent.left
         anchors.right: caret.left
-        anchors.leftMargin: (dropDown.size === DropDown.Small ? 10 : Theme.space12) + Theme.hairline
+        anchors.leftMargin: (dropDown.size === DropDown.Small ? Theme.space10 : Theme.space12) + Theme.hairline
         anchors.rightMargin: Theme.space8
         look: dropDown.size === DropDown.Large ? Theme.type.field
             : dropDown.size === DropDown.Small ? Theme.type.smallControl : Theme.type.control
@@ -72,7 +72,7 @@ Pressable {
 
         anchors.verticalCenter: parent.verticalCenter
         anchors.right: parent.right
-        anchors.rightMargin: dropDown.size === DropDown.Small ? 8 : 10
+        anchors.rightMargin: dropDown.size === DropDown.Small ? Theme.space8 : Theme.space10
         name: "caret-down"
         size: Theme.iconCaret
         color: Theme.textSoft

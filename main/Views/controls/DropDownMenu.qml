@@ -86,6 +86,6 @@ Popover {
     }
     ThinScrollBar {
         flickable: list
-        inset: 2
+        inset: Theme.space2
     }
 }

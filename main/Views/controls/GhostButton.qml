@@ -17,12 +17,12 @@ Pressable {
     property int size: GhostButton.Medium ///< Large: beside a confirm button
     property bool bare: false ///< without a border at rest
     property bool soft: false ///< the label is as quiet as the icon
-    property real gap: small ? 6 : Theme.space8 ///< from the icon to the label
+    property real gap: small ? Theme.space6 : Theme.space8 ///< from the icon to the label
 
     readonly property bool iconOnly: text === ""
     readonly property bool small: size === GhostButton.Small
     readonly property bool active: hovered || pressed
-    readonly property real padding: small ? 10 : size === GhostButton.Large ? 16 : 12
+    readonly property real padding: small ? Theme.space10 : size === GhostButton.Large ? Theme.space16 : Theme.space12
 
     label: text
     implicitHeight: small ? Theme.controls.smallHeight : size === GhostButton.Large ? Theme.controls.largeHeight

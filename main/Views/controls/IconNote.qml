@@ -32,7 +32,7 @@ Item {
     StyledText {
         id: caption
 
-        x: icon.width + 10
+        x: icon.width + Theme.space10
         width: note.width - x
         look: note.look
         text: note.text

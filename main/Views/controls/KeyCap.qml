@@ -21,7 +21,7 @@ Rectangle {
     /// Runs of text, and each drawn key by itself.
     readonly property list<string> parts: keys.match(/[←→⌘↩]|[^←→⌘↩]+/g) ?? []
 
-    implicitWidth: Math.max(Math.ceil(content.implicitWidth) + 2 * 6, Theme.controls.keyCapWidth)
+    implicitWidth: Math.max(Math.ceil(content.implicitWidth) + 2 * Theme.space6, Theme.controls.keyCapWidth)
     implicitHeight: Theme.controls.keyCapHeight
     radius: Theme.radiusKeyCap
     color: Theme.surface

@@ -17,6 +17,7 @@ Pressable {
     property bool destructive: false
 
     readonly property bool large: size === LaunchButton.Large
+    readonly property real padding: large ? Theme.controls.launchPadding : Theme.controls.confirmPadding
     readonly property bool hasArrow: text.endsWith("→")
     readonly property color labelColor: enabled ? Theme.onFill : Theme.textFaint
     readonly property color fill: {
@@ -30,7 +31,7 @@ Pressable {
     }
 
     label: text
-    implicitWidth: Math.ceil(content.implicitWidth) + 2 * (large ? 20 : 18)
+    implicitWidth: Math.ceil(content.implicitWidth) + 2 * padding
     implicitHeight: large ? Theme.controls.launchHeight : Theme.controls.largeHeight
     scale: pressed ? Theme.motion.pressedScale : 1
 

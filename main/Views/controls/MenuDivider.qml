@@ -8,13 +8,13 @@ import Selvane
 
 /// A line between entries of a menu.
 Item {
-    implicitWidth: 1
-    implicitHeight: 2 * 6 + Theme.hairline
+    implicitWidth: Theme.hairline
+    implicitHeight: 2 * Theme.space6 + Theme.hairline
 
     Accessible.role: Accessible.Separator
 
     Rectangle {
-        y: 6
+        y: Theme.space6
         width: parent.width
         height: Theme.hairline
         color: Theme.separator

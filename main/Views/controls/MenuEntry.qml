@@ -25,7 +25,7 @@ Pressable {
 
     label: text
     tabStop: false
-    implicitWidth: texts.x + Math.max(caption.implicitWidth, choosable ? 0 : note.implicitWidth) + 10
+    implicitWidth: texts.x + Math.max(caption.implicitWidth, choosable ? 0 : note.implicitWidth) + Theme.space10
     implicitHeight: texts.implicitHeight + 2 * Theme.space8
     opacity: enabled ? 1 : Theme.disabledOpacity
 
@@ -51,8 +51,8 @@ Pressable {
     }
     PathIcon {
         anchors.verticalCenter: entry.choosable ? undefined : parent.verticalCenter
-        x: 10
-        y: Theme.space8 + 2
+        x: Theme.space10
+        y: Theme.space8 + Math.round((caption.height - height) / 2)
         visible: entry.hasIcon || entry.chosen
         symbol: entry.symbol
         name: entry.choosable ? "check" : entry.icon
@@ -63,8 +63,9 @@ Pressable {
         id: texts
 
         anchors.verticalCenter: parent.verticalCenter
-        x: entry.choosable ? 10 + Theme.iconSmall + 10 : entry.hasIcon ? 10 + Theme.iconControl + 10 : 10
-        width: entry.width - x - 10
+        x: Theme.space10 + (entry.choosable ? Theme.iconSmall + Theme.space10
+                            : entry.hasIcon ? Theme.iconControl + Theme.space10 : 0)
+        width: entry.width - x - Theme.space10
 
         StyledText {
             id: caption

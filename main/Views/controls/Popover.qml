@@ -12,7 +12,7 @@ FocusScope {
     id: popover
 
     default property alias content: inside.data
-    property real padding: 6
+    property real padding: Theme.controls.menuPadding
     property color fill: Theme.raised
     property bool isOpen: false
     property Item previousFocus: null

@@ -11,10 +11,10 @@ Item {
     id: glyph
 
     required property string symbol
-    property real size: 80
+    required property real size
     property bool isLit: false
 
-    readonly property real iconSize: size >= 40 ? size / 2 : Math.round(size * 0.5625)
+    readonly property real iconSize: size >= Theme.controls.halfSymbol ? size / 2 : Math.round(size * 0.5625)
 
     implicitWidth: size
     implicitHeight: size

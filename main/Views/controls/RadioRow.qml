@@ -37,11 +37,11 @@ Pressable {
         id: knob
 
         y: Math.round((heading.height - height) / 2) + texts.y
-        width: 16
-        height: 16
-        radius: 8
+        width: Theme.controls.mark
+        height: width
+        radius: width / 2
         color: Theme.transparent
-        border.width: row.checked ? 5 : Theme.hairline
+        border.width: row.checked ? Theme.controls.radioRing : Theme.hairline
         border.color: row.checked ? Theme.switchedOn : Theme.controlBorder
 
         FocusRing {
@@ -52,7 +52,7 @@ Pressable {
     Column {
         id: texts
 
-        x: knob.width + 10
+        x: knob.width + Theme.space10
         y: row.detail !== "" ? 0 : Math.round((row.height - height) / 2)
         width: row.width - x
         spacing: Theme.space4

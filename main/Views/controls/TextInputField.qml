@@ -20,7 +20,7 @@ FocusScope {
     signal edited(string text)
     signal submitted
 
-    implicitWidth: 240
+    implicitWidth: Theme.controls.fieldWidth
     implicitHeight: box.y + box.height
 
     StyledText {
@@ -35,7 +35,7 @@ FocusScope {
     Rectangle {
         id: box
 
-        y: caption.visible ? caption.height + 6 : 0
+        y: caption.visible ? caption.height + Theme.controls.labelGap : 0
         width: field.width
         height: Theme.controls.largeHeight
         radius: Theme.radiusControl

@@ -86,8 +86,11 @@ QtObject {
 
     // ---- Spacing, radii, lines
 
+    readonly property real space2: 2
     readonly property real space4: 4
+    readonly property real space6: 6
     readonly property real space8: 8
+    readonly property real space10: 10
     readonly property real space12: 12
     readonly property real space16: 16
     readonly property real space20: 20

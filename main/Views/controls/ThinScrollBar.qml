@@ -11,7 +11,7 @@ Item {
     id: bar
 
     required property Flickable flickable
-    property real inset: 6
+    property real inset: Theme.controls.scrollBarInset
 
     anchors.top: flickable.top
     anchors.bottom: flickable.bottom

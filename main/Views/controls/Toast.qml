@@ -31,9 +31,9 @@ Item {
 
         anchors.horizontalCenter: parent.horizontalCenter
         y: toast.height - height - Theme.sheets.toastMargin + slide
-        width: Math.min(Theme.space16 + sign.width + 10 + Math.ceil(caption.implicitWidth) + Theme.space20,
+        width: Math.min(Theme.space16 + sign.width + Theme.space10 + Math.ceil(caption.implicitWidth) + Theme.space20,
                         toast.width - 2 * Theme.sheets.toastMargin)
-        height: Theme.controls.toastHeight
+        height: Theme.sheets.toastHeight
         tip: Theme.buttonTip
         color: Theme.text
         opacity: toast.isShown ? 1 : 0
@@ -68,7 +68,7 @@ Item {
             id: caption
 
             anchors.verticalCenter: parent.verticalCenter
-            x: sign.x + sign.width + 10
+            x: sign.x + sign.width + Theme.space10
             width: parent.width - x - Theme.space20
             look: Theme.type.notice
             text: toast.lastText

@@ -16,7 +16,7 @@ Pressable {
 
     answersReturn: false
     takesFocusOnClick: true
-    implicitWidth: 34
+    implicitWidth: track.width
     implicitHeight: Theme.controls.rowTarget
     opacity: enabled ? 1 : Theme.disabledOpacity
 
@@ -31,8 +31,8 @@ Pressable {
         id: track
 
         anchors.verticalCenter: parent.verticalCenter
-        width: 34
-        height: 20
+        width: Theme.controls.switchWidth
+        height: Theme.controls.switchHeight
         radius: height / 2
         color: toggle.checked ? Theme.switchedOn : Qt.alpha(Theme.switchedOn, 0)
         border.width: toggle.checked ? 0 : Theme.hairline
@@ -43,11 +43,11 @@ Pressable {
         }
 
         Rectangle {
-            x: toggle.checked ? 18 : 4
+            x: toggle.checked ? track.width - width - Theme.controls.switchInset : Theme.controls.switchInset
             anchors.verticalCenter: parent.verticalCenter
-            width: 12
-            height: 12
-            radius: 6
+            width: Theme.controls.switchKnob
+            height: width
+            radius: width / 2
             color: toggle.checked ? Theme.onFill : Theme.textSoft
 
             Behavior on x {

@@ -27,8 +27,8 @@ Rectangle {
     parent: target.Window.contentItem
     z: Theme.toolTipLayer
     visible: false
-    width: Math.ceil(content.implicitWidth) + 2 * 10
-    height: content.implicitHeight + 2 * 6
+    width: Math.ceil(content.implicitWidth) + 2 * Theme.space10
+    height: content.implicitHeight + 2 * Theme.space6
     radius: Theme.radiusControl
     color: Theme.raised
     border.width: Theme.hairline

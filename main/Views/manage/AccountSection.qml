@@ -31,7 +31,7 @@ Card {
         x: Theme.space16
         y: section.isNarrow ? Math.round((section.height - height) / 2) : Theme.manage.cardTop
         width: (section.isNarrow && section.hasChoice ? caption.x - Theme.space12 : section.width - Theme.space16) - x
-        spacing: section.isNarrow ? 2 : 6
+        spacing: section.isNarrow ? Theme.space2 : Theme.space6
 
         SectionTitle {
             id: heading

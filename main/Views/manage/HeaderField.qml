@@ -20,7 +20,7 @@ FocusScope {
 
     signal submitted(string text)
 
-    implicitWidth: 240
+    implicitWidth: Theme.controls.fieldWidth
     implicitHeight: caption.height + input.height + Theme.space4
 
     function reset(): void {

@@ -65,7 +65,7 @@ Item {
             readonly property real taken: visible ? width + Theme.space16 : 0
 
             visible: header.profile.hasSource
-            spacing: 6
+            spacing: Theme.space6
 
             PathIcon {
                 anchors.verticalCenter: parent.verticalCenter

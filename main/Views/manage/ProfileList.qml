@@ -114,7 +114,7 @@ FocusScope {
     }
     ThinScrollBar {
         flickable: list
-        inset: 2
+        inset: Theme.space2
     }
     SidebarFooter {
         id: footer

@@ -47,7 +47,7 @@ Card {
         id: texts
 
         x: Theme.space16
-        y: heading.y + heading.height + 6
+        y: heading.y + heading.height + Theme.space6
         width: section.width - 2 * Theme.space16
 
         StyledText {

@@ -20,10 +20,12 @@ Item {
     required property bool hasOwnAccount
     required property bool isFocused
     required property bool isCompact
+    readonly property int digitKeys: 9 ///< only these profiles have a key of their own
 
     Accessible.ignored: true
 
     ProfileGlyph {
+        size: Theme.picker.tileGlyph
         x: Theme.space16
         y: Theme.space16
         symbol: label.symbol
@@ -96,7 +98,7 @@ Item {
     }
     StyledText {
         anchors { right: parent.right; bottom: parent.bottom; margins: Theme.space16 }
-        visible: label.position < 10 // only these have a key
+        visible: label.position <= label.digitKeys
         look: Theme.type.digit
         text: label.position
         color: Theme.textFaint

@@ -38,7 +38,7 @@ Item {
             anchors.fill: parent
             anchors.leftMargin: Theme.ringGap
             model: checklist.choices
-            cellWidth: Math.max(1, Math.floor(width / checklist.columns))
+            cellWidth: Math.max(Theme.hairline, Math.floor(width / checklist.columns))
             cellHeight: checklist.rowHeight
             boundsBehavior: Flickable.StopAtBounds
             highlightMoveDuration: 0

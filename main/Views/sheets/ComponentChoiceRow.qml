@@ -35,9 +35,9 @@ Item {
 
         y: Theme.hairline
         width: parent.width
-        topPadding: 10
-        bottomPadding: row.items ? Theme.space8 : 10
-        spacing: 2
+        topPadding: Theme.space10
+        bottomPadding: row.items ? Theme.space8 : Theme.space10
+        spacing: Theme.space2
 
         Item {
             width: parent.width
@@ -47,7 +47,7 @@ Item {
                 id: icon
 
                 anchors.verticalCenter: parent.verticalCenter
-                anchors.rightMargin: 10
+                anchors.rightMargin: Theme.space10
                 symbol: row.symbol
                 size: Theme.iconAlone
                 color: Theme.textSoft
@@ -55,7 +55,7 @@ Item {
             StyledText {
                 anchors.verticalCenter: parent.verticalCenter
                 anchors.left: icon.right
-                anchors.leftMargin: 10
+                anchors.leftMargin: Theme.space10
                 anchors.right: modes.left
                 anchors.rightMargin: Theme.space12
                 look: Theme.type.control

@@ -12,7 +12,7 @@ Column {
 
     required property string label
 
-    spacing: Theme.sheets.labelGap
+    spacing: Theme.controls.labelGap
 
     StyledText {
         width: parent.width

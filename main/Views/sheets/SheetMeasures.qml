@@ -13,13 +13,17 @@ Measures {
     readonly property real importWidth: 480
     readonly property real sessionImportWidth: 560
     readonly property real backupWidth: 480
-    readonly property real labelGap: 6 ///< from a field's label to the field
     readonly property real titleGap: 10 ///< from the title of a section to what it heads
     readonly property real checklistRows: 7.5 ///< at most, of a list among others
     readonly property int checklistLeast: 3 ///< rows, of a list that gives way
     readonly property real importRows: 5.5
     readonly property real sessionListHeight: 280
     readonly property real sessionSourceWidth: 200
-    readonly property real busyWidth: 304
+    readonly property real alertSign: 22
+    readonly property real busyWidth: 304 ///< at least
+    readonly property real busyMargin: 32 ///< above and below
+    readonly property real busySide: 40
+    readonly property real busyMark: 56
+    readonly property real toastHeight: scaled(40)
     readonly property real toastMargin: 24
 }
