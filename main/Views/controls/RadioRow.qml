@@ -6,7 +6,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// One of a few choices: its text, perhaps a symbol behind it, and an explanation below.
+/// One of a few choices: its text, perhaps a symbol behind it, and an explanation below. Those with the same
+/// parent are one stop of the Tab key, and the arrow keys go round among them and choose.
 Pressable {
     id: row
 
@@ -19,7 +20,16 @@ Pressable {
 
     signal chosen
 
+    function chooseFrom(step: int): void {
+        const isChoice = item => item instanceof RadioRow && item.visible && item.enabled
+        const rows = Array.from(row.parent.children).filter(isChoice)
+        const next = rows[(rows.indexOf(row) + step + rows.length) % rows.length] as RadioRow
+        next.forceActiveFocus(Qt.TabFocusReason)
+        next.chosen()
+    }
+
     label: text
+    tabStop: checked
     answersReturn: false
     takesFocusOnClick: true
     implicitWidth: texts.x + Math.ceil(Math.max(caption.implicitWidth + symbolWidth, explanation.implicitWidth))
@@ -27,11 +37,16 @@ Pressable {
     opacity: enabled ? 1 : Theme.disabledOpacity
 
     Accessible.role: Accessible.RadioButton
+    Accessible.focusable: true
     Accessible.checkable: true
     Accessible.checked: checked
     Accessible.description: detail
 
     onClicked: chosen()
+    Keys.onUpPressed: chooseFrom(-1)
+    Keys.onLeftPressed: chooseFrom(-1)
+    Keys.onDownPressed: chooseFrom(1)
+    Keys.onRightPressed: chooseFrom(1)
 
     Rectangle {
         id: knob

@@ -46,8 +46,9 @@ Item {
             verify(!sheet.confirmEnabled)
             press(Qt.Key_Down, Qt.Key_Space)
             compare(sheet.confirmText, "Aggiungi 1")
-            tabTo("Separato (copia)")
-            press(Qt.Key_Space)
+            tabTo("Unificato (collegamento)")
+            press(Qt.Key_Right)
+            compare(nameOf(focused()), "Separato (copia)")
             confirm()
             compare(home.what(".claude-profiles/lavoro/skills/tre.md"), "tre.md")
             compare(home.what(".claude-profiles/lavoro/skills/due.md"), "")
@@ -85,6 +86,12 @@ Item {
             compare(nameOf(focused()), "1498.md")
             press(Qt.Key_Tab)
             compare(nameOf(focused()), "Unificato (collegamento)")
+            press(Qt.Key_Up) // over the end
+            compare(nameOf(focused()), "Separato (copia)")
+            press(Qt.Key_Backtab)
+            compare(nameOf(focused()), "1498.md")
+            press(Qt.Key_Tab)
+            compare(nameOf(focused()), "Separato (copia)")
         }
 
         function test_sessionsAreSearchedAndImported(): void {
