@@ -16,6 +16,13 @@ std::string shortened(const fs::path& path, const fs::path& home) {
     return text.starts_with(prefix) ? "~/" + text.substr(prefix.size()) : text;
 }
 
+std::string quotedName(const Profile& profile) {
+    std::string quoted = "\"";
+    quoted += text::singleLine(profile.meta.name);
+    quoted += '"';
+    return quoted;
+}
+
 std::string sharedComponents(const Profile& profile) {
     std::string list;
     for (const Component component : kComponents) {
@@ -29,7 +36,7 @@ std::string sharedComponents(const Profile& profile) {
 }
 
 std::string sharedItemsLine(const std::string& components, const Profile& source) {
-    const std::string name = "\"" + text::singleLine(source.meta.name) + "\"";
+    const std::string name = quotedName(source);
     return "- Items in " + components + " that are symlinks into `" + source.configDir.string() +
            "` are shared with the profile " + name +
            ": editing them changes that profile too. New items created here stay in this profile only. To "
@@ -41,7 +48,7 @@ std::string sharedItemsLine(const std::string& components, const Profile& source
 } // namespace
 
 std::string ProfileStore::profileNote(const Profile& profile) const {
-    const std::string name = "\"" + text::singleLine(profile.meta.name) + "\"";
+    const std::string name = quotedName(profile);
     const std::string dir = shortened(profile.configDir, m_home);
     std::string note =
         "<!-- Written by Selvane for Claude on every launch: changes to this file are overwritten. -->\n";

@@ -26,7 +26,8 @@ public:
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
     ~TemporaryFolder() { remove(m_path); }
 
-    /// Removes one whatever its permissions, and those of the folders inside, are. Throws for any other folder.
+    /// Removes one whatever its permissions, and those of the folders inside, are. Throws for any other
+    /// folder.
     static void remove(const std::filesystem::path& folder) {
         if (!folder.filename().string().starts_with(kPrefix))
             throw std::logic_error("no temporary folder: " + folder.string());

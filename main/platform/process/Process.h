@@ -28,9 +28,8 @@ int run(const std::filesystem::path& executable, const std::vector<std::string>&
         const Environment& environment, const std::filesystem::path& folder);
 
 struct Started {
-    std::int32_t pid = 0; ///< also its session
-    std::uint64_t startTime =
-        0; ///< as in `ProcInfo`; if unreadable, a time just before the start
+    std::int32_t pid = 0;        ///< also its session
+    std::uint64_t startTime = 0; ///< as in `ProcInfo`; if unreadable, a time just before the start
 };
 
 /// Starts a program that outlives this process: in a session of its own, with its standard streams connected
