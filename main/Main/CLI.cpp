@@ -44,7 +44,7 @@ bool asksForHelp(std::string_view argument) {
     return argument == "--help" || argument == "-h";
 }
 
-/// A name or a path that merely begins with dashes is none.
+/// A name or path that merely begins with dashes isn't an option.
 bool isOption(const Command& command, std::string_view argument) {
     const std::string options = " " + std::string(command.options) + " ";
     return asksForHelp(argument) ||

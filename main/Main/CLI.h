@@ -15,7 +15,7 @@
 
 namespace selvane {
 
-/// The drawing that only the windows' module can do.
+/// The drawing commands, which need the windows' module.
 class Artwork {
 public:
     virtual ~Artwork() = default;
@@ -25,7 +25,7 @@ public:
 
 namespace CLI {
 
-/// What a command works with. `arguments[0]` is the command word.
+/// What a command receives. `arguments[0]` is the command word.
 struct Call {
     const std::vector<std::string>& arguments;
     ProfileStore& store;
@@ -38,17 +38,17 @@ struct Command {
     std::string_view word;
     std::string_view syntax; ///< what follows the word
     void (*run)(const Call& call);
-    std::string_view options = {}; ///< those that may follow its first argument, separated by blanks
+    std::string_view options = {}; ///< options allowed after its first argument, separated by spaces
 };
 
-/// All command words; they match exactly.
+/// All command words. They must match exactly.
 std::span<const Command> commands();
 bool isCommand(std::string_view word);
 
-/// The answer to an option of the program itself ("--help", "-h", "--version"); nothing for anything else.
+/// The answer to one of the program's own options ("--help", "-h", "--version"); nothing for anything else.
 std::optional<std::string> answer(std::string_view option);
 
-/// Runs one command: 0, or 1 after writing "Errore: " and the reason to `err`.
+/// Runs a command. Returns 0, or 1 after writing "Errore: " and the reason to `err`.
 int run(const Call& call, std::ostream& err);
 
 } // namespace CLI

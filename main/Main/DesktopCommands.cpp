@@ -23,8 +23,8 @@ void launch(const Call& call) {
             call.claude.activate(*open);
             return;
         }
-        call.claude.requireApplication(); // or nothing could take the place of what is closed
-        // When another copy has taken its place meanwhile, launching tells so.
+        call.claude.requireApplication(); // don't close anything unless Claude can be opened again
+        // If another copy takes its place meanwhile, the launch reports that.
         const auto hasLeft = [&] { return store.hasLeft(*open, target); };
         if (!call.claude.quit({*open}, ClaudeApp::QuitKind::polite, ClaudeApp::kQuitTimeout, hasLeft))
             throw LauncherError("Claude non si è chiuso");
@@ -36,7 +36,7 @@ void desktopStatus(const Call& call) {
     const ProfileStore& store = call.store;
     call.out << "cartella normale: " << field(store.desktopLiveOwner())
              << (store.needsDesktopRestore() ? " (da ripristinare)" : "") << '\n';
-    std::exception_ptr failure; // a damaged record doesn't hide the others
+    std::exception_ptr failure; // a damaged record must not hide the others
     for (const Profile& profile : store.loadAll()) {
         try {
             const bool hasData = store.hasDesktopData(profile);

@@ -26,8 +26,8 @@ namespace {
 
 using namespace selvane;
 
-/// A standard stream that the caller has closed would lend its number to the next file opened, and output
-/// would end up in there.
+/// If the caller has closed a standard stream, the next file we open would get its number, and output would
+/// end up in that file.
 void occupyStandardStreams() {
     for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream) {
         if (fcntl(stream, F_GETFD) == -1 && open("/dev/null", O_RDWR) == -1)
@@ -35,7 +35,7 @@ void occupyStandardStreams() {
     }
 }
 
-/// Whether all was written, or the reader had enough of it.
+/// False if something couldn't be written, unless the reader just stopped reading.
 bool writeAll(int stream, std::string_view text) {
     for (std::size_t done = 0; done < text.size();) {
         const ssize_t written = write(stream, text.data() + done, text.size() - done);
@@ -46,12 +46,12 @@ bool writeAll(int stream, std::string_view text) {
     return true;
 }
 
-/// Standard output, written piece by piece: a listing can be long.
+/// Standard output, written piece by piece, as a listing can be long.
 class Output final : public std::streambuf {
 public:
     Output() { clear(); }
 
-    /// Writes what is left. 0, or the error that kept some of all this from being written.
+    /// Writes the rest. Returns 0, or the error that kept part of the output from being written.
     int finish() {
         if (m_error == 0 && !writeAll(STDOUT_FILENO, {pbase(), static_cast<std::size_t>(pptr() - pbase())}))
             m_error = errno;
@@ -99,7 +99,7 @@ int runCommand(const std::vector<std::string>& arguments, WindowsModule& windows
 
 int main(int argc, char** argv) {
     occupyStandardStreams();
-    std::signal(SIGXFSZ, SIG_IGN); // a file that may grow no more is an error like any other
+    std::signal(SIGXFSZ, SIG_IGN); // exceeding the file size limit becomes an ordinary error
     const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
     WindowsModule windows;
     try {

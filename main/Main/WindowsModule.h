@@ -7,12 +7,11 @@
 
 namespace selvane {
 
-/// The windowed application and the drawing, which live in a loadable module so that the command line needs
-/// no Qt. The module is loaded when it is first needed; every function throws `LauncherError` when it isn't
-/// installed or can't be loaded.
+/// The windows and the drawing, in a loadable module so that the command line needs no Qt. The module is
+/// loaded on first use. Every function throws `LauncherError` if it isn't installed or can't be loaded.
 class WindowsModule final : public Artwork {
 public:
-    /// Runs the windowed application to its end; returns its exit status.
+    /// Runs the windowed application until it ends and returns its exit status.
     int runWindows(int argc, char** argv);
     void renderIcon(const std::filesystem::path& iconset) override;
     void renderDMGBackground(const std::filesystem::path& folder) override;
