@@ -21,7 +21,7 @@ AppModel::AppModel(ProfileStore& store, const ClaudeApp& claude, DesktopBridge& 
 }
 
 AppModel::~AppModel() {
-    // What runs on the other thread uses the store, which may go with us.
+    // Work on the other thread uses the store, which may be destroyed right after this.
     m_work.waitForFinished();
 }
 

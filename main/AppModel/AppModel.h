@@ -22,15 +22,15 @@
 
 namespace selvane {
 
-/// What a new profile is made from, as the sheet hands it over.
+/// What the sheet asks for when it creates a profile.
 struct ProfileRequest {
     NewProfile profile;
     bool copySessions = false; ///< only with a source
 };
 
-/// The one object behind every window: the loaded profiles, what the interface shows about actions that are
-/// going on, and the actions. All of it on the main thread; slow work runs on another one, on values, and
-/// comes back. No action fails towards its caller: a failure ends as `errorMessage`.
+/// The one object behind every window: the loaded profiles, what the interface shows about actions in
+/// progress, and the actions. It lives on the main thread; slow work runs on another one, on copies, and
+/// returns its result. No action throws: a failure ends up in `errorMessage`.
 class AppModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -41,12 +41,12 @@ class AppModel : public QObject {
     Q_PROPERTY(QString errorMessage READ errorMessage NOTIFY errorMessageChanged)
     Q_PROPERTY(QString busyMessage READ busyMessage NOTIFY busyMessageChanged)
     Q_PROPERTY(QString notice READ notice NOTIFY noticeChanged)
-    /// Counts the reloads: what is derived from files is read again when it changes.
+    /// Counts the reloads, so that whatever depends on files is read again when it changes.
     Q_PROPERTY(qint64 revision READ revision NOTIFY reloaded)
-    /// Ids of the profiles that are waiting for a confirmation and for a forced quit; empty for none.
+    /// Ids of the profiles waiting for a confirmation and for a forced quit; empty for none.
     Q_PROPERTY(QString pendingLaunch READ pendingLaunch NOTIFY pendingLaunchChanged)
     Q_PROPERTY(QString offerForceQuit READ offerForceQuit NOTIFY offerForceQuitChanged)
-    /// The question that goes with `pendingLaunch`.
+    /// The question for `pendingLaunch`.
     Q_PROPERTY(QString closeMessage READ pendingCloseMessage NOTIFY pendingLaunchChanged)
     Q_PROPERTY(
         bool closeAfterLaunch READ closeAfterLaunch WRITE setCloseAfterLaunch NOTIFY closeAfterLaunchChanged)
@@ -60,9 +60,9 @@ public:
     const std::set<std::string>& running() const { return m_running; }
     ProfileStore& store() const { return m_store; }
     std::optional<std::string> activeID() const { return m_store.activeID(); }
-    const Profile* profile(const QString& id) const; ///< null when no loaded profile has that id
+    const Profile* profile(const QString& id) const; ///< null if no loaded profile has that id
     const Profile* selected() const { return profile(m_selection); }
-    /// Id of the first profile but this one: what another profile's things are first taken from. Empty when
+    /// Id of the first profile other than this one, the first choice of where to take things from. Empty if
     /// there is no other.
     QString firstOther(const QString& id) const;
 
@@ -79,7 +79,7 @@ public:
     QString closeMessage(const Profile& target) const;
     void setNotice(const QString& text);
 
-    /// Runs an action, reports its failure, and reloads in every case.
+    /// Runs an action, reports its failure, and always reloads.
     void perform(const std::function<void()>& action);
     void importSessions(const std::vector<CodeSession>& sessions, const Profile& source,
                         const Profile& target);
@@ -99,12 +99,12 @@ public slots:
     void forceLaunch();
     void cancelForceQuit();
 
-    void setAccount(const QString& account, const QString& id); ///< an empty account: the profile's own
+    void setAccount(const QString& account, const QString& id); ///< an empty account means the profile's own
     void sync(const QString& id);
     void copyTerminalCommand(const QString& id);
     void revealProfile(const QString& id);
     void reveal(const std::filesystem::path& item);
-    /// Makes an empty file first where there is none.
+    /// Creates an empty file first if there is none.
     void open(const std::filesystem::path& file);
 
 signals:
@@ -112,10 +112,10 @@ signals:
     void errorMessageChanged();
     void busyMessageChanged();
     void noticeChanged();
-    void noticeShown(); ///< also when the same text is shown again
+    void noticeShown(); ///< emitted even if the same text is shown again
     void reloaded();
     void runningChanged();
-    void claudeCopiesChanged(); ///< also when the copy runs no profile that is known
+    void claudeCopiesChanged(); ///< emitted even if the copy runs no known profile
     void pendingLaunchChanged();
     void offerForceQuitChanged();
     void closeAfterLaunchChanged();

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 //
-// What takes long: launching, with the closing that it may need, and backing up.
+// The slow actions: launching, with any quitting that it needs, and backing up.
 
 #include "AppModel/AppModel.h"
 
@@ -30,7 +30,7 @@ Failure failureOf(const std::function<void()>& work) {
     }
 }
 
-/// Runs `work` on another thread and hands its result to `done` on this one, unless `owner` goes before.
+/// Runs `work` on another thread and passes its result to `done` on this one, unless `owner` is gone by then.
 template <typename Work, typename Done>
 QFuture<void> runInBackground(QObject* owner, Work work, Done done) {
     auto future = QtConcurrent::run(std::move(work));
@@ -45,11 +45,11 @@ QFuture<void> runInBackground(QObject* owner, Work work, Done done) {
 
 } // namespace
 
-/// What a launch has to do, found out on the main thread.
+/// What a launch has to do, worked out on the main thread.
 struct AppModel::LaunchPlan {
     Profile profile;
-    bool restores = false;                          ///< the accounts' folders must be put in place first
-    std::optional<ClaudeApp::Instance> alreadyOpen; ///< runs this very profile
+    bool restores = false;                          ///< the accounts' folders must be put back first
+    std::optional<ClaudeApp::Instance> alreadyOpen; ///< already runs this very profile
     std::vector<ClaudeApp::Instance> toClose;
 };
 
@@ -58,7 +58,7 @@ struct AppModel::LaunchResult {
     Failure failure;
 };
 
-/// The profile that the account of another one is open with; null when that can't be told.
+/// The profile with which another profile's account is open; null if unknown.
 const Profile* AppModel::openProfile(const Profile& sameAccount) const {
     try {
         const auto copy = m_store.instance(sameAccount);
@@ -125,8 +125,8 @@ void AppModel::startLaunch(const QString& id, LaunchStep step) {
     }
 }
 
-/// Closes what must be closed, then launches. The work runs on another thread, on values of its own; what it
-/// found comes back to this one.
+/// Closes what must be closed, then launches. The work runs on another thread, on copies, and returns its
+/// result to this one.
 void AppModel::runLaunch(LaunchPlan plan, LaunchStep step) {
     const QString launching =
         tr("Avvio di Claude con «%1»…").arg(QString::fromStdString(plan.profile.meta.name));
@@ -142,7 +142,7 @@ void AppModel::runLaunch(LaunchPlan plan, LaunchStep step) {
             QMetaObject::invokeMethod(
                 this,
                 [this, launching] {
-                    // The work can have ended before this arrives; then nothing is busy any more.
+                    // The work may have ended before this arrives; then we are no longer busy.
                     if (!m_busyMessage.isEmpty())
                         setText(m_busyMessage, launching, &AppModel::busyMessageChanged);
                 },
@@ -156,8 +156,8 @@ void AppModel::runLaunch(LaunchPlan plan, LaunchStep step) {
     });
 }
 
-/// On the working thread. Whether all copies have really gone: main processes and helpers. When another
-/// Selvane has opened the next one meanwhile, launching tells so.
+/// Runs on the other thread. Returns whether all copies are really gone, main processes and helpers. If
+/// another Selvane has opened the next copy meanwhile, the launch will report that.
 bool AppModel::quitAll(const LaunchPlan& plan, bool force) const {
     const auto haveGone = [&] {
         if (plan.restores)

@@ -13,7 +13,7 @@
 
 namespace selvane {
 
-/// What the windows ask of the desktop besides running Claude Desktop.
+/// What the windows need from the desktop apart from running Claude Desktop.
 class DesktopBridge : public QObject {
     Q_OBJECT
 
@@ -26,12 +26,12 @@ public:
     virtual void reveal(const std::filesystem::path& item) = 0;
     /// Opens a file with its default application.
     virtual void open(const std::filesystem::path& file) = 0;
-    /// Asks for a place for a zip archive; `done` gets nothing when the user cancels. Does not block.
+    /// Asks where to save a zip archive; `done` gets nothing if the user cancels. Doesn't block.
     virtual void askForArchive(const QString& proposedName,
                                std::function<void(std::optional<std::filesystem::path>)> done) = 0;
 
 signals:
-    /// A copy of Claude Desktop was started or has ended.
+    /// A copy of Claude Desktop has started or ended.
     void claudeCopiesChanged();
 };
 

@@ -11,11 +11,11 @@
 
 namespace selvane {
 
-/// What the windows remember between two starts.
+/// What the windows remember from one start to the next.
 class Preferences {
 public:
     explicit Preferences(std::unique_ptr<QSettings> settings) : m_settings(std::move(settings)) {}
-    /// In a file, which is made when something is first written.
+    /// Stored in a file, which is created by the first write.
     explicit Preferences(const QString& file)
         : Preferences(std::make_unique<QSettings>(file, QSettings::IniFormat)) {}
 
