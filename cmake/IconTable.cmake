@@ -3,13 +3,13 @@
 #
 # cmake -D LIST=… -D ICONS=… -D OUTPUT=… -P IconTable.cmake
 #
-# Writes the C++ table of the icons named in LIST, with the path data of their files below ICONS, sorted by
-# name and weight.
+# Writes the C++ table of the icons named in LIST, sorted by name and weight, with the path data
+# from their files below ICONS.
 
 file(STRINGS ${LIST} lines REGEX "^[a-z]")
 set(weights light regular bold fill)
 
-# A space sorts before every character of a name.
+# A space sorts before every character that a name can have.
 set(keys)
 foreach(line IN LISTS lines)
   separate_arguments(line)
@@ -27,7 +27,7 @@ foreach(key IN LISTS keys)
   list(GET key 1 order)
   list(GET weights ${order} weight)
   file(READ ${ICONS}/${weight}/${name}.svg svg)
-  # One path fills every icon; a file of another kind would be drawn in part only.
+  # Every icon must be one filled path; anything else would be drawn only in part.
   string(REGEX MATCHALL "<[a-z]+ " elements "${svg}")
   if(NOT elements STREQUAL "<svg ;<path ")
     message(FATAL_ERROR "${weight}/${name}.svg isn't made of one path")

@@ -23,7 +23,7 @@ namespace {
 constexpr qreal kCanvas = 1024;
 constexpr int kSmallestWithDepth = 64;
 
-/// Of the sizes below that: a grid on whose lines all edges lie.
+/// The design for smaller sizes, with all edges on the lines of a grid.
 struct FlatDesign {
     int grid;
     QRectF body;
@@ -32,7 +32,7 @@ struct FlatDesign {
     const char* lower;
 };
 
-// The last one is for every size that is no multiple of a grid.
+// The last one also serves every size that is no multiple of a grid.
 const FlatDesign kFlatDesigns[] = {
     {32,
      {3, 3, 26, 26},
@@ -97,7 +97,7 @@ std::vector<qreal> gaussian(qreal deviation) {
     return weights;
 }
 
-/// One direction of the blur; the result is turned by 90 degrees, so that two make a whole one.
+/// Blurs in one direction and turns the result by 90 degrees, so two calls make a whole blur.
 QImage blurredAndTurned(const QImage& mask, const std::vector<qreal>& weights) {
     QImage result(mask.height(), mask.width(), QImage::Format_Alpha8);
     const int reach = static_cast<int>(weights.size() / 2);
@@ -114,7 +114,7 @@ QImage blurredAndTurned(const QImage& mask, const std::vector<qreal>& weights) {
     return result;
 }
 
-/// What `path` casts on what lies behind it, in the coordinates of the canvas.
+/// Paints the shadow of `path`, given in canvas coordinates.
 void paintShadow(QPainter& painter, int pixels, const QPainterPath& path) {
     const qreal scale = pixels / kCanvas;
     QImage mask(pixels, pixels, QImage::Format_Alpha8);

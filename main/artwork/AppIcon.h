@@ -7,9 +7,9 @@
 
 namespace selvane {
 
-/// The application's icon, `pixels` wide and high, with the margin that icons keep around the artwork. From
-/// 64 pixels on it has depth; below, it is flat, and in the sizes of icon themes its edges lie on whole
-/// pixels. Null when there is no memory for it.
+/// The application's icon, `pixels` wide and high, with the usual margin around the artwork. From 64 pixels
+/// on it has depth. Smaller icons are flat, and in the sizes of icon themes their edges are on whole pixels.
+/// Null if there isn't enough memory.
 QImage appIcon(int pixels);
 
 } // namespace selvane

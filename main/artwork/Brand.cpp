@@ -27,7 +27,7 @@ void Brand::registerFonts() {
         const QStringList kinds = {QStringLiteral("*.ttf"), QStringLiteral("*.woff2")};
         for (const QString& file : folder.entryList(kinds, QDir::Files, QDir::Name))
             QFontDatabase::addApplicationFont(folder.filePath(file));
-        // Qt Quick holds every text against the application's font. That of the body text is loaded anyway.
+        // Qt Quick compares every text with the application's font. The body font is loaded anyway.
         QFont body(displayFamily);
         body.setPixelSize(kBodySize);
         QGuiApplication::setFont(body);

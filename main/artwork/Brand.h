@@ -10,7 +10,7 @@
 
 namespace selvane {
 
-/// The palette and the typefaces, for drawing in C++ and, through Theme.qml alone, for the windows.
+/// The palette and typefaces, used by the drawing in C++ and, only through Theme.qml, by the windows.
 class Brand : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -33,16 +33,16 @@ class Brand : public QObject {
     Q_PROPERTY(QString monoFamily MEMBER monoFamily CONSTANT FINAL)
 
 public:
-    /// Registers the fonts, so that no text is set before them.
+    /// Registers the fonts before any text is laid out.
     explicit Brand(QObject* parent = nullptr);
 
-    /// Makes the font files of the "Fonts" folder known to this process; only the first call does anything.
-    /// A missing folder leaves the system's own faces. Needs a QGuiApplication.
+    /// Makes the fonts in the "Fonts" folder known to this process; only the first call does anything.
+    /// Without the folder, the system's own fonts are used. Needs a QGuiApplication.
     static void registerFonts();
 
     static inline const QString name = QStringLiteral("Selvane");
 
-    // Backgrounds, darkest first, and text, strongest first.
+    // Backgrounds, darkest first, then text, strongest first.
     static inline const QColor bg{0x0C, 0x12, 0x10};
     static inline const QColor bg2{0x14, 0x1D, 0x1A};
     static inline const QColor bg3{0x1F, 0x2B, 0x27};
@@ -56,7 +56,7 @@ public:
     static inline const QColor cool{0x8F, 0xC0, 0xBC};
     static inline const QColor ok{0x86, 0xD0, 0x8A};
 
-    // As the font files report them. All weights of the display face share the name of one of them.
+    // Names as the font files report them. All weights of the display face share the name of one of them.
     static inline const QString displayFamily = QStringLiteral("Bricolage Grotesque 96pt ExtraBold");
     static inline const QString serifFamily = QStringLiteral("Instrument Serif"); ///< italic only
     static inline const QString monoFamily = QStringLiteral("JetBrains Mono");

@@ -35,7 +35,7 @@ const Leaf kFoliage[] = {
     {{448, 416, 96, 32}, true, Brand::bg2},   {{552, 416, 72, 32}, false, Brand::bg3},
     {{632, 416, 104, 32}, false, Brand::bg2},
 };
-/// They show the way from the application to its folder; below both, what the system writes their names on.
+/// They lead from the application to its folder. Below each is a leaf on which the system writes the name.
 const Leaf kSigns[] = {
     {{292, 240, 24, 12}, true, Brand::lineStrong},  {{326, 240, 28, 12}, true, kHalfLit},
     {{364, 240, 32, 12}, true, Brand::accent},      {{116, 310, 128, 28}, true, Brand::lineStrong},
@@ -63,7 +63,7 @@ struct Run {
     QColor color;
 };
 
-/// One centred line. As outlines, because hinting would make the two resolutions differ.
+/// Paints one centred line, as outlines: hinting would make the two resolutions differ.
 void paintLine(QPainter& painter, const QFont& font, qreal top, qreal lineHeight,
                std::initializer_list<Run> runs) {
     const QFontMetricsF metrics(font);
@@ -74,7 +74,7 @@ void paintLine(QPainter& painter, const QFont& font, qreal top, qreal lineHeight
     qreal x = (kWidth - width) / 2;
     for (const Run& run : runs) {
         QPainterPath outlines;
-        outlines.setFillRule(Qt::WindingFill); // strokes of a letter overlap
+        outlines.setFillRule(Qt::WindingFill); // the strokes of a letter overlap
         outlines.addText(x, baseline, font, run.text);
         painter.fillPath(outlines, run.color);
         x += metrics.horizontalAdvance(run.text);

@@ -7,9 +7,9 @@
 
 namespace selvane::DMGBackground {
 
-/// Writes the background of the disk image, 680 × 460 points, in two resolutions into a folder, which is made
-/// with its parents when it is missing. Needs a QGuiApplication and its fonts. Throws `LauncherError` when an
-/// image can't be made, or the file system's error; what was written before stays.
+/// Writes the background of the disk image, 680 × 460 points in two resolutions, to a folder, which is
+/// created with its parents if missing. Needs a QGuiApplication and the fonts. Throws `LauncherError` if an
+/// image can't be made, or the file system's error; files already written stay.
 void render(const std::filesystem::path& folder);
 
 } // namespace selvane::DMGBackground

@@ -7,9 +7,9 @@
 
 namespace selvane::IconRenderer {
 
-/// Writes the ten files of an icon set into a folder, which is made with its parents when it is missing.
-/// Files of these names are replaced, others left alone. Throws `LauncherError` when an image can't be made,
-/// or the file system's error; what was written before stays.
+/// Writes the ten files of an icon set to a folder, which is created with its parents if missing. Replaces
+/// files of these names and leaves others alone. Throws `LauncherError` if an image can't be made, or the
+/// file system's error; files already written stay.
 void render(const std::filesystem::path& folder);
 
 } // namespace selvane::IconRenderer

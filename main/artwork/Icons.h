@@ -11,18 +11,16 @@ namespace selvane {
 
 enum class IconWeight { light, regular, bold, fill };
 
-/// Side of the square that every icon is drawn in.
+/// Side of the square in which every icon is drawn.
 constexpr qreal kIconBox = 256;
 
-/// The icon that stands for a system symbol's name, as profiles and components carry it; "user-circle" for a
-/// name that isn't known.
+/// The icon for a system symbol's name, which profiles and components use; "user-circle" if unknown.
 std::string_view iconForSymbol(std::string_view symbol);
 
-/// SVG path data of an icon. Not every icon exists in every weight: then it is that of the regular one, and
-/// empty when there is none either.
+/// The SVG path data of an icon. An icon that lacks this weight has its regular data; empty if there is none.
 std::string_view iconData(std::string_view name, IconWeight weight);
 
-/// The same as a path, filled without a stroke.
+/// The same as a path, to be filled without a stroke.
 QPainterPath iconPath(std::string_view name, IconWeight weight);
 
 } // namespace selvane

@@ -5,7 +5,7 @@
 
 namespace selvane {
 
-/// This system has no symbols of its own: the icons of the table stand for all.
+/// This system has no symbols of its own, so the icons in the table are always used.
 QImage systemSymbol(const QString& /*name*/, IconWeight /*weight*/, int /*pixels*/) {
     return {};
 }

@@ -9,8 +9,8 @@
 
 namespace selvane {
 
-/// Writes an image whose pixels are `scale` to a point, which the file says. The same image gives the same
-/// bytes. False when it can't be made into a PNG; a failure to write it throws.
+/// Writes an image with `scale` pixels per point, and records that resolution in the file. The same image
+/// always gives the same bytes. False if it can't be encoded as PNG; throws if it can't be written.
 bool writePng(QImage image, int scale, const std::filesystem::path& file);
 
 } // namespace selvane

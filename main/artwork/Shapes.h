@@ -9,11 +9,11 @@
 
 namespace selvane {
 
-/// A leaf: corners rounded by half the shorter side, but for the tip at the top right.
+/// A leaf: its corners are rounded by half the shorter side, except for the tip at the top right.
 QPainterPath leafPath(const QRectF& box, qreal tip);
 
-/// The two leaves of the mark in the unit square. `gridded`: those whose corners lie on whole pixels when
-/// they are drawn 16 wide.
+/// The two leaves of the mark in the unit square. `gridded` gives the variant whose corners are on whole
+/// pixels when drawn 16 pixels wide.
 QPainterPath markUpperLeaf(bool gridded = false);
 QPainterPath markLowerLeaf(bool gridded = false);
 

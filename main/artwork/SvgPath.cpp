@@ -32,7 +32,7 @@ private:
         m_rest.remove_prefix(static_cast<std::size_t>(next - m_rest.begin()));
     }
 
-    // A command may be left out where it repeats the one before; after a move it is a line then.
+    // A repeated command may be omitted; after a move, that means a line.
     bool nextCommand() {
         skipSeparators();
         if (m_rest.empty())
@@ -55,7 +55,7 @@ private:
         return decimal.value;
     }
 
-    // Flags are single digits, often without anything between them and what follows.
+    // Flags are single digits, often not separated from what follows.
     bool flag() {
         skipSeparators();
         if (m_rest.empty() || (m_rest.front() != '0' && m_rest.front() != '1')) {
@@ -129,7 +129,7 @@ private:
     void arcTo() {
         qreal radius = std::abs(number());
         number(); // the second radius
-        number(); // the rotation, which a circle doesn't show
+        number(); // the rotation, which makes no difference for a circle
         const bool isLarge = flag();
         const bool isClockwise = flag();
         const QPointF to = point();
@@ -144,7 +144,7 @@ private:
         const auto angle = [&](QPointF p) {
             return qRadiansToDegrees(std::atan2(centre.y() - p.y(), p.x() - centre.x()));
         };
-        // Qt counts angles against the clock.
+        // Qt measures angles anticlockwise.
         const qreal start = angle(m_at);
         qreal sweep = std::fmod(angle(to) - start + 720, 360);
         if (isClockwise)

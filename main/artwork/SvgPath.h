@@ -9,8 +9,8 @@
 
 namespace selvane {
 
-/// Reads the data of an SVG path element. Arcs are taken to be circular, as those of the icons are; what
-/// can't be read ends the path there.
+/// Reads the data of an SVG path element. Treats all arcs as circular, as they are in the icons. The path
+/// ends at anything that can't be read.
 QPainterPath svgPath(std::string_view data);
 
 } // namespace selvane

@@ -10,8 +10,8 @@
 
 namespace selvane {
 
-/// The system's own drawing of a symbol, whose alpha channel is the shape, in the middle of a square of
-/// `pixels`. Null when the system has no symbol of that name, or none at all. For the main thread alone.
+/// The system's own drawing of a symbol, centred in a square of `pixels`; its alpha channel is the shape.
+/// Null if the system has no such symbol, or no symbols at all. Call it only on the main thread.
 QImage systemSymbol(const QString& name, IconWeight weight, int pixels);
 
 } // namespace selvane

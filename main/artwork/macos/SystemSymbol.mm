@@ -10,7 +10,7 @@
 namespace selvane {
 namespace {
 
-/// How large a symbol is drawn in its square, as the icons of the table are in theirs.
+/// The size of a symbol relative to its square, as for the icons in the table.
 constexpr CGFloat kShare = 0.72;
 
 NSFontWeight fontWeight(IconWeight weight) {
@@ -40,7 +40,7 @@ NSImage* symbolImage(const QString& name, IconWeight weight, int pixels) {
     return [image imageWithSymbolConfiguration:configuration];
 }
 
-/// In the middle, and no larger than the square.
+/// Centred, and no larger than the square.
 NSRect placeOf(NSSize size, CGFloat side) {
     const CGFloat scale = std::min({CGFloat(1), side / size.width, side / size.height});
     const CGFloat width = size.width * scale;
