@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// The ground of a window. Fills its parent.
+/// The background of a window. Fills its parent.
 Rectangle {
     anchors.fill: parent
     color: Theme.windowFill

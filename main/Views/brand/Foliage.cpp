@@ -16,7 +16,7 @@ enum class Tip { up, down };
 struct Leaf {
     int row;
     Tip tip;
-    qreal offset; ///< of its left end from the right edge; leaves may reach beyond that
+    qreal offset; ///< from the right edge to the leaf's left end; leaves may extend past that edge
     qreal width;
     const QColor& color;
 };

@@ -7,8 +7,8 @@
 
 namespace selvane {
 
-/// Three rows of long leaves, a decoration for the right edge of a window: place it with its right edge
-/// there.
+/// Three rows of long leaves that decorate the right edge of a window. Align its right edge with the
+/// window's.
 class Foliage : public selvane::PaintedShape {
     Q_OBJECT
     QML_ELEMENT

@@ -7,7 +7,7 @@
 
 namespace selvane {
 
-/// The maker's small logo. Not below 16.
+/// The maker's small logo. Not for sizes below 16.
 class Kelvo8Logo : public selvane::PaintedShape {
     Q_OBJECT
     QML_ELEMENT

@@ -7,7 +7,7 @@
 
 namespace selvane {
 
-/// A leaf that fills the item: round but for its tip at the top right. The border lies inside.
+/// A leaf that fills the item: round except for the tip at the top right. The border is inside.
 class LeafShape : public selvane::PaintedShape {
     Q_OBJECT
     QML_ELEMENT

@@ -6,13 +6,14 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A question or an error. Begins at the confirm button, or at "Annulla" when confirming destroys something.
+/// A question or an error. The focus starts on the confirm button, or on "Annulla" if confirming is
+/// destructive.
 ModalLayer {
     id: alert
 
     required property string message
     property string confirmText: qsTr("OK")
-    property string cancelText: qsTr("Annulla") ///< empty: there is nothing to refuse
+    property string cancelText: qsTr("Annulla") ///< empty: no cancel button
     property bool destructive: false
     property bool isError: false
 

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// Says where an item comes from, in colour and in words.
+/// Shows where an item comes from, in colour and in words.
 Rectangle {
     id: badge
 

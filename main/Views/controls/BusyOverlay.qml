@@ -6,14 +6,14 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// Dims the window and takes all input while there is a message. The light goes from leaf to leaf meanwhile.
+/// Dims the window and takes all input while there is a message. Meanwhile the light moves from leaf to leaf.
 FocusScope {
     id: overlay
 
     required property string message
-    property string lastMessage ///< still to be read while it fades
+    property string lastMessage ///< still readable while it fades
     property Item previousFocus: null
-    property real light ///< 0: the lower leaf is lit, 1: the upper one
+    property real light ///< 0: the lower leaf is lit, 1: the upper leaf
 
     readonly property bool isBusy: message !== ""
 

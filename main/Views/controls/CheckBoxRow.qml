@@ -6,14 +6,14 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A check box with its text and, below it, a path. In a list the whole row is the target.
+/// A check box with its text and a path below. In a list, the whole row can be clicked.
 Pressable {
     id: row
 
     required property string text
     required property bool checked
     property string detail
-    property bool inList: false ///< lights up under the pointer, and its content is set in from the edges
+    property bool inList: false ///< lights up under the pointer, with its content inset from the edges
     property bool fadesUnchecked: false
 
     signal toggled(bool checked)

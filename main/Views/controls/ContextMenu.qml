@@ -6,14 +6,14 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A menu of `MenuEntry` and `MenuDivider`; triggering an entry closes it first. Make one for a view, not
-/// one for each row.
+/// A menu of `MenuEntry` and `MenuDivider`. Triggering an entry first closes the menu. Make one for a whole
+/// view, not one for each row.
 Popover {
     id: menu
 
     default property alias entries: column.data
 
-    /// Focuses the next entry from `start` on, in steps; over the end it goes on at the other one.
+    /// Focuses the next available entry, starting at `start` and going by `step`; wraps around at either end.
     function focusFrom(start: int, step: int): void {
         const count = column.children.length
         for (let i = 0; i < count; ++i) {
@@ -37,7 +37,7 @@ Popover {
 
     onIsOpenChanged: {
         if (isOpen)
-            column.forceActiveFocus(Qt.PopupFocusReason) // none of the entries yet
+            column.forceActiveFocus(Qt.PopupFocusReason) // no entry has it yet
     }
     Keys.onUpPressed: move(-1)
     Keys.onDownPressed: move(1)

@@ -6,12 +6,12 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// The two answers of a sheet or an alert.
+/// The two buttons of a sheet or an alert.
 Row {
     id: buttons
 
     required property string confirmText
-    property string cancelText: qsTr("Annulla") ///< empty: no such button
+    property string cancelText: qsTr("Annulla") ///< empty: no cancel button
     property bool confirmEnabled: true
     property bool destructive: false
 

@@ -6,13 +6,13 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A line that shows and hides what is below it.
+/// A line that shows or hides what is below it.
 Pressable {
     id: disclosure
 
     required property string text
     required property bool expanded
-    property bool expandable: true ///< otherwise only a line of text
+    property bool expandable: true ///< otherwise it is just a line of text
 
     signal toggled(bool expanded)
 

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// One choice out of a list, which may explain its choices. It shows `currentIndex` and asks for another one.
+/// A choice from a list, perhaps with explanations. It shows `currentIndex` and signals a new choice.
 Pressable {
     id: dropDown
 
@@ -17,7 +17,7 @@ Pressable {
     required property int currentIndex
     property int size: DropDown.Medium
     readonly property string currentText: labels[currentIndex] ?? ""
-    property DropDownMenu menu: null ///< made when it is first opened
+    property DropDownMenu menu: null ///< created when first opened
 
     signal chosen(int index)
 

@@ -6,7 +6,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// The open list of a `DropDown`. Arrows, Home and End move; a letter goes to the next label that begins so.
+/// The open list of a `DropDown`. Arrows, Home and End move; a letter goes to the next label that begins with
+/// it.
 Popover {
     id: menu
 
@@ -14,7 +15,7 @@ Popover {
     required property list<string> explanations
     required property int chosenIndex
     required property real narrowest
-    property real room: 0 ///< for the list, which scrolls when it is higher
+    property real room: 0 ///< for the list, which scrolls if it is taller
 
     signal chosen(int index)
 

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A short label over what follows, in capitals; assistive technology hears the text as it is written.
+/// A short label in capitals above what it introduces. Assistive technology gets the text as written.
 StyledText {
     look: Theme.type.overline
     color: Theme.textFaint

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// The line of text inside the fields: colours, cursor and placeholder.
+/// The text line inside a field: colours, cursor and placeholder.
 TextInput {
     id: input
 

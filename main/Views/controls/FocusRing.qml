@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// The ring around a control that has the keyboard's focus; its radius is that of the control.
+/// The ring around a control with the keyboard focus. Set the radius of the control itself.
 Rectangle {
     property real controlRadius: Theme.radiusControl
 

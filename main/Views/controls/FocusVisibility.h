@@ -8,7 +8,7 @@
 
 namespace selvane {
 
-/// Whether the focus is to be marked: after a key was pressed, until the mouse is.
+/// Whether to mark the focus: from a key press until the next mouse press or touch.
 class FocusVisibility : public QObject {
     Q_OBJECT
     QML_ELEMENT

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A path on one line, to be selected and copied. While it hasn't the focus its middle gives way.
+/// A path on one line that can be selected and copied. Without the focus, it is shortened in the middle.
 FocusScope {
     id: field
 

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// The quiet button: a label, an icon before it, or an icon alone, which then needs a `label`.
+/// The quiet button: a label, perhaps with an icon, or an icon alone, which then needs a `label`.
 Pressable {
     id: button
 

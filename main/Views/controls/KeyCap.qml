@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// Keys as their caps show them. The typeface has no arrows and no ⌘: these are icons.
+/// Keys, drawn as key caps. The typeface has no arrows and no ⌘, so these are icons.
 Rectangle {
     id: cap
 
@@ -18,7 +18,7 @@ Rectangle {
         "⌘": "command",
         "↩": "arrow-elbow-down-left"
     })
-    /// Runs of text, and each drawn key by itself.
+    /// Runs of text, and each drawn key separately.
     readonly property list<string> parts: keys.match(/[←→⌘↩]|[^←→⌘↩]+/g) ?? []
 
     implicitWidth: Math.max(Math.ceil(content.implicitWidth) + 2 * Theme.space6, Theme.controls.keyCapWidth)

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// The prominent button, in the shape of a leaf. A text that ends in an arrow shows it as an icon.
+/// The prominent button, shaped like a leaf. An arrow at the end of the text is shown as an icon.
 Pressable {
     id: button
 

@@ -6,12 +6,12 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A sunken field for rows: what lies in it is cut at its rounded corners.
+/// A sunken field for rows. Its rounded corners clip the content.
 Item {
     id: well
 
     default property alias content: inside.data
-    property color outside: Theme.surface ///< what the well is sunk into
+    property color outside: Theme.surface ///< the colour around the well
 
     Rectangle {
         id: inside

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A line between entries of a menu.
+/// A line between menu entries.
 Item {
     implicitWidth: Theme.hairline
     implicitHeight: 2 * Theme.space6 + Theme.hairline

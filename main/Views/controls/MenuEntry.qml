@@ -6,19 +6,19 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// An entry of a menu, which it lights up in while it has the focus; the pointer moves the focus.
+/// An entry of a menu. It lights up while it has the focus, and the pointer moves the focus.
 Pressable {
     id: entry
 
     required property string text
     property string symbol
-    property string icon ///< name of an icon, where there is no symbol
+    property string icon ///< name of an icon, if there is no symbol
     property string explanation
-    /// In a list of choices a column for the mark of the chosen one is kept free.
+    /// In a list of choices, a column is kept free for the mark of the chosen one.
     property bool choosable: false
     property bool chosen: false
 
-    signal picked ///< before `triggered`, for the menu around it, which closes
+    signal picked ///< comes before `triggered`, so that the menu can close
     signal triggered
 
     readonly property bool hasIcon: symbol !== "" || icon !== ""

@@ -6,8 +6,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A plate over the dimmed window, from its creation to `closed`. Escape cancels, Return confirms, both close
-/// it. The focus stays inside and then returns to where it was.
+/// A panel over the dimmed window, shown from its creation until `closed`. Escape cancels and Return
+/// confirms; both close it. The focus stays inside and then returns to where it was.
 FocusScope {
     id: layer
 
@@ -116,7 +116,7 @@ FocusScope {
         }
     }
 
-    // Tab leads from either end back to the other one.
+    // Tab goes from either end back to the other.
     Item {
         id: start
 

@@ -74,7 +74,7 @@ QSGNode* PaintedShape::updatePaintNode(QSGNode* node, UpdatePaintNodeData* /*dat
         shown->setFiltering(QSGTexture::Linear);
     }
     shown->setTexture(window()->createTextureFromImage(painted, QQuickWindow::TextureCanUseAtlas));
-    // Whole pixels, so that the edge of an item of another size isn't blurred.
+    // Whole pixels, so that an item with a fractional size has no blurred edge.
     shown->setRect({{}, QSizeF(painted.size()) / window()->effectiveDevicePixelRatio()});
     m_isStale = false;
     return shown;

@@ -10,9 +10,9 @@
 
 namespace selvane {
 
-/// What the drawn items share: each paints into an image of its own, which looks the same under every
-/// renderer, also scaled, and needs no multisampling. Emitting `changed` paints anew. What derives from it
-/// names it with its namespace: Qt's type descriptions lose the base class otherwise.
+/// Base of the drawn items. Each paints into its own image, which looks the same with every renderer and
+/// scale and needs no multisampling. Emit `changed` to repaint. Derived classes must name this one with its
+/// namespace, or Qt's type descriptions lose the base class.
 class PaintedShape : public QQuickItem {
     Q_OBJECT
     QML_ANONYMOUS
@@ -27,9 +27,9 @@ signals:
 
 protected:
     virtual void paint(QPainter& painter) const = 0;
-    /// Makes the item a square of this side unless it is given another size.
+    /// Makes the item a square with this side unless it is given another size.
     void setSide(qreal side) { setImplicitSize(side, side); }
-    /// Paints a path that is drawn in a square of side `box`, as large as fits, in the middle.
+    /// Paints a path drawn in a square of side `box`, centred and as large as fits.
     void fill(QPainter& painter, const QPainterPath& path, qreal box, const QColor& color) const;
 
     void geometryChange(const QRectF& now, const QRectF& before) override;

@@ -43,7 +43,7 @@ PathIcon::PathIcon(QQuickItem* parent) : PaintedShape(parent) {
     });
 }
 
-/// As fine as the finest screen: on which one the icon is shown, and when, isn't known here.
+/// As fine as the finest screen, because the screen that will show the icon isn't known here.
 void PathIcon::readSystemSymbol() {
     const int pixels = static_cast<int>(std::ceil(m_size * qGuiApp->devicePixelRatio()));
     const bool isSymbol = m_name.isEmpty() && !m_symbol.isEmpty() && pixels > 0;

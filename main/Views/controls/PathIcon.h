@@ -10,15 +10,15 @@
 
 namespace selvane {
 
-/// An icon in one colour, by the system symbol that a profile, a component or a control names, or by its own
-/// name where no such symbol exists. The system draws the symbols that it has; of the others, an unknown one
+/// An icon in one colour, given as the system symbol that a profile, component or control names, or by its
+/// own name if there is no such symbol. The system draws the symbols that it has; otherwise an unknown symbol
 /// shows a person.
 class PathIcon : public selvane::PaintedShape {
     Q_OBJECT
     QML_ELEMENT
 
     Q_PROPERTY(QString symbol MEMBER m_symbol NOTIFY shapeChanged)
-    Q_PROPERTY(QString name MEMBER m_name NOTIFY shapeChanged) ///< wins over the symbol
+    Q_PROPERTY(QString name MEMBER m_name NOTIFY shapeChanged) ///< takes precedence over the symbol
     Q_PROPERTY(Weight weight MEMBER m_weight NOTIFY shapeChanged)
     Q_PROPERTY(qreal size MEMBER m_size NOTIFY shapeChanged)
 
@@ -43,7 +43,7 @@ private:
     QString m_name;
     Weight m_weight = Automatic;
     qreal m_size = 0;
-    QImage m_systemSymbol; ///< null where the table's icon stands for it
+    QImage m_systemSymbol; ///< null if the table's icon is used
 };
 
 } // namespace selvane

@@ -6,8 +6,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A plate above the whole window, beside the item that opened it. A press outside, Escape, and the focus
-/// going elsewhere close it; the focus then returns to where it was.
+/// A panel over the whole window, beside the item that opened it. A press outside, Escape or a change of
+/// focus closes it; the focus then returns to where it was.
 FocusScope {
     id: popover
 
@@ -19,7 +19,7 @@ FocusScope {
 
     signal closed
 
-    /// Opens below the place in `item`, or above `height` more when there is no room below.
+    /// Opens below the point in `item`, or, without room below, above an opener of this `height`.
     function openAt(item: Item, x: real, y: real, height: real): void {
         popover.parent = item.Window.contentItem
         popover.previousFocus = item.Window.activeFocusItem
@@ -92,7 +92,7 @@ FocusScope {
             }
         }
 
-        // Presses between the entries don't reach the area that closes.
+        // Presses between the entries must not reach the area that closes the panel.
         MouseArea {
             anchors.fill: parent
             acceptedButtons: Qt.AllButtons

@@ -6,17 +6,17 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// What every control that is pressed does: mouse, Space and Return, the focus, the accessible name and the
+/// Common behaviour of all controls that can be pressed: mouse, Space and Return, focus, accessible name and
 /// help. It draws nothing.
 Item {
     id: control
 
     property string label ///< accessible name
-    property string help ///< shown beside the pointer after a moment
+    property string help ///< shown beside the control after a moment
     property bool tabStop: true
-    /// Return presses it too; a choice leaves Return to the sheet around it.
+    /// Whether Return presses it too; a choice leaves Return to the sheet around it.
     property bool answersReturn: true
-    /// A choice takes the focus when it is clicked; a command leaves it where it is.
+    /// Whether a click gives it the focus: yes for a choice, no for a command.
     property bool takesFocusOnClick: false
     property bool hovered: area.containsMouse
     property bool pressed: area.pressed && area.containsMouse
@@ -33,7 +33,7 @@ Item {
         control.clicked()
     }
 
-    // A Loader would do, but that of Qt 6.4 can't make bound components.
+    // A Loader would do, but in Qt 6.4 it can't create bound components.
     onWantsHelpChanged: {
         if (bubble)
             bubble.destroy()

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A profile's symbol on its leaf, lit or not. Decoration beside the profile's name.
+/// A profile's symbol on its leaf, lit or not. It only decorates the profile's name.
 Item {
     id: glyph
 

@@ -7,7 +7,7 @@
 
 namespace selvane {
 
-/// Lies over content that reaches into rounded corners: a border, and outside of it the colour around.
+/// Covers content that extends into rounded corners: draws a border, and the surrounding colour outside it.
 class RoundedFrame : public selvane::PaintedShape {
     Q_OBJECT
     QML_ELEMENT

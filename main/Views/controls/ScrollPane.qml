@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A column that scrolls when it is too high. What gets the focus is scrolled into sight.
+/// A column that scrolls if it is too tall. It scrolls the item with the focus into view.
 FocusScope {
     id: pane
 
@@ -17,7 +17,7 @@ FocusScope {
     property real bottomMargin: 0
 
     readonly property bool isScrolled: view.contentY > 0
-    /// What is in sight of the column, from its top.
+    /// The visible part of the column, measured from its top.
     readonly property real visibleTop: view.contentY - topMargin
     readonly property real visibleHeight: view.height
     readonly property Item focusItem: Window.activeFocusItem
@@ -30,7 +30,7 @@ FocusScope {
         let ancestor = focused
         while (ancestor && ancestor !== column) {
             if (ancestor instanceof Flickable)
-                item = ancestor // which keeps its rows in sight by itself
+                item = ancestor // a Flickable keeps its own rows in view
             ancestor = ancestor.parent
         }
         if (!ancestor)
@@ -38,7 +38,7 @@ FocusScope {
         const top = item.mapToItem(view.contentItem, 0, 0).y - Theme.space12
         const bottom = top + item.height + 2 * Theme.space12
         if (top < view.contentY || item.height > view.height)
-            view.contentY = top > Math.max(pane.topMargin, Theme.space24) ? top : 0 // a label may stand above
+            view.contentY = top > Math.max(pane.topMargin, Theme.space24) ? top : 0 // there may be a label above
         else if (bottom > view.contentY + view.height)
             view.contentY = Math.min(view.contentHeight, bottom) - view.height
     }

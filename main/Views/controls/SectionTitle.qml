@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// Heads a part of a sheet, or a card.
+/// The heading of a card or of a part of a sheet.
 StyledText {
     look: Theme.type.sectionTitle
     elide: Text.ElideRight

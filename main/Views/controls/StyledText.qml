@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// Text in one of the theme's styles; plain, so that a profile's name is never read as markup.
+/// Text in one of the theme's styles. It is plain text, so a profile's name is never read as markup.
 Text {
     required property TextStyle look
 

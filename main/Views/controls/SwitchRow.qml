@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A switch with its text, which presses it too. The switch stands at the end, or before the text.
+/// A switch with its text, which can be clicked too. The switch is at the end, or before the text.
 Item {
     id: row
 
@@ -15,7 +15,7 @@ Item {
     property TextStyle look: Theme.type.control
     property color textColor: Theme.text
     property string help
-    property bool leading: false ///< the switch stands before the text
+    property bool leading: false ///< puts the switch before the text
     property string detail ///< a second line
 
     signal toggled(bool checked)

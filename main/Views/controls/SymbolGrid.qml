@@ -6,8 +6,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// Picks a profile's symbol. One stop of the Tab key: the arrows move, Space takes the symbol, and so does
-/// Return where it isn't the chosen one already.
+/// Lets the user pick a profile's symbol. It is one Tab stop: arrows move, Space picks a symbol, and so does
+/// Return unless that symbol is already chosen.
 ListWell {
     id: grid
 

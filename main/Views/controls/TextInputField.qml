@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A field with its label above, or with a symbol inside instead of a label.
+/// A field with a label above it, or with an icon inside instead.
 FocusScope {
     id: field
 

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A small command in running text, underlined.
+/// A small underlined command in running text.
 Pressable {
     id: link
 

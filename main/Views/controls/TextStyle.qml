@@ -5,7 +5,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
-/// One way to set text: the face, and the height of a line.
+/// A text style: the font and the line height.
 QtObject {
     required property string family
     required property real size

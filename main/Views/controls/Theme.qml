@@ -11,11 +11,11 @@ import Selvane
 QtObject {
     id: theme
 
-    // What the desktop asks for.
+    // Settings from the desktop.
     property bool reducedMotion: SystemAppearance.reducedMotion
     property real textScale: SystemAppearance.textScale
 
-    /// Whether the control that has the focus shows it.
+    /// Whether the control with the focus shows it.
     readonly property bool showsFocus: focusVisibility.isVisible
     readonly property FocusVisibility focusVisibility: FocusVisibility {}
 
@@ -58,7 +58,7 @@ QtObject {
 
     // ---- Type
 
-    /// Of a path inside a sentence, to the size around it.
+    /// Size of a path inside a sentence, relative to the text around it.
     readonly property real inlinePathSize: 0.92
 
     readonly property TypeStyles type: TypeStyles {
@@ -68,7 +68,7 @@ QtObject {
         textScale: theme.textScale
     }
 
-    /// A hint as this system writes it: ⌘ stands on macOS alone.
+    /// A key hint in the system's own notation: only macOS has ⌘.
     function keyText(hint: string): string {
         return Qt.platform.os === "osx" ? hint : hint.replace(/⌘/g, "Ctrl+")
     }
@@ -76,7 +76,8 @@ QtObject {
     function hasPaths(sentence: string): bool {
         return /(^|[\s(«])~?\/[^\s]/.test(sentence)
     }
-    /// Markup (for `Text.RichText`) that sets the paths in a sentence in a face whose tilde isn't a dash.
+    /// Markup (for `Text.RichText`) that sets the paths in a sentence in a font whose tilde doesn't look like
+    /// a dash.
     function withPaths(sentence: string, look: TextStyle): string {
         const size = Math.round(look.font.pixelSize * theme.inlinePathSize)
         const plain = sentence.replace(/&/g, "&amp;").replace(/</g, "&lt;").replace(/>/g, "&gt;")
@@ -104,7 +105,7 @@ QtObject {
     readonly property real radiusTile: 20
     readonly property real radiusKeyCap: 5
     readonly property real buttonTip: 4
-    readonly property real glyphTip: 0.08 ///< to the side of the glyph
+    readonly property real glyphTip: 0.08 ///< relative to the side of the glyph
 
     readonly property real hairline: 1
     readonly property real thickLine: 2

@@ -6,7 +6,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// Where a view stands in its content, to be dragged. A sibling of the view, at its right edge.
+/// Shows the position of a view in its content, and can be dragged. It is a sibling of the view, at its right
+/// edge.
 Item {
     id: bar
 
@@ -25,7 +26,7 @@ Item {
         id: handle
 
         readonly property real length: bar.height - 2 * bar.inset
-        readonly property real room: length - height ///< to move in
+        readonly property real room: length - height ///< the distance it can move
 
         x: bar.inset
         y: bar.inset + bar.flickable.visibleArea.yPosition / (1 - bar.flickable.visibleArea.heightRatio) * room

@@ -6,12 +6,12 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A short notice at the bottom of the window, shown as long as it has a text. How long is up to its owner.
+/// A short notice at the bottom of the window, shown while it has a text. Its owner decides how long.
 Item {
     id: toast
 
     required property string text
-    property string lastText ///< still to be read while it leaves
+    property string lastText ///< still readable while it leaves
 
     readonly property bool isShown: text !== ""
 

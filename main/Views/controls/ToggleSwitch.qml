@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A switch. It shows `checked` and asks for the other value; whoever owns the value changes it.
+/// A switch. It shows `checked` and asks for the other value; the owner of the value changes it.
 Pressable {
     id: toggle
 

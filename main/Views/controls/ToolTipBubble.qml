@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// The help of a control, beside it, after a moment. Keys in brackets at the end are shown as a cap.
+/// The help for a control, shown beside it after a moment. Keys in brackets at the end become a key cap.
 Rectangle {
     id: bubble
 
