@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// Which account of Claude Desktop the profile uses.
+/// Shows which account of Claude Desktop the profile uses.
 Card {
     id: section
 

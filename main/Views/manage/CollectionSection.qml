@@ -6,13 +6,13 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A component that is a folder: its items, and the ways to more of them.
+/// A component that is a folder: its items, and how to get more.
 Card {
     id: section
 
     required property ComponentModel component
     required property ItemMenu menu
-    /// What of the scrolled column is in sight, from the section's top.
+    /// The visible part of the scrolled column, measured from the section's top.
     required property real visibleTop
     required property real visibleHeight
 
@@ -51,7 +51,7 @@ Card {
     GhostButton {
         id: addButton
 
-        // Its icon and text stand below those of the items.
+        // Aligned with the icons and texts of the items.
         x: Theme.manage.itemIconLeft - padding - Theme.hairline
         anchors { bottom: parent.bottom; bottomMargin: Math.floor((Theme.manage.sectionFooter - height) / 2) }
         bare: true

@@ -17,7 +17,7 @@ QString text(std::string_view utf8) {
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
-/// How many MCP servers a global state file names; none when it can't be read.
+/// The number of MCP servers in a global state file; 0 if it can't be read.
 int serversIn(const fs::path& globalState) {
     try {
         const Json state = json::parse(FileManager().read(globalState), globalState);
@@ -48,7 +48,7 @@ void ComponentModel::setProfile(AppModel* app, const Profile* profile) {
     if (!isSame)
         setContent({});
     emit profileChanged();
-    emit contentChanged(); // the words of a count depend on the profile
+    emit contentChanged(); // the wording of a count depends on the profile
 }
 
 void ComponentModel::setContent(Content content) {

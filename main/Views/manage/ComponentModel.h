@@ -15,7 +15,7 @@
 
 namespace selvane {
 
-/// One component of the shown profile: a folder with its items, or a single file.
+/// One component of the selected profile: a folder with its items, or a single file.
 class ComponentModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -26,26 +26,26 @@ class ComponentModel : public QObject {
     Q_PROPERTY(QString symbol READ symbol CONSTANT)
     Q_PROPERTY(bool isCollection READ isCollection CONSTANT)
 
-    /// How the profile takes it from its source; offered only where there is one.
+    /// How the profile takes it from its source; there is a choice only if it has a source.
     Q_PROPERTY(bool hasModes READ hasModes NOTIFY profileChanged)
     Q_PROPERTY(QList<QString> modes READ modes CONSTANT)
     Q_PROPERTY(QList<QString> modeExplanations READ modeExplanations CONSTANT)
-    Q_PROPERTY(int modeIndex READ modeIndex NOTIFY profileChanged) ///< -1 for one that isn't allowed
-    /// "sorgente" when the source is unknown.
+    Q_PROPERTY(int modeIndex READ modeIndex NOTIFY profileChanged) ///< -1 for a mode that isn't allowed
+    /// "sorgente" if the source is unknown.
     Q_PROPERTY(QString sourceName READ sourceName NOTIFY profileChanged)
 
-    // Of a collection
+    // For a collection
     Q_PROPERTY(selvane::ItemListModel* items READ items CONSTANT)
     Q_PROPERTY(QString count READ count NOTIFY contentChanged)
 
-    // Of a single file
+    // For a single file
     Q_PROPERTY(QString description READ description NOTIFY contentChanged)
     Q_PROPERTY(QString linkTarget READ linkTarget NOTIFY contentChanged) ///< ends the description of a link
-    Q_PROPERTY(QString openLabel READ openLabel NOTIFY contentChanged)   ///< empty: it can't be opened
+    Q_PROPERTY(QString openLabel READ openLabel NOTIFY contentChanged)   ///< empty if it can't be opened
     Q_PROPERTY(bool canReimport READ canReimport NOTIFY profileChanged)
 
 public:
-    /// What lies on disk, read on another thread.
+    /// What is on disk, read on another thread.
     struct Content {
         bool isRead = false;
         std::vector<ItemListModel::Entry> items;
@@ -56,8 +56,7 @@ public:
 
     ComponentModel(Component component, QObject* parent);
 
-    /// `profile` is looked at again on each call; null when none is shown. What was read of another one is
-    /// forgotten.
+    /// Copies `profile`; null if none is selected. Forgets the content if it is another profile than before.
     void setProfile(AppModel* app, const Profile* profile);
     void setContent(Content content);
     static Content read(const ProfileStore& store, const Profile& profile,
@@ -83,10 +82,10 @@ public slots:
     void setMode(int index);
     void reveal();
     void open();
-    /// Replaces what a profile has with the source's: the profile that the user was asked about, who may
-    /// since have selected another one from the picker.
+    /// Replaces the profile's component with the source's. `profileId` is the profile that the user was asked
+    /// about: another one may have been selected from the picker since.
     void reimport(const QString& profileId);
-    // What the menu of an item offers.
+    // Commands in an item's menu.
     void remove(int row);
     void makeOwn(int row);
     void revealItem(int row);

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// What can be done with the whole profile.
+/// Commands for the whole profile.
 Item {
     id: bar
 

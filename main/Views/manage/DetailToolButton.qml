@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A button of the tool bar: with its title, or its icon alone and the title as help.
+/// A button in the tool bar: with its title, or only its icon and the title as help.
 GhostButton {
     id: button
 

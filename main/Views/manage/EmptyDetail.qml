@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// Stands in the place of the detail while no profile is selected.
+/// Shown instead of the detail while no profile is selected.
 Item {
     id: detail
 

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A component that is a single file: what there is of it, and what can be done with it.
+/// A component that is a single file: its state and its commands.
 Card {
     id: section
 

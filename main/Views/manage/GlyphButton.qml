@@ -6,13 +6,13 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A profile's symbol as a button, which opens the choice of another one.
+/// A profile's symbol as a button that lets the user choose another.
 Pressable {
     id: button
 
     required property string symbol
     required property real size
-    property SymbolPopover choice: null ///< made when it is first opened
+    property SymbolPopover choice: null ///< created when first opened
 
     signal picked(string symbol)
 

@@ -6,8 +6,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A field that looks like a title with a line below it. Return submits what was typed and then shows what has
-/// become of `value`; Escape brings it back, and so does a change of the subject, whose value it is.
+/// A field that looks like a title with a line below. Return submits the text and then shows the current
+/// `value`. Escape restores `value`, and so does a change of `subject`, the thing it belongs to.
 FocusScope {
     id: field
 

@@ -6,14 +6,14 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// The items of a component, as high as all of them are, though only the rows in sight exist. One stop of the
-/// Tab key, where the arrows move from row to row.
+/// The items of a component. It is as tall as all its rows, but only the visible ones exist. It is one Tab
+/// stop; arrows move from row to row.
 Item {
     id: list
 
     required property ComponentModel component
     required property ItemMenu menu
-    /// What of the scrolled column is in sight, from the list's top.
+    /// The visible part of the scrolled column, measured from the list's top.
     required property real visibleTop
     required property real visibleHeight
     property int currentRow: 0
@@ -21,7 +21,7 @@ Item {
     readonly property int count: component.items.count
     readonly property ItemRow currentItem: rows.currentItem as ItemRow
 
-    /// A row was moved to, which is to be scrolled into sight.
+    /// The cursor has moved to this row, which must be scrolled into view.
     signal rowReached(Item row)
 
     function moveTo(row: int): void {
@@ -55,7 +55,7 @@ Item {
     ListView {
         id: rows
 
-        // It never scrolls by itself: it is moved along with what is in sight.
+        // It never scrolls by itself: it moves along with the visible part.
         y: list.within(list.visibleTop - Theme.manage.itemSpare)
         width: list.width
         height: list.within(list.visibleTop + list.visibleHeight + Theme.manage.itemSpare) - y

@@ -22,10 +22,10 @@ class ItemListModel : public QAbstractListModel {
 
 public:
     enum Kind {
-        Merged, ///< linked to the source's item
-        Linked, ///< linked to somewhere else
+        Merged, ///< links to the source's item
+        Linked, ///< links to something else
         Own,
-        Broken, ///< a link that leads nowhere
+        Broken, ///< a dangling link
     };
     Q_ENUM(Kind)
     enum Role { NameRole = Qt::UserRole, KindRole, IsLinkRole };
@@ -39,7 +39,7 @@ public:
 
     using QAbstractListModel::QAbstractListModel;
 
-    /// The rows begin anew only when something has changed.
+    /// Resets the rows only if something has changed.
     void setEntries(std::vector<Entry> entries);
     const ComponentItem* item(int row) const; ///< null outside the list
 

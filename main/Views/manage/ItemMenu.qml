@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// What can be done with an item of a component.
+/// The commands for an item of a component.
 ContextMenu {
     id: menu
 
@@ -14,7 +14,7 @@ ContextMenu {
     property int row: -1
     property bool isLink: false
 
-    /// Opens for a row of the component, at a place in `at`.
+    /// Opens for a row of the component, at a point in `at`.
     function openFor(component: ComponentModel, row: ItemRow, at: Item, x: real, y: real, height: real): void {
         menu.component = component
         menu.row = row.index
@@ -25,7 +25,7 @@ ContextMenu {
     Connections {
         target: menu.component?.items ?? null
 
-        // The row may be another item's now.
+        // The row may belong to another item now.
         function onModelReset(): void {
             menu.close()
         }

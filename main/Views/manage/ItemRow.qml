@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// One item of a component: what it is called and where it comes from.
+/// One item of a component: its name and where it comes from.
 Item {
     id: row
 
@@ -30,7 +30,7 @@ Item {
     }
 
     signal pressed
-    signal menuAsked(real x, real y, real height) ///< at a place in the row, as high as what opens it
+    signal menuAsked(real x, real y, real height) ///< at a point in the row; `height` is that of its opener
 
     implicitHeight: Theme.manage.itemHeight
 

@@ -54,8 +54,8 @@ Measures {
     readonly property real itemTextLeft: 44
     readonly property real itemMenuRight: 10
     readonly property real itemBadgeGap: 13 ///< to the menu button
-    readonly property real itemNameLeast: 96 ///< kept for the name beside a long badge
-    readonly property real itemSpare: 4 * itemHeight ///< kept above and below what is in sight
+    readonly property real itemNameLeast: 96 ///< reserved for the name beside a long badge
+    readonly property real itemSpare: 4 * itemHeight ///< rows kept above and below the visible part
 
     // ---- Empty detail
 

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// The sheets and the questions of the management window, over all of it and one at a time.
+/// The sheets and questions of the management window. They cover all of it, one at a time.
 Item {
     id: sheets
 

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// What the management window shows: the profiles beside the selected one's detail.
+/// The content of the management window: the profiles, and beside them the selected one's detail.
 FocusScope {
     id: view
 
@@ -14,13 +14,13 @@ FocusScope {
     required property Updates updates
 
     readonly property bool hasSheet: sheets.isOpen
-    /// Whether the application waits for an answer, or works.
+    /// Whether the application is busy or waiting for an answer.
     readonly property bool isOccupied: app.busyMessage !== "" || app.errorMessage !== "" || app.pendingLaunch !== ""
                                        || app.offerForceQuit !== ""
 
     signal pickerAsked
 
-    /// Opens the sheet for a new profile, from a source if that isn't empty, unless a sheet is open.
+    /// Opens the sheet for a new profile with this source, or none if it is empty, unless a sheet is open.
     function newProfile(source: string): void {
         sheets.newProfile(source)
     }

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// What can be seen and changed of a profile: all of it scrolls as one under the tool bar.
+/// Everything to see and change in a profile, scrolling as one column under the tool bar.
 FocusScope {
     id: detail
 

@@ -84,7 +84,7 @@ void ProfileDetailModel::countSessions() {
     const auto count = [&store = m_app->store(), profile = *m_profile]() -> SessionCounts {
         try {
             return {static_cast<int>(store.codeSessions(profile).size()), store.pendingSessionCount(profile)};
-        } catch (const std::exception&) { // an account that can't be told has no sessions
+        } catch (const std::exception&) { // an invalid account has no sessions
             return {0, 0};
         }
     };
@@ -156,7 +156,7 @@ QString ProfileDetailModel::account() const {
                                                      : tr("Account proprio — login al primo avvio");
 }
 
-/// The other profiles that have an account which this one can use, the one in use in any case.
+/// The other profiles with an account that this one can use, always including the one in use.
 std::vector<const Profile*> ProfileDetailModel::accountOwners() const {
     std::vector<const Profile*> owners;
     if (!m_profile || m_profile->isDefault())

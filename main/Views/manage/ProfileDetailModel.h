@@ -20,14 +20,14 @@
 
 namespace selvane {
 
-/// What the management window shows of the selected profile, and what can be done there. Everything that
-/// means looking through folders is read on another thread after each reload, and arrives a little later.
+/// What the management window shows of the selected profile, and its commands. Anything that takes looking
+/// through folders is read on another thread after each reload and arrives a little later.
 class ProfileDetailModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
 
     Q_PROPERTY(selvane::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
-    /// Id of the profile; empty when none is selected, and then there is nothing in the other properties.
+    /// Id of the profile; empty if none is selected, and then the other properties are empty too.
     Q_PROPERTY(QString profileId READ profileId NOTIFY profileChanged)
     Q_PROPERTY(QString name READ name NOTIFY profileChanged)
     Q_PROPERTY(QString summary READ summary NOTIFY profileChanged)
@@ -35,18 +35,19 @@ class ProfileDetailModel : public QObject {
     Q_PROPERTY(QString folder READ folder NOTIFY profileChanged)
     Q_PROPERTY(bool isBuiltIn READ isBuiltIn NOTIFY profileChanged)
     Q_PROPERTY(bool hasSource READ hasSource NOTIFY profileChanged)
-    Q_PROPERTY(QString sourceName READ sourceName NOTIFY profileChanged) ///< its id when it is unknown
+    Q_PROPERTY(QString sourceName READ sourceName NOTIFY profileChanged) ///< its id if it is unknown
     Q_PROPERTY(bool isRunning READ isRunning NOTIFY runningChanged)
 
     Q_PROPERTY(QString account READ account NOTIFY accountChanged)
-    /// "Proprio", then the names of the profiles whose account can be used; none for the built-in profile.
+    /// "Proprio", then the names of the profiles whose account it can use; empty for the built-in profile.
     Q_PROPERTY(QList<QString> accountChoices READ accountChoices NOTIFY accountChanged)
     Q_PROPERTY(int accountIndex READ accountIndex NOTIFY accountChanged)
 
-    Q_PROPERTY(QString sessions READ sessions NOTIFY sessionsChanged) ///< empty until they are counted
-    Q_PROPERTY(QString pendingSessions READ pendingSessions NOTIFY sessionsChanged) ///< empty for none
+    Q_PROPERTY(QString sessions READ sessions NOTIFY sessionsChanged) ///< empty until counted
+    Q_PROPERTY(
+        QString pendingSessions READ pendingSessions NOTIFY sessionsChanged) ///< empty if there are none
 
-    /// The components in their order, those that are folders first.
+    /// The components in their usual order, folders first.
     Q_PROPERTY(QQmlListProperty<selvane::ComponentModel> collections READ collections CONSTANT)
     Q_PROPERTY(QQmlListProperty<selvane::ComponentModel> files READ files CONSTANT)
 
@@ -73,16 +74,16 @@ public:
     QQmlListProperty<ComponentModel> collections() { return {this, &m_collections}; }
     QQmlListProperty<ComponentModel> files() { return {this, &m_files}; }
     QList<ComponentModel*> components() const { return m_collections + m_files; }
-    /// Whether something is still to arrive from the other threads.
+    /// Whether results from other threads are still to come.
     bool isReading() const { return m_awaited > 0; }
 
 public slots:
-    void setName(const QString& name); ///< a blank one changes nothing
+    void setName(const QString& name); ///< a blank name changes nothing
     void setSummary(const QString& summary);
     void setSymbol(const QString& symbol);
     void setAccount(int index);
-    /// Moves a profile to the Trash: the one that the user was asked about, who may since have selected
-    /// another one from the picker.
+    /// Moves a profile to the Trash. `profileId` is the profile that the user was asked about: another one
+    /// may have been selected from the picker since.
     void remove(const QString& profileId);
 
 signals:
@@ -109,15 +110,15 @@ private:
     std::vector<const Profile*> accountOwners() const;
 
     AppModel* m_app = nullptr;
-    std::optional<Profile> m_profile; ///< a copy: the model's own may be gone before this hears of it
+    std::optional<Profile> m_profile; ///< a copy: the application's own may be gone before this model is told
     QList<ComponentModel*> m_collections;
     QList<ComponentModel*> m_files;
     SessionCounts m_sessions;
-    // Each watches its newest reading alone: what an earlier one has read is dropped.
+    // Each watches only its newest task; results of earlier ones are dropped.
     QFutureWatcher<Contents> m_contents;
     QFutureWatcher<SessionCounts> m_counts;
-    int m_awaited = 0;     ///< of the two
-    QThreadPool m_readers; ///< waited for at the end, because they use the application's store
+    int m_awaited = 0;     ///< how many of the two are still running
+    QThreadPool m_readers; ///< its destructor waits for them, as they use the application's store
 };
 
 } // namespace selvane

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// The head of the detail: the profile's symbol, names and folder, and its launch.
+/// The top of the detail: the profile's symbol, name, description and folder, and the launch button.
 Item {
     id: header
 

@@ -6,19 +6,19 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// The sidebar of the management window: the profiles, and below them what concerns the application.
+/// The sidebar of the management window: the profiles, and below them the settings of the application.
 FocusScope {
     id: sidebar
 
     required property AppModel app
     required property Updates updates
-    property ProfileMenu menu: null ///< made when it is first opened
+    property ProfileMenu menu: null ///< created when first opened
 
     signal newProfileAsked(string source)
     signal backupAsked
     signal pickerAsked
 
-    /// The menu of a profile, where it was asked for or below its row.
+    /// Opens a profile's menu at a point in its row.
     function openMenu(profileId: string, row: Item, x: real, y: real): void {
         if (!row)
             return

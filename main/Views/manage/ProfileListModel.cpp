@@ -57,7 +57,7 @@ void ProfileListModel::setApp(AppModel* app) {
 void ProfileListModel::update() {
     std::vector<Profile> profiles = m_app == nullptr ? std::vector<Profile>{} : m_app->profiles();
     m_activeID = m_app == nullptr ? std::nullopt : m_app->activeID();
-    // The same rows stay where they are, so that a list keeps its place.
+    // If the rows are the same, update them in place, so that a list keeps its position.
     if (!profiles.empty() && haveSameIds(profiles, m_profiles)) {
         m_profiles = std::move(profiles);
         changed({});

@@ -11,7 +11,7 @@
 
 namespace selvane {
 
-/// The profiles as the picker and the sidebar show them, in the order of the model. It follows the model.
+/// The profiles as the picker and the sidebar show them, in the application's order. It follows its changes.
 class ProfileListModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -27,12 +27,12 @@ public:
         SymbolRole,
         IsRunningRole,     ///< open in Claude Desktop
         IsActiveRole,      ///< launched last
-        HasOwnAccountRole, ///< an account of its own beside the built-in one
+        HasOwnAccountRole, ///< its own account, not the built-in one's
         HasSourceRole,
-        SourceNameRole, ///< its id when it is unknown, empty without a source
+        SourceNameRole, ///< its id if it is unknown; empty without a source
         WasLaunchedRole,
-        LastLaunchRole, ///< "Mai avviato" or for example "ieri"
-        SubtitleRole,   ///< "Mai avviato" or for example "Avviato ieri"
+        LastLaunchRole, ///< "Mai avviato" or, for example, "ieri"
+        SubtitleRole,   ///< "Mai avviato" or, for example, "Avviato ieri"
     };
 
     explicit ProfileListModel(QObject* parent = nullptr);
@@ -40,8 +40,8 @@ public:
     AppModel* app() const { return m_app; }
     void setApp(AppModel* app);
     int count() const { return rowCount({}); }
-    Q_INVOKABLE int indexOf(const QString& profileId) const; ///< -1 when there is none
-    Q_INVOKABLE QString idNear(int row) const; ///< of the nearest row there is; empty without profiles
+    Q_INVOKABLE int indexOf(const QString& profileId) const; ///< -1 if there is none
+    Q_INVOKABLE QString idNear(int row) const; ///< id of the nearest existing row; empty without profiles
 
     int rowCount(const QModelIndex& parent) const override;
     QVariant data(const QModelIndex& index, int role) const override;
@@ -56,10 +56,10 @@ private:
     void changed(const QList<int>& roles);
 
     AppModel* m_app = nullptr;
-    // The model's own list may have changed before views hear of it: they go on seeing this one until then.
+    // A copy: the application's own list may change before the views are told.
     std::vector<Profile> m_profiles;
     std::optional<std::string> m_activeID;
-    QTimer m_minute; ///< "2 minuti fa" doesn't stay true
+    QTimer m_minute; ///< refreshes texts such as "2 minuti fa"
 };
 
 } // namespace selvane

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// The signs of a profile in the sidebar. Whoever shows them says to assistive technology what they mean.
+/// The marks of a profile in the sidebar. Their user must tell assistive technology what they mean.
 Row {
     id: marks
 

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// What can be done with a profile from the sidebar.
+/// The commands for a profile in the sidebar.
 ContextMenu {
     id: menu
 

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A sign in a profile's row, whose help says what it means. The row itself says so to assistive technology.
+/// A mark in a profile's row, explained by its help. The row itself tells assistive technology what it means.
 Pressable {
     id: mark
 

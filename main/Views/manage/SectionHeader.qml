@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// The head of a component's section: its icon and title, and how the profile takes it from its source.
+/// The top of a component's section: its icon and title, and how the profile takes it from its source.
 Item {
     id: header
 

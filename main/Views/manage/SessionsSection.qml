@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// The sessions of the Code tab that the profile's account has, and those that wait for its next launch.
+/// The sessions in the Code tab of the profile's account, and those waiting for its next launch.
 Card {
     id: section
 

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// What concerns the application rather than a profile.
+/// Settings and commands of the application itself.
 Item {
     id: footer
 
@@ -19,7 +19,7 @@ Item {
     signal backupAsked
     signal pickerAsked
 
-    /// What a bare button's text stands inside of.
+    /// The space around a bare button's text.
     readonly property real barePadding: checkButton.padding + Theme.hairline
 
     implicitHeight: content.implicitHeight + 2 * Theme.space16 + Theme.hairline

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// The symbols to choose from, over the window; taking one closes it.
+/// The symbols to choose from, over the window. Picking one closes it.
 Popover {
     id: popover
 
@@ -14,7 +14,7 @@ Popover {
 
     signal picked(string symbol)
 
-    /// The focus goes to the chosen symbol.
+    /// Gives the focus to the chosen symbol.
     function begin(): void {
         grid.moveTo(Math.max(0, grid.symbols.indexOf(popover.selection)))
     }
