@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// The way to a new profile, behind the last tile.
+/// The button for a new profile, after the last tile.
 Pressable {
     id: tile
 

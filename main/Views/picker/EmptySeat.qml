@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// The outline of a tile to come. Decoration.
+/// The outline of a future tile, as decoration.
 Rectangle {
     width: Theme.picker.tileWidth
     height: Theme.picker.tileHeight

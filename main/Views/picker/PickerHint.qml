@@ -26,7 +26,7 @@ Row {
 
             required property string modelData
             required property int index
-            /// Everything up to the words in lower case that say what the keys do.
+            /// The keys, then the lower-case words that say what they do.
             readonly property var pieces: modelData.match(/^(.*?) (per .*|\S+)$/)
 
             spacing: Theme.space8

@@ -13,7 +13,7 @@ Measures {
 
     readonly property size window: Qt.size(980, full.height)
     readonly property size minimum: Qt.size(720, compact.height)
-    readonly property real fullWidth: 900 ///< below one of these the compact places apply
+    readonly property real fullWidth: 900 ///< below this or `fullHeight`, the compact layout applies
     readonly property real fullHeight: full.height - 40
     readonly property real column: 1160
     readonly property real bar: scaled(40)
@@ -66,7 +66,7 @@ Measures {
 
     // ---- The strip of tiles
 
-    readonly property real stripSpare: 12 ///< so that scale, ring and shadow of a tile are not cut
+    readonly property real stripSpare: 12 ///< keeps the scale, ring and shadow of a tile from being clipped
     readonly property real stripEdge: 48
     readonly property real stripFade: 40
 }

@@ -10,7 +10,7 @@
 
 namespace selvane {
 
-/// The tile that the picker's keyboard acts on, and what its keys do.
+/// The tile that the picker's keyboard acts on, and what the keys do.
 class PickerModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -25,13 +25,14 @@ public:
     QString focused() const { return m_focused; }
     void setFocused(const QString& id);
 
-    /// Begins with the profile selected in the application, each time the picker is shown.
+    /// Starts with the profile selected in the application. Called each time the picker is shown.
     Q_INVOKABLE void begin();
-    /// One tile back or forward, around the ends. False when there are no profiles.
+    /// Moves one tile back or forward and wraps around. False if there are no profiles.
     Q_INVOKABLE bool move(int step);
-    /// False, with nothing done, when no profile is focused.
+    /// If no profile is focused, does nothing and returns false.
     Q_INVOKABLE bool launchFocused();
-    /// Launches the profile in the place that the typed digits name, from 1. False when there is none.
+    /// Launches the profile at the position given by the typed digits, counted from 1. False if there is
+    /// none.
     Q_INVOKABLE bool launchNumber(const QString& digits);
 
 signals:

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// What belongs to the picker's window and isn't seen in its first frame.
+/// The parts of the picker's window that aren't visible in its first frame.
 Item {
     id: overlays
 

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// The window that the application opens at start.
+/// The window that the application opens first.
 Window {
     id: window
 
@@ -32,7 +32,8 @@ Window {
     ProfilePicker {
         id: view
 
-        // The size that the content gets when the window is shown: else all is laid out twice.
+        // The size that the content will have once the window is shown; otherwise everything is laid out
+        // twice.
         width: window.width
         height: window.height
         app: window.launcher.app

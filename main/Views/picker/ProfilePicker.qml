@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// One large tile per profile: choosing one launches Claude Desktop with it.
+/// One large tile per profile. Choosing one launches Claude Desktop with it.
 FocusScope {
     id: view
 
@@ -17,7 +17,7 @@ FocusScope {
     readonly property PickerPlaces places: isCompact ? Theme.picker.compact : Theme.picker.full
     readonly property real columnWidth: Math.min(width - 2 * places.margin, Theme.picker.column)
     readonly property real columnLeft: (width - columnWidth) / 2
-    /// Of the height that is left over, this part lies above the heading and the tiles.
+    /// How much of the unused height goes above the heading and the tiles.
     readonly property real spareAbove: Math.max(0, height - places.height) * Theme.picker.spareAbove
 
     property ModalLayer sheet: null
@@ -28,7 +28,7 @@ FocusScope {
         view.app.select(profileId)
         view.manageAsked()
     }
-    /// The sheet is a third of all that the picker could show, hence read when it is first wanted.
+    /// The sheet is a third of everything the picker can show, so it is loaded only when first needed.
     function newProfile(source: string): void {
         if (view.sheet)
             return

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// One profile in the picker. The picker's keyboard acts on the focused one, which the pointer moves as well.
+/// One profile in the picker. The keyboard acts on the focused tile; the pointer can move the focus too.
 Item {
     id: tile
 

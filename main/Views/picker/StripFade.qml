@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// Lets what is hidden beyond an end of the strip fade out there.
+/// Fades out whatever extends beyond an end of the strip.
 Rectangle {
     id: fade
 

@@ -6,14 +6,14 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// The way from a tile to its profile's settings.
+/// The button on a tile that opens its profile's settings.
 Pressable {
     id: gear
 
     required property bool isOnFocusedTile
 
     label: help
-    tabStop: false // the settings have a key of their own
+    tabStop: false // the settings have their own key
     implicitWidth: Theme.picker.tileGear
     implicitHeight: Theme.picker.tileGear
 

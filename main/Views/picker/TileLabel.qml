@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// What a profile's tile says. Assistive technology hears it from the tile.
+/// The content of a profile's tile. Assistive technology gets it from the tile itself.
 Item {
     id: label
 
@@ -46,7 +46,7 @@ Item {
         x: Theme.space16
         y: Theme.picker.tileSummaryTop
         width: label.width - 2 * Theme.space16
-        // Only plain text can be cut by lines.
+        // Only plain text can be limited to a number of lines.
         height: Math.min(implicitHeight, lines * look.lineHeight)
         clip: hasPath
         look: Theme.type.summary

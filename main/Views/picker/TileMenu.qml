@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// What else can be done with a profile in the picker.
+/// More commands for a profile in the picker.
 ContextMenu {
     id: menu
 

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// The tiles in a row, which scrolls sideways when they don't fit; behind them the way to a new profile.
+/// The tiles in a row that scrolls sideways if they don't fit, followed by the button for a new profile.
 ListView {
     id: strip
 
@@ -14,14 +14,14 @@ ListView {
     required property string focused
     required property bool isCompact
     required property real margin
-    property TileMenu menu: null ///< made when it is first opened
+    property TileMenu menu: null ///< created when first opened
 
     signal launched(string profileId)
     signal settingsAsked(string profileId)
     signal hovered(string profileId)
     signal newProfileAsked(string source)
 
-    /// The menu of the focused tile, where it was asked for or below the tile's glyph.
+    /// Opens the focused tile's menu at a point in the tile, by default below its glyph.
     function openMenu(tile = strip.itemAtIndex(strip.currentIndex), x = Theme.space16, y = Theme.picker.tileNameTop): void {
         if (!tile)
             return
@@ -46,7 +46,7 @@ ListView {
         const rightmost = strip.currentIndex === 0 ? strip.firstX : left - Theme.picker.stripEdge
         strip.scrollTo(Math.max(leftmost, Math.min(rightmost, strip.contentX)))
     }
-    /// The keyboard to the focused tile.
+    /// Gives the keyboard focus to the focused tile.
     function takeFocus(): void {
         if (strip.currentItem)
             strip.currentItem.forceActiveFocus(Qt.OtherFocusReason)
@@ -71,7 +71,7 @@ ListView {
     Accessible.role: Accessible.List
     Accessible.name: qsTr("Profili")
 
-    // The margins follow the width a moment later.
+    // The margins adapt to the width a moment later.
     Timer {
         id: settling
 
@@ -86,7 +86,7 @@ ListView {
         easing.type: Easing.OutCubic
     }
 
-    // A mouse's wheel turns one way only: a tile for each notch, which is 120.
+    // A mouse wheel turns only one way, so it moves one tile per notch (120 units).
     WheelHandler {
         orientation: Qt.Vertical
         acceptedDevices: PointerDevice.Mouse
@@ -136,7 +136,7 @@ ListView {
         readonly property real free: strip.width - 2 * strip.margin - taken
         readonly property int seats: Math.floor(free / (Theme.picker.tileWidth + Theme.cardGap))
 
-        // Outside the scrolled item, where it would come before the tiles for the keyboard.
+        // Outside the scrolled item: inside it, Tab would reach this before the tiles.
         parent: strip
         x: strip.originX + strip.contentWidth + Theme.cardGap - strip.contentX
         y: Theme.picker.stripSpare
