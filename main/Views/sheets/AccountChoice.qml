@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// Whether a new profile uses the login of its source, or one of its own.
+/// Whether a new profile uses its source's login or its own.
 Column {
     id: choice
 

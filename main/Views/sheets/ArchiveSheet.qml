@@ -6,13 +6,13 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// Asks where to save an archive, where the desktop has no dialog for that.
+/// Asks where to save an archive if the desktop has no dialog for that.
 Sheet {
     id: sheet
 
-    required property string place ///< proposed
+    required property string place ///< the proposed path
 
-    signal chosen(string place) ///< as typed; empty when it was cancelled
+    signal chosen(string place) ///< as typed; empty if cancelled
 
     title: qsTr("Salva il backup")
     confirmText: qsTr("Salva")

@@ -28,7 +28,7 @@ public:
     void setApp(AppModel* app);
     bool canSave() const { return m_savesPrincipal || m_savesProfiles; }
     bool claudeRuns() const;
-    /// Does nothing while nothing is chosen.
+    /// Does nothing if nothing is chosen.
     Q_INVOKABLE void submit();
 
 signals:

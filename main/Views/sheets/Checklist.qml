@@ -6,8 +6,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// Choices to tick, of which only those in sight exist. One stop of the Tab key: the arrows, Home, End and the
-/// Page keys move, Space ticks.
+/// Choices to tick; only the visible rows exist. It is one Tab stop: arrows, Home, End and the Page keys
+/// move, Space ticks.
 Item {
     id: checklist
 
@@ -24,7 +24,7 @@ Item {
         view.currentIndex = Math.max(0, Math.min(index, view.count - 1))
     }
 
-    // Cuts the rows, but not the focus ring of the first column.
+    // Clips the rows, but not the focus ring of the first column.
     Item {
         anchors.fill: parent
         anchors.leftMargin: -Theme.ringGap
@@ -88,7 +88,7 @@ Item {
                 checked: isChosen
                 inList: checklist.inList
                 fadesUnchecked: !checklist.inList
-                tabStop: GridView.isCurrentItem || activeFocus // what has the focus can't stop being one
+                tabStop: GridView.isCurrentItem || activeFocus // the item with the focus must stay a Tab stop
                 onToggled: checklist.choices.toggle(index)
                 onActiveFocusChanged: {
                     if (activeFocus)

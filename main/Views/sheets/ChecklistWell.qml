@@ -6,8 +6,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A checklist in a well, or the words that stand there when it is empty. It is as high as wanted, and gives way
-/// in a low window as long as a few rows stay in sight.
+/// A checklist in a well, or a text if it is empty. It has the wanted height, but shrinks in a low window as
+/// long as a few rows stay visible.
 ListWell {
     id: well
 
@@ -20,7 +20,7 @@ ListWell {
 
     readonly property bool isEmpty: checklist.view.count === 0
     readonly property real contentHeight: checklist.contentHeight
-    /// What takes the focus; none while there is nothing to tick.
+    /// The item to focus; null if there is nothing to tick.
     readonly property Item focusTarget: isEmpty ? null : checklist.view
 
     height: Math.min(wantedHeight, Math.max(room, Theme.sheets.checklistLeast * rowHeight))

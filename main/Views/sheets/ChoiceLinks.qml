@@ -6,14 +6,14 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// Ticks every choice, or none.
+/// Links that tick all choices or none.
 Row {
     id: links
 
     required property ChoiceListModel choices
     required property string allText
     required property string noneText
-    property string subject ///< tells apart, by their accessible names, the links of several lists
+    property string subject ///< distinguishes the links of several lists in their accessible names
 
     function named(text: string): string {
         return links.subject === "" ? text : links.subject + ": " + text

@@ -12,8 +12,8 @@
 
 namespace selvane {
 
-/// A list whose entries are chosen one by one, and which can be narrowed by a search text. Choosing all or
-/// none concerns the entries that the search shows.
+/// A list whose entries are chosen one by one and can be filtered by a search text. Choosing all or none
+/// affects only the entries that the search shows.
 class ChoiceListModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -25,7 +25,7 @@ class ChoiceListModel : public QAbstractListModel {
 
 public:
     struct Entry {
-        std::string key; ///< a name or an id, which needn't be text
+        std::string key; ///< a name or an id, not necessarily UTF-8
         QString title;
         QString detail;
         bool isChosen = false;

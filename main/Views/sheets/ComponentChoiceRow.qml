@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// One component of the source: how a new profile takes it, and which of its items.
+/// One component of the source: how the new profile takes it, and which items.
 Item {
     id: row
 
@@ -15,7 +15,7 @@ Item {
     required property list<string> modeLabels
     required property list<string> modeExplanations
     required property int modeIndex
-    required property ChoiceListModel items ///< null for what is no folder
+    required property ChoiceListModel items ///< null unless it is a folder
     property bool expanded: false
 
     readonly property real inset: icon.width + icon.anchors.rightMargin

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// What a new profile takes along from its source, component by component.
+/// What a new profile takes from its source, component by component.
 Column {
     id: section
 

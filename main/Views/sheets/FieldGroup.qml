@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A field's label above something that has none of its own.
+/// A field label above something that has no label of its own.
 Column {
     id: group
 

@@ -22,7 +22,7 @@ void ImportForm::setSource(const QString& id) {
     emit sourceChanged();
 }
 
-/// Compared by name, whatever the items hold.
+/// Compares names only, not contents.
 void ImportForm::listItems() {
     std::vector<ChoiceListModel::Entry> entries;
     const Profile* source = m_app->profile(m_source);
@@ -47,7 +47,7 @@ void ImportForm::submit() {
     const std::set<std::string> names = m_items.chosenKeys();
     if (source == nullptr || target == nullptr || !part || names.empty())
         return;
-    // Copies: performing reloads the profiles that these point to.
+    // Pass copies: `perform` reloads the profiles that these pointers refer to.
     m_app->perform([&store = m_app->store(), names, from = *source, into = *target, part = *part,
                     links = m_links] { store.importItems(names, from, into, part, links); });
 }

@@ -21,10 +21,10 @@ class ImportForm : public QObject, public QQmlParserStatus {
     Q_PROPERTY(selvane::AppModel* app MEMBER m_app NOTIFY inputChanged REQUIRED)
     Q_PROPERTY(QString target MEMBER m_target NOTIFY inputChanged REQUIRED)
     Q_PROPERTY(QString component MEMBER m_component NOTIFY inputChanged REQUIRED) ///< raw value
-    /// Id of the profile to take from; at first the first of the others.
+    /// Id of the profile to take from; initially the first other profile.
     Q_PROPERTY(QString source READ source WRITE setSource NOTIFY sourceChanged)
-    Q_PROPERTY(bool links MEMBER m_links NOTIFY linksChanged) ///< linked, otherwise copied
-    /// What the target doesn't have yet.
+    Q_PROPERTY(bool links MEMBER m_links NOTIFY linksChanged) ///< link the items rather than copy them
+    /// The items that the target doesn't have yet.
     Q_PROPERTY(selvane::ChoiceListModel* items READ items CONSTANT)
     Q_PROPERTY(QString heading READ heading NOTIFY inputChanged)
 
@@ -39,7 +39,7 @@ public:
     void classBegin() override {}
     void componentComplete() override { setSource(m_app->firstOther(m_target)); }
 
-    /// Does nothing while no item is chosen.
+    /// Does nothing if no item is chosen.
     Q_INVOKABLE void submit();
 
 signals:

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// Adds items of one component to a profile from another one.
+/// Adds items of one component from another profile.
 Sheet {
     id: sheet
 

@@ -65,7 +65,7 @@ void NewProfileForm::setSource(const QString& id) {
 
 void NewProfileForm::listComponents() {
     beginResetModel();
-    // Views hold on to the items of the old rows until the reset has ended.
+    // Views use the items of the old rows until the reset has ended.
     const std::vector<Row> old = std::exchange(m_rows, {});
     const Profile* source = m_app == nullptr ? nullptr : m_app->profile(m_source);
     if (m_app != nullptr && source == nullptr)

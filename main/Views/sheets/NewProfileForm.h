@@ -14,8 +14,8 @@
 
 namespace selvane {
 
-/// The state of the sheet that makes a profile. As a list, its rows are the components with their share
-/// modes, there only while a source is chosen.
+/// The state of the sheet that creates a profile. As a list, its rows are the components with their share
+/// modes; it is empty unless a source is chosen.
 class NewProfileForm : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -24,7 +24,7 @@ class NewProfileForm : public QAbstractListModel {
     Q_PROPERTY(QString name MEMBER m_name NOTIFY nameChanged)
     Q_PROPERTY(QString summary MEMBER m_summary NOTIFY summaryChanged)
     Q_PROPERTY(QString symbol MEMBER m_symbol NOTIFY symbolChanged)
-    /// Id of the profile to start from; empty for none, also when it goes away.
+    /// Id of the profile to start from; empty for none. Becomes empty if that profile is deleted.
     Q_PROPERTY(QString source READ source WRITE setSource NOTIFY sourceChanged)
     Q_PROPERTY(QString sourceName READ sourceName NOTIFY sourceChanged)
     Q_PROPERTY(bool sharesAccount MEMBER m_sharesAccount NOTIFY sharesAccountChanged)
@@ -38,7 +38,7 @@ public:
         ModeLabelsRole, ///< of the modes that the component allows
         ModeExplanationsRole,
         ModeIndexRole,
-        ItemsRole, ///< a ChoiceListModel, or null for what is no folder
+        ItemsRole, ///< a ChoiceListModel, or null unless it is a folder
     };
 
     using QAbstractListModel::QAbstractListModel;
@@ -51,10 +51,10 @@ public:
     bool canCreate() const { return !m_name.trimmed().isEmpty(); }
 
     Q_INVOKABLE void setMode(int row, int modeIndex);
-    // The mode for every component that allows it; the nearest one for the others.
+    // Sets this mode for every component that allows it, and the nearest one for the others.
     Q_INVOKABLE void shareAll() { setAll(ShareMode::shared); }
     Q_INVOKABLE void separateAll() { setAll(ShareMode::separate); }
-    /// Hands the request to the application. Does nothing while the name is blank.
+    /// Passes the request to the application. Does nothing if the name is blank.
     Q_INVOKABLE void create();
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -74,7 +74,7 @@ private:
     struct Row {
         Component component;
         ShareMode mode;
-        std::unique_ptr<ChoiceListModel> items; ///< only of a collection
+        std::unique_ptr<ChoiceListModel> items; ///< only for a collection
     };
 
     void listComponents();

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// Makes a profile, empty or from another one.
+/// Creates a profile, empty or from another one.
 Sheet {
     id: sheet
 

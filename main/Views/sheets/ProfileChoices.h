@@ -11,19 +11,19 @@
 
 namespace selvane {
 
-/// The profiles as a drop-down offers them, by name. It follows the model.
+/// The profiles that a drop-down offers, by name. It follows the application's changes.
 class ProfileChoices : public QObject {
     Q_OBJECT
     QML_ELEMENT
 
     Q_PROPERTY(selvane::AppModel* app READ app WRITE setApp NOTIFY changed REQUIRED)
-    Q_PROPERTY(QString except MEMBER m_except NOTIFY changed) ///< id of one that isn't offered
-    /// Text of a first choice that is no profile; empty when there is no such choice.
+    Q_PROPERTY(QString except MEMBER m_except NOTIFY changed) ///< id of a profile that isn't offered
+    /// Text of a first choice that is no profile; empty if there is no such choice.
     Q_PROPERTY(QString noneLabel MEMBER m_noneLabel NOTIFY changed)
     Q_PROPERTY(QString current MEMBER m_current NOTIFY changed) ///< id; empty for none
 
     Q_PROPERTY(QList<QString> labels READ labels NOTIFY changed)
-    Q_PROPERTY(int currentIndex READ currentIndex NOTIFY changed) ///< -1 when it isn't offered
+    Q_PROPERTY(int currentIndex READ currentIndex NOTIFY changed) ///< -1 if it isn't offered
 
 public:
     using QObject::QObject;

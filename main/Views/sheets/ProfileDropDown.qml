@@ -6,14 +6,14 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// One of the profiles, by name. It shows `profileId` and asks for another one.
+/// Chooses a profile by name. It shows `profileId` and signals a new choice.
 DropDown {
     id: dropDown
 
     required property AppModel app
     required property string profileId ///< empty for none
     property string except ///< id of a profile that isn't offered
-    property string noneLabel ///< text of the choice of none; empty: there is no such choice
+    property string noneLabel ///< text for choosing none; empty if that isn't offered
 
     readonly property ProfileChoices choices: ProfileChoices {
         app: dropDown.app

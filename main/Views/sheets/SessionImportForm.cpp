@@ -16,20 +16,20 @@ SessionImportForm::SessionImportForm(QObject* parent) : QObject(parent) {
     });
 }
 
-/// An account can have thousands of sessions: they are read on another thread.
+/// An account can have thousands of sessions, so they are read on another thread.
 void SessionImportForm::setSource(const QString& id) {
     m_source = id;
     emit sourceChanged();
     const Profile* source = m_app->profile(id);
     setLoading(source != nullptr);
     show({});
-    m_reading.setFuture({}); // what another source had is of no use
+    m_reading.setFuture({}); // drop the result for another source
     if (source == nullptr)
         return;
     const auto read = [&store = m_app->store(), profile = *source]() -> std::vector<CodeSession> {
         try {
             return store.codeSessions(profile);
-        } catch (const std::exception&) { // an account that can't be told has no sessions
+        } catch (const std::exception&) { // an invalid account has no sessions
             return {};
         }
     };
@@ -68,7 +68,7 @@ void SessionImportForm::submit() {
         if (files.contains(session.file))
             chosen.push_back(session);
     }
-    // Copies: importing reloads the profiles that these point to.
+    // Pass copies: importing reloads the profiles that these pointers refer to.
     m_app->importSessions(chosen, Profile(*source), Profile(*target));
 }
 

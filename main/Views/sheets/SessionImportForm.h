@@ -16,7 +16,7 @@
 
 namespace selvane {
 
-/// The state of the sheet that takes sessions of the Code tab along from another profile.
+/// The state of the sheet that imports sessions of the Code tab from another profile.
 class SessionImportForm : public QObject, public QQmlParserStatus {
     Q_OBJECT
     Q_INTERFACES(QQmlParserStatus)
@@ -24,9 +24,9 @@ class SessionImportForm : public QObject, public QQmlParserStatus {
 
     Q_PROPERTY(selvane::AppModel* app MEMBER m_app NOTIFY inputChanged REQUIRED)
     Q_PROPERTY(QString target MEMBER m_target NOTIFY inputChanged REQUIRED)
-    /// Id of the profile to take from; at first the first of the others.
+    /// Id of the profile to take from; initially the first other profile.
     Q_PROPERTY(QString source READ source WRITE setSource NOTIFY sourceChanged)
-    /// Each with its working folder, in which "~" stands for the home folder.
+    /// Each with its working folder, with "~" for the home folder.
     Q_PROPERTY(selvane::ChoiceListModel* sessions READ sessions CONSTANT)
     Q_PROPERTY(bool isLoading READ isLoading NOTIFY isLoadingChanged)
 
@@ -41,7 +41,7 @@ public:
     void classBegin() override {}
     void componentComplete() override { setSource(m_app->firstOther(m_target)); }
 
-    /// Does nothing while no session is chosen.
+    /// Does nothing if no session is chosen.
     Q_INVOKABLE void submit();
 
 signals:
@@ -60,8 +60,8 @@ private:
     bool m_isLoading = false;
     std::vector<CodeSession> m_sessions;
     ChoiceListModel m_choices;
-    QFutureWatcher<std::vector<CodeSession>> m_reading; ///< the newest alone
-    QThreadPool m_readers; ///< waited for at the end, because they use the application's store
+    QFutureWatcher<std::vector<CodeSession>> m_reading; ///< only the newest
+    QThreadPool m_readers; ///< its destructor waits for them, as they use the application's store
 };
 
 } // namespace selvane

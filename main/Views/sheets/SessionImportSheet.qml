@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// Copies sessions of the Code tab to a profile from another one.
+/// Copies sessions of the Code tab from another profile.
 Sheet {
     id: sheet
 

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A sheet: a title, a body that scrolls when the window is too low for it, and the two buttons.
+/// A sheet: a title, a body that scrolls if the window is too low, and two buttons.
 ModalLayer {
     id: sheet
 
