@@ -22,7 +22,7 @@ namespace {
 const QString kService = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString kRequest = QStringLiteral("org.freedesktop.portal.Request");
 
-/// How the portal takes a kind of files: rules, which are patterns (0) or content types (1).
+/// A kind of files in the portal's form: rules that are patterns (0) or content types (1).
 struct FilterRule {
     uint kind = 1;
     QString text;
@@ -57,7 +57,7 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, FileFilter& filte
     return argument;
 }
 
-/// How the portal is told which window it is about; on Wayland it isn't.
+/// Tells the portal which window the dialog belongs to; empty on Wayland.
 QString handleOf(const QWindow* window) {
     if (window == nullptr || QGuiApplication::platformName() != QStringLiteral("xcb"))
         return {};
@@ -88,7 +88,7 @@ void PortalSaveDialog::ask(const QWindow* parent, const QString& title, const QS
         QMetaObject::invokeMethod(this, &PortalSaveDialog::unavailable, Qt::QueuedConnection);
         return;
     }
-    // The portal answers at a path that is known beforehand, perhaps before the call returns.
+    // The portal answers at a path known in advance, perhaps even before the call returns.
     const QString token =
         QStringLiteral("selvane_%1_%2").arg(QCoreApplication::applicationPid()).arg(++m_count);
     const QString sender = bus.baseService().mid(1).replace('.', '_');
@@ -105,7 +105,7 @@ void PortalSaveDialog::ask(const QWindow* parent, const QString& title, const QS
                         {"modal", true},
                         {"filters", QVariant::fromValue(filters)},
                         {"current_name", name},
-                        // A path is bytes with a zero at the end.
+                        // A path is bytes with a NUL at the end.
                         {"current_folder", QByteArray(QFile::encodeName(folder)).append('\0')}};
     auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(call), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, request = m_request] {

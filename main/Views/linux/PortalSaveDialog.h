@@ -9,7 +9,7 @@
 
 namespace selvane {
 
-/// The dialog of the desktop's portal.
+/// The save dialog of the desktop portal.
 class PortalSaveDialog final : public SaveDialog {
     Q_OBJECT
 
@@ -25,7 +25,7 @@ private slots:
 private:
     void forget();
 
-    QString m_request; ///< path of the open question; empty for none
+    QString m_request; ///< path of the open request; empty if there is none
     int m_count = 0;
 };
 

@@ -21,7 +21,7 @@ const QString kAnimations = QStringLiteral("enable-animations");
 const QString kPlasma = QStringLiteral("org.kde.kdeglobals.KDE");
 const QString kAnimationDuration = QStringLiteral("AnimationDurationFactor");
 
-/// The portal wraps a value once more when it is read than when it has changed.
+/// The portal wraps a value once more when it is read than when it reports a change.
 QVariant unwrapped(QVariant value) {
     while (value.canConvert<QDBusVariant>())
         value = value.value<QDBusVariant>().variant();
@@ -58,7 +58,7 @@ PortalSettings::PortalSettings(SystemAppearance& appearance) : m_appearance(appe
 
 void PortalSettings::settingChanged(const QString& group, const QString& key, const QDBusVariant& value) {
     const QVariant setting = unwrapped(value.variant());
-    // An X server's resolution already has the factor in it.
+    // On X11, the resolution already includes the factor.
     const bool scalesItself = QGuiApplication::platformName() == QStringLiteral("xcb");
     if (group == kGnome && key == kTextFactor && !scalesItself)
         m_appearance.setTextFactor(setting.toDouble());

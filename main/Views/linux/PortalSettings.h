@@ -10,12 +10,12 @@
 
 namespace selvane {
 
-/// The settings of the desktop, as its portal hands them to applications.
+/// The desktop's settings, as its portal provides them.
 class PortalSettings : public QObject {
     Q_OBJECT
 
 public:
-    /// Asks for them, without waiting for the answer.
+    /// Asks for them without waiting for the answer.
     explicit PortalSettings(SystemAppearance& appearance);
 
 private slots:

@@ -12,12 +12,12 @@
 namespace selvane {
 namespace {
 
-constexpr int kFirstLookMilliseconds = 200; // once the window is there
+constexpr int kFirstLookMilliseconds = 200; // after the window is shown
 constexpr int kLookMilliseconds = 2000;
 
 using Copies = std::vector<OpenCopy>;
 
-/// Looks at the processes from time to time, on another thread.
+/// Checks the processes at intervals, on another thread.
 class ProcessWatch final : public ApplicationWatch {
 public:
     explicit ProcessWatch(std::function<Copies()> look) : m_look(std::move(look)) {
@@ -53,7 +53,7 @@ private:
     const std::function<Copies()> m_look;
     QTimer m_timer;
     QFutureWatcher<Copies> m_watcher;
-    std::optional<Copies> m_copies; ///< none before the first look
+    std::optional<Copies> m_copies; ///< nothing before the first check
 };
 
 } // namespace

@@ -59,7 +59,7 @@ void revealItem(const std::filesystem::path& item) {
     call << QStringList{fileUrl(item).toString(QUrl::FullyEncoded)} << QString();
     auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(call), qApp);
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher, [watcher, openFolder] {
-        // Where no file manager answers to that, at least the folder is opened.
+        // If no file manager answers, at least open the folder.
         if (watcher->isError())
             openFolder();
         watcher->deleteLater();

@@ -8,8 +8,8 @@
 namespace selvane {
 namespace {
 
-/// Less motion, from the system's accessibility settings. Larger text is no setting that this system has for
-/// all applications.
+/// Reduced motion, from the system's accessibility settings. macOS has no setting for larger text in all
+/// applications.
 class AccessibilitySettings final : public QObject {
 public:
     explicit AccessibilitySettings(SystemAppearance& appearance)

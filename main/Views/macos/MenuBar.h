@@ -11,7 +11,7 @@
 
 namespace selvane {
 
-/// One of the commands that the menu bar leads to.
+/// One of the commands in the menu bar.
 struct MenuCommand {
     std::function<void()> run;
     std::function<bool()> isEnabled;
@@ -26,8 +26,8 @@ struct MenuCommands {
 
 } // namespace selvane
 
-/// What the items with a command of ours call; it asks, whenever a menu opens or a key is pressed, whether
-/// they can be chosen.
+/// The target of the items with commands of our own. Whenever a menu opens or a key is pressed, it says
+/// whether they can be chosen.
 @interface SelvaneMenuTarget : NSObject <NSMenuItemValidation>
 - (instancetype)initWithCommands:(selvane::MenuCommands)commands;
 - (void)checkForUpdates:(id)sender;
@@ -38,7 +38,7 @@ struct MenuCommands {
 
 namespace selvane {
 
-/// Puts the application's menu bar in place. The items hold `target` weakly: it has to live as long.
+/// Installs the application's menu bar. The items hold `target` weakly, so it must live as long as they do.
 void installMenuBar(SelvaneMenuTarget* target, const QString& applicationName);
 
 } // namespace selvane

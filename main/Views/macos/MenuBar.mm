@@ -63,7 +63,7 @@ NSMenu* addMenu(NSMenu* bar, NSString* title) {
     return menu;
 }
 
-/// An item of ours; those without a target are answered by whatever has the focus, or by the application.
+/// An item of our own. Without a target, whatever has the focus answers it, or the application.
 void addCommand(NSMenu* menu, const char* title, SEL action, NSString* key, SelvaneMenuTarget* target) {
     [menu addItemWithTitle:shown(title) action:action keyEquivalent:key].target = target;
 }
@@ -114,7 +114,7 @@ void fillWindowMenu(NSMenu* menu, SelvaneMenuTarget* target) {
 
 void installMenuBar(SelvaneMenuTarget* target, const QString& applicationName) {
     NSMenu* bar = [[NSMenu alloc] initWithTitle:@""];
-    // The first menu is the application's, whatever its title.
+    // The first menu is always the application's, whatever its title.
     fillApplicationMenu(addMenu(bar, applicationName.toNSString()), target, applicationName);
     fillFileMenu(addMenu(bar, shown("File")), target);
     NSMenu* windows = addMenu(bar, shown("Finestra"));

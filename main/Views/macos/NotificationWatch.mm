@@ -12,7 +12,7 @@
 namespace selvane {
 namespace {
 
-/// Hears of applications from the workspace.
+/// Learns of applications from the workspace's notifications.
 class NotificationWatch final : public ApplicationWatch {
 public:
     void setWatching(bool watches) override {
@@ -24,7 +24,7 @@ public:
         const auto notify = [this](NSNotification* notification) { hear(notification); };
         m_observations.emplace_back(NSWorkspaceDidLaunchApplicationNotification, notify);
         m_observations.emplace_back(NSWorkspaceDidTerminateApplicationNotification, notify);
-        emit changed(); // whatever happened before
+        emit changed(); // something may have happened before
     }
 
 private:

@@ -11,8 +11,8 @@
 
 namespace selvane::macos {
 
-/// Follows a notification of the workspace, on the main queue, as long as it lives: for the main thread
-/// alone.
+/// Observes a notification of the workspace on the main queue for as long as it lives. Use it only on the
+/// main thread.
 class Observation {
 public:
     Observation(NSNotificationName name, std::function<void(NSNotification*)> notify)
@@ -22,7 +22,7 @@ public:
                                         object:nil
                                          queue:NSOperationQueue.mainQueue
                                     usingBlock:^(NSNotification* notification) {
-                                      // What the queue still holds when the observer goes isn't told.
+                                      // Notifications still in the queue when the observer goes are dropped.
                                       if (const auto alive = weak.lock())
                                           (*alive)(notification);
                                     }];
@@ -32,7 +32,7 @@ public:
     ~Observation() { [centre() removeObserver:m_token]; }
 
 private:
-    /// That of the workspace: its notifications aren't posted at the default one.
+    /// The workspace has its own centre: it doesn't post its notifications to the default one.
     static NSNotificationCenter* centre() { return NSWorkspace.sharedWorkspace.notificationCenter; }
 
     std::shared_ptr<std::function<void(NSNotification*)>> m_notify;

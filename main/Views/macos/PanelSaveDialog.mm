@@ -19,7 +19,7 @@ public:
              const QString& name) override;
 
 private:
-    /// Closes a panel that is still open; its answer is not told any more.
+    /// Closes a panel that is still open and ignores its answer.
     void forget() {
         NSSavePanel* const panel = m_panel;
         m_panel = nil;
@@ -48,7 +48,7 @@ void PanelSaveDialog::ask(const QWindow* parent, const QString& title, const QSt
     panel.nameFieldStringValue = name.toNSString();
     panel.canCreateDirectories = YES;
     const QPointer<PanelSaveDialog> self(this);
-    // AppKit calls it on the main thread, once the panel has gone.
+    // AppKit calls this on the main thread once the panel is gone.
     void (^answered)(NSModalResponse) = ^(NSModalResponse response) {
       if (self)
           self->answer(panel, response);

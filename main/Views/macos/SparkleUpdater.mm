@@ -8,10 +8,10 @@
 #include <functional>
 #include <utility>
 
-/// Tells, on the main thread, when `canCheckForUpdates` of an updater has changed.
+/// Reports on the main thread when `canCheckForUpdates` of an updater changes.
 @interface SelvaneUpdateObserver : NSObject
 - (instancetype)initWithUpdater:(SPUUpdater*)updater changed:(std::function<void()>)changed;
-/// Nothing is told from here on.
+/// Stops reporting.
 - (void)stop;
 @end
 
@@ -94,7 +94,7 @@ private:
 
 } // namespace
 
-/// Only a bundle that says where its updates are announced has an updater.
+/// Only a bundle that names its update feed has an updater.
 std::unique_ptr<Updater> makeUpdater() {
     if ([NSBundle.mainBundle objectForInfoDictionaryKey:@"SUFeedURL"] == nil)
         return nullptr;

@@ -14,7 +14,7 @@
 #include "artwork/Brand.h"
 #import "platform/macos/FoundationTypes.h"
 
-/// Answers when the user opens the application again, from the Dock or the Finder: the system starts no
+/// Called when the user opens the application again from the Dock or the Finder; the system doesn't start a
 /// second one.
 @interface SelvaneReopening : NSObject
 - (instancetype)initWithLauncher:(selvane::LauncherApp*)launcher;
@@ -52,14 +52,14 @@ MenuCommands commandsOf(LauncherApp& launcher) {
     };
 }
 
-/// The menu bar, and the answer to being opened again.
+/// The menu bar, and the response to being opened again.
 class MacShell final : public QObject {
 public:
     explicit MacShell(LauncherApp& launcher)
         : m_menuTarget([[SelvaneMenuTarget alloc] initWithCommands:commandsOf(launcher)]),
           m_reopening([[SelvaneReopening alloc] initWithLauncher:&launcher]) {
         installMenuBar(m_menuTarget, Brand::name);
-        // Not before AppKit has put its own answer in place, at the start of the event loop.
+        // Wait until the event loop has started: by then AppKit has installed its own handler.
         connect(&launcher, &LauncherApp::begun, this, &MacShell::listen);
     }
     ~MacShell() override {
@@ -75,13 +75,13 @@ private:
                                                           andEventID:kAEReopenApplication];
     }
 
-    SelvaneMenuTarget* m_menuTarget; // kept here: the menu and the event manager don't
+    SelvaneMenuTarget* m_menuTarget; // kept here, as the menu and the event manager don't keep it
     SelvaneReopening* m_reopening;
 };
 
 } // namespace
 
-/// Not, for example, by way of ssh alone.
+/// There is none over ssh alone, for example.
 bool hasDisplay() {
     const CFDictionaryRef session = CGSessionCopyCurrentDictionary();
     if (session == nullptr)
@@ -90,7 +90,7 @@ bool hasDisplay() {
     return true;
 }
 
-/// The user defaults of the bundle, whose identifier is made of these two names.
+/// The user defaults of the bundle, whose identifier consists of these two names.
 std::unique_ptr<QSettings> openSettings() {
     return std::make_unique<QSettings>(QSettings::NativeFormat, QSettings::UserScope,
                                        QStringLiteral("selvane.org"), QStringLiteral("Selvane"));

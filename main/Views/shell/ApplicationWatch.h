@@ -13,7 +13,7 @@
 
 namespace selvane {
 
-/// Tells that a copy of Claude Desktop was started or has ended, while it is asked to.
+/// Reports when a copy of Claude Desktop has started or ended, while switched on.
 class ApplicationWatch : public QObject {
     Q_OBJECT
 
@@ -26,8 +26,8 @@ signals:
     void changed();
 };
 
-/// `look` says which copies run. It may be called on any thread, one call at a time, until the application's
-/// threads have ended.
+/// `look` returns the running copies. It may be called on any thread, one call at a time, until the
+/// application's threads have ended.
 std::unique_ptr<ApplicationWatch> makeApplicationWatch(std::function<std::vector<OpenCopy>()> look);
 
 } // namespace selvane

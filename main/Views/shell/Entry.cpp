@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 //
-// The border of the module: plain types, and no exception crosses it.
+// The module's interface: only plain types cross it, and no exceptions.
 
 #include <QGuiApplication>
 
@@ -20,7 +20,7 @@ using Fail = void(void* context, const char* message) noexcept;
 
 void ignoreMessage(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& /*message*/) {}
 
-/// Drawing needs no display, nor what Qt misses where there is no session of a desktop.
+/// Drawing needs no display, and Qt's warnings about a missing desktop session don't matter.
 bool draw(void (*render)(const std::filesystem::path& folder), const char* folder, Fail* fail,
           void* context) noexcept {
     try {

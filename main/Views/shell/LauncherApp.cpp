@@ -30,7 +30,7 @@ constexpr auto kNewProfileOption = "--new-profile";
 constexpr auto kNoDisplay =
     "Nessuno schermo disponibile: senza, Selvane si usa con i suoi comandi (selvane --help)";
 
-/// A display that is named but doesn't answer: Qt would abort the process.
+/// If a display is named but doesn't answer, Qt would abort the process.
 void endWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& /*message*/) {
     if (type != QtFatalMsg)
         return;
@@ -38,12 +38,12 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/, co
     std::_Exit(EXIT_FAILURE);
 }
 
-/// By way of its module: a file opened by its place alone doesn't see the module's own types.
+/// Creates a type through its module: a file loaded by its URL alone doesn't see the module's own types.
 std::unique_ptr<QObject> make(QQmlEngine& engine, const char* type, const QVariantMap& properties) {
     QQmlComponent component(&engine);
     component.setData(QStringLiteral("import Selvane\n%1 {}").arg(type).toUtf8(), {});
     std::unique_ptr<QObject> made;
-    if (component.isReady()) // else making one is a crash
+    if (component.isReady()) // otherwise creating it crashes
         made.reset(component.createWithInitialProperties(properties));
     if (!made)
         throw LauncherError("Finestra non utilizzabile: " + component.errorString().toStdString());
@@ -55,7 +55,7 @@ std::unique_ptr<QObject> make(QQmlEngine& engine, const char* type, const QVaria
 LauncherApp::LauncherApp(QQmlEngine& engine, AppModel& app, Updates& updates)
     : m_engine(engine), m_app(app), m_updates(updates) {
     connect(&m_engine, &QQmlEngine::quit, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
-    // Commands may have changed the profiles while another application was in front.
+    // Commands may have changed the profiles while another application was active.
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
         if (state == Qt::ApplicationActive && std::exchange(m_wasLeft, false))
             m_app.reload();
@@ -100,7 +100,7 @@ bool LauncherApp::isShown() const {
 }
 
 void LauncherApp::offerNewProfile() {
-    // What answers is made after the window's first frame.
+    // The part of the window that answers is created after its first frame.
     QQuickWindow* picker = window(Picker);
     if (picker->property("isComplete").toBool())
         emit newProfile();
@@ -120,7 +120,7 @@ void LauncherApp::start(const QByteArray& request) {
     show(Picker);
     if (request == kNewProfileOption)
         offerNewProfile();
-    // After the first window: what follows is worth no delay.
+    // Only after the first window: none of the rest is worth a delay.
     const auto once = static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection);
     connect(window(Picker), &QQuickWindow::frameSwapped, this, &LauncherApp::begun, once);
     m_engine.singletonInstance<SystemAppearance*>(qmlTypeId("Selvane", 1, 0, "SystemAppearance"))->read();
@@ -157,7 +157,7 @@ int runLauncherApp(int argc, char** argv) {
         return 0;
     qml_register_types_Selvane();
     QQmlEngine engine;
-    // Loaded on the engine's own thread, while this one has other things to do. Now and then it needs this
+    // Loaded on the engine's own thread while this one does other things. From time to time, it needs this
     // one.
     const QQmlComponent loading(&engine,
                                 QUrl(QStringLiteral("qrc:/qt-project.org/imports/Selvane/PickerWindow.qml")),
@@ -185,7 +185,7 @@ int runLauncherApp(int argc, char** argv) {
     QObject::connect(&launcher, &LauncherApp::archiveChosen, &bridge, &SystemBridge::answerArchive);
     launcher.start(request);
     const int status = QGuiApplication::exec();
-    QThreadPool::globalInstance()->waitForDone(); // what still reads uses the store
+    QThreadPool::globalInstance()->waitForDone(); // tasks that are still reading use the store
     return status;
 }
 

@@ -15,8 +15,8 @@
 
 namespace selvane {
 
-/// The windowed application: its two windows, each made when it is first shown, and the commands that lead
-/// from one to the other.
+/// The windowed application: its two windows, each created when first shown, and the commands that lead from
+/// one to the other.
 class LauncherApp : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -24,44 +24,45 @@ class LauncherApp : public QObject {
 
     Q_PROPERTY(selvane::AppModel* app READ app CONSTANT)
     Q_PROPERTY(selvane::Updates* updates READ updates CONSTANT)
-    /// The window that was active last, which alone shows notices, errors and questions.
+    /// The window that was active last; only this one shows notices, errors and questions.
     Q_PROPERTY(WindowName keyWindow READ keyWindow NOTIFY keyWindowChanged)
 
 public:
     enum WindowName { Picker, Manage };
     Q_ENUM(WindowName)
 
-    /// What it is given must live longer. `engine` makes the windows; the QML module must be known by now.
+    /// The arguments must outlive this object. `engine` creates the windows; the QML module must already be
+    /// registered.
     LauncherApp(QQmlEngine& engine, AppModel& app, Updates& updates);
     ~LauncherApp() override;
 
     AppModel* app() const { return &m_app; }
     Updates* updates() const { return &m_updates; }
     WindowName keyWindow() const { return m_keyWindow; }
-    /// Opens the picker and follows the desktop's settings. Throws `LauncherError` when it can't be made.
-    /// `request` is what `answerStart` takes.
+    /// Opens the picker and follows the desktop's settings. Throws `LauncherError` if the picker can't be
+    /// created. `request` is as for `answerStart`.
     void start(const QByteArray& request = {});
     /// Null until it is first shown.
     QQuickWindow* window(WindowName name) const { return m_windows.at(name).get(); }
 
 public slots:
-    // Open a window or bring it to the front, with what is on disk now.
+    // These open a window or bring it to the front, showing what is on disk now.
     void showPicker() { tryToShow(Picker); }
     void showManage() { tryToShow(Manage); }
-    /// Does what a start of Selvane with this argument asks for: "--new-profile", or anything else.
+    /// Does what starting Selvane with this argument asks for: "--new-profile", or anything else.
     void answerStart(const QByteArray& request);
-    /// Asks in the key window for a place; `archiveChosen` follows.
+    /// Asks for a path in the key window; `archiveChosen` follows.
     void askForArchive(const QString& proposedPlace);
 
 signals:
-    /// "Nuovo profilo…" was chosen: the key window answers it.
+    /// "Nuovo profilo…" was chosen; the key window responds.
     void newProfile();
     void keyWindowChanged();
     /// The picker's first frame has been shown.
     void begun();
-    /// Whether any window can be seen now.
+    /// Whether any window is visible now.
     void shownChanged(bool isShown);
-    /// As typed; empty when the question was cancelled.
+    /// As typed; empty if cancelled.
     void archiveChosen(const QString& place);
 
 private:
@@ -77,12 +78,12 @@ private:
     Updates& m_updates;
     std::array<std::unique_ptr<QQuickWindow>, 2> m_windows;
     WindowName m_keyWindow = Picker;
-    bool m_wasLeft = false; ///< another application has been in front since the last look
+    bool m_wasLeft = false; ///< whether another application has been active since the last reload
 };
 
-/// Runs the windowed application to its end and returns its exit status. A second start brings the first
-/// one's picker to the front. With "--new-profile" the picker asks for a new profile at once. Throws
-/// `LauncherError` when there is no display.
+/// Runs the windowed application until it ends and returns its exit status. A second start brings the first
+/// one's picker to the front. With "--new-profile", the picker offers to create a profile at once. Throws
+/// `LauncherError` if there is no display.
 int runLauncherApp(int argc, char** argv);
 
 } // namespace selvane

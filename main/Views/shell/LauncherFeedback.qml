@@ -6,8 +6,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// What the application tells and asks over a window: that work goes on in every window; notices, errors and
-/// the questions of a launch in the key window alone, one question at a time.
+/// The application's messages and questions over a window. Every window shows that work is in progress; only
+/// the key window shows notices, errors and the questions of a launch, one at a time.
 Item {
     id: feedback
 
@@ -24,7 +24,7 @@ Item {
 
     signal newProfileAsked
 
-    /// "Nuovo profilo…" was chosen from the menu: the key window alone answers.
+    /// "Nuovo profilo…" was chosen from the menu; only the key window responds.
     function offerNewProfile(): void {
         if (feedback.isKey && !feedback.isBusy && feedback.alertKind === "")
             feedback.newProfileAsked()

@@ -6,8 +6,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// The shortcuts of the application's menu commands, and those that close a window and the application. Where
-/// the system shows a menu bar, its items have these keys.
+/// The shortcuts for the application's menu commands and for closing a window and quitting. If the system has
+/// a menu bar, its items have these keys instead.
 Item {
     id: commands
 

@@ -5,7 +5,7 @@
 
 namespace selvane {
 
-/// New versions come as packages, or by hand.
+/// New versions come as packages or are installed by hand.
 std::unique_ptr<Updater> makeUpdater() {
     return nullptr;
 }

@@ -3,6 +3,6 @@
 
 #pragma once
 
-/// Makes the QML module "Selvane" known, as generated. Because the views are linked statically, nothing else
-/// would pull its registration into the program.
+/// Registers the QML module "Selvane"; generated. The views are linked statically, so nothing else would pull
+/// the registration into the program.
 void qml_register_types_Selvane();

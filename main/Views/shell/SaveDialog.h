@@ -12,22 +12,22 @@
 
 namespace selvane {
 
-/// The system's own dialog for a new zip archive.
+/// The system's own dialog for saving a zip archive.
 class SaveDialog : public QObject {
     Q_OBJECT
 
 public:
     using QObject::QObject;
 
-    /// Shows it before `parent`, which may be null. Ends with exactly one of the signals, always later; being
-    /// asked again forgets the first question.
+    /// Shows the dialog for `parent`, which may be null. Always emits exactly one of the signals, later. A new
+    /// call drops the question that is still open, which then gets no answer.
     virtual void ask(const QWindow* parent, const QString& title, const QString& folder,
                      const QString& name) = 0;
 
 signals:
     void chosen(const QUrl& file);
     void cancelled();
-    void unavailable(); ///< this desktop has none
+    void unavailable(); ///< this desktop has no such dialog
 };
 
 std::unique_ptr<SaveDialog> makeSaveDialog();

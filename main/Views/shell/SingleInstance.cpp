@@ -40,7 +40,7 @@ bool SingleInstance::claim(const QByteArray& request) {
         }
         return false;
     }
-    QLocalServer::removeServer(name); // left behind by one that was killed
+    QLocalServer::removeServer(name); // left behind by a Selvane that was killed
     connect(&m_server, &QLocalServer::newConnection, this, [this] {
         while (QLocalSocket* caller = m_server.nextPendingConnection())
             hear(caller);

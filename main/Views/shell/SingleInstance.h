@@ -9,18 +9,18 @@
 
 namespace selvane {
 
-/// One windowed Selvane a user: a second start hands over to the first.
+/// Only one windowed Selvane per user: a second start hands over to the first.
 class SingleInstance : public QObject {
     Q_OBJECT
 
 public:
     using QObject::QObject;
 
-    /// Whether this process is the one. If not, the other has been told, and of the `request` too.
+    /// Whether this process is the first. If not, it has passed `request` to the other one.
     bool claim(const QByteArray& request);
 
 signals:
-    /// Somebody has started Selvane again, with this request.
+    /// The user has started Selvane again, with this request.
     void startedAgain(const QByteArray& request);
 
 private:

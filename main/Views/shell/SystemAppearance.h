@@ -10,7 +10,7 @@
 
 namespace selvane {
 
-/// What the user has asked of the whole desktop: larger text and less motion. It follows changes.
+/// The user's settings for the whole desktop: larger text and reduced motion. It follows changes.
 class SystemAppearance : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -22,11 +22,11 @@ class SystemAppearance : public QObject {
 public:
     explicit SystemAppearance(QObject* parent = nullptr);
 
-    /// Asks the desktop for its settings, without waiting for the answer. Before that, only the screen
+    /// Asks the desktop for its settings without waiting for the answer. Until it comes, only the screen
     /// counts.
     void read();
 
-    double textScale() const; ///< 1: as designed
+    double textScale() const; ///< 1 means as designed
     bool reducedMotion() const { return m_reducedMotion; }
     void setTextFactor(double factor);
     void setReducedMotion(bool reduced);
@@ -40,8 +40,8 @@ private:
     std::unique_ptr<QObject> m_settings;
 };
 
-/// Hands over the desktop's settings, now or as soon as they are known, and what changes of them, as long as
-/// the object lives. `appearance` must live longer.
+/// Passes on the desktop's settings, now or once they are known, and later changes, for as long as the
+/// returned object lives. `appearance` must outlive it.
 std::unique_ptr<QObject> followDesktop(SystemAppearance& appearance);
 
 } // namespace selvane

@@ -55,7 +55,7 @@ void SystemBridge::open(const fs::path& file) {
 
 void SystemBridge::askForArchive(const QString& proposedName,
                                  std::function<void(std::optional<fs::path>)> done) {
-    finishArchive(std::nullopt); // a question that is still open
+    finishArchive(std::nullopt); // cancels a question that is still open
     m_archiveDone = std::move(done);
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     const QString folder = QFileInfo(documents).isDir() ? documents : QDir::homePath();

@@ -11,12 +11,12 @@
 
 namespace selvane {
 
-/// The real desktop. Where it has no dialog for a new file, the windows are asked for one by signal.
+/// The real desktop. If it has no save dialog, a signal asks the windows for one.
 class SystemBridge final : public DesktopBridge {
     Q_OBJECT
 
 public:
-    /// `look` says which copies of Claude Desktop run; see `makeApplicationWatch`.
+    /// `look` returns the running copies of Claude Desktop; see `makeApplicationWatch`.
     explicit SystemBridge(std::function<std::vector<OpenCopy>()> look);
 
     void endApplication() override;
@@ -26,10 +26,10 @@ public:
     void askForArchive(const QString& proposedName,
                        std::function<void(std::optional<std::filesystem::path>)> done) override;
 
-    /// Whether to tell of started and ended copies of Claude Desktop: while a window is shown.
+    /// Whether to report copies of Claude Desktop that start or end: on while a window is shown.
     void setWatching(bool watches) { m_watch->setWatching(watches); }
-    /// The answer to `archiveWanted`: a path as typed, from the home folder on where it is relative; empty
-    /// when the user has cancelled.
+    /// The answer to `archiveWanted`: a path as typed, relative to the home folder unless absolute; empty if
+    /// the user cancelled.
     void answerArchive(const QString& typed);
 
 signals:

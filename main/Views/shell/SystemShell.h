@@ -17,11 +17,11 @@ class LauncherApp;
 /// Whether windows can be shown at all.
 bool hasDisplay();
 
-/// Where this system keeps what the user prefers.
+/// Where this system keeps the user's preferences.
 std::unique_ptr<QSettings> openSettings();
 
-/// What the system has around the windows, such as a menu bar. Lasts as long as the object; `launcher` must
-/// live longer.
+/// What the system adds around the windows, such as a menu bar. It lasts as long as the returned object;
+/// `launcher` must outlive it.
 std::unique_ptr<QObject> makeSystemShell(LauncherApp& launcher);
 
 /// Shows the item selected in the file manager.

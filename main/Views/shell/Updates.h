@@ -11,7 +11,7 @@
 
 namespace selvane {
 
-/// What brings new versions, where the application does that itself.
+/// Installs new versions, if the application does that itself.
 class Updater : public QObject {
     Q_OBJECT
 
@@ -19,19 +19,19 @@ public:
     using QObject::QObject;
 
     virtual bool canCheck() const = 0;
-    virtual void check() = 0; ///< with an interface of its own
+    virtual void check() = 0; ///< shows its own interface
     virtual bool installsAutomatically() const = 0;
-    virtual void setInstallsAutomatically(bool value) = 0; ///< true also turns on looking for them
+    virtual void setInstallsAutomatically(bool value) = 0; ///< true also turns on checking for them
 
 signals:
     void canCheckChanged();
 };
 
-/// That of this installation, already started; null where new versions come in another way.
+/// The updater of this installation, already started; null if new versions come in another way.
 std::unique_ptr<Updater> makeUpdater();
 
-/// The updates of the application as the windows see them. Without an updater nothing is available and
-/// nothing is written.
+/// The application's updates as the windows see them. Without an updater, none are available and nothing is
+/// written.
 class Updates : public QObject {
     Q_OBJECT
     QML_ELEMENT
