@@ -82,7 +82,7 @@ CommandHome::CommandHome() : m_path(std::getenv("HOME")) {
     environment["PATH"] = (*this / "bin").string();
     environment["XDG_RUNTIME_DIR"] = m_session.path().string();
     environment["XDG_DATA_DIRS"] = (*this / "share").string();
-    // Reports of the sanitizers must not be taken for a clean end.
+    // Reports from the sanitizers must not look like success.
     environment["ASAN_OPTIONS"] = "exitcode=99";
     environment["UBSAN_OPTIONS"] = "exitcode=99:halt_on_error=1";
 }
@@ -95,7 +95,7 @@ Outcome CommandHome::runProgram(const std::vector<std::string>& words) const {
     if (child == 0) {
         redirect(STDOUT_FILENO, streams / "out");
         redirect(STDERR_FILENO, streams / "err");
-        alarm(kTimeLimit); // survives the exec
+        alarm(kTimeLimit); // stays in force after exec
         execve(arguments[0].c_str(), pointers(arguments).data(), pointers(variables).data());
         _exit(127);
     }

@@ -17,7 +17,7 @@ namespace selvane::test {
 
 /// What a run of a command gave.
 struct Outcome {
-    int status = 0; ///< 128 and the signal's number when a signal ended it
+    int status = 0; ///< 128 plus the signal's number if a signal ended it
     std::string out;
     std::string err;
 
@@ -25,7 +25,7 @@ struct Outcome {
     friend std::ostream& operator<<(std::ostream& out, const Outcome& outcome);
 };
 
-/// What a run gives that fails with this message.
+/// The result of a run that fails with this message.
 Outcome failure(const std::string& message);
 
 /// The test's home folder, empty at first, in which commands run: here in the test, or as processes of their
@@ -37,8 +37,8 @@ public:
     std::filesystem::path operator/(const std::filesystem::path& path) const { return m_path / path; }
     const std::filesystem::path& path() const { return m_path; }
 
-    /// The environment of later runs. At first no program is on its PATH, and no desktop entry of
-    /// the system is seen, so that a Claude Desktop installed on this machine isn't either.
+    /// The environment of later runs. Initially, no program is on its PATH and no desktop entry of the system
+    /// is visible, so neither is a Claude Desktop installed on this machine.
     Environment environment;
     /// What later runs in the test wait with.
     std::shared_ptr<Clock> clock = std::make_shared<SystemClock>();
@@ -52,7 +52,7 @@ public:
     Outcome execute(const std::vector<std::string>& arguments) const;
     /// The same as a user without privileges, to whom the whole home is handed over first.
     Outcome runUnprivileged(const std::vector<std::string>& arguments) const;
-    /// Runs a script of /bin/sh, in which "$selvane" is the executable.
+    /// Runs a /bin/sh script in which "$selvane" is the executable.
     Outcome shell(const std::string& script) const;
 
 private:

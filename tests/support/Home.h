@@ -17,22 +17,22 @@
 
 namespace selvane::test {
 
-/// The entries below a folder with what they are: "text" of a file, "-> target" of a link, "/" of a folder.
+/// The entries below a folder: the text of a file, "-> target" for a link, "/" for a folder.
 using Tree = std::map<std::string, std::string>;
 
-void makePrivate(const std::filesystem::path& folder); ///< for its owner alone; made where it is missing
-void writeFile(const std::filesystem::path& file, const std::string& content); ///< makes its folders too
-void writeTree(const std::filesystem::path& folder, const Tree& tree);         ///< adds it to what is there
-std::string readFile(const std::filesystem::path& file);                       ///< "" when it isn't there
-Tree treeOf(const std::filesystem::path& folder);                              ///< empty when it isn't there
+void makePrivate(const std::filesystem::path& folder); ///< private to its owner; created if missing
+void writeFile(const std::filesystem::path& file, const std::string& content); ///< creates its folders too
+void writeTree(const std::filesystem::path& folder, const Tree& tree);         ///< adds to what is there
+std::string readFile(const std::filesystem::path& file);                       ///< "" if missing
+Tree treeOf(const std::filesystem::path& folder);                              ///< empty if missing
 
-/// A desktop that runs nothing but what a test says, and records what it is asked to do.
+/// A desktop that runs only what a test puts there, and records what it is asked to do.
 struct FakeWorkspace final : Workspace {
     std::optional<Application> installed = Application{"/opt/claude/claude-desktop", {}, {}, {}, {}};
     std::vector<RunningApplication> apps;
     bool refusesToOpen = false;
     std::function<void()> whenOpening = [] {};
-    int terminationsIgnored = 0; ///< polite requests that do nothing
+    int terminationsIgnored = 0; ///< how many polite requests do nothing
     std::function<void()> whenEnded = [] {};
 
     std::vector<OpenConfiguration> openings;
@@ -63,11 +63,11 @@ struct FakeClock final : Clock {
     void sleep(std::chrono::milliseconds duration) override;
 };
 
-/// What a new profile takes from `from` in the standard modes.
+/// A request for a profile that takes from `from` in the default modes.
 NewProfile request(const std::string& name, const std::optional<Profile>& from = {},
                    const std::optional<std::string>& account = {});
 
-/// A home folder of its own with a store on it, and an empty Trash. In test mode unless told otherwise.
+/// A home folder with a store, and an empty Trash. In test mode unless told otherwise.
 struct Home {
     enum class Processes { ignored, seen };
     explicit Home(Processes processes = Processes::ignored, const std::string& name = "home");
@@ -81,14 +81,14 @@ struct Home {
 
     std::filesystem::path operator/(const std::filesystem::path& below) const { return path / below; }
     Profile builtIn() const { return *store.profile(Profile::kDefaultId); }
-    /// A new profile that takes everything from the built-in one.
+    /// Creates a profile that takes everything from the built-in one.
     Profile make(const std::string& name, const std::map<Component, ShareMode>& modes = {});
 };
 
-/// The message of the error that an operation throws, "" when it throws none.
+/// The message of the error that an operation throws; "" if it doesn't.
 std::string messageOf(const std::function<void()>& operation);
 
-/// What has been moved to the Trash since the last call, or since the newest home was made.
+/// What has been moved to the Trash since the last call, or since the newest home was created.
 Tree takeTrash();
 
 } // namespace selvane::test

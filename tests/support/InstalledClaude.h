@@ -14,7 +14,7 @@
 
 namespace selvane::test {
 
-/// Looks until it holds. Throws after 40 s, naming what was waited for.
+/// Waits until the condition holds. After 40 s, throws and names what it was waiting for.
 void waitUntil(const std::function<bool()>& holds, const std::string& what = "what should happen");
 
 /// A home with the stand-in installed as Claude Desktop. All its processes end with this object.
@@ -28,11 +28,11 @@ public:
     void installAs(const std::string& name);
     void writeEntry(const std::string& command) const;
 
-    /// Of everything that runs from inside this home.
+    /// The pids of all processes that run from inside this home.
     std::vector<std::int32_t> pids() const;
-    /// Waits for the copy that uses this data folder and isn't `previous`; tells how it was started.
+    /// Waits for the copy that uses this data folder and isn't `previous`. Returns how it was started.
     Json opened(const std::filesystem::path& data, const Json& previous = {}) const;
-    /// Launches a profile by its command; tells how Claude Desktop was started in that data folder.
+    /// Launches a profile by its command. Returns how Claude Desktop was started in that data folder.
     Json launch(const std::string& id, const std::filesystem::path& data) const;
     static bool isOpen(const Json& report);
     static void quit(const Json& report);

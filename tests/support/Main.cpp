@@ -7,7 +7,7 @@
 
 #include "support/TemporaryFolder.h"
 
-/// No test touches the real home folder: its Trash and desktop entries are those of a throw-away one.
+/// No test touches the real home folder: Trash and desktop entries are those of a throw-away one.
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     const selvane::test::TemporaryFolder home;

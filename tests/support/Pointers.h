@@ -8,7 +8,7 @@
 
 namespace selvane::test {
 
-/// The words as the `exec` functions take them. Valid as long as the words are left as they are.
+/// The words in the form that the `exec` functions take. Valid until `words` changes.
 inline std::vector<char*> pointers(std::vector<std::string>& words) {
     std::vector<char*> result;
     for (std::string& word : words)

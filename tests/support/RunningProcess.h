@@ -18,7 +18,7 @@
 
 namespace selvane::test {
 
-/// A real process with these arguments and this environment, which does nothing and has no file open for as
+/// A real process with these arguments and this environment. It does nothing and has no files open for as
 /// long as this object lives.
 class RunningProcess {
 public:
@@ -44,7 +44,7 @@ public:
         close(input[0]);
         close(started[1]);
         char none = 0;
-        static_cast<void>(!read(started[0], &none, 1)); // ends when the process runs
+        static_cast<void>(!read(started[0], &none, 1)); // returns when the process is running
         close(started[0]);
     }
     RunningProcess(const RunningProcess&) = delete;

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-/// Behaves as an Electron application does as far as Selvane can see it: one main process for each data
-/// folder, helpers of the same executable, signals, and the files of a login and of its sessions. Like the
-/// real one on a desktop with a session bus, its processes join their arguments to one text and wipe their
-/// environment. Where there is a `chrome_crashpad_handler` beside it, that leaves the family and keeps its
-/// environment. Asked to end, it leaves its lock behind. It tells in `stand-in.json` in its data folder how
-/// it was started. By itself it ends after ten minutes.
+/// Behaves like an Electron application as far as Selvane can see: one main process for each data folder,
+/// helpers with the same executable, signals, and the files of a login and of its sessions. Like the real one
+/// on a desktop with a session bus, its processes join their arguments into one text and wipe their
+/// environment. If there is a `chrome_crashpad_handler` beside it, that leaves the process tree and keeps its
+/// environment. When asked to end, it leaves its lock behind. It reports how it was started in
+/// `stand-in.json` in its data folder. It ends by itself after ten minutes.
 ///
 /// Options, as arguments or separated by spaces in STAND_IN_OPTIONS:
 ///   --user-data-dir=FOLDER     the data folder, else $XDG_CONFIG_HOME/Claude or $HOME/.config/Claude
@@ -103,7 +103,7 @@ void writeWhole(const fs::path& file, const Json& content) {
     fs::rename(temporary, file);
 }
 
-// The lock of a data folder: a link "host-pid", as Chromium makes it.
+// The lock of a data folder: a link to "host-pid", as Chromium makes it.
 
 bool isRunning(const std::string& lock) {
     std::error_code error;
@@ -112,7 +112,7 @@ bool isRunning(const std::string& lock) {
     return !error && other.filename() == fs::read_symlink("/proc/self/exe").filename();
 }
 
-/// False when another instance holds the folder.
+/// False if another instance holds the folder.
 bool takeLock(const fs::path& lock) {
     std::array<char, 256> host{};
     ::gethostname(host.data(), host.size() - 1);
@@ -131,7 +131,7 @@ bool takeLock(const fs::path& lock) {
     }
 }
 
-// Helper processes. Each ends with the one that started it, however that one ends.
+// Helper processes. Each ends with the process that started it, however that ends.
 
 std::vector<char*> pointers(Words& words) {
     std::vector<char*> pointers;
@@ -164,7 +164,7 @@ Words inheritedEnvironment() {
     return variables;
 }
 
-/// Joins this process's arguments to one text and wipes its environment, as others see them. This process
+/// Joins this process's arguments into one text and wipes its environment as others see it. The process
 /// itself keeps a copy of its environment.
 void rewriteTitle(int argc, char** argv) {
     std::string title = argv[0];
@@ -182,7 +182,7 @@ void rewriteTitle(int argc, char** argv) {
     title.copy(argv[0], title.size());
 }
 
-/// It stays behind for a moment when the others have ended, and is nobody's child.
+/// Starts a process that outlives the others for a moment and is nobody's child.
 void startCrashHandler(const fs::path& data) {
     const fs::path handler = fs::read_symlink("/proc/self/exe").parent_path() / "chrome_crashpad_handler";
     if (!fs::exists(handler))
@@ -302,7 +302,7 @@ void waitForEnd(bool refusesToQuit) {
     }
 }
 
-/// Also waits for helpers of helpers, which the main process has adopted.
+/// Also waits for the helpers' own helpers, which the main process has adopted.
 void endHelpers(const std::vector<pid_t>& helpers) {
     for (const pid_t helper : helpers)
         ::kill(helper, SIGTERM);

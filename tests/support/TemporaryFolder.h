@@ -12,7 +12,7 @@
 
 namespace selvane::test {
 
-/// A new empty folder, removed at the end with everything in it. Its path holds no symbolic link.
+/// A new empty folder, removed at the end with everything in it. Its path contains no symbolic links.
 class TemporaryFolder {
 public:
     TemporaryFolder() {
