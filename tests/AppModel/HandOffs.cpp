@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-/// What ThreadSanitizer can't see: Qt's libraries aren't built with it, so that handing work to another
-/// thread and its result back looks like using the same memory at once. The linker has the calls that do so
-/// go through here (its option --wrap), where ThreadSanitizer is told; whatever else two threads share is
-/// still a finding.
+/// What ThreadSanitizer can't see: Qt's libraries aren't built with it, so passing work to another thread and
+/// returning the result looks like a race. The linker redirects the calls that do so to the functions here
+/// (with --wrap), which tell ThreadSanitizer. Anything else that two threads share is still reported.
 
 #include <QCoreApplication>
 #include <QFutureInterfaceBase>
@@ -14,7 +13,7 @@
 
 namespace {
 
-char g_handOff; ///< stands for whatever the threads hand to each other
+char g_handOff; ///< stands for whatever the threads pass to each other
 
 void give() {
     __tsan_release(&g_handOff);
@@ -24,7 +23,7 @@ void take() {
     __tsan_acquire(&g_handOff);
 }
 
-/// Sees every event of the main thread before its receiver does: results arrive with one.
+/// Sees every event of the main thread before its receiver does: results arrive in events.
 class Arrivals final : public QObject {
 public:
     using QObject::QObject;
@@ -51,7 +50,7 @@ extern "C" const char* __tsan_default_options() {
 #define REAL(symbol) asm("__real_" symbol)
 #define WRAPPED(symbol) asm("__wrap_" symbol)
 
-// Work is given to a pool; its first question on the other thread is whether it still has to be done.
+// Work is given to a pool. On the other thread, it first asks whether it is still wanted.
 
 void realStart(QThreadPool*, QRunnable*, int) REAL("_ZN11QThreadPool5startEP9QRunnablei");
 void start(QThreadPool*, QRunnable*, int) WRAPPED("_ZN11QThreadPool5startEP9QRunnablei");
@@ -67,7 +66,7 @@ bool isCanceled(const QFutureInterfaceBase* future) {
     return realIsCanceled(future);
 }
 
-// Its result, or word of how it goes, is given back.
+// The work reports its result or progress.
 
 void realReportFinished(QFutureInterfaceBase*) REAL("_ZN20QFutureInterfaceBase14reportFinishedEv");
 void reportFinished(QFutureInterfaceBase*) WRAPPED("_ZN20QFutureInterfaceBase14reportFinishedEv");
@@ -85,7 +84,7 @@ bool invoke(QObject* receiver, QtPrivate::QSlotObjectBase* slot, Qt::ConnectionT
     return realInvoke(receiver, slot, type, result);
 }
 
-// Waiting for the work ends when it does.
+// Waiting for the work returns when it ends.
 
 bool realWaitForDone(QThreadPool*, int) REAL("_ZN11QThreadPool11waitForDoneEi");
 bool waitForDone(QThreadPool*, int) WRAPPED("_ZN11QThreadPool11waitForDoneEi");
@@ -102,7 +101,7 @@ void waitForFinished(QFutureInterfaceBase* future) {
     take();
 }
 
-// Whoever lets go of a result last removes it.
+// The last one to release a result deletes it.
 
 bool realDeref(const QFutureInterfaceBase*) noexcept REAL("_ZNK20QFutureInterfaceBase6derefTEv");
 bool deref(const QFutureInterfaceBase*) noexcept WRAPPED("_ZNK20QFutureInterfaceBase6derefTEv");

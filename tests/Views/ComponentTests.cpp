@@ -11,7 +11,7 @@
 #include "support/TemporaryFolder.h"
 
 int main(int argc, char** argv) {
-    // No test touches the real home folder nor its Trash.
+    // No test touches the real home folder or its Trash.
     const selvane::test::TemporaryFolder home;
     setenv("HOME", home.path().c_str(), 1);
     for (const char* variable : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "CLAUDE_CONFIG_DIR"})

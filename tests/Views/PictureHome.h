@@ -11,11 +11,12 @@
 
 namespace selvane::test {
 
-/// A home that has been lived in: four profiles, one of them open in Claude Desktop, items of every kind,
-/// sessions of the Code tab. What the pictures of the windows show.
+/// A home that has been in use, for the pictures of the windows: four profiles, one of them open in Claude
+/// Desktop, items of every kind, sessions of the Code tab.
 class PictureHome : public Home {
 public:
-    /// `place` may be absolute: pictures show it. Then nothing may be there before, and nothing is left.
+    /// `place` may be absolute, for pictures that show it. Nothing may exist there before, and nothing is
+    /// left behind.
     explicit PictureHome(const std::string& place = "anna");
     ~PictureHome();
 

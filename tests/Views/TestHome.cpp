@@ -44,7 +44,7 @@ struct TestHome::Place {
     Preferences preferences{QString::fromStdString((home / "preferences.conf").string())};
     std::unique_ptr<RunningProcess> claude;
     int sessions = 0;
-    // Ends before what its work on another thread uses.
+    // Destroyed before the things that its work on another thread uses.
     AppModel app{home.store, home.claude, bridge, preferences};
 };
 

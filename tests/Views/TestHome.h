@@ -14,13 +14,13 @@
 
 namespace selvane::test {
 
-/// For the tests of views: a home folder with the real store and model on it, and a desktop that records
-/// what it is asked to do. Paths are relative to the home.
+/// For the tests of views: a home folder with a real store and model, and a desktop that records what it is
+/// asked to do. Paths are relative to the home.
 class TestHome : public QObject {
     Q_OBJECT
 
     Q_PROPERTY(selvane::AppModel* app READ app NOTIFY begun)
-    /// Of an application that brings new versions itself, and can look for them.
+    /// For an application that updates itself and can check for updates.
     Q_PROPERTY(selvane::Updates* updates READ updates CONSTANT)
 
 public:
@@ -30,31 +30,31 @@ public:
     AppModel* app() const;
     Updates* updates() { return &m_updates; }
 
-    /// A new home with nothing in it. To be called before each test; views of the test before may still show
-    /// its model.
+    /// Makes a new, empty home. Call it before each test; views of the previous test may still show its
+    /// model.
     Q_INVOKABLE void begin();
 
     Q_INVOKABLE void write(const QString& path, const QString& content = {});
-    /// The text of a file, "-> ~/target" of a link, "/" of a folder, "" of what isn't there.
+    /// The text of a file, "-> ~/target" for a link, "/" for a folder, "" for nothing.
     Q_INVOKABLE QString what(const QString& path) const;
-    Q_INVOKABLE void remove(const QString& path); ///< with everything in it
+    Q_INVOKABLE void remove(const QString& path); ///< with its contents
     Q_INVOKABLE QString absolute(const QString& path) const;
 
-    /// The id of a new profile. Options: "source" and "account" (ids; at first the built-in profile and
-    /// none), "modes" (raw values).
+    /// Creates a profile and returns its id. Options: "source" and "account" (ids; by default the built-in
+    /// profile and none), "modes" (raw values).
     Q_INVOKABLE QString makeProfile(const QString& name, const QVariantMap& options = {});
-    /// Into the account of the built-in profile. The newest is listed first.
+    /// Adds it to the built-in profile's account. The newest is listed first.
     Q_INVOKABLE void addSession(const QString& title, const QString& folder);
 
-    /// A copy of Claude Desktop that runs for a profile, until it is asked to end.
+    /// A copy of Claude Desktop that runs for a profile until it is asked to end.
     Q_INVOKABLE void openClaude(const QString& profileId);
     Q_INVOKABLE void closeClaude();
-    /// How many times a copy doesn't end when asked politely.
+    /// How many polite requests to end are ignored.
     Q_INVOKABLE void ignoreTerminations(int count);
-    /// The place for an archive that the user names; at first the question is cancelled.
+    /// The path that the user chooses for an archive; by default the dialog is cancelled.
     Q_INVOKABLE void answerArchive(const QString& path);
-    /// What was asked of the desktop: "ends", "clipboard", "revealed", "opened", "proposedName", and of
-    /// Claude Desktop's copies "launches", "terminated", "forced", "activated" (how many).
+    /// What the desktop was asked for: "ends", "clipboard", "revealed", "opened", "proposedName", and the
+    /// number of "launches", "terminated", "forced" and "activated" copies of Claude Desktop.
     Q_INVOKABLE QVariantMap asked() const;
 
 signals:
@@ -65,7 +65,7 @@ private:
 
     Place& place() const { return *m_places.back(); }
 
-    std::deque<std::unique_ptr<Place>> m_places; ///< of this test and the one before
+    std::deque<std::unique_ptr<Place>> m_places; ///< of this test and the previous one
     Updates m_updates;
 };
 

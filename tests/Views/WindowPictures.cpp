@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 //
 // window-pictures FOLDER [HOME]: one PNG of each window, sheet, alert and state, drawn from a made-up home.
-// HOME is its path, which pictures show; nothing may be there. Fails when a view warns of anything.
+// HOME is its path, which the pictures show; nothing may exist there. Fails if a view prints a warning.
 
 #include <QDir>
 #include <QEventLoop>
@@ -28,20 +28,20 @@ bool hasWarned = false;
 
 void noteWarnings(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
     QTextStream(stderr) << message << '\n';
-    // Said by Qt itself where there is no desktop.
+    // Qt itself prints these where there is no desktop.
     const bool isUsual = message.startsWith("QStandardPaths: XDG_RUNTIME_DIR") ||
                          message.startsWith("This plugin does not support");
     hasWarned = hasWarned || (type != QtDebugMsg && !isUsual);
 }
 
-/// Lets what is read on other threads arrive, and layout and animations come to their end.
+/// Waits for results from other threads, for layout and for animations.
 void settle() {
     QEventLoop loop;
     QTimer::singleShot(500, &loop, &QEventLoop::quit);
     loop.exec();
 }
 
-/// The application with its windows over one home.
+/// The application with its windows for one home.
 class Scene {
 public:
     Scene(Home& home, const QDir& folder)
@@ -85,7 +85,7 @@ public:
 constexpr auto kPicker = LauncherApp::Picker;
 constexpr auto kManage = LauncherApp::Manage;
 
-/// The part of the management window that scrolls.
+/// Scrolls the detail of the management window.
 void scrollDetail(QQuickWindow* window, double y) {
     for (QQuickItem* view : window->findChildren<QQuickItem*>()) {
         if (view->inherits("QQuickFlickable") &&
@@ -154,7 +154,7 @@ void takeFeedback(Scene& scene) {
     scene.model.cancelLaunch();
 }
 
-/// Both windows as they are with text half as large again.
+/// Both windows with text one and a half times as large.
 void takeLargeText(Scene& scene) {
     QQmlComponent component(qmlEngine(scene.launcher.window(kPicker)));
     component.setData("import QtQuick\nimport Selvane\nQtObject { readonly property QtObject theme: Theme }",
@@ -188,7 +188,7 @@ int takeAll(const QDir& folder, const std::string& place) {
 } // namespace selvane::test
 
 int main(int argc, char** argv) {
-    // The same picture everywhere: no display, no graphics card.
+    // The same picture everywhere, without a display or a graphics card.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
     qInstallMessageHandler(selvane::test::noteWarnings);

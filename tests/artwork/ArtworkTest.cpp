@@ -15,7 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kDotsAPoint = 2835; // a metre has so many points
+constexpr int kDotsAPoint = 2835; // points per metre
 
 QImage read(const fs::path& file) {
     return QImage(QString::fromStdString(file.string()));
@@ -33,14 +33,14 @@ TEST(Artwork, renderIcon_TenSharpPictures_TheSameEachTime) {
         EXPECT_EQ(read(set / (name + "@2x.png")).size(), QSize(2 * points, 2 * points)) << name;
     }
 
-    // The mark of the smallest lies on whole pixels, with two free rows between its leaves.
+    // The mark of the smallest icon is on whole pixels, with two free rows between its leaves.
     const QImage smallest = read(set / "icon_16x16.png");
     EXPECT_EQ(smallest.pixelColor(7, 3), Brand::cool);
     EXPECT_EQ(smallest.pixelColor(7, 6), Brand::cool);
     EXPECT_EQ(smallest.pixelColor(7, 7), smallest.pixelColor(7, 8));
     EXPECT_EQ(smallest.pixelColor(8, 9), Brand::accent);
     EXPECT_EQ(smallest.pixelColor(0, 7).alpha(), 0);
-    // The largest has a margin with a shadow in it, below rather than above.
+    // The largest icon has a margin with a shadow in it, below rather than above.
     const QImage largest = read(set / "icon_512x512@2x.png");
     EXPECT_EQ(largest.pixelColor(512, 40).alpha(), 0);
     EXPECT_GT(largest.pixelColor(512, 930).alpha(), largest.pixelColor(512, 94).alpha());
@@ -62,7 +62,7 @@ TEST(Artwork, renderDMGBackground_TwoResolutionsOfOneSize_TheSameEachTime) {
         EXPECT_NEAR(image.dotsPerMeterX(), kDotsAPoint * scale, 1);
         EXPECT_NEAR(image.dotsPerMeterY(), kDotsAPoint * scale, 1);
         EXPECT_EQ(image.pixelColor(380 * scale, 246 * scale), Brand::accent) << "the last of the signs";
-        // The words are set in their own colours: some pixel of each line is purely that.
+        // The words have colours of their own: some pixel of each line has exactly that colour.
         const auto has = [&](const QRect& box, const QColor& color) {
             for (int y = box.top() * scale; y < box.bottom() * scale; ++y) {
                 for (int x = box.left() * scale; x < box.right() * scale; ++x) {

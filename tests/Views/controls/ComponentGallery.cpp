@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 //
-// component-gallery FOLDER: draws the shared components in all their states, one PNG a page, to be looked at
-// beside the drawings of the design.
+// component-gallery FOLDER: draws the shared components in all their states, one PNG per page, to compare
+// with the design drawings.
 
 #include <QDir>
 #include <QEventLoop>
@@ -17,7 +17,7 @@
 
 namespace {
 
-/// Lets loading, layout and the animations of the page come to their end.
+/// Waits for loading, layout and the page's animations.
 void settle() {
     QEventLoop loop;
     QTimer::singleShot(700, &loop, &QEventLoop::quit);
@@ -32,7 +32,7 @@ int fail(const QString& reason) {
 } // namespace
 
 int main(int argc, char** argv) {
-    // The same picture everywhere: no display, no graphics card.
+    // The same picture everywhere, without a display or a graphics card.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
     const QGuiApplication application(argc, argv);

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// All shared components in all their states; `page` chooses.
+/// All shared components in all their states; `page` selects one page.
 Window {
     id: window
 

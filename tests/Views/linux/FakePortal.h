@@ -14,7 +14,7 @@ namespace selvane::test {
 
 inline constexpr auto kPortalPath = "/org/freedesktop/portal/desktop";
 
-/// The desktop's side of the file dialog: records what it is asked, and answers when told.
+/// The desktop's side of the file dialog: records requests and answers when told to.
 class FakeFileChooser : public QDBusAbstractAdaptor {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.FileChooser")

@@ -12,7 +12,7 @@ using Kind = ItemListModel::Kind;
 
 class ProfileDetailModelTest : public AppModelTest {
 protected:
-    /// Selects a profile, and waits for all that is read of it.
+    /// Selects a profile and waits until everything about it has been read.
     void show(const char* id) {
         model().reload();
         model().select(id);

@@ -70,7 +70,7 @@ Item {
             for (const key of keys)
                 keyClick(key)
         }
-        /// Tab, until an item of the list has the focus.
+        /// Presses Tab until an item of the list has the focus.
         function enter(items: ItemList): void {
             for (let i = 0; i < 60 && !hasFocus(items); ++i)
                 keyClick(Qt.Key_Tab)
@@ -79,7 +79,7 @@ Item {
         function hasFocus(item: Item): bool {
             return all(inside => inside.activeFocus, item).length > 0
         }
-        /// That the rows that exist are few, that they cover what is in sight, and that each is in its place.
+        /// Checks that only few rows exist, that they cover the visible part, and that each is in its place.
         function checkRows(items: ItemList, names: var): void {
             waitForRendering(scene, 200)
             const rows = all(item => item instanceof ItemRow, items)
@@ -263,7 +263,7 @@ Item {
             show("lavoro")
             mouseClick(button("Elimina"))
             verify(the(item => item instanceof AlertDialog).title.includes("«Lavoro»"))
-            keyClick(Qt.Key_Return) // begins at "Annulla"
+            keyClick(Qt.Key_Return) // the focus starts on "Annulla"
             tryVerify(() => !view.hasSheet)
             compare(home.what(".claude-profiles/lavoro"), "/")
             mouseClick(button("Elimina"))

@@ -40,7 +40,7 @@ TEST_F(FormsTest, newProfile_SetAll_TakesTheNearestModeWhereNeeded) {
         for (int row = 0; row < form.rowCount(); ++row) {
             const auto labels = form.data(form.index(row), NewProfileForm::ModeLabelsRole).toStringList();
             const int chosen = form.data(form.index(row), NewProfileForm::ModeIndexRole).toInt();
-            result += labels.at(chosen)[0].toLatin1(); // the initials differ
+            result += labels.at(chosen)[0].toLatin1(); // all initials differ
         }
         return result;
     };

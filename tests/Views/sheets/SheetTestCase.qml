@@ -7,7 +7,7 @@ import QtQuick
 import QtTest
 import Selvane
 
-/// What the tests of the sheets do alike. The scene around it is the window; a warning is a failure.
+/// Common code for the tests of the sheets. The scene around it is the window; a warning is a failure.
 TestCase {
     id: test
 
@@ -24,7 +24,7 @@ TestCase {
         closed.target = test.sheet
         closed.clear()
     }
-    /// Lets what layout and models owe the next frame be done.
+    /// Lets layout and models do what they put off until the next frame.
     function settle(): void {
         test.scene.Window.window.update()
         waitForRendering(test.scene)
@@ -40,7 +40,7 @@ TestCase {
     function nameOf(item: Item): string {
         return item.Accessible.name
     }
-    /// Presses Tab until the control of that name has the focus.
+    /// Presses Tab until the control with this name has the focus.
     function tabTo(name: string): void {
         for (let i = 0; i < 60 && nameOf(focused()) !== name; ++i)
             keyClick(Qt.Key_Tab)
@@ -62,7 +62,7 @@ TestCase {
         }
         return all
     }
-    /// Whether the whole item lies inside the window's margin and inside every view that it scrolls in.
+    /// Whether the whole item is inside the window's margin and every view that it scrolls in.
     function isInSight(item: Item): bool {
         const margin = Theme.sheets.margin
         const inWindow = item.mapToItem(test.scene, 0, 0, item.width, item.height)

@@ -26,7 +26,7 @@ Item {
         function init(): void {
             home.begin()
         }
-        /// Afterwards, so that the profile doesn't have what is in the home by then.
+        /// Call it last, so that the profile doesn't have what is in the home by then.
         function makeTarget(): void {
             home.makeProfile("Lavoro", { modes: { skills: "none" } })
         }
@@ -100,7 +100,7 @@ Item {
             home.addSession("Note", "/srv/note")
             makeTarget()
             openSheet(sessions)
-            verify(!shows("Nessuna sessione")) // while they are read
+            verify(!shows("Nessuna sessione")) // while they are being read
             tryVerify(() => shows("0 di 3 selezionate"))
             tryVerify(() => shows("~/negozio"))
             verify(!sheet.confirmEnabled)

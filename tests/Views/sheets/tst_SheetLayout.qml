@@ -38,7 +38,7 @@ Item {
             }
             return rows
         }
-        /// In the smallest window. End goes far in the lists.
+        /// In the smallest window. End goes far down in the lists.
         function test_everyStopIsInSight(row): void {
             for (let i = 0; i < 30; ++i) {
                 home.write(`.claude/skills/${i}.md`)

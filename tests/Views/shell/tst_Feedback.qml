@@ -8,7 +8,7 @@ import QtTest
 import Selvane
 import SelvaneTest
 
-/// Two windows' feedback over one application, of which one is the key window's.
+/// The feedback of two windows over one application; one of them is the key window.
 Item {
     id: scene
 
@@ -75,7 +75,7 @@ Item {
             wait(500)
             const again = Date.now()
             home.app.sync("lavoro")
-            wait(500) // longer than the first one would have stayed
+            wait(500) // longer than the first notice would have stayed
             if (Date.now() - again < 700)
                 compare(notice(key), "Già sincronizzato")
             tryVerify(() => notice(key) === "")
@@ -90,7 +90,7 @@ Item {
             verify(key.alert.message.startsWith("«Principale» usa lo stesso account Claude ed è aperto"))
             verify(!other.alert)
 
-            home.app.setAccount("..", "lavoro") // no possible account
+            home.app.setAccount("..", "lavoro") // not a valid account
             home.app.launch("lavoro")
             compare(key.alert.title, "Errore")
             keyClick(Qt.Key_Return)
