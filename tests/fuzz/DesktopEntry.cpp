@@ -26,7 +26,7 @@ public:
         std::filesystem::create_symlink("/bin/true", m_home / "bin/claude");
         m_entry.emplace(applications / "a.desktop");
         m_environment = {{"HOME", m_home.string()}, {"PATH", (m_home / "bin").string()}};
-        // The entry's own words are looked up where this process looks.
+        // The words of the entry are looked up in this process's own environment.
         setenv("PATH", (m_home / "bin").c_str(), 1);
         setenv("XDG_DATA_HOME", (m_home / "share").c_str(), 1);
         setenv("XDG_DATA_DIRS", (m_home / "none").c_str(), 1);

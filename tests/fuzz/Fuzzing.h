@@ -15,7 +15,7 @@
 
 namespace selvane::fuzz {
 
-/// Ends the run with the input at hand as the one that shows the fault.
+/// Unless it holds, ends the run and reports the current input as the one that shows the fault.
 inline void require(bool holds, const char* what) {
     if (holds)
         return;
@@ -27,14 +27,14 @@ inline std::string_view textOf(const std::uint8_t* data, std::size_t size) {
     return {reinterpret_cast<const char*>(data), size};
 }
 
-/// Takes what stands before the next NUL off the front of an input; all of it when there is none.
+/// Removes and returns the part of an input before the next NUL; all of it if there is none.
 inline std::string_view takePart(std::string_view& rest) {
     const std::string_view part = rest.substr(0, rest.find('\0'));
     rest.remove_prefix(std::min(part.size() + 1, rest.size()));
     return part;
 }
 
-/// A folder in memory where there is one. script/fuzz sets TMPDIR and removes it with what is left there.
+/// A folder in memory if possible. script/fuzz sets TMPDIR and removes it with everything left there.
 inline std::filesystem::path newFolder() {
     std::string name = std::filesystem::temp_directory_path() / "selvane-fuzz-XXXXXX";
     require(mkdtemp(name.data()) != nullptr, "a folder can be made");

@@ -11,7 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A desktop on which nothing runs and nothing is installed.
+/// A desktop where nothing is running or installed.
 struct EmptyWorkspace final : Workspace {
     std::optional<Application> application() override { return std::nullopt; }
     std::vector<RunningApplication> running(const std::vector<ProcInfo>&) override { return {}; }
@@ -22,13 +22,13 @@ struct EmptyWorkspace final : Workspace {
     void activate(const RunningApplication&) override {}
 };
 
-/// What names accounts and profiles in files: who sits in the normal folder, who was launched last, whose
+/// The files that name accounts and profiles: who is in the normal folder, who was launched last, whose
 /// account a profile uses.
 class Markers {
 public:
     Markers() {
         fs::create_directories(m_store.desktopStore());
-        // Something to be found where no profile may be looked for.
+        // Something that would be found where no profile may be looked for.
         for (const fs::path& outside : {m_home, m_store.root(), m_store.root() / "lavoro/dentro"}) {
             fs::create_directories(outside);
             ChangingFile(outside / ".launcher.json").set(R"({"name": "Fuori"})");
@@ -38,7 +38,7 @@ public:
         m_active.emplace(m_store.root() / ".active");
     }
 
-    /// The owner, the id and the account, with NULs between them.
+    /// The owner, the id and the account, separated by NULs.
     void check(std::string_view input) {
         const std::string_view owner = takePart(input);
         const std::string_view active = takePart(input);

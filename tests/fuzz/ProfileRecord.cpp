@@ -18,7 +18,7 @@ void requireSameAgain(const ProfileMeta& meta) {
     require(isUtf8(text), "a record is UTF-8");
 }
 
-/// Whatever was read or typed goes into a record and comes back.
+/// Whatever was read or typed goes into a record and comes back unchanged.
 void checkBytes(std::string_view bytes) {
     require(bytesFromText(textFromBytes(bytes)) == bytes, "bytes survive as text");
     ProfileMeta meta;

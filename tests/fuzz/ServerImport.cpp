@@ -27,7 +27,7 @@ void requireSameAgain(const Json& value) {
     require(again && *again == value, "what is written is read the same");
 }
 
-/// The members that an import has no business with, in their order.
+/// The members that an import must not touch, in order.
 Members otherMembers(const Json& object) {
     Members others;
     for (const auto& member : object.get_ref<const Json::object_t&>()) {
@@ -59,7 +59,7 @@ void checkImport(const Json& source, const std::optional<Json>& target) {
     require(importedServers(source, imported.state).state == imported.state, "a second import does nothing");
 }
 
-/// The source and, behind a NUL, the target.
+/// The source and, after a NUL, the target.
 void check(std::string_view input) {
     const std::optional<Json> source = parsed(takePart(input));
     if (!source)

@@ -31,9 +31,9 @@ std::optional<std::string> textIn(const Json& record, std::string_view key) {
     return value != nullptr && value->is_string() ? std::optional(value->get<std::string>()) : std::nullopt;
 }
 
-/// A session that is listed can be taken along, and one that could be taken along is listed.
+/// A session that is listed can be imported, and one that can be imported is listed.
 void requireSameReading(const std::optional<SessionRecord>& record, const std::optional<Json>& whole) {
-    if (!whole) // deeper than any record, or what only one of the two readers forgives
+    if (!whole) // too deep for a record, or accepted by only one of the two readers
         return;
     const auto id = textIn(*whole, "sessionId");
     require(record.has_value() == id.has_value(), "both readers find a record");
@@ -90,7 +90,7 @@ private:
         return m_reader.read(m_path);
     }
 
-    /// Levels beyond which only one of the two readers goes.
+    /// Nested so deeply that only one of the two readers accepts it.
     static bool isTooDeep(std::string_view text) {
         constexpr std::ptrdiff_t kDeepest = 512;
         return std::count_if(text.begin(), text.end(), [](char c) { return c == '[' || c == '{'; }) >

@@ -18,7 +18,7 @@ std::optional<Json> parsed(std::string_view text) {
     }
 }
 
-/// Whether both documents are the same but for texts and keys that name the target now.
+/// Whether both documents are the same except for strings and keys that now name the target.
 bool isSameButPaths(const Json& before, const Json& after, const std::string& target) {
     const auto isSameText = [&](const std::string& old, const std::string& now) {
         return old == now || now.find(target) != now.npos;
@@ -46,7 +46,7 @@ Profile profileAt(std::string_view id, const std::string& folder) {
     return profile;
 }
 
-/// The two folders and the text, with NULs between them.
+/// The two folders and the text, separated by NULs.
 void check(std::string_view text) {
     const Profile from = profileAt("default", std::string(takePart(text).substr(0, 24)));
     const Profile to = profileAt("lavoro", std::string(takePart(text).substr(0, 24)));
