@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-// The SDK: which of its systems this is.
+// The SDK: which of Apple's systems this is.
 
 #pragma once
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-// libSystem: copies of files.
+// libSystem: copying files.
 
 #pragma once
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-// libSystem: what a module can't name itself.
+// libSystem: variables that a module can't name directly.
 
 #pragma once
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-// libSystem: what the kernel tells of processes.
+// libSystem: the kernel's data on processes.
 
 #pragma once
 
@@ -57,7 +57,7 @@ struct proc_fileinfo {
 };
 
 struct vnode_info {
-    unsigned char vi_bytes[152]; // of which nothing is used
+    unsigned char vi_bytes[152]; // none of it is used
 };
 
 struct vnode_info_path {

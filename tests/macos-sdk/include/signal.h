@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-// libSystem: functions that are macros there.
+// libSystem: functions that are macros on macOS.
 
 #pragma once
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-// libSystem: with what only macOS has.
+// libSystem: adds what only macOS has.
 
 #pragma once
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-// libSystem: the functions that take their locale as an argument.
+// libSystem: functions that take a locale as an argument.
 
 #pragma once
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-// The C++ library of macOS reads no floating-point numbers in this way.
+// The C++ library of macOS can't read floating-point numbers this way.
 
 #include <charconv>
 #include <string_view>

@@ -3,7 +3,7 @@
 
 #include <signal.h>
 
-// It is a macro there.
+// This is a macro on macOS.
 void clear(sigset_t& signals) {
     ::sigemptyset(&signals);
 }

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-// A path is no URL.
+// A path isn't a URL.
 
 #import <AppKit/AppKit.h>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-// CoreText: the fonts that are there.
+// CoreText: the available fonts.
 
 #pragma once
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-// Foundation: what Selvane uses of it, with the names, types and nullability of its documentation.
+// Foundation: the parts that Selvane uses, with the names, types and nullability in its documentation.
 
 #pragma once
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-// UniformTypeIdentifiers: kinds of files.
+// UniformTypeIdentifiers: file types.
 
 #pragma once
 

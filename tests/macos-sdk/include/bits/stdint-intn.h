@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-// libSystem: on macOS the 64-bit integers are long long, which size_t and long aren't.
+// libSystem: on macOS the 64-bit integers are long long, while size_t and long aren't.
 
 #pragma once
 

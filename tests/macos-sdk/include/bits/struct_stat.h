@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-// libSystem, <sys/stat.h>: the status of a file as macOS lays it out.
+// libSystem, <sys/stat.h>: the status of a file in the layout of macOS.
 
 #pragma once
 

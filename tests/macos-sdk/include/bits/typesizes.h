@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-// libSystem: the widths that macOS gives the types of POSIX, in the place of this system's own header.
+// libSystem: the widths of POSIX types on macOS; replaces this system's own header.
 
 #pragma once
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-// libSystem: access lists. Those of macOS are "extended"; the kinds of POSIX don't exist there.
+// libSystem: access lists. macOS has "extended" ones; the POSIX kinds don't exist there.
 
 #pragma once
 
