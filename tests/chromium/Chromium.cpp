@@ -19,7 +19,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// One for all tests: what talks to the accessibility bus does so once in a process.
+/// One desktop for all tests: a process can connect to the accessibility bus only once.
 const Environment& desktop() {
     static const Desktop screen;
     static const TemporaryFolder folder;
@@ -49,9 +49,9 @@ bool hidesItsStart(pid_t pid) {
            environment.find_first_not_of('\0') == std::string::npos;
 }
 
-/// Whether a process runs in a folder, or has a file of it open.
+/// Whether a process runs in a folder or has a file in it open.
 bool uses(pid_t pid, const fs::path& folder) {
-    std::error_code error; // of a process that has gone, or belongs to another user
+    std::error_code error; // the process may be gone or belong to another user
     std::vector<fs::path> links = {inProc(pid, "exe"), inProc(pid, "cwd")};
     for (fs::directory_iterator file(inProc(pid, "fd"), error), end; !error && file != end;
          file.increment(error))
@@ -76,7 +76,7 @@ bool soon(const std::function<bool()>& holds) {
 Chromium::Chromium() {
     home.environment.insert(desktop().begin(), desktop().end());
     home.environment["PATH"] = desktop().at("PATH");
-    // A copy leaves things in both, which go with this home.
+    // Copies leave things in both folders, which are removed with this home.
     for (const auto& [variable, name] : {std::pair("TMPDIR", "tmp"), {"XDG_RUNTIME_DIR", "run"}}) {
         home.environment[variable] = (home / name).string();
         fs::create_directory(home / name);
@@ -102,7 +102,7 @@ void Chromium::TearDown() {
     for (const ProcInfo& process : processes())
         kill(process.pid, SIGKILL);
     EXPECT_EQ(openCopies(), std::set<std::string>());
-    // There the windows listen for a second start, and a launch has its note for as long as the copy is open.
+    // The windows listen here for a second start, and a launch has its note here while the copy is open.
     std::error_code isNoFolder;
     for (const fs::directory_entry& left : fs::directory_iterator(home / "run/selvane", isNoFolder))
         EXPECT_TRUE(left.is_socket()) << left.path() << ":\n" << readFile(left.path());

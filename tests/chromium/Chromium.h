@@ -16,15 +16,15 @@
 
 namespace selvane::test {
 
-/// Looks until it holds; false when it doesn't within ten seconds.
+/// Waits until the condition holds; false if it doesn't within ten seconds.
 bool soon(const std::function<bool()>& holds);
 
 /// A home with Chromium installed as Claude Desktop, on a desktop with a window manager.
 ///
 /// Chromium does what the stand-in can't. With a session bus, it and its helpers soon overwrite their command
-/// lines with one text, joined by blanks, and their environments with nothing; its crash handlers go to init
-/// and keep theirs. The link "SingletonLock" in its data folder names HOST-PID, also after it was told to
-/// end. Started again with the same folder, it opens a window in the copy that runs, and ends.
+/// lines with one text, joined by spaces, and wipe their environments; its crash handlers become children of
+/// init and keep theirs. The link "SingletonLock" in its data folder points to HOST-PID, even after Chromium
+/// was told to end. Started again with the same folder, it opens a window in the running copy and ends.
 class Chromium : public testing::Test {
 protected:
     enum class Paths { plain, withBlanks };
@@ -36,31 +36,32 @@ protected:
 
     Chromium();
     void SetUp() override;
-    /// Ends all copies and looks for what they, or Selvane, left behind.
+    /// Ends all copies and looks for anything left behind by them or by Selvane.
     void TearDown() override;
 
-    /// The desktop entry names `program`; the paths are those of the profiles and of the normal data folder.
+    /// The desktop entry names `program`; `paths` applies to those of the profiles and of the normal data
+    /// folder.
     void install(const std::string& program, Paths paths = Paths::plain);
 
     std::filesystem::path configuration(const std::string& id) const { return m_root / id; }
     std::filesystem::path data(const std::string& account) const;
 
     /// Waits for the copy that holds this account's data folder, isn't `previous`, has a window, and hides
-    /// how it was started; returns its main process.
+    /// how it was started. Returns its main process.
     pid_t opened(const std::string& account, pid_t previous = 0) const;
-    /// Launches a profile by its command, which must succeed, before that.
+    /// First launches a profile by its command, which must succeed.
     pid_t launched(const std::string& id, const std::string& account, pid_t previous = 0) const;
 
-    /// Those that run in this home, have a file of it open, or name it in their command line.
+    /// The processes that run in this home, have a file in it open, or name it in their command line.
     std::vector<ProcInfo> processes() const;
     std::set<pid_t> mains() const;
 
     std::multiset<pid_t> windowOwners() const; ///< the process of each window on the screen
-    pid_t activeWindowOwner() const;           ///< 0 when no window is active
+    pid_t activeWindowOwner() const;           ///< 0 if no window is active
 
-    /// The copies in this home that Selvane says are open.
+    /// The copies in this home that Selvane reports as open.
     std::set<std::string> openCopies() const;
-    /// What it says of one.
+    /// Its report of one copy.
     static std::string copy(pid_t pid, const std::filesystem::path& folder, const std::string& configuration);
 
     CommandHome home;

@@ -27,7 +27,7 @@ protected:
         const auto windowsBefore = windowOwners();
         EXPECT_EQ(home.run({"launch", id}), Outcome{});
         EXPECT_TRUE(soon([&] { return activeWindowOwner() == pid; })) << activeWindowOwner();
-        std::this_thread::sleep_for(std::chrono::seconds(1)); // by then a further window would be there
+        std::this_thread::sleep_for(std::chrono::seconds(1)); // long enough for another window to appear
         EXPECT_EQ(mains(), mainsBefore);
         EXPECT_EQ(windowOwners(), windowsBefore);
     }
@@ -45,7 +45,7 @@ protected:
             ++count;
         }
         EXPECT_EQ(missing, "");
-        EXPECT_GT(count, mains().size()); // helpers as well
+        EXPECT_GT(count, mains().size()); // helpers too
     }
 
     std::optional<Program> byHand;

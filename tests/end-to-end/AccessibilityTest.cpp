@@ -20,13 +20,13 @@ std::vector<std::string> namesOf(const std::vector<Seen>& some) {
     return names;
 }
 
-/// Lists are walked with the arrows, their rows' buttons have a key of their own.
+/// Arrows move through a list; the buttons in its rows have their own key.
 bool isTabStop(const Seen& seen) {
     return seen.is(ATSPI_STATE_ENABLED) && seen.is(ATSPI_STATE_FOCUSABLE) && seen.canBePressed() &&
            seen.role() != ATSPI_ROLE_LIST_ITEM;
 }
 
-/// What can be used is a control, and everything tells what it is and what it is called.
+/// Everything that can be used is a control, and everything has a role and a name.
 void expectNames(const RunningSelvane& selvane) {
     const std::set<AtspiRole> controls = {
         ATSPI_ROLE_PUSH_BUTTON, ATSPI_ROLE_CHECK_BOX, ATSPI_ROLE_RADIO_BUTTON, ATSPI_ROLE_COMBO_BOX,
@@ -36,7 +36,7 @@ void expectNames(const RunningSelvane& selvane) {
     EXPECT_GT(all.size(), 10U);
     for (const Seen& seen : all) {
         EXPECT_NE(seen.name(), "") << seen;
-        // Qt lets every text be focused.
+        // Qt lets every text take the focus.
         const bool isText = seen.role() == ATSPI_ROLE_LABEL || seen.role() == ATSPI_ROLE_ALERT;
         const bool isControl = seen.canBePressed() || (seen.is(ATSPI_STATE_FOCUSABLE) && !isText);
         EXPECT_TRUE(!isControl || controls.contains(seen.role())) << seen;
@@ -72,7 +72,7 @@ TEST_F(Manage, EverythingIsToldAndReachedByTheKeyboard) {
         EXPECT_TRUE(stop.is(ATSPI_STATE_SHOWING) && stop.is(ATSPI_STATE_ENABLED)) << stop;
         if (contains(controls, stop))
             return;
-        // It has been scrolled to, and others with it.
+        // Tab has scrolled to it, which has brought others into view.
         for (const Seen& seen : selvane.everything()) {
             if (isTabStop(seen) && !contains(controls, seen))
                 controls.push_back(seen);

@@ -17,7 +17,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// No service of this machine answers on the bus but the one that screen readers use.
+/// No service of this machine may answer on the bus except the one that screen readers use.
 std::string busConfiguration(const fs::path& services) {
     const fs::path accessibility = "/usr/share/dbus-1/services/org.a11y.Bus.service";
     fs::create_directory(services);
@@ -50,7 +50,7 @@ Desktop::Desktop() {
     m_connection = xcb_connect(display.c_str(), nullptr);
     if (xcb_connection_has_error(m_connection) != 0)
         throw std::runtime_error("no connection to the display " + display);
-    send(XCB_MOTION_NOTIFY, 0); // a pointer over a window would act there
+    send(XCB_MOTION_NOTIFY, 0); // a pointer over a window would interfere
     atspi_init();
     constexpr int kMilliseconds = 20'000;
     atspi_set_timeout(kMilliseconds, kMilliseconds);

@@ -15,19 +15,19 @@
 
 namespace selvane::test {
 
-/// A screen with a keyboard, and a session bus through which screen readers reach the applications. It brings
-/// no window manager: without one, each window has the keyboard when it asks for it. One in a process.
+/// A screen with a keyboard, and a session bus through which screen readers reach applications. There is no
+/// window manager, so each window gets the keyboard when it asks for it. Make only one in a process.
 class Desktop {
 public:
     Desktop();
     ~Desktop();
 
-    /// What a program needs to appear here.
+    /// The variables that a program needs to appear here.
     Environment environment() const;
 
-    /// Presses these keys (XK_…) one after the other, then lets go of them.
+    /// Presses these keys (XK_…) one after the other, then releases them.
     void press(const std::vector<xcb_keysym_t>& keys) const;
-    /// Plain letters, digits and punctuation.
+    /// Types plain letters, digits and punctuation.
     void type(const std::string& text) const;
 
 private:

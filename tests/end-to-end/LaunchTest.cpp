@@ -52,7 +52,7 @@ TEST_F(Windows, ACopyThatUsesAnotherAccountIsAnError) {
     EXPECT_TRUE(alert.description().starts_with("Claude si è aperto, ma non con l'account di «Lavoro»"))
         << alert;
     selvane.waitForFocus("OK");
-    press({XK_Return}); // and it stays open
+    press({XK_Return}); // and Selvane stays open
     selvane.waitUntilGone(ATSPI_ROLE_ALERT, "Errore");
     selvane.waitForFocus("Principale");
 }

@@ -15,7 +15,7 @@ namespace selvane::test {
 /// A program that runs beside the test: at most as long as this object, and never longer than the test.
 class Program {
 public:
-    /// What it prints goes to files of its name (the first word's last part) in `folder`.
+    /// Its output goes to files in `folder`, named after the program.
     Program(std::vector<std::string> words, const Environment& environment,
             const std::filesystem::path& folder);
     Program(const Program&) = delete;
@@ -23,7 +23,7 @@ public:
     /// Asks it to end and waits until it has.
     ~Program();
 
-    /// Its exit status, or 128 and the number of the signal that ended it; nothing while it runs.
+    /// Its exit status, or 128 plus the number of the signal that ended it; nothing while it is running.
     std::optional<int> status();
     /// Waits for it to end by itself.
     int waitForEnd();

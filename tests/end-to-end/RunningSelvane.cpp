@@ -27,7 +27,7 @@ std::string described(AtspiRole role, const std::string& name) {
     return taken(atspi_role_get_name(role)) + " \"" + name + "\"";
 }
 
-/// Which of an object's actions presses it; -1 when none does.
+/// Which of an object's actions presses it; -1 if none does.
 int pressAction(AtspiAction* actions) {
     const int count = actions == nullptr ? 0 : atspi_action_get_n_actions(actions, nullptr);
     for (int i = 0; i < count; ++i) {
@@ -135,7 +135,7 @@ RunningSelvane::RunningSelvane(const Environment& environment, const std::filesy
     : m_program(commandLine(std::move(arguments)), environment, folder),
       m_listener(atspi_event_listener_new(&hear, this, nullptr)) {
     atspi_event_listener_register(m_listener, kFocusEvent, nullptr);
-    // Shortcuts and messages follow the first picture; that of messages can be seen to be there.
+    // Shortcuts and messages come after the first frame; the layer of messages can be seen.
     const auto look = [&] {
         const auto window = activeWindow();
         const auto all = window ? window->withDescendants() : std::vector<Seen>{};
@@ -219,7 +219,7 @@ std::optional<Seen> RunningSelvane::toldFocus() const {
     }
     if (m_focused)
         return m_focused;
-    // Nobody was told of what had the keyboard from the start.
+    // Nobody was told what had the keyboard from the start.
     for (const Seen& seen : everything()) {
         if (seen.is(ATSPI_STATE_FOCUSED) && seen.is(ATSPI_STATE_FOCUSABLE))
             return seen;

@@ -16,7 +16,7 @@
 
 namespace selvane::test {
 
-/// An object of a window as a screen reader sees it. One that has gone has no name, no states, no children.
+/// An object in a window as a screen reader sees it. Once gone, it has no name, states or children.
 class Seen {
 public:
     explicit Seen(AtspiAccessible* owned) : m_object(owned, &g_object_unref) {}
@@ -24,7 +24,7 @@ public:
     AtspiRole role() const;
     std::string name() const;
     std::string description() const;
-    std::string text() const; ///< of a field
+    std::string text() const; ///< the contents of a field
     bool is(AtspiStateType state) const;
     guint processId() const;
     bool isSameAs(const Seen& other) const;
@@ -39,32 +39,32 @@ private:
     std::shared_ptr<AtspiAccessible> m_object;
 };
 
-/// Selvane's windows, from their start to their end.
+/// Selvane's windows, from start to end.
 class RunningSelvane {
 public:
-    /// Waits until the picker has the keyboard. What it prints goes to files in `folder`.
+    /// Waits until the picker has the keyboard. Output goes to files in `folder`.
     RunningSelvane(const Environment& environment, const std::filesystem::path& folder,
                    std::vector<std::string> arguments = {});
     RunningSelvane(const RunningSelvane&) = delete;
     RunningSelvane& operator=(const RunningSelvane&) = delete;
     ~RunningSelvane();
 
-    /// Everything that the window with the keyboard shows, itself first. Nothing while there is none.
+    /// Everything in the window with the keyboard, beginning with the window. Empty if there is none.
     std::vector<Seen> everything() const;
-    /// Waits until an object with this role and this name is shown.
+    /// Waits until an object with this role and name is shown.
     Seen find(AtspiRole role, const std::string& name) const;
     /// Waits until none is shown any more.
     void waitUntilGone(AtspiRole role, const std::string& name) const;
     /// Waits until the window with this title has the keyboard.
     void waitForWindow(const std::string& title) const;
-    /// Waits until the keyboard has gone to an object with this name, and screen readers were told.
+    /// Waits until the keyboard focus is on an object with this name and screen readers have been told.
     Seen waitForFocus(const std::string& name) const;
-    /// The same for any object but this one.
+    /// The same for any object other than this one.
     Seen waitForFocusAfter(const Seen& previous) const;
-    /// The object that has the keyboard now.
+    /// The object that has the keyboard focus now.
     Seen focused() const;
 
-    /// Waits for its end.
+    /// Waits until the program ends.
     int status() { return m_program.waitForEnd(); }
 
 private:
@@ -78,7 +78,7 @@ private:
 
     mutable Program m_program;
     AtspiEventListener* m_listener;
-    std::optional<Seen> m_focused; ///< what screen readers were told of last
+    std::optional<Seen> m_focused; ///< the last focus that screen readers were told of
 };
 
 } // namespace selvane::test

@@ -13,20 +13,20 @@
 
 namespace selvane::test {
 
-/// A home with Claude Desktop's stand-in, on a desktop of its own.
+/// A home with the stand-in for Claude Desktop, on a desktop of its own.
 class Windows : public testing::Test, protected InstalledClaude {
 protected:
     Windows() { home.environment.merge(desktop().environment()); }
-    /// Faults in the views are printed and go unnoticed otherwise.
+    /// Errors in the views are only printed, and would otherwise go unnoticed.
     void TearDown() override { EXPECT_EQ(readFile(home / "selvane.err"), ""); }
 
-    /// The windows, as they are until the end of the test or until they close.
+    /// Starts the windows; they stay until the end of the test or until they close.
     RunningSelvane start(std::vector<std::string> arguments = {}) const {
         return {home.environment, home.path(), std::move(arguments)};
     }
     static void press(const std::vector<xcb_keysym_t>& keys) { desktop().press(keys); }
     static void type(const std::string& text) { desktop().type(text); }
-    /// Each object that the Tab key stops at, from the one that has the keyboard until that has it again.
+    /// Each object that Tab stops at, from the one with the focus until that has it again.
     static std::vector<Seen> tabAround(
         const RunningSelvane& selvane, const std::function<void(const Seen&)>& atStop = [](const Seen&) {}) {
         std::vector<Seen> stops = {selvane.focused()};
@@ -38,7 +38,7 @@ protected:
         stops.pop_back();
         return stops;
     }
-    /// Goes on with the Tab key, at most once around, to an object with this name.
+    /// Presses Tab, at most once around, until an object with this name has the focus.
     static Seen tabTo(const RunningSelvane& selvane, const std::string& name) {
         Seen stop = selvane.focused();
         for (std::size_t i = 0; i < kMostStops && stop.name() != name; ++i) {
@@ -52,7 +52,7 @@ protected:
 private:
     static constexpr std::size_t kMostStops = 100;
 
-    /// What talks to the accessibility bus does so once in a process.
+    /// A process can connect to the accessibility bus only once.
     static Desktop& desktop() {
         static Desktop instance;
         return instance;
