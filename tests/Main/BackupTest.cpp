@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 TEST(CommandBackup, HoldsWhatItsScopeSaysAndReplacesTheEarlierOne) {
     CommandHome home;
     home.environment["CLAUDE_LAUNCHER_DESKTOP_DIR"] = (home / "dati [1]").string();
-    home.environment["ZIPOPT"] = "-0 -x *"; // options of zip's own
+    home.environment["ZIPOPT"] = "-0 -x *"; // zip's own options
     writeFile(home / ".claude/Cache/tenuto", "");
     for (const std::string file : {"config.json", "vm_bundles/a", "claude-code/a", "claude-code-vm/a",
                                    "Crashpad/a", "Code Cache/a/b", "x/CacheStorage/a"}) {
@@ -76,7 +76,7 @@ TEST(CommandBackup, AKilledOneLeavesNoArchiveAndNothingRunning) {
     const fs::path out = home / "out";
     fs::create_directories(out);
     writeFile(home / ".claude/grande", "");
-    fs::resize_file(home / ".claude/grande", 4'000'000'000); // a hole, which zip takes long to read
+    fs::resize_file(home / ".claude/grande", 4'000'000'000); // a hole, which takes zip long to read
     const Outcome killed = home.shell(R"("$selvane" backup "$HOME/out/b.zip" &
         until set -- "$HOME"/out/*; [ -e "$1" ]; do :; done
         kill -9 $!; wait $!)");

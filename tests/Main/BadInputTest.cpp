@@ -149,7 +149,7 @@ TEST(CommandBadInput, OutputThatNobodyTakes) {
         {"\"$selvane\" path assente 2>&-", {1, "", ""}},
         {"\"$selvane\" path assente 2>/dev/full", {1, "", ""}},
         {"\"$selvane\" create Chiuso --from default <&- >&- 2>&-", {}},
-        // A pipe whose reader has gone: the usual signal, or an ignored one.
+        // A pipe whose reader is gone: with the usual signal, and with the signal ignored.
         {noReader + "\"$selvane\" list >&4", {128 + SIGPIPE, "", ""}},
         {noReader + "trap '' PIPE; \"$selvane\" list >&4", {}},
     };

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-/// Several Selvanes at once on the same files. Each test goes through a few rounds; SELVANE_ROUNDS says how
-/// many when it should be more.
+/// Several Selvanes working on the same files at once. Each test runs a few rounds; SELVANE_ROUNDS sets a
+/// larger number.
 
 #include <gtest/gtest.h>
 
@@ -44,7 +44,7 @@ void expectAllSucceeded(const std::vector<Words>& commands, const std::vector<Ou
         EXPECT_EQ(outcomes[i].status, 0) << testing::PrintToString(commands[i]) << outcomes[i].err;
 }
 
-/// Looks at the records over and over while others write them; none may ever be seen half written.
+/// Reads the records over and over while others write them; none may ever be half-written.
 class Watch {
 public:
     explicit Watch(const fs::path& root) : m_root(root), m_thread([this] { look(); }) {}
@@ -124,7 +124,7 @@ TEST(Concurrency, ChangesOfOneProfile_AllCount) {
         const Watch watch(home / ".claude-profiles");
         writeItems(home / ".claude", round);
         const bool isEven = round % 2 == 0;
-        if (isEven) // what isn't linked by then is no business of a profile that goes its own way
+        if (isEven) // a profile with its own copies doesn't get links made after this
             home.output({"sync", "lavoro"});
         std::vector<Words> commands = {
             {"set-mode", "lavoro", isEven ? "CLAUDE.md=separate" : "CLAUDE.md=extend"},
@@ -189,7 +189,7 @@ TEST(Concurrency, AWindowAndCommands_KeepEachOthersChanges) {
 
 class ConcurrentLaunch : public testing::Test, protected InstalledClaude {
 protected:
-    /// Of each copy in that folder, the configuration that it runs with.
+    /// The configuration of each copy that is open in this folder.
     std::vector<std::string> openIn(const fs::path& data) const {
         std::istringstream output(home.output({"desktop-status"}));
         std::vector<std::string> configurations;

@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 
 class CommandLaunch : public testing::Test, protected InstalledClaude {
 protected:
-    /// The lines of a command's output that concern this home: others may have Claude Desktop open too.
+    /// The lines of a command's output about this home: others may have Claude Desktop open too.
     std::string lines(const std::string& command, const std::string& beginning = "") const {
         std::istringstream output(home.output({command}));
         std::string result;
@@ -172,7 +172,7 @@ TEST_F(CommandLaunch, ACopyThatUsesSomethingElseIsAnError) {
     writeEntry("claude-desktop %U");
     const struct {
         std::string id;
-        std::string start; ///< of the program
+        std::string start; ///< options of the program
         std::string message;
     } cases[] = {{"lavoro", " --altro", "Claude si è aperto, ma non con l'account di «Lavoro"},
                  {"ospite", " --altro --stand-in-keep-title",

@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 //
-// Configuration that others have made: what it names leads nowhere it shouldn't, and what it is called forges
-// nothing.
+// Configuration made by others: its paths must lead nowhere they shouldn't, and its names must fake nothing.
 
 #include <algorithm>
 #include <cctype>
@@ -17,7 +16,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Fields and lines apart, only what can be seen.
+/// Only visible characters, apart from the ends of fields and lines.
 bool isPrintable(const std::string& output) {
     return std::none_of(output.begin(), output.end(), [](unsigned char byte) {
         return std::iscntrl(byte) != 0 && byte != '\n' && byte != '\t';

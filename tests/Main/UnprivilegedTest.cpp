@@ -11,7 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Changes the permissions of a file or folder as long as it lives.
+/// Changes the permissions of a file or folder for its own lifetime.
 class Closed {
 public:
     Closed(fs::path path, fs::perms perms)
@@ -58,7 +58,7 @@ TEST(CommandUnprivileged, WhatCannotBeReadIsLeftOutOrNamed) {
         }
         EXPECT_EQ(treeOf(home.path()), before);
     }
-    // zip itself passes over a folder in silence.
+    // zip itself silently skips an unreadable folder.
     for (const fs::path& path : {secret, secret.parent_path()}) {
         const Closed closed(path, fs::perms::none);
         const Outcome outcome = home.runUnprivileged({"backup", home / "b.zip"});

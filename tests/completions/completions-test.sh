@@ -2,9 +2,9 @@
 # SPDX-FileCopyrightText: 2026 The Selvane developers
 # SPDX-License-Identifier: MIT
 #
-# completions-test.sh EXECUTABLE-FOLDER [COMPLETIONS-FOLDER]: asks bash, zsh and fish what they offer after some
-# beginnings of a command line, in a throw-away home. Without a folder of completions the shells look for those
-# that are installed.
+# completions-test.sh EXECUTABLE-FOLDER [COMPLETIONS-FOLDER]: asks bash, zsh and fish for completions after
+# several command lines, in a throw-away home. Without a folder of completions, the shells use the installed
+# ones.
 set -euo pipefail
 
 PATH=$(realpath "$1"):$PATH

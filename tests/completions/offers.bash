@@ -10,7 +10,7 @@ if [[ -n $completions ]]; then
 else
     _completion_loader selvane
 fi
-compopt() { :; } # works within readline alone
+compopt() { :; } # works only within readline
 
 for COMP_LINE in "$@"; do
     COMP_POINT=${#COMP_LINE}

@@ -63,7 +63,7 @@ TEST(ClaudeApp, quit_EachOutcome_TakesItsTime) {
     const struct {
         ClaudeApp::QuitKind kind;
         int copies;
-        int ignored; ///< polite requests
+        int ignored; ///< polite requests ignored
         bool until;
         bool result;
         std::chrono::milliseconds took;
@@ -129,7 +129,7 @@ TEST(ClaudeApp, launch_NotPossible_IsNotRecorded) {
     Home home(Home::Processes::seen);
     const Profile profile = home.make("Lavoro");
     writeFile(home / ".claude/skills/uno.md", "");
-    home.store.restoreDesktopData(); // makes the store of accounts
+    home.store.restoreDesktopData(); // creates the store of accounts
     const Tree before = treeOf(home.path);
     const auto refusal = [&] { return messageOf([&] { home.claude.launch(profile, home.store); }); };
     home.workspace.installed.reset();

@@ -21,7 +21,7 @@ const std::string kSwitch = " --user-data-dir=";
 
 using Environment = std::map<std::string, std::string>;
 
-/// What a test knows of the machine. Process 100, started at 1000, is the main one.
+/// The machine in a test. Process 100, started at 1000, is the main one.
 struct Machine {
     DataFolders folders{kNormal, "/home/a/i miei/.desktop-data", {"lavoro", "lavoro 2"}};
     std::vector<ProcInfo> processes;
@@ -42,7 +42,7 @@ struct Machine {
         process.env = std::move(env);
         return processes.emplace_back(std::move(process));
     }
-    /// A main process as it shows itself on a desktop: joined arguments, no environment.
+    /// A main process as it looks on a desktop: joined arguments and no environment.
     ProcInfo& addMain(const std::string& arguments, std::int32_t pid = 100) {
         recognised.push_back({pid, static_cast<std::uint64_t>(pid) * 10});
         return add(pid, 1, kApp, {kApp + arguments});
@@ -64,7 +64,7 @@ struct Machine {
         };
         return {processes, recognised, notes, locks, "qui", folders, openFiles};
     }
-    /// "PID FOLDER CONFIG" of each copy: "-" without a configuration of its own, "?" for what can't be told.
+    /// "PID FOLDER CONFIG" for each copy: "-" if it has no configuration of its own, "?" if that is unknown.
     std::vector<std::string> copies() const {
         std::vector<std::string> result;
         for (const OpenCopy& copy : openCopies(evidence())) {

@@ -14,7 +14,7 @@ namespace {
 namespace fs = std::filesystem;
 using namespace test;
 
-/// The files and links below a folder: folders of what was left out may stay, empty.
+/// The files and links below a folder. Folders of things left out may remain, empty.
 Tree filesOf(const fs::path& folder) {
     Tree tree = treeOf(folder);
     std::erase_if(tree, [](const auto& entry) { return entry.second == "/"; });

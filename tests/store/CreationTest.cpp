@@ -27,7 +27,7 @@ Tree joined(Tree tree, const Tree& more) {
     return tree;
 }
 
-/// What is on disk of a new profile, but its record and its note, which are checked to be there.
+/// The tree of a new profile without its record and its note, whose presence is checked here.
 Tree treeOfNew(const Home& home, const Profile& profile) {
     EXPECT_EQ(home.store.profile(profile.id), profile) << "the record tells what was returned";
     Tree tree = treeOf(profile.configDir);
@@ -154,7 +154,7 @@ TEST(Creation, create_FailureMidway_LeavesNoTrace) {
     }
 }
 
-/// Paths in JSON texts, written raw and with escapes, also with a profile's folder inside the source's.
+/// Paths in JSON strings, raw and escaped, and also with the profile's folder inside the source's.
 TEST(Imports, importSettings_PathWithQuotesAndAccents_IsRewrittenOnce) {
     for (const auto& [name, root] :
          {std::pair("l'età \"d'oro\"", "profiles"), std::pair("\"oro\"", ".claude/profiles")}) {
@@ -208,8 +208,8 @@ TEST(Imports, importMCP_EachState_TakesTheServersOnly) {
     const std::string servers = "{\n  \"mcpServers\": {\n    \"a\": 1\n  }";
     const struct {
         const char* source;
-        const char* own;      ///< "" for none
-        std::string expected; ///< "" for none, "failure" when refused
+        const char* own;      ///< "" if missing
+        std::string expected; ///< "" if missing, "failure" if refused
         bool trashes = false;
     } cases[] = {
         {R"({"userID": "u", "hasCompletedOnboarding": true, "mcpServers": {"a": 1}})", "",

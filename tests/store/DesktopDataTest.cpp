@@ -26,7 +26,7 @@ constexpr const char* kNote =
     "Cartelle dati di Claude Desktop degli account dei profili (login, preferenze, sessioni del tab Code).\n"
     "Il profilo Principale usa la normale ~/Library/Application Support/Claude.\n"
     "NON cancellare: qui ci sono gli account dei profili.\n";
-/// What is in the normal folder (under "normal") and in the store of the other accounts.
+/// The contents of the normal folder (under "normal") and of the store of the other accounts.
 Tree dataOf(const Home& home) {
     Tree tree = treeOf(home.store.desktopStore());
     EXPECT_EQ(tree["LEGGIMI.txt"], kNote);
@@ -62,7 +62,7 @@ TEST(DesktopData, desktopDataDir_EachMarker_FollowsTheLiveOwner) {
 TEST(DesktopData, restore_EachLayout_BringsTheBuiltInAccountBack) {
     const Tree clean = {{"normal/Cookies", "mine"}};
     const struct {
-        Tree before; ///< "normal/…" in the normal folder, the rest in the store
+        Tree before; ///< "normal/…" is in the normal folder, the rest in the store
         Tree after;
         bool needed = true;
     } cases[] = {
@@ -117,7 +117,7 @@ TEST(DesktopData, restore_NotPossible_MovesNothing) {
     }
 }
 
-/// The built-in account can't take the normal place, which lies inside its own folder.
+/// The built-in account can't go back to the normal folder, which is inside its own.
 TEST(DesktopData, restore_LastMoveFails_IsRolledBack) {
     Home home;
     const fs::path stored = home.store.desktopStore();
@@ -131,7 +131,7 @@ TEST(DesktopData, restore_LastMoveFails_IsRolledBack) {
     EXPECT_EQ(treeOf(home.path), before);
 }
 
-/// Whether an operation fails with a file-system error when no file can be removed.
+/// Whether an operation fails with a file-system error if no file can be removed.
 bool failsWithoutRemoving(const std::function<void()>& operation) {
     const pid_t child = ::fork();
     if (child == 0) {

@@ -15,7 +15,7 @@ using namespace test;
 using enum ShareMode;
 using Texts = std::vector<std::string>;
 
-/// A profile with the name "Lavoro" on a source with some skills, one of them a folder.
+/// A profile called "Lavoro" whose source has some skills, one of them a folder.
 struct Links : testing::Test {
     Links() {
         writeTree(home / ".claude/skills", {{"uno.md", "uno"}, {"due/a", "due"}, {"tre.md", "tre"}});
@@ -174,7 +174,7 @@ TEST_F(Links, setMode_ClaudeMd_KeepsTheOwnRules) {
     writeFile(origin, "fonte\n");
     const struct {
         ShareMode from;
-        std::string before; ///< "" for nothing there
+        std::string before; ///< "" if nothing is there
         ShareMode to;
         std::string after;
     } cases[] = {

@@ -56,7 +56,7 @@ TEST(Store, loadAll_MixedRoot_ListsValidProfilesByName) {
     for (const char* id : {"m1", "m2", "m3", "m4", "m5"})
         writeFile(root / id / ".launcher.json", id[1] % 2 ? R"({"name": "Alfa"})" : R"({"name": "alfa"})");
     auto place = expected.begin() + 1;
-    for (const auto& entry : fs::directory_iterator(root)) { // equal names keep the order of the listing
+    for (const auto& entry : fs::directory_iterator(root)) { // equal names keep the listing's order
         if (entry.path().filename().string().starts_with('m'))
             place = expected.insert(place, entry.path().filename()) + 1;
     }
@@ -142,7 +142,7 @@ TEST(Store, terminalHelper_RootWithShellCharacters_RunsClaudeWithTheProfile) {
     writeFile(home.folder / "bin/claude",
               "#!/bin/sh\nprintf '%s\\n' \"${CLAUDE_CONFIG_DIR-unset}\" \"$@\"\n");
     fs::permissions(home.folder / "bin/claude", fs::perms(0755));
-    // Runs it as "$0" of a shell, which reads no part of its path.
+    // Runs it as "$0" of a shell, so that no part of its path is interpreted.
     const auto run = [&](const std::string& arguments) {
         const std::string path = (home.folder / "bin").string() + ":/usr/bin:/bin",
                           output = home.folder / "output";

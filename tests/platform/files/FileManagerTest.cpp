@@ -42,7 +42,7 @@ void makeSocket(const fs::path& path) {
     ::close(number);
 }
 
-/// Kind, mode, time and content of everything at and below a path.
+/// Kind, mode, time and content of a path and everything below it.
 std::map<std::string, std::string> picture(const fs::path& top) {
     std::map<std::string, std::string> result;
     const auto add = [&](const fs::path& path) {
@@ -89,7 +89,7 @@ TEST(FileManager, CopyKeepsKindsModesTimesAndContent) {
     EXPECT_EQ(kFiles.entries(folder.path()).size(), 2U) << "a temporary is left";
 }
 
-/// An access list as the kernel takes it: for the owner, another user and, as the mask, all but the owner.
+/// An access list in the kernel's form: for the owner, another user and, as the mask, all but the owner.
 struct AccessList {
     AccessList(std::uint16_t owner, std::uint16_t others)
         : entries{{{1, owner, ~0U}, {2, others, 1337}, {4, 0, ~0U}, {16, others, ~0U}, {32, 0, ~0U}}} {}
@@ -203,7 +203,7 @@ TEST(FileManager, CopyThatFailsInsideNamesTheCulpritAndLeavesNothing) {
     }));
 }
 
-/// Deeper than files may be open and than a path may be long; with a file in the last folder.
+/// Deeper than the limits on open files and path length; there is a file in the last folder.
 constexpr int kDepth = 100;
 constexpr const char* kLevel = "a folder whose name makes paths longer than one may be";
 
@@ -288,7 +288,7 @@ public:
     NameWatch(const NameWatch&) = delete;
     NameWatch& operator=(const NameWatch&) = delete;
 
-    /// Without the names of temporaries: "+name" taken, "-name" given up.
+    /// Without the names of temporaries: "+name" if taken, "-name" if given up.
     Names changes() const {
         alignas(inotify_event) std::array<char, 8192> bytes = {};
         const ssize_t size = ::read(m_events, bytes.data(), bytes.size());

@@ -92,7 +92,7 @@ TEST_F(SessionRecordTest, refusesWhatIsNoRecord) {
          {std::string(), std::string("[]"), std::string("{}"), deep, std::string(R"({"sessionId": "s"} x)"),
           std::string(R"({"sessionId": 01})"), std::string("{\"sessionId\": \"\xFF\"}")})
         EXPECT_FALSE(read(content)) << content.substr(0, 40);
-    EXPECT_TRUE(read(R"({"sessionId": "s"})")); // the reader itself is not harmed by any of them
+    EXPECT_TRUE(read(R"({"sessionId": "s"})")); // none of them harms the reader itself
 }
 
 TEST_F(SessionRecordTest, readsRegularFilesOnly) {

@@ -23,7 +23,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Sets a variable of this process for a while.
+/// Sets a variable of this process for its own lifetime.
 class ScopedVariable {
 public:
     ScopedVariable(const char* name, const std::string& value) : m_name(name) {
@@ -84,7 +84,7 @@ protected:
         return workspace()->running(ProcInfo::all());
     }
 
-    /// Everything that runs from the test's folder, helpers included.
+    /// All processes that run from the test's folder, including helpers.
     std::vector<ProcInfo> processes() const {
         std::vector<ProcInfo> processes = ProcInfo::all();
         std::erase_if(processes,
@@ -92,7 +92,7 @@ protected:
         return processes;
     }
 
-    /// Opens a copy with the data folder `data` and gives what it tells once it and its helpers run.
+    /// Opens a copy with the data folder `data` and returns its report once it and its helpers are running.
     nlohmann::json open(const Application& application, OpenConfiguration configuration = {}) {
         const fs::path data = m_root / "data";
         configuration.arguments.insert(configuration.arguments.begin(), "--user-data-dir=" + data.string());
@@ -188,7 +188,8 @@ TEST_F(RunningApplicationTest, IsRecognisedAfterItsExecutableWasReplaced) {
 }
 
 TEST_F(RunningApplicationTest, IsRecognisedBehindAWrapper) {
-    m_environment["STAND_IN_OPTIONS"] = "--stand-in-keep-title"; // the variables of the start tell
+    m_environment["STAND_IN_OPTIONS"] =
+        "--stand-in-keep-title"; // only the variables of the start identify it
     const fs::path electron = m_root / "lib/electron";
     const fs::path wrapper = m_root / "bin/wrapper";
     install(electron);

@@ -33,7 +33,7 @@ void startShell(const std::string& script, const fs::path& folder, const Environ
     process::startDetached("/bin/sh", {"-c", script}, environment, folder, pidVariable);
 }
 
-/// Runs `body` in a child. An exception aborts it: it must not go on with the other tests.
+/// Runs `body` in a child. An exception aborts the child, or it would continue with the other tests.
 template <typename Body>
 pid_t forkInto(Body body) {
     const pid_t child = ::fork();
@@ -44,7 +44,7 @@ pid_t forkInto(Body body) {
     return child;
 }
 
-/// The path that an operation fails for.
+/// The path in the error of a failing operation.
 template <typename Operation>
 fs::path culprit(Operation operation) {
     try {
@@ -89,7 +89,7 @@ TEST(Process, RunFreesTheChildOfWhatItsParentsIgnore) {
     ::pthread_sigmask(SIG_UNBLOCK, &blocked, nullptr);
 }
 
-/// The signal that ends a process which some child of ours has started and left; 0 when it exits.
+/// The signal that ends a process orphaned by one of our children; 0 if it exits.
 int endingSignal(pid_t orphan) {
     int status = 0;
     EXPECT_EQ(::waitpid(orphan, &status, 0), orphan);

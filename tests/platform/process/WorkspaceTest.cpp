@@ -84,7 +84,7 @@ TEST(MainProcesses, StartedThroughAWrapperAreRecognisedByItsEntry) {
     const std::string electron = "/usr/lib/electron/electron";
     const std::string entry = "/usr/share/applications/chat.desktop";
     const std::vector<ProcInfo> processes = {
-        // The wrapper runs the application in its own place.
+        // The wrapper is replaced by the application.
         process(10, 1, electron, {}, startedBy(entry, 10)),
         process(11, 10, "/usr/lib/git-core/git-lfs", {}, startedBy(entry, 10)),
         // The wrapper stays as the parent.

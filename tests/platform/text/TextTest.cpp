@@ -41,7 +41,7 @@ TEST(TextTest, foldsLettersOfAllScripts) {
         {"Йод Ἀθῆναι", "иод-αθηναι"},
         {"क्षि 가나 日本", "क्षि-가나-日本"}, // vowel signs and composed syllables are part of the word
         {"Nº 4 ½/٣", "nº-4-½-٣"},
-        {"a❤️b", "a--b"}, // the selector that follows the heart goes with it
+        {"a❤️b", "a--b"}, // the variation selector after the heart goes with it
         {"e\xCC\x81x\xFFy", "ex-y"},
     };
     for (const auto& [name, folded] : table)
@@ -50,7 +50,7 @@ TEST(TextTest, foldsLettersOfAllScripts) {
 
 TEST(TextTest, trimsAllWhiteSpace) {
     EXPECT_EQ(text::trimmed("\xE3\x80\x80\t\r\n a\xC2\xA0z \xE2\x80\xA9\xC2\x85"), "a\xC2\xA0z");
-    EXPECT_EQ(text::trimmed(" \xE2\x80\x8B \n"), "\xE2\x80\x8B"); // has no width, but is no white space
+    EXPECT_EQ(text::trimmed(" \xE2\x80\x8B \n"), "\xE2\x80\x8B"); // has no width, but isn't white space
     EXPECT_EQ(text::trimmed(" \v\f\n"), "");
 }
 
@@ -69,7 +69,7 @@ TEST(TextTest, keepsTextOnOneLine) {
         {"a\0b"s, "a\uFFFDb"},
         {"\xC2\x85z\xC2\x9B\xC2\xA0", "\uFFFDz\uFFFD\xC2\xA0"},
         {"\xE2\x80\xA8\xE2\x80\xA9\xE2\x80\xAA", "\uFFFD\uFFFD\xE2\x80\xAA"},
-        {"\x85\xE2\x80", "\x85\xE2\x80"}, // not UTF-8: as it is
+        {"\x85\xE2\x80", "\x85\xE2\x80"}, // not UTF-8: unchanged
     };
     for (const auto& [line, expected] : table)
         EXPECT_EQ(text::singleLine(line), expected);
