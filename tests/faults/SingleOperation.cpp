@@ -6,7 +6,7 @@
 ///   single-operation remove PROFILE COMPONENT ITEM
 ///   single-operation import-items FROM INTO COMPONENT link|copy   everything that INTO lacks
 ///   single-operation delete PROFILE
-/// What is gone already counts as done, as for the windows, which no longer show it.
+/// An item or profile that is already gone counts as done, as in the windows, which no longer show it.
 
 #include <algorithm>
 #include <iostream>

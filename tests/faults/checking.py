@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Selvane developers
 # SPDX-License-Identifier: MIT
-"""What is in a home, and what is wrong with it after a fault."""
+"""Lists what is in a home, and finds what is wrong with it after a fault."""
 
 import dataclasses
 import hashlib
@@ -13,7 +13,7 @@ from home import LONG_AGO, OWN_FILES, PROFILES, SECRET
 from tracing import KILL
 
 TRASH = ".local/share/Trash"
-# Of Selvane, and of zip beside an archive.
+# Of Selvane, and of zip, which leaves them beside an archive.
 _TEMPORARY = re.compile(r"(^|/)(\.selvane-[^/]*|selvane-backup-[^/]*|zi\w{6}|[^/]*\.partial)(/|$)")
 _OF_ZIP = re.compile(r"(^|/)zi\w{6}$")
 _TIME = re.compile(rb"\d{4}-\d\d-\d\dT\d\d:\d\d:\d\dZ")
@@ -29,7 +29,7 @@ class Entry:
 
 
 def _archive(path):
-    """The content of an archive but its readme, which tells the date."""
+    """The content of an archive except its readme, which contains the date."""
     try:
         with zipfile.ZipFile(path) as archive:
             parts = sorted((part.filename, part.CRC) for part in archive.infolist())
@@ -69,7 +69,7 @@ def _entry(path, rename):
 
 
 def scan(home, renamed=("", "")):
-    """Every path below the home. A profile of the first of two ids is shown as if it had the second."""
+    """Every path below the home. A profile with the first of the two ids is shown as if it had the second."""
     before, after = renamed
 
     def rename(bytes_):
@@ -100,23 +100,23 @@ def _contents(paths):
 
 
 class Expectation:
-    """What a home was like before an operation, and what it is like after it."""
+    """What a home was like before an operation, and what it must be like after it."""
 
     def __init__(self, before, after):
         self.before, self.after = before, after
         self.old, self.new = _visible(before), _visible(after)
-        # The operation itself may replace bytes: those of Selvane's own files, and a record it edits.
+        # The operation itself may replace the bytes of Selvane's own files and of a record that it edits.
         self.contents = _contents(before) & _contents(after)
 
     def replaced(self):
-        """The user's files whose bytes the operation itself leaves nowhere."""
+        """The user's files whose bytes the operation itself removes for good."""
         gone = _contents(self.before) - _contents(self.after)
         return sorted(path for path, entry in self.before.items()
                       if entry.content in gone and not is_temporary(path)
                       and os.path.basename(path) not in OWN_FILES)
 
     def lost(self, now):
-        """The user's bytes that are nowhere any more."""
+        """The user's files whose bytes are lost."""
         missing = self.contents - _contents(now)
         return [f"lost: {path}" for path, entry in self.before.items() if entry.content in missing]
 
@@ -129,10 +129,10 @@ class Expectation:
         return any(entry.content == content for name, entry in now.items() if name.startswith(TRASH))
 
     def between(self, now, moves, gap):
-        """Every path must be as before or as after; or free, when what was there is in the Trash, or where an
-        operation can't but leave a `gap` for a moment.
+        """Every path must be as before or as after, or free if what was there is in the Trash or the operation can't
+        avoid a `gap` for a moment.
 
-        Where whole folders `moves`, each thing must be as it was or will be, wherever it is."""
+        If the operation `moves` whole folders, everything must be as before or as after, wherever it is."""
         found = _visible(now)
         if moves:
             known = {*self.old.values(), *self.new.values()}
@@ -152,7 +152,7 @@ class Expectation:
         return problems
 
     def unlike(self, now, wanted, loose="$^", may_be_in_trash=None):
-        """What is not as it should be, but for the loose paths and those whose old content was trashed."""
+        """What is not as it should be, except loose paths and those whose old content was trashed."""
         found, wanted = _visible(now), _visible(wanted)
         return [f"not as it should be: {path} ({found.get(path)})" for path in {*wanted, *found}
                 if found.get(path) != wanted.get(path) and not re.match(loose, path)
@@ -160,7 +160,7 @@ class Expectation:
                          and self._is_in_trash(path, may_be_in_trash))]
 
     def leftovers(self, now, hits, zip_failed):
-        """Temporaries, but for one whose own removal was what failed, and what a failing zip leaves itself."""
+        """Temporaries left behind, except one whose own removal failed, and those of a failing zip."""
         return [f"left behind: {path}" for path in now
                 if is_temporary(path) and path not in self.before and not path.startswith(TRASH) and
                 not (zip_failed and _OF_ZIP.search(path)) and

@@ -23,7 +23,7 @@ GOLDEN_RATIO = 0.618
 
 
 class Place:
-    """Where one process tries operations: a home at a fixed path, since links hold it, and its copies."""
+    """Where one process tries operations: a home at a fixed path, which its links contain, and copies of it."""
 
     def __init__(self, folder, build):
         self.folder = pathlib.Path(folder)
@@ -49,7 +49,7 @@ class Result:
 
 
 def again(operation, command, expectation, home, now):
-    """Runs the same command without a fault: what is wrong with its result."""
+    """Runs the same command without a fault. Returns what is wrong with the result."""
     run = tracing.run(command, home)
     if run.status != 0:
         return [f"a second run fails: {run.err!r}"]
@@ -90,7 +90,7 @@ def try_point(operation, place, expectation, point):
 
 
 def run_without_fault(operation, place):
-    """Prepares the home and keeps it so. What is to be expected, and the calls that can fail."""
+    """Prepares the home and saves a copy. Returns what to expect, and the calls that can fail."""
     home = place.home
     place.restore("base")
     operation.prepare(home)
@@ -137,7 +137,7 @@ def row(*cells):
 
 
 def report(results):
-    """Prints the results as they come. Whether there are any, and none failed."""
+    """Prints the results as they come. Returns whether there are any and none failed."""
     started = time.monotonic()
     row("operation", "calls", "tried", "failed")
     calls = tried = failed = 0

@@ -9,7 +9,7 @@ import shutil
 import subprocess
 
 REPOSITORY = pathlib.Path(__file__).resolve().parents[2]
-SECRET = b"t0k3n"  # stands in files that only their owner may read
+SECRET = b"t0k3n"  # in files that only their owner may read
 LONG_AGO = 1_500_000_000
 OWN_FILES = (".launcher.json", "default.json", ".active", ".live", "selvane-profile.md", "LEGGIMI.txt",
              "claude-profile")
@@ -20,13 +20,13 @@ NORMAL = ".config/Claude/"
 
 
 class Home:
-    """A home folder, and Selvane's programs in the folder `build` to be run in it."""
+    """A home folder, and Selvane's programs from the folder `build` to run in it."""
 
     def __init__(self, path, build):
         self.path = pathlib.Path(path)
         self.programs = {"selvane": f"{build}/selvane", "operation": f"{build}/single-operation"}
         share = f"{path}/.local/share"
-        # A substitute data folder: other copies of Claude Desktop that run here don't matter.
+        # A substitute data folder, so that other copies of Claude Desktop running here don't matter.
         self.environment = {
             "PATH": "/usr/bin:/bin", "LC_ALL": "C.UTF-8", "HOME": str(path), "TMPDIR": f"{path}/tmp", "XDG_RUNTIME_DIR": f"{path}/tmp",
             "XDG_CONFIG_HOME": f"{path}/.config", "XDG_DATA_HOME": share, "XDG_DATA_DIRS": share,
@@ -36,7 +36,7 @@ class Home:
         return self.path / below
 
     def command(self, words):
-        """The command line for a program's name and its arguments, where "@" stands for the home folder."""
+        """The command line for a program and its arguments, with "@" for the home folder."""
         return [self.programs[words[0]], *(word.replace("@", str(self.path)) for word in words[1:])]
 
     def run(self, *words):
@@ -68,14 +68,14 @@ class Home:
         (self / name).write_text(json.dumps(value, indent=2))
 
     def set_mode(self, profile, part, mode):
-        """Sets what a profile's record says, without doing it."""
+        """Changes the mode in a profile's record without applying it."""
         def change(record):
             record["modes"][part] = mode
         self.edit(f"{PROFILES}{profile}/.launcher.json", change)
 
 
 def session(home, name, folder, number):
-    """A session record of the Code tab; its conversation has the number too."""
+    """A session record of the Code tab; its conversation has the same number."""
     record = {"sessionId": f"local_{name}", "cliSessionId": f"cli-{number}", "title": name, "cwd": "/",
               "lastActivityAt": 1772000000000 + number, "remoteMcpServersConfig": SECRET.decode()}
     home.put(f"{folder}/local_{name}.json", json.dumps(record), 0o600)
@@ -83,7 +83,7 @@ def session(home, name, folder, number):
 
 def fill_source(home):
     subprocess.run([REPOSITORY / "script/sample-home", home.path], check=True)
-    # Leads nowhere: as an item it can't be copied, below one it is copied as it is.
+    # A dangling link: as an item it can't be copied; inside one, it is copied as it is.
     home.move(".claude/commands/perduto.md", ".claude/commands/git/perduto.md")
     folder = ".claude/skills/revisione/"
     home.put(folder + "prova.sh", "#!/bin/sh\n", 0o755)
@@ -97,7 +97,7 @@ def fill_source(home):
     try:
         os.setxattr(home / folder / "lista.md", "user.origine", b"casa")
     except OSError:
-        pass  # not every file system keeps attributes
+        pass  # not every file system has attributes
     home.put(NORMAL + "extensions-blocklist.json", "{}")
     home.put(NORMAL + "claude-code/1.0/claude", "#!/bin/sh\n", 0o755)
     for record in (home / NORMAL).rglob("local_*.json"):
@@ -139,12 +139,12 @@ def make_accounts(home):
     queue = PROFILES + "lavoro/.pending-sessions"
     session(home, "in-coda-1", queue, 21)
     session(home, "in-coda-2", queue, 22)
-    session(home, "proprio", queue, 11)  # placed already
+    session(home, "proprio", queue, 11)  # already placed
     home.put(queue + "/.selvane-0123456789abcdef", "left by an interrupted run", 0o600)
 
 
 def make_unique(home):
-    """No copy in a profile stays like its origin: what is lost can't be mistaken for what is left."""
+    """Makes every copy in a profile differ from its original, so that a lost one can't be mistaken for it."""
     for path in (home / PROFILES).rglob("*"):
         if path.is_symlink() or not path.is_file() or path.name in OWN_FILES or ".selvane-" in path.name:
             continue

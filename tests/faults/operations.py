@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Selvane developers
 # SPDX-License-Identifier: MIT
-"""The operations that are tried: each a command line, and what is done to the home before it."""
+"""The operations to try: a command line each, and how the home is prepared for it."""
 
 import dataclasses
 import typing
@@ -20,15 +20,15 @@ class Operation:
     name: str
     command: typing.Sequence[str]
     prepare: typing.Callable = _nothing
-    then: typing.Sequence = ()       # further commands that complete an interrupted run, after the same one
-    loose: str = "$^"                # what may stay as it was when the rest has succeeded: it is no must
-    creates: str = ""                # the profile that is made; another run makes another one
-    leaves_nothing: bool = False     # when it fails, all is as before
-    moves: bool = False              # whole folders, maybe by way of another place
+    then: typing.Sequence = ()       # more commands that complete an interrupted run, after the same one
+    loose: str = "$^"                # what may stay as it was although the rest has succeeded
+    creates: str = ""                # the profile that is created; another run creates another one
+    leaves_nothing: bool = False     # if it fails, everything is as before
+    moves: bool = False              # moves whole folders, perhaps through another place
     edits: typing.Sequence[str] = () # the user's files whose bytes it changes without keeping the old ones
-    archive: bool = False            # runs zip, which fails as well
-    gap: str = "$^"                  # what isn't there for a moment; never the user's only copy
-    setting: str = ""                # a fault, as strace takes it, that every run meets: a lesser file system
+    archive: bool = False            # runs zip, which is made to fail as well
+    gap: str = "$^"                  # what is missing for a moment; never the user's only copy
+    setting: str = ""                # a fault, in strace's form, that every run meets: a more limited file system
 
 
 def _creations():
@@ -40,7 +40,7 @@ def _creations():
         words = ["selvane", "create", "Nuovo", "--from", "default"]
         words += [word for mode in modes for word in ("--mode", mode)]
         yield Operation(f"create-{kind}", words, creates="nuovo", leaves_nothing=True)
-        # Seeding the account comes after the profile is complete, and what can't be copied is left out.
+        # Seeding the account comes after the profile is complete, and leaves out what can't be copied.
         yield Operation(f"create-{kind}-account", [*words, "--account", "default"], creates="nuovo",
                         loose=DATA + "nuovo/")
     yield Operation("create-empty", ["selvane", "create", "Nuovo"], creates="nuovo", leaves_nothing=True)
@@ -72,7 +72,7 @@ def _collection_modes():
     for before, profile in profiles.items():
         for after in profiles:
             if before != after:
-                # The mode is recorded first; the links that are missing come with the next sync or launch.
+                # The mode is recorded first; the next sync or launch adds the missing links.
                 then = [("selvane", "sync", profile)] if after == "shared" else []
                 yield Operation(f"set-mode-skills-{before}-{after}",
                                 ["selvane", "set-mode", profile, f"skills={after}"], then=then)
@@ -133,7 +133,7 @@ def _sessions():
 
 
 def _launches():
-    # That a launch is recorded is no must, nor that the emptied queue is removed.
+    # Recording the launch is optional, and so is removing the emptied queue.
     loose = rf"{PROFILES}(\.active|default\.json|[^/]*/\.launcher\.json|[^/]*/\.pending-sessions)$"
     yield Operation("launch-with-queue", ["selvane", "launch", "lavoro"], _change_source, loose=loose)
     yield Operation("launch-first", ["selvane", "launch", "vuoto"], loose=loose)
@@ -152,13 +152,13 @@ def _restorations():
     account = DATA + "lavoro"
 
     def swapped(home):
-        """As an earlier way of keeping accounts left them: Lavoro's data in the normal folder."""
+        """As an earlier way of keeping accounts left them: with Lavoro's data in the normal folder."""
         home.move(NORMAL, DATA + "default")
         home.move(account, NORMAL)
         home.put(DATA + ".live", "lavoro")
 
     def swapped_away(home):
-        """And then the normal folder was put away too."""
+        """The same, with the normal folder put away too."""
         swapped(home)
         home.move(NORMAL, account)
 
@@ -200,16 +200,16 @@ def _single_operations():
     own = ["operation", "make-own", "lavoro"]
     yield Operation("make-own-file", [*own, "rules", "sicurezza.md"])
     yield Operation("make-own-folder", [*own, "skills", "revisione"])
-    # Where names can't be exchanged, the link is gone for a moment, until the next sync when killed there.
+    # Where names can't be exchanged, the link is gone for a moment or, if killed there, until the next sync.
     folder = [*own, "skills", "revisione"]
     yield Operation("make-own-in-steps", folder, setting="renameat2:error=EINVAL",
                     gap=WORK + "skills/revisione$", then=[("selvane", "sync", "lavoro"), folder])
     yield Operation("make-own-linked", [*own, "skills", "traduzione"])
-    # A link that was removed but not yet excluded comes back with the next sync, to be removed again.
+    # A link that was removed but not yet excluded comes back with the next sync and can be removed again.
     link = ["operation", "remove", "lavoro", "skills", "revisione"]
     yield Operation("remove-link", link, then=[("selvane", "sync", "lavoro"), link])
     yield Operation("remove-own", ["operation", "remove", "lavoro", "skills", "solo qui"])
-    # What came in before a failure stays excluded until it is removed: it is there all the same.
+    # Items imported before a failure stay excluded until they are removed: they are there all the same.
     yield Operation("import-items-links", ["operation", "import-items", "default", "lavoro", "skills", "link"],
                     exclude, loose=WORK + r"\.launcher\.json$")
     yield Operation("import-items-copies",

@@ -13,7 +13,7 @@ KILL = "KILL"
 TIME_LIMIT = 30
 PR_SET_CHILD_SUBREAPER = 36
 
-# How each call is made to fail. EINVAL, EXDEV and EOPNOTSUPP stand for file systems that can do less.
+# How each call is made to fail. EINVAL, EXDEV and EOPNOTSUPP stand for more limited file systems.
 _MAKING = ("ENOSPC", "EACCES", "EIO")
 _REMOVING = ("EACCES", "EIO")
 _CHANGING = ("EPERM", "EIO")
@@ -39,11 +39,11 @@ _CALL = re.compile(r"(?:(\d+) +)?(\w+)\((.*)")
 
 @dataclasses.dataclass(frozen=True)
 class Point:
-    """The `number`th call of that name of a process, and how it fails."""
+    """A process's `number`th call with this name, and how it fails."""
     call: str
     number: int
     error: str
-    family: bool = False  # the processes that Selvane starts are followed too
+    family: bool = False  # also follow the processes that Selvane starts
     line: str = ""        # what strace wrote about it
 
     def __str__(self):
@@ -68,7 +68,7 @@ def is_change(call, arguments, home):
 
 
 def adopt_orphans():
-    """What a killed command leaves running becomes a child of this process, which can wait for it."""
+    """Makes processes that a killed command leaves running children of this one, which can wait for them."""
     ctypes.CDLL(None).prctl(PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0)
 
 
@@ -84,7 +84,7 @@ def _wait_for_orphans():
 
 
 def run(command, home, options=()):
-    """Runs a command line to the end of all that it starts; with options under strace."""
+    """Runs a command line and waits for everything it starts. With options, runs it under strace."""
     log = home.path.parent / "strace.log"
     log.unlink(missing_ok=True)
     strace = ["strace", "-y", "-s", "1000", "-o", log, *options] if options else []
@@ -100,7 +100,7 @@ def _injections(*faults):
 
 
 def calls(command, home, setting):
-    """The changing calls of Selvane itself and, apart, those of the programs that it starts, in one run."""
+    """The changing calls of Selvane itself and, separately, of the programs it starts, in one run."""
     names = ",".join("?" + name for name in ERRORS)
     done = run(command, home, ["-f", f"--trace={names}", *_injections(setting)])
     if done.status != 0:
@@ -115,8 +115,8 @@ def calls(command, home, setting):
         number = counts[process, call] = counts.get((process, call), 0) + 1
         if is_change(call, arguments, str(home.path)) and not setting.startswith(call + ":"):
             (own if process == first else others).append(Point(call, number, "", process != first, line))
-    # A fault can't be aimed at one process of several: it must come after all calls of that name of Selvane,
-    # those of its tidying up included.
+    # A fault can't be aimed at one of several processes, so it must come after all of Selvane's own calls of
+    # that name, including those that tidy up.
     return own, [point for point in others if ERRORS[point.call] != _REMOVING
                  and point.number > counts.get((first, point.call), 0)]
 
@@ -127,12 +127,12 @@ def faults(point):
 
 def run_with_fault(command, home, setting, point):
     kind = "signal=SIGKILL" if point.error == KILL else f"error={point.error}"
-    # Only what is traced can be made to fail.
+    # Only traced calls can be made to fail.
     traced = ",".join({point.call, setting.split(":")[0] or point.call})
     options = [f"--trace={traced}", *_injections(setting, f"{point.call}:{kind}:when={point.number}")]
     done = run(command, home, [*(["-f"] if point.family else []), *options])
     if point.error == KILL:
-        # The last call before each end by the signal.
+        # The last call before each process was killed.
         ends = [at for at, line in enumerate(done.hits) if "killed by SIGKILL" in line]
         done.hits = [done.hits[at - 1] for at in ends]
     else:

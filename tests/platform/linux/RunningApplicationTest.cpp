@@ -188,8 +188,7 @@ TEST_F(RunningApplicationTest, IsRecognisedAfterItsExecutableWasReplaced) {
 }
 
 TEST_F(RunningApplicationTest, IsRecognisedBehindAWrapper) {
-    m_environment["STAND_IN_OPTIONS"] =
-        "--stand-in-keep-title"; // only the variables of the start identify it
+    m_environment["STAND_IN_OPTIONS"] = "--stand-in-keep-title"; // its start variables identify it
     const fs::path electron = m_root / "lib/electron";
     const fs::path wrapper = m_root / "bin/wrapper";
     install(electron);
