@@ -4,7 +4,7 @@
 import QtQuick
 import QtQuick.Controls.Basic
 
-/// Five buttons in a window as large as the picker's.
+/// Five buttons in a window as large as the picker.
 Window {
     width: 980
     height: 660

@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-// sleepers COUNT: has COUNT processes that do nothing, until its standard input ends. Says "ready" when they
-// are there.
+// sleepers COUNT: keeps COUNT idle processes until its standard input ends. Prints "ready" once they run.
 
 #include <csignal>
 #include <cstdio>
@@ -18,7 +17,7 @@ int main(int argc, char** argv) {
         const pid_t child = fork();
         if (child < 0) {
             std::perror("fork");
-            kill(0, SIGKILL); // the group is this program's own
+            kill(0, SIGKILL); // the group contains only this program and its children
         }
         if (child > 0)
             continue;
@@ -34,6 +33,6 @@ int main(int argc, char** argv) {
     char byte = 0;
     while (read(STDIN_FILENO, &byte, 1) > 0) {
     }
-    // The children go with this process.
+    // The children end with this process.
     return 0;
 }

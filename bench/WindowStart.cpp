@@ -1,12 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-/// window-start ROUNDS PROGRAM...: starts each program in turn, ROUNDS times over, and measures the time
-/// until the first frame of its window is there and its peak memory. The programs need not know of it: on a
-/// display
-/// ($DISPLAY, with nothing else on it) it looks at the pixels in the middle of the screen; without one the
-/// programs run offscreen, and Qt's own log tells when a frame is rendered. Compares the last program with
-/// each of the others.
+/// window-start ROUNDS PROGRAM...: starts each program in turn, ROUNDS times over, and measures its peak
+/// memory and the time until the first frame of its window. The programs needn't cooperate: on a display
+/// ($DISPLAY, with nothing else on it) this program looks at the pixels in the middle of the screen; without
+/// one the programs run offscreen, and Qt's own log shows when a frame is rendered. Compares the last program
+/// with each of the others.
 
 #include <fcntl.h>
 #include <poll.h>
@@ -39,14 +38,14 @@ using namespace std::chrono_literals;
 
 constexpr auto kPatience = 30s;
 constexpr auto kLook = 1ms;
-constexpr auto kRestAfterFrame = 300ms; // what the program does next counts for its peak memory
+constexpr auto kRestAfterFrame = 300ms; // what the program does next counts towards its peak memory
 
 struct Start {
     double milliseconds = 0;
     double megabytes = 0;
 };
 
-/// A running program whose standard error is read here. It is ended with the object.
+/// A running program whose standard error is read here. It ends with this object.
 class Process {
 public:
     explicit Process(const std::string& program) {
@@ -81,7 +80,7 @@ public:
         kill(m_pid, SIGTERM);
         wait4(m_pid, nullptr, 0, &usage);
         m_pid = -1;
-        return static_cast<double>(usage.ru_maxrss) / 1024; // Linux gives KiB
+        return static_cast<double>(usage.ru_maxrss) / 1024; // in KiB on Linux
     }
 
 private:
@@ -89,11 +88,11 @@ private:
     int m_log = -1;
 };
 
-/// Tells when the first frame of a window is there.
+/// Detects the first frame of a window.
 class Watcher {
 public:
     virtual ~Watcher() = default;
-    /// Waits until the last program has left nothing behind.
+    /// Waits until nothing is left of the last program.
     virtual void prepare() {}
     virtual bool seesFrame(const Process& process) = 0;
 };
@@ -141,7 +140,7 @@ public:
             std::this_thread::sleep_for(kLook);
         }
     }
-    /// The screen's ground, the window's and at least one of what is in it.
+    /// The colours of the screen's background, the window's, and at least one of its contents.
     bool seesFrame(const Process& /*process*/) override {
         if (colours() >= 3)
             return true;
@@ -150,7 +149,7 @@ public:
     }
 
 private:
-    /// How many there are in the line across the middle of the screen.
+    /// The number of colours in the line across the middle of the screen.
     std::size_t colours() const {
         const auto middle = static_cast<std::int16_t>(m_screen->height_in_pixels / 2);
         const auto request = xcb_get_image(m_connection, XCB_IMAGE_FORMAT_Z_PIXMAP, m_screen->root, 0, middle,
@@ -180,7 +179,7 @@ Start start(const std::string& program, Watcher& watcher) {
     return {time.count(), process.end()};
 }
 
-/// The value that `part` of all lie below.
+/// The value below which this part of all values lies.
 double quantile(std::vector<double> values, double part) {
     std::sort(values.begin(), values.end());
     return values[static_cast<std::size_t>(std::lround(part * static_cast<double>(values.size() - 1)))];

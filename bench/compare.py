@@ -26,10 +26,10 @@ HANDWRITTEN = "<!-- What follows is written by hand; script/bench keeps it. -->"
 
 @dataclass
 class Work:
-    """One program to time. `reset` brings the files back to what they were, before each run."""
+    """One program to time. `reset` restores the files before each run."""
     argv: list
     reset: Callable = None
-    check: Callable = None  # after the first run: raises unless the work was done
+    check: Callable = None  # after the first run: raises if the work wasn't done
 
 
 @dataclass
@@ -42,9 +42,9 @@ class Line:
     other: Callable
     rounds: int = 7
     grows: bool = True
-    other_grows: bool = False  # measured as well, to tell Selvane's growth from the file system's
+    other_grows: bool = False  # measure its growth too, to tell Selvane's from the file system's
     memory_matters: bool = False
-    other_is_part: bool = False  # of what Selvane runs, so that its memory counts as well
+    other_is_part: bool = False  # Selvane runs it as well, so its memory counts too
 
 
 @dataclass
@@ -55,7 +55,7 @@ class Group:
     unit: str
     lines: list
     growth_fill: Callable = None  # for growth; none without it
-    growth_unit: str = ""  # where it is another one
+    growth_unit: str = ""  # if it is a different one
     around: Callable = field(default=lambda size: contextlib.nullcontext())
 
 
@@ -71,8 +71,8 @@ class Runner:
         self.environment = {"PATH": "/usr/bin:/bin", "LC_ALL": "C.UTF-8"}
 
     def put_aside(self, *paths):
-        """Away, but not removed: file systems are slow to give what was just removed to new files, which would be
-        measured as well. And what is still to be written would slow the next run down."""
+        """Moves files away without removing them: file systems are slow to reuse space that was just freed, and
+        that would be measured too. Also waits for pending writes, which would slow the next run down."""
         for path in paths:
             if os.path.lexists(path):
                 os.rename(path, next(self.asides))
@@ -84,7 +84,7 @@ class Runner:
         os.chdir(home)
 
     def run(self, argv):
-        """Seconds from start to end. Not through `subprocess`, which takes longer than the short commands do."""
+        """Seconds from start to end. Avoids `subprocess`, which takes longer than the short commands."""
         actions = [
             (os.POSIX_SPAWN_OPEN, 0, "/dev/null", os.O_RDONLY, 0),
             (os.POSIX_SPAWN_OPEN, 1, "/dev/null", os.O_WRONLY, 0),
@@ -105,7 +105,7 @@ class Runner:
         return self.run(work.argv)
 
     def peak_memory(self, work):
-        """Megabytes of the process, or of one that it started and waited for."""
+        """Megabytes, for the process or one that it started and waited for."""
         if work.reset:
             work.reset()
         self.run(["/usr/bin/time", "-f", "%M", "-o", self.report, *work.argv])
@@ -117,7 +117,7 @@ class Runner:
 
 
 class Programs:
-    """The command lines, and what they need around them."""
+    """The command lines and their preparations."""
 
     def __init__(self, binaries, runner):
         self.binaries = binaries
@@ -231,7 +231,7 @@ class Programs:
 
     def backup(self, home):
         archive = f"{home}/backup.zip"
-        # Not to the Trash: that is no part of what is compared.
+        # Don't use the Trash: it isn't part of the comparison.
         return Work([self.selvane, "backup", archive], reset=lambda: self.runner.put_aside(archive))
 
     def zip(self, home):
@@ -329,7 +329,7 @@ class Bench:
 
     def compare(self, group, line, home):
         works = [line.ours(home), line.other(home)]
-        for work in works:  # the cache is warm after this
+        for work in works:  # warms up the cache
             self.runner.timed(work)
             if work.check:
                 work.check()
@@ -355,8 +355,8 @@ class Bench:
                     works = [work, line.other(home)] if line.other_grows else [work]
                     rounds = [[self.runner.timed(each) for each in works] for _ in range(GROWTH_ROUNDS[factor])]
                     for side, times in enumerate(zip(*rounds)):
-                        # The least of them: whatever else goes on only adds to it, most of all the writing of
-                        # what earlier rounds have left.
+                        # Take the least: anything else that goes on only adds to it, above all writing the
+                        # remains of earlier rounds to the disk.
                         costs[line.key][side].append(min(times) / size)
                     if factor == FACTORS[-1]:
                         self.memory.append((f"{line.work}, {size:,} {group.growth_unit or group.unit}", peak,

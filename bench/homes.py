@@ -24,7 +24,7 @@ def words(count, seed=1):
     return " ".join(source.choices(stems, k=count))
 
 
-# zip is quick with it (what repeats lies within reach of its window), which leaves Selvane's share large.
+# zip is fast with this (repetitions are within its window), which leaves Selvane's own share large.
 TEXT = (words(3000).encode() + b"\n") * 80
 
 
@@ -64,8 +64,8 @@ def profiles(home, count):
 
 
 def items(home, count):
-    """`count` items in the built-in profile, half of them files and half folders, and one profile, "copia", that
-    is to share them."""
+    """`count` items in the built-in profile, half of them files and half folders, and a profile, "copia", to share
+    them."""
     bare(home)
     for collection in COLLECTIONS:
         folder = f"{home}/.claude/{collection}"
@@ -79,7 +79,7 @@ def items(home, count):
 
 
 def files(home, count, size):
-    """`count` files with `size` bytes in all: half in the folders of skills, a quarter in plugins, the rest
+    """`count` files with `size` bytes in total: half in the folders of skills, a quarter in plugins, the rest as
     single items."""
     bare(home)
     claude = f"{home}/.claude"
@@ -113,7 +113,7 @@ def tool(number):
 
 
 def session_record(size):
-    """A record of about that size with three fields to be filled in. About half of it are keys that an import
+    """A record of about this size with three fields to fill in. About half of it consists of keys that an import
     leaves out."""
     record = {
         "sessionId": "local_@ID@", "cliSessionId": "@ID@", "cwd": "/srv/lavori/progetto-@N@",
@@ -133,8 +133,8 @@ def session_record(size):
 
 
 def sessions(home, count, record_bytes, transcript_bytes):
-    """`count` sessions with their transcripts in the built-in profile, and one profile with an account of its
-    own, "altro", that they can go to."""
+    """`count` sessions with their transcripts in the built-in profile, and a profile with its own account, "altro",
+    to import them."""
     bare(home)
     records = f"{home}/.config/Claude/claude-code-sessions/account/organizzazione"
     os.makedirs(records)
