@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 //
-// icon-theme FOLDER: draws the application's icon into a folder laid out as the hicolor icon theme, in all of
-// that theme's sizes.
+// icon-theme FOLDER: draws the application's icon in all sizes of the hicolor icon theme, in that theme's
+// folders below FOLDER.
 
 #include <cstdio>
 #include <exception>

@@ -4,7 +4,7 @@
 #
 # bash completion for selvane
 
-# Offers the first fields of records that begin with what is typed.
+# Offers the first fields of records that begin with the typed text.
 _selvane_records() {
     local record
     while IFS=$'\t' read -r record _; do
@@ -16,7 +16,7 @@ _selvane_words() {
     mapfile -t -O "${#COMPREPLY[@]}" COMPREPLY < <(compgen -W "$*" -- "$cur")
 }
 
-# PART=MODE; readline takes "=" for the end of a word, so after it only the mode is offered.
+# PART=MODE: readline ends a word at "=", so after it only the mode is offered.
 _selvane_modes() {
     local part=${cur%%=*}
     if [[ $cur != *=* ]]; then

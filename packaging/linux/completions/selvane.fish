@@ -3,20 +3,20 @@
 #
 # fish completion for selvane
 
-# The words before the one that is typed, after the program's name.
+# The words after the program's name and before the one being typed.
 function __selvane_words
     set -l words (commandline -opc)
     set -e words[1]
     printf '%s\n' $words
 end
 
-# Whether the command is one of those named and has so many arguments already.
+# Whether the command is one of those named and already has this many arguments.
 function __selvane_argument -a count
     set -l words (__selvane_words)
     test (count $words) -eq (math $count + 1); and contains -- $words[1] $argv[2..-1]
 end
 
-# Records with their first two fields: what is offered, and what describes it.
+# The first two fields of records: the completion and its description.
 function __selvane_profiles
     selvane list 2>/dev/null | string replace -r '^([^\t]*\t[^\t]*).*' '$1'
 end
