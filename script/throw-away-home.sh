@@ -2,11 +2,11 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash
 #
-# To be sourced: runs Selvane in a throw-away home, away from the user's own files and applications.
+# Source this file to run Selvane in a throw-away home, away from the user's own files and applications.
 
 home= # the throw-away home, once there is one
 
-# The fourth field behind the process's name is the session it runs in.
+# The session is the fourth field after the process's name.
 sessionOf() {
     local stat
     read -r stat 2>/dev/null <"/proc/$1/stat" || return 0
@@ -15,8 +15,8 @@ sessionOf() {
     echo "${4:-}"
 }
 
-# What the tour has opened: processes with an executable in its home, or with its home and a session of
-# their own, which this script's other children don't have.
+# What the tour has opened: processes with an executable in its home, or with its home and a session of their
+# own, which this script's other children don't have.
 openProcesses() {
     local entry pid mine
     mine=$(sessionOf $$)
@@ -39,7 +39,7 @@ waitUntil() {
     return 1
 }
 
-# Ends whatever was opened and removes the home; with SELVANE_DEMO_KEEP=1 the home stays.
+# Ends whatever was opened and removes the home, unless SELVANE_DEMO_KEEP=1 is set.
 leaveThrowAwayHome() {
     local status=$? pid
     trap '' INT TERM
@@ -55,7 +55,7 @@ leaveThrowAwayHome() {
     exit "$status"
 }
 
-# Makes the home and lets everything below look there. An installed Claude Desktop stays in sight.
+# Creates the home and makes everything after this use it. An installed Claude Desktop stays visible.
 enterThrowAwayHome() {
     trap leaveThrowAwayHome EXIT
     trap 'exit 130' INT
@@ -70,8 +70,8 @@ enterThrowAwayHome() {
     export LC_ALL=C.UTF-8 # unzip and friends print names with accents as they are
 }
 
-# A small program that behaves as Claude Desktop does as far as Selvane can see, installed as an
-# application folder with a desktop entry. It hides a real one, and needs no display.
+# Installs a small program that behaves like Claude Desktop as far as Selvane can see, as an application folder
+# with a desktop entry. It hides a real Claude Desktop and needs no display.
 installStandIn() {
     local folder=$home/.local/lib/claude-desktop
     unset DISPLAY WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS
@@ -88,7 +88,7 @@ Terminal=false
 END
 }
 
-# Copies of Claude Desktop that Selvane takes for copies of this home, by their process ids.
+# The process ids of the copies of Claude Desktop that, according to Selvane, belong to this home.
 openCopies() {
     selvane desktop-status | sed -n "s|^aperto pid=\([0-9]*\)\tdati=$home/.*|\1|p"
 }
