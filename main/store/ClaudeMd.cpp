@@ -96,7 +96,7 @@ void ProfileStore::changeClaudeMd(ShareMode mode, const Profile& profile, const 
             extendTemplate(source, header && header->begin == 0 ? ownText.substr(header->size) : ownText));
         break;
     case ShareMode::separate: {
-        // If the source's rules can't be read, a profile without rules stays without.
+        // Unreadable source rules count as none. If there are none, a profile without rules stays without.
         const auto sourceText = m_files.readIfPossible(origin);
         if (!m_files.exists(own) && !sourceText)
             break;
