@@ -19,7 +19,7 @@ class SaveDialog : public QObject {
 public:
     using QObject::QObject;
 
-    /// Shows the dialog for `parent`, which may be null. Always emits exactly one of the signals, later. A
+    /// Shows the dialog for `parent`, which may be null. Emits exactly one of the signals, always later. A
     /// new call drops the question that is still open, which then gets no answer.
     virtual void ask(const QWindow* parent, const QString& title, const QString& folder,
                      const QString& name) = 0;
