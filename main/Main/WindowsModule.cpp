@@ -12,10 +12,10 @@
 namespace selvane {
 namespace {
 
-// The border to the module: plain types and no exception cross it.
+// The module's interface: only plain types cross it, and no exceptions.
 using RunFunction = int (*)(int argc, char** argv) noexcept;
 using FailFunction = void (*)(void* context, const char* message) noexcept;
-/// Returns whether it succeeded; the reason of a failure goes to `fail`.
+/// Returns whether it succeeded; if not, passes the reason to `fail`.
 using RenderFunction = bool (*)(const char* folder, FailFunction fail, void* context) noexcept;
 
 } // namespace

@@ -10,7 +10,7 @@
 
 namespace selvane {
 
-/// The data folders of Claude Desktop that are known: the normal one and those of the accounts.
+/// The known data folders of Claude Desktop: the normal one and one per account.
 class DataFolders {
 public:
     /// `accounts` are folder names in `accountsFolder`.

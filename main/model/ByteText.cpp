@@ -45,7 +45,7 @@ std::size_t sequenceLength(std::string_view bytes) {
     if (first < 0xC2 || first > 0xF4)
         return 0;
     const std::size_t length = first < 0xE0 ? 2 : first < 0xF0 ? 3 : 4;
-    // The second byte excludes overlong forms, surrogates and what lies beyond U+10FFFF.
+    // The second byte rules out overlong forms, surrogates and anything beyond U+10FFFF.
     const std::uint8_t second = byteAt(bytes, 1);
     const int lowest = first == 0xE0 ? 0xA0 : first == 0xF0 ? 0x90 : 0x80;
     const int highest = first == 0xED ? 0x9F : first == 0xF4 ? 0x8F : 0xBF;

@@ -9,10 +9,10 @@
 
 namespace selvane {
 
-/// Length of the well-formed UTF-8 sequence at the start of `bytes`; 0 when there is none.
+/// Length of the well-formed UTF-8 sequence at the start of `bytes`; 0 if there is none.
 std::size_t sequenceLength(std::string_view bytes);
 bool isUtf8(std::string_view bytes);
-/// `bytes` with U+FFFD for each that is no part of well-formed UTF-8.
+/// `bytes` with U+FFFD for each byte that isn't part of well-formed UTF-8.
 std::string repaired(std::string_view bytes);
 
 /// JSON text is UTF-8, but file names are bytes. These two convert any bytes to UTF-8 and back without loss.

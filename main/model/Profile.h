@@ -34,7 +34,8 @@ struct Profile {
     /// `none` for a component without an entry, whatever its default mode is.
     ShareMode mode(Component component) const;
     std::set<std::string> excluded(Component component) const;
-    std::filesystem::path url(Component component) const; ///< where the component lies, there or not
+    std::filesystem::path
+    url(Component component) const; ///< where the component is, whether it exists or not
 
     bool operator==(const Profile&) const = default;
 };

@@ -13,7 +13,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-/// Thrown inside this file by a record that can't be used, and turned into "nothing" at its edge.
+/// Thrown by an unusable record, caught in this file and turned into "nothing".
 struct InvalidRecord {};
 
 std::string iso8601(Timestamp time) {

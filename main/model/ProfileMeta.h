@@ -37,8 +37,8 @@ struct ProfileMeta {
 /// The record as an object with sorted keys and dates like 2025-03-01T09:30:00Z.
 nlohmann::ordered_json toJson(const ProfileMeta& meta);
 
-/// Reads a record. Keys other than "name" may be missing or null, unknown ones are ignored; nothing when the
-/// value is no object, has no name, or holds a known key of the wrong type or with an invalid value.
+/// Reads a record. Keys other than "name" may be missing or null; unknown keys are ignored. Returns nothing
+/// if the value is no object, has no name, or gives a known key a wrong type or an invalid value.
 std::optional<ProfileMeta> profileMeta(const nlohmann::ordered_json& record);
 
 } // namespace selvane

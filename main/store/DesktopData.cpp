@@ -105,7 +105,7 @@ std::optional<ClaudeApp::Instance> ProfileStore::instance(const Profile& usingAc
 bool ProfileStore::runs(const ClaudeApp::Instance& instance, const Profile& profile) const {
     if (!instance.isConfigKnown)
         return false;
-    // A copy started by hand has no configuration folder of its own: it uses the built-in profile's.
+    // A copy without a configuration folder, such as one started by hand, uses the built-in profile's.
     const std::string config = instance.config.value_or(normalizedPath(m_defaultDir));
     return config == normalizedPath(profile.configDir);
 }

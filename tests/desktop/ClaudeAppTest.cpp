@@ -101,7 +101,7 @@ TEST(ClaudeApp, launch_EachKindOfProfile_PassesWhatItNeeds) {
                           {".claude-profiles/.desktop-data/.live", "lavoro"},
                           {".config/Claude/claude-code-sessions/a/b", "/"},
                           {".claude-profiles/lavoro/.pending-sessions/local_1.json", "{}"}});
-    home.workspace.whenOpening = [&] { // what is prepared is ready by then
+    home.workspace.whenOpening = [&] { // everything is prepared by now
         EXPECT_TRUE(isLocked(home.store.desktopStore())) << "the next launch must find this copy";
         EXPECT_TRUE(fs::is_symlink(own.configDir / "skills/uno"));
         EXPECT_EQ(readFile(data / "claude-code-sessions/a/b/local_1.json"), "{}")

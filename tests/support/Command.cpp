@@ -126,7 +126,7 @@ Outcome CommandHome::execute(const std::vector<std::string>& arguments) const {
 Outcome CommandHome::runUnprivileged(const std::vector<std::string>& arguments) const {
     if (geteuid() != 0)
         return execute(arguments);
-    // The build tree can lie where another user has no way in.
+    // Another user may have no access to the build tree.
     const TemporaryFolder programs;
     fs::permissions(programs.path(), fs::perms(0755));
     const fs::path built = SELVANE_EXECUTABLE;

@@ -45,12 +45,12 @@ public:
 
     /// Runs a command in the test itself. None that draws.
     Outcome run(const std::vector<std::string>& arguments) const;
-    /// The output of a run that must succeed.
+    /// The output of a run, which must succeed.
     std::string output(const std::vector<std::string>& arguments) const;
 
     /// Runs the real executable with these arguments; it is ended when it takes over a minute.
     Outcome execute(const std::vector<std::string>& arguments) const;
-    /// The same as a user without privileges, to whom the whole home is handed over first.
+    /// The same as an unprivileged user, who is given the whole home first.
     Outcome runUnprivileged(const std::vector<std::string>& arguments) const;
     /// Runs a /bin/sh script in which "$selvane" is the executable.
     Outcome shell(const std::string& script) const;
@@ -59,7 +59,7 @@ private:
     Outcome runProgram(const std::vector<std::string>& words) const;
 
     std::filesystem::path m_path;
-    TemporaryFolder m_session; ///< its runtime folder
+    TemporaryFolder m_session; ///< the session's runtime folder
 };
 
 } // namespace selvane::test

@@ -32,7 +32,7 @@ inline void makeFile(const std::filesystem::path& file, const std::string& text,
     kFiles.setMode(file, mode);
 }
 
-/// The code that `operation` fails with.
+/// The error code with which `operation` fails.
 template <typename Operation>
 int failure(Operation operation) {
     try {
@@ -43,7 +43,7 @@ int failure(Operation operation) {
     return 0;
 }
 
-/// Whether `check` holds for a user without privileges.
+/// Whether `check` holds for an unprivileged user.
 template <typename Check>
 bool holdsUnprivileged(const TemporaryFolder& folder, Check check) {
     constexpr uid_t kNobody = 65534;
@@ -54,7 +54,7 @@ bool holdsUnprivileged(const TemporaryFolder& folder, Check check) {
     EXPECT_EQ(::lchown(folder.path().c_str(), kNobody, kNobody), 0);
     const pid_t child = ::fork();
     if (child == 0) {
-        // An exception must end the child, which would go on with the other tests.
+        // An exception must end the child, or it would continue with the other tests.
         const auto holds = [&]() noexcept { return check(); };
         ::_exit(::setgid(kNobody) == 0 && ::setuid(kNobody) == 0 && holds() ? 0 : 1);
     }

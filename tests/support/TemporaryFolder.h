@@ -31,7 +31,7 @@ public:
     static void remove(const std::filesystem::path& folder) {
         if (!folder.filename().string().starts_with(kPrefix))
             throw std::logic_error("no temporary folder: " + folder.string());
-        std::error_code ignored; // what can't be removed is no fault of what was tested
+        std::error_code ignored; // failing to remove something isn't the test's fault
         makeWritable(folder);
         std::filesystem::remove_all(folder, ignored);
     }
@@ -42,7 +42,7 @@ public:
 private:
     static inline const std::string kPrefix = "selvane-test-";
 
-    /// Each folder before it is listed: only then can the ones inside be reached.
+    /// Changes each folder before listing it: only then can the folders inside be reached.
     static void makeWritable(const std::filesystem::path& folder) {
         namespace fs = std::filesystem;
         std::error_code ignored;

@@ -7,7 +7,7 @@ import QtQuick
 
 /// The measures of buttons, fields, menus and other controls.
 Measures {
-    readonly property real rowTarget: scaled(28) ///< at least, for whatever can be pressed
+    readonly property real rowTarget: scaled(28) ///< the least height of anything that can be pressed
     readonly property real listRow: scaled(40) ///< of a check box in a list
     readonly property real pathRow: scaled(52) ///< with a path below the text
     readonly property real switchRow: scaled(24) ///< at least

@@ -50,7 +50,7 @@ Popover {
 
         width: menu.explanations.length > 0 ? Theme.controls.menuWidth - 2 * menu.padding
                                             : Math.max(menu.narrowest, Theme.controls.modeWidth) - 2 * menu.padding
-        // No binding: how high the content is depends on how much of it is made.
+        // Not a binding: the content height depends on how many rows exist.
         onContentHeightChanged: menu.fit()
         model: menu.labels
         focus: true

@@ -15,8 +15,8 @@ Pressable {
     property string text
     property string symbol
     property int size: GhostButton.Medium ///< Large: beside a confirm button
-    property bool bare: false ///< without a border at rest
-    property bool soft: false ///< the label is as quiet as the icon
+    property bool bare: false ///< no border at rest
+    property bool soft: false ///< the label is as faint as the icon
     property real gap: small ? Theme.space6 : Theme.space8 ///< from the icon to the label
 
     readonly property bool iconOnly: text === ""

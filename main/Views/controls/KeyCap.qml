@@ -63,7 +63,7 @@ Rectangle {
                     id: caption
 
                     anchors.centerIn: parent
-                    // A drawn key has no letters: looking for a face that has them takes long.
+                    // A drawn key has no text: looking for a font that has the character takes long.
                     look: Theme.type.keyCap
                     text: part.icon === "" ? part.modelData : ""
                     color: Theme.textSoft

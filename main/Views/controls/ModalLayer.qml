@@ -15,7 +15,7 @@ FocusScope {
     property string title ///< accessible name
     property bool confirmEnabled: true
     property bool cancellable: true
-    property Item firstFocus: null ///< else the first control
+    property Item firstFocus: null ///< otherwise the first control
     property real plateWidth: Theme.sheets.alertWidth
     property real plateHeight: 0
     property Item previousFocus: null

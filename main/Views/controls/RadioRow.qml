@@ -6,8 +6,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// One of a few choices: its text, perhaps a symbol behind it, and an explanation below. Those with the same
-/// parent are one stop of the Tab key, and the arrow keys go round among them and choose.
+/// One of a few choices: its text, perhaps followed by a symbol, and an explanation below. Those with the
+/// same parent are one Tab stop; the arrow keys go round among them and choose.
 Pressable {
     id: row
 

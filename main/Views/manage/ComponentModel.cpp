@@ -165,7 +165,7 @@ QString ComponentModel::openLabel() const {
     const bool isText = what == ComponentKind::memory || what == ComponentKind::file;
     if (m_content.exists)
         return isText || what == ComponentKind::servers ? tr("Apri") : QString();
-    // A new file would take the place of a link that leads nowhere.
+    // Creating a file would replace a dangling link.
     return isText && m_content.isRead && !m_content.linkTarget ? tr("Crea") : QString();
 }
 

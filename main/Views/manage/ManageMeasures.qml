@@ -29,7 +29,7 @@ Measures {
     // ---- Detail
 
     readonly property real detailMargin: 24
-    readonly property real narrowDetail: scaled(680) ///< below it the narrow layout applies
+    readonly property real narrowDetail: scaled(680) ///< below this width, the narrow layout applies
     readonly property real toolBarHeight: scaled(48)
     readonly property real toolBarInset: 14
     readonly property real toolBarInsetNarrow: 20

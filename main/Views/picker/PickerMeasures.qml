@@ -5,7 +5,8 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
-/// The measures of the picker and its tiles. What holds text grows with it; the title is large enough as it is.
+/// The measures of the picker and its tiles. Whatever holds text grows with it, except for the title, which
+/// is large enough.
 Measures {
     id: measures
 

@@ -5,7 +5,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
-/// Where the parts of the picker lie, from the top; `height` is the window's that they are drawn for.
+/// The positions of the picker's parts, from the top. `height` is the window height they are designed for.
 Measures {
     required property real margin
     required property real barTop

@@ -15,7 +15,7 @@ Item {
     property string label ///< accessible name
     property int columns: 1
     property real rowHeight: Theme.controls.rowTarget
-    property bool inList: false ///< rows of a well, with lines between them
+    property bool inList: false ///< rows in a well, with lines between them
 
     property alias view: view
     readonly property real contentHeight: Math.ceil(view.count / columns) * rowHeight

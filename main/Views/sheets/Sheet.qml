@@ -17,7 +17,7 @@ ModalLayer {
 
     readonly property real fixedHeight: header.height + footer.height
     readonly property real highest: height - 2 * Theme.sheets.margin
-    /// How high the body can be before it scrolls.
+    /// How tall the body can be before it scrolls.
     readonly property real bodyRoom: highest - fixedHeight - pane.bottomMargin
 
     plateWidth: Theme.sheets.newProfileWidth

@@ -13,9 +13,9 @@ Measures {
     readonly property real importWidth: 480
     readonly property real sessionImportWidth: 560
     readonly property real backupWidth: 480
-    readonly property real titleGap: 10 ///< from the title of a section to what it heads
-    readonly property real checklistRows: 7.5 ///< at most, of a list among others
-    readonly property int checklistLeast: 3 ///< rows, of a list that gives way
+    readonly property real titleGap: 10 ///< from a section's title to its content
+    readonly property real checklistRows: 7.5 ///< the most rows shown of a list among others
+    readonly property int checklistLeast: 3 ///< the fewest rows shown of a list that shrinks
     readonly property real importRows: 5.5
     readonly property real sessionListHeight: 280
     readonly property real sessionSourceWidth: 200

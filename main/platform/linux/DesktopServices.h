@@ -27,9 +27,9 @@ using EntryReceiver = void (*)(void* context, const DesktopEntryView& entry) noe
 struct DesktopServices {
     /// 0, or an errno value (EIO for what has none), and the system's own message goes to `message`.
     int (*trash)(const char* path, ByteSink message, void* context) noexcept;
-    /// Whether a desktop entry of that id (without ".desktop") is installed; hands it to `found` if so.
+    /// Whether a desktop entry with this id (without ".desktop") is installed. If so, passes it to `found`.
     bool (*desktopEntry)(const char* id, EntryReceiver found, void* context) noexcept;
-    /// Raises a window of that process on an X11 display; false when there is none.
+    /// Raises a window of this process on an X11 display; false if there is none.
     bool (*raiseWindow)(std::int32_t pid) noexcept;
 };
 

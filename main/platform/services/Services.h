@@ -11,7 +11,7 @@
 /// either direction: all functions and callbacks are `noexcept` (see Received.h).
 namespace selvane {
 
-/// Receives bytes; `context` is the caller's own.
+/// Receives bytes; `context` belongs to the caller.
 using ByteSink = void (*)(void* context, const char* bytes, std::size_t count) noexcept;
 
 /// The field of a session record that a text belongs to.
@@ -36,8 +36,8 @@ struct Services {
 
     void* (*newSessionReader)() noexcept;
     void (*deleteSessionReader)(void* reader) noexcept;
-    /// Whether the file is a readable JSON object with a text under "sessionId"; if so, its known fields go
-    /// to the sink.
+    /// Whether the file is a readable JSON object with a string under "sessionId". If so, passes its known
+    /// fields to the sink.
     bool (*readSession)(void* reader, const char* file, const SessionRecordSink& sink) noexcept;
     /// `isStrictJson`.
     bool (*isStrictJson)(const char* bytes, std::size_t size) noexcept;

@@ -26,7 +26,7 @@ std::string folded(std::string_view name);
 /// `text` without Unicode white space at either end, including line ends.
 std::string_view trimmed(std::string_view text);
 
-/// `text` with every control character replaced by U+FFFD, so that it stays on one line and in one field.
+/// `text` with U+FFFD for every control character, so that it stays on one line and in one field.
 std::string singleLine(std::string_view text);
 
 /// `text` between double quotes, so that a shell takes it for one word that means just itself.

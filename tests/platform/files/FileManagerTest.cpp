@@ -58,7 +58,7 @@ std::map<std::string, std::string> picture(const fs::path& top) {
     return result;
 }
 
-/// A folder with everything a folder can hold.
+/// A folder with everything that a folder can contain.
 void makeTree(const fs::path& top) {
     kFiles.createFolder(top);
     makeFile(top / "script", "#!/bin/sh\n", 0750);
@@ -277,7 +277,7 @@ TEST(FileManager, ReadsRegularFilesOnly) {
     EXPECT_EQ(kFiles.entriesIfReadable(folder / "fifo"), Names());
 }
 
-/// Tells which of the names in some folders were taken and given up, in that order.
+/// Records which names in some folders were taken and given up, in order.
 class NameWatch {
 public:
     explicit NameWatch(const std::vector<fs::path>& folders) {

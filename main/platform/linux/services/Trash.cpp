@@ -34,8 +34,8 @@ int errnoOf(const GError& error) {
 } // namespace
 
 int trash(const char* path, ByteSink message, void* context) noexcept {
-    // The local implementation itself: the default one may first start the desktop's virtual file system
-    // over D-Bus, which a file on a local disk does not need.
+    // Use the local implementation directly: the default one may first start the desktop's virtual file
+    // system over D-Bus, which a local file doesn't need.
     GFile* const file = g_vfs_get_file_for_path(g_vfs_get_local(), path);
     GError* error = nullptr;
     int result = 0;
