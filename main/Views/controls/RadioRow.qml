@@ -29,7 +29,7 @@ Pressable {
     }
 
     label: text
-    tabStop: checked
+    tabStop: checked || activeFocus
     answersReturn: false
     takesFocusOnClick: true
     implicitWidth: texts.x + Math.ceil(Math.max(caption.implicitWidth + symbolWidth, explanation.implicitWidth))
