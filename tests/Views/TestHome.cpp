@@ -3,6 +3,8 @@
 
 #include "Views/TestHome.h"
 
+#include <QAccessible>
+
 #include "AppModel/FakeBridge.h"
 #include "support/Home.h"
 #include "support/RunningProcess.h"
@@ -150,6 +152,10 @@ QVariantMap TestHome::asked() const {
             {"terminated", count(workspace.terminated)},
             {"forced", count(workspace.forced)},
             {"activated", count(workspace.activated)}};
+}
+
+void TestHome::act(QObject* control, const QString& action) {
+    QAccessible::queryAccessibleInterface(control)->actionInterface()->doAction(action);
 }
 
 } // namespace selvane::test

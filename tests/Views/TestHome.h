@@ -57,6 +57,9 @@ public:
     /// number of "launches", "terminated", "forced" and "activated" copies of Claude Desktop.
     Q_INVOKABLE QVariantMap asked() const;
 
+    /// Does with a control what assistive technology can do with it, such as "Toggle".
+    Q_INVOKABLE static void act(QObject* control, const QString& action);
+
 signals:
     void begun();
 

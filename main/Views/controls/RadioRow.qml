@@ -41,6 +41,7 @@ Pressable {
     Accessible.checkable: true
     Accessible.checked: checked
     Accessible.description: detail
+    Accessible.onToggleAction: row.clicked()
 
     onClicked: chosen()
     Keys.onUpPressed: chooseFrom(-1)

@@ -89,6 +89,17 @@ Item {
             compare(home.app.notice, "1 sessioni verranno aggiunte dopo il primo login")
         }
 
+        function test_radioButtonIsChosenByAssistiveTechnology(): void {
+            openSheet(newProfile, { initialSource: "default" })
+            tabTo("Stesso account di «Principale»")
+            const [same, separate] = itemsOf(sheet).filter(item => item instanceof RadioRow)
+            home.act(separate, "Toggle")
+            verify(shows("Porta le sessioni del tab Code di «Principale»"))
+            verify(!same.checked && separate.checked)
+            home.act(separate, "Toggle")
+            verify(!same.checked && separate.checked)
+        }
+
         function test_sourceThatGoesAwayIsLeft(): void {
             home.makeProfile("Lavoro")
             openSheet(newProfile, { initialSource: "lavoro" })
