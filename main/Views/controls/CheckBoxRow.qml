@@ -7,11 +7,10 @@ import QtQuick
 import Selvane
 
 /// A check box with its text and a path below. In a list, the whole row can be clicked.
-Pressable {
+Choice {
     id: row
 
     required property string text
-    required property bool checked
     property string detail
     property bool inList: false ///< lights up under the pointer, with its content inset from the edges
     property bool fadesUnchecked: false
@@ -19,18 +18,11 @@ Pressable {
     signal toggled(bool checked)
 
     label: text
-    answersReturn: false
-    takesFocusOnClick: true
     implicitWidth: texts.x + Math.max(caption.implicitWidth, path.implicitWidth)
     implicitHeight: detail !== "" ? Theme.controls.pathRow : inList ? Theme.controls.listRow
                                                                     : Theme.controls.rowTarget
-    opacity: enabled ? 1 : Theme.disabledOpacity
 
-    Accessible.role: Accessible.CheckBox
-    Accessible.checkable: true
-    Accessible.checked: checked
     Accessible.description: detail
-    Accessible.onToggleAction: row.clicked()
 
     onClicked: toggled(!checked)
 

@@ -8,11 +8,10 @@ import Selvane
 
 /// One of a few choices: its text, perhaps followed by a symbol, and an explanation below. Those with the
 /// same parent are one Tab stop; the arrow keys go round among them and choose.
-Pressable {
+Choice {
     id: row
 
     required property string text
-    required property bool checked
     property string detail
     property string symbol
     readonly property real textLeft: texts.x
@@ -30,18 +29,12 @@ Pressable {
 
     label: text
     tabStop: checked || activeFocus
-    answersReturn: false
-    takesFocusOnClick: true
     implicitWidth: texts.x + Math.ceil(Math.max(caption.implicitWidth + symbolWidth, explanation.implicitWidth))
     implicitHeight: Math.max(Theme.controls.rowTarget, texts.implicitHeight)
-    opacity: enabled ? 1 : Theme.disabledOpacity
 
     Accessible.role: Accessible.RadioButton
     Accessible.focusable: true
-    Accessible.checkable: true
-    Accessible.checked: checked
     Accessible.description: detail
-    Accessible.onToggleAction: row.clicked()
 
     onClicked: chosen()
     Keys.onUpPressed: chooseFrom(-1)

@@ -6,24 +6,14 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A switch. It shows `checked` and asks for the other value; the owner of the value changes it.
-Pressable {
+/// A switch, without its text.
+Choice {
     id: toggle
-
-    required property bool checked
 
     signal toggled(bool checked)
 
-    answersReturn: false
-    takesFocusOnClick: true
     implicitWidth: track.width
     implicitHeight: Theme.controls.rowTarget
-    opacity: enabled ? 1 : Theme.disabledOpacity
-
-    Accessible.role: Accessible.CheckBox
-    Accessible.checkable: true
-    Accessible.checked: checked
-    Accessible.onToggleAction: toggle.clicked()
 
     onClicked: toggled(!checked)
 
