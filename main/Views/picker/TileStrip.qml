@@ -31,7 +31,9 @@ ListView {
         strip.menu.openAt(tile, x, y, 0)
     }
     readonly property real firstX: originX - leftMargin
-    readonly property real lastX: Math.max(firstX, originX + contentWidth + rightMargin - width)
+    /// What the list says of its own width is a guess until it has made its last tile.
+    readonly property real tilesWidth: count * (Theme.picker.tileWidth + Theme.cardGap) - Theme.cardGap
+    readonly property real lastX: Math.max(firstX, originX + tilesWidth + rightMargin - width)
 
     function scrollTo(x: real): void {
         scrolling.to = Math.max(strip.firstX, Math.min(strip.lastX, x))
