@@ -23,8 +23,12 @@ Environment homeEnvironment(const fs::path& home, Home::Processes processes) {
     return environment;
 }
 
+/// It is emptied without asking, hence only in a home that the tests have made for themselves.
 fs::path trashFolder() {
-    return fs::path(std::getenv("HOME")) / ".local/share/Trash";
+    const char* const home = std::getenv("HOME");
+    if (home == nullptr || !TemporaryFolder::isOne(home))
+        throw std::logic_error("the tests have no home of their own");
+    return fs::path(home) / ".local/share/Trash";
 }
 
 } // namespace

@@ -26,10 +26,15 @@ public:
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
     ~TemporaryFolder() { remove(m_path); }
 
+    /// Whether a folder has the name of one.
+    static bool isOne(const std::filesystem::path& folder) {
+        return folder.filename().string().starts_with(kPrefix);
+    }
+
     /// Removes one whatever its permissions, and those of the folders inside, are. Throws for any other
     /// folder.
     static void remove(const std::filesystem::path& folder) {
-        if (!folder.filename().string().starts_with(kPrefix))
+        if (!isOne(folder))
             throw std::logic_error("no temporary folder: " + folder.string());
         std::error_code ignored; // failing to remove something isn't the test's fault
         makeWritable(folder);
