@@ -15,6 +15,7 @@
 #include <QTimer>
 
 #include <cstdlib>
+#include <utility>
 
 #include "AppModel/FakeBridge.h"
 #include "Views/PictureHome.h"
@@ -37,11 +38,27 @@ void noteWarnings(QtMsgType type, const QMessageLogContext& /*context*/, const Q
     hasWarned = hasWarned || (type != QtDebugMsg && !isUsual);
 }
 
-/// Waits for results from other threads, for layout and for animations.
-void settle() {
-    QEventLoop loop;
-    QTimer::singleShot(500, &loop, &QEventLoop::quit);
-    loop.exec();
+/// What a window shows once that has stayed the same for a moment: by then what is read on other threads has
+/// arrived, and layout and fades have come to their end.
+QImage settled(QQuickWindow& window) {
+    constexpr int kMilliseconds = 150;
+    QImage before;
+    QImage now = window.grabWindow();
+    while (now != before) {
+        QEventLoop loop;
+        QTimer::singleShot(kMilliseconds, &loop, &QEventLoop::quit);
+        loop.exec();
+        before = std::exchange(now, window.grabWindow());
+    }
+    return now;
+}
+
+/// An object whose property "theme" is the one of this engine.
+std::unique_ptr<QObject> themeOf(QQmlEngine& engine) {
+    QQmlComponent component(&engine);
+    component.setData("import QtQuick\nimport Selvane\nQtObject { readonly property QtObject theme: Theme }",
+                      {});
+    return std::unique_ptr<QObject>(component.create());
 }
 
 /// The application with its windows for one home.
@@ -50,13 +67,17 @@ public:
     Scene(Home& home, const QDir& folder)
         : m_folder(folder), m_preferences(QString::fromStdString((home / "preferences.conf").string())),
           m_updates(nullptr), model(home.store, home.claude, m_bridge, m_preferences),
-          launcher(m_engine, model, m_updates) {}
+          launcher(m_engine, model, m_updates), m_theme(themeOf(m_engine)) {
+        setTheme("reducedMotion", true); // nothing may move for ever
+    }
 
     void take(LauncherApp::WindowName name, const QString& picture) {
-        settle();
         const QString file = m_folder.filePath(picture + ".png");
-        if (!launcher.window(name)->grabWindow().save(file))
+        if (!settled(*launcher.window(name)).save(file))
             qFatal("%s can't be written", qPrintable(file));
+    }
+    void setTheme(const char* property, const QVariant& value) {
+        m_theme->property("theme").value<QObject*>()->setProperty(property, value);
     }
     void resize(LauncherApp::WindowName name, const QSize& size) { launcher.window(name)->resize(size); }
 
@@ -83,6 +104,9 @@ private:
 public:
     AppModel model;
     LauncherApp launcher;
+
+private:
+    const std::unique_ptr<QObject> m_theme;
 };
 
 constexpr auto kPicker = LauncherApp::Picker;
@@ -159,15 +183,10 @@ void takeFeedback(Scene& scene) {
 
 /// Both windows with text one and a half times as large.
 void takeLargeText(Scene& scene) {
-    QQmlComponent component(qmlEngine(scene.launcher.window(kPicker)));
-    component.setData("import QtQuick\nimport Selvane\nQtObject { readonly property QtObject theme: Theme }",
-                      {});
-    const std::unique_ptr<QObject> holder(component.create());
-    auto* theme = holder->property("theme").value<QObject*>();
-    theme->setProperty("textScale", 1.5);
+    scene.setTheme("textScale", 1.5);
     scene.take(kPicker, "picker-large-text");
     scene.take(kManage, "manage-large-text");
-    theme->setProperty("textScale", 1);
+    scene.setTheme("textScale", 1);
 }
 
 int takeAll(const QDir& folder, const std::string& place) {
