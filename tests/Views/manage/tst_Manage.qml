@@ -35,6 +35,11 @@ Item {
             home.begin()
             home.app.closeAfterLaunch = false
         }
+        /// Lets what layout and models owe the next frame be done.
+        function settle(): void {
+            scene.Window.window.update()
+            waitForRendering(scene)
+        }
         function show(profileId: string): void {
             failOnWarning(/./)
             home.app.select(profileId)
@@ -42,7 +47,7 @@ Item {
             view.forceActiveFocus()
             if (profileId !== "")
                 tryVerify(() => list("Skill").component.count !== "")
-            waitForRendering(scene, 200)
+            settle()
         }
         function all(accepts: var, item = view): var {
             if (!item.visible)
@@ -81,7 +86,7 @@ Item {
         }
         /// Checks that only few rows exist, that they cover the visible part, and that each is in its place.
         function checkRows(items: ItemList, names: var): void {
-            waitForRendering(scene, 200)
+            settle()
             const rows = all(item => item instanceof ItemRow, items)
             verify(rows.length < 60)
             for (const row of rows) {
@@ -193,7 +198,7 @@ Item {
             verify(rows().length < 40)
             const place = selected().ListView.view.contentY
             home.app.reload()
-            waitForRendering(scene, 200)
+            settle()
             compare(selected().name, "p199")
             compare(selected().ListView.view.contentY, place)
             press(Qt.Key_Menu, Qt.Key_Down, Qt.Key_Return)

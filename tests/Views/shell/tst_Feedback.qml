@@ -40,7 +40,7 @@ Item {
 
                 app: home.app
                 isKey: true
-                noticeDuration: 800
+                noticeDuration: 400
             }
         }
     }
@@ -72,11 +72,11 @@ Item {
             home.app.sync("lavoro")
             compare(notice(key), "Già sincronizzato")
             compare(notice(other), "")
-            wait(500)
+            wait(250)
             const again = Date.now()
             home.app.sync("lavoro")
-            wait(500) // longer than the first notice would have stayed
-            if (Date.now() - again < 700)
+            wait(250) // longer than the first one would have stayed
+            if (Date.now() - again < 350)
                 compare(notice(key), "Già sincronizzato")
             tryVerify(() => notice(key) === "")
             compare(home.app.notice, "")
