@@ -3,9 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <thread>
+
 #include "model/LauncherError.h"
 #include "support/Home.h"
-#include "support/WaitWatch.h"
 
 namespace selvane {
 namespace {
@@ -252,10 +254,14 @@ TEST_F(Links, remove_ThenImport_ExcludesAndTakesBack) {
 }
 
 TEST_F(Links, sync_DeletedWhileItWaits_LeavesNothing) {
-    const WaitWatch watch(WaitWatch::For::lock,
-                          [&](const fs::path& folder) { fs::rename(folder, home / "cestino"); });
-    EXPECT_EQ(messageOf([&] { home.store.sync(profile); }),
-              "Il profilo \"Lavoro\" è stato eliminato nel frattempo");
+    std::optional<FolderLock> others(std::in_place, profile.configDir);
+    std::string message;
+    std::thread waiting([&] { message = messageOf([&] { home.store.sync(profile); }); });
+    std::this_thread::sleep_for(std::chrono::milliseconds(50)); // likely enough to have it wait
+    fs::rename(profile.configDir, home / "cestino");
+    others.reset();
+    waiting.join();
+    EXPECT_EQ(message, "Il profilo \"Lavoro\" è stato eliminato nel frattempo");
     EXPECT_FALSE(fs::exists(profile.configDir));
 }
 
