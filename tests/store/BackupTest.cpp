@@ -70,22 +70,22 @@ TEST(Backup, backup_SourcesElsewhere_KeepTheirAbsolutePath) {
     writeTree(away, {{"-conf/a", "a"},
                      {"root/.desktop-data/x/Cookies", "b"},
                      {"root/.desktop-data/x/Cache/c", "left out"}});
-    writeTree(home / "@dati", {{"@file", "c"}, {"Cache/c", "left out"}});
-    fs::create_directory_symlink(away / "-conf", home / "-link");
+    writeTree(home / "-dati", {{"@file", "c"}, {"Cache/c", "left out"}});
+    fs::create_directory_symlink(away / "-conf", home / "@link");
     const Tree before = treeOf(away);
     for (const char* options : {"ZIP", "ZIPOPT"}) {
         ProfileStore store({{"HOME", home.path},
                             {"CLAUDE_LAUNCHER_ROOT", home / "../away/root"},
-                            {"CLAUDE_LAUNCHER_DEFAULT_DIR", home / "-link"},
-                            {"CLAUDE_LAUNCHER_DESKTOP_DIR", home / "@dati"},
+                            {"CLAUDE_LAUNCHER_DEFAULT_DIR", home / "@link"},
+                            {"CLAUDE_LAUNCHER_DESKTOP_DIR", home / "-dati"},
                             {options, "-m"}},
                            home.claude);
         Tree found = unpacked(store.backup(BackupScope::all(), home / "b.zip").archive);
         EXPECT_NE(found["LEGGIMI-backup.txt"].find("\n  " + (away / "root").string() + "\n"),
                   std::string::npos);
         found.erase("LEGGIMI-backup.txt");
-        EXPECT_EQ(found, (Tree{{"-link/a", "a"},
-                               {"@dati/@file", "c"},
+        EXPECT_EQ(found, (Tree{{"@link/a", "a"},
+                               {"-dati/@file", "c"},
                                {(away / "root/.desktop-data/x/Cookies").string().substr(1), "b"}}));
         EXPECT_EQ(treeOf(away), before) << "the user's own options for zip don't count";
     }
