@@ -124,6 +124,9 @@ TEST(Backup, backup_NotPossible_LeavesEverythingInPlace) {
     const Tree before = treeOf(home.path);
     for (const char* target : {"", "link", ".claude-profiles/", ".claude.json", "c.zip", "assente/b.zip"})
         EXPECT_NE(refusal(target), "") << target;
+    writeFile(fs::path(std::getenv("HOME")) / ".local/share/Trash", "no folder");
+    EXPECT_NE(refusal("b.zip"), "") << "the earlier archive can't go";
+    takeTrash();
     const RunningProcess copy({"--user-data-dir=" + data.string()}, {});
     EXPECT_EQ(refusal("b.zip"), "Per un backup affidabile Claude va chiuso: chiudilo e riprova.");
     EXPECT_EQ(treeOf(home.path), before);
