@@ -27,10 +27,15 @@ cd "$HOME"
 # Each asks one shell about all of these lines. It prints one offer a line, and END after those for one line.
 bash_offers() { bash --noprofile --norc "$here/offers.bash" "$@"; }
 zsh_offers() { zsh --no-rcs "$here/offers.zsh" "$@"; }
+# Since version 4, fish also tells of words that merely have the typed letters in this order, which it doesn't show.
 fish_offers() {
     # shellcheck disable=SC2016 # fish reads its variables
     fish -c 'test -z $completions; or source $completions/selvane.fish
-        for line in $argv; complete -C $line; echo END; end' "$@" | cut -f 1
+        for line in $argv
+            set -l word (string split " " -- $line)[-1]
+            complete -C $line | string match -r -- "^"(string escape --style=regex -- $word)".*"
+            echo END
+        end' "$@" | cut -f 1
 }
 
 lines=()
