@@ -81,9 +81,23 @@ bool Seen::isSameAs(const Seen& other) const {
     return std::string_view(m_object->parent.path) == other.m_object->parent.path;
 }
 
-bool Seen::is(AtspiStateType state) const {
+gint64 Seen::states() const {
     const Owned<AtspiStateSet> states(atspi_accessible_get_state_set(m_object.get()), &g_object_unref);
-    return atspi_state_set_contains(states.get(), state) != FALSE;
+    if (!states)
+        return 0;
+    // With its object at hand the set asks again at each look at it, and before every other question.
+    states->accessible = nullptr;
+    return states->states;
+}
+
+bool Seen::is(AtspiStateType state) const {
+    return (((m_states ? *m_states : states()) >> state) & 1) != 0;
+}
+
+Seen Seen::withStates() const {
+    Seen result = *this;
+    result.m_states = states();
+    return result;
 }
 
 bool Seen::canBePressed() const {
@@ -170,8 +184,11 @@ std::optional<Seen> RunningSelvane::activeWindow() const {
 
 std::vector<Seen> RunningSelvane::everything() const {
     const auto window = activeWindow();
-    std::vector<Seen> result = window ? window->withDescendants() : std::vector<Seen>{};
-    std::erase_if(result, [](const Seen& seen) { return !seen.is(ATSPI_STATE_SHOWING); });
+    std::vector<Seen> result;
+    for (const Seen& each : window ? window->withDescendants() : std::vector<Seen>{}) {
+        if (Seen seen = each.withStates(); seen.is(ATSPI_STATE_SHOWING))
+            result.push_back(std::move(seen));
+    }
     return result;
 }
 

@@ -26,6 +26,7 @@ public:
     std::string description() const;
     std::string text() const; ///< the contents of a field
     bool is(AtspiStateType state) const;
+    Seen withStates() const; ///< the same with its present states, which cost nothing to ask for from then on
     guint processId() const;
     bool isSameAs(const Seen& other) const;
     bool canBePressed() const;
@@ -36,7 +37,10 @@ public:
     friend std::ostream& operator<<(std::ostream& out, const Seen& seen);
 
 private:
+    gint64 states() const;
+
     std::shared_ptr<AtspiAccessible> m_object;
+    std::optional<gint64> m_states;
 };
 
 /// Selvane's windows, from start to end.
@@ -49,7 +53,8 @@ public:
     RunningSelvane& operator=(const RunningSelvane&) = delete;
     ~RunningSelvane();
 
-    /// Everything in the window with the keyboard, beginning with the window. Empty if there is none.
+    /// Everything that the window with the keyboard shows, itself first, with its states at this moment.
+    /// Nothing while there is none.
     std::vector<Seen> everything() const;
     /// Waits until an object with this role and name is shown.
     Seen find(AtspiRole role, const std::string& name) const;
