@@ -3,32 +3,25 @@
 
 #include "platform/json/SessionRecord.h"
 
-#include <cstdlib>
-#include <filesystem>
 #include <fstream>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+
+#include "support/TemporaryFolder.h"
 
 namespace selvane {
 namespace {
 
 class SessionRecordTest : public testing::Test {
 protected:
-    void SetUp() override {
-        std::string name = (std::filesystem::temp_directory_path() / "session-XXXXXX").string();
-        ASSERT_NE(mkdtemp(name.data()), nullptr);
-        m_folder = name;
-    }
-    void TearDown() override { std::filesystem::remove_all(m_folder); }
-
     std::optional<SessionRecord> read(std::string_view content) {
         const std::string file = m_folder / "local_1.json";
         std::ofstream(file, std::ios::binary) << content;
         return m_reader.read(file);
     }
 
-    std::filesystem::path m_folder;
+    const test::TemporaryFolder m_folder;
     SessionRecordReader m_reader;
 };
 
@@ -99,7 +92,7 @@ TEST_F(SessionRecordTest, readsRegularFilesOnly) {
     const std::filesystem::path fifo = m_folder / "local_fifo.json";
     ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
     EXPECT_FALSE(m_reader.read(fifo));
-    EXPECT_FALSE(m_reader.read(m_folder));
+    EXPECT_FALSE(m_reader.read(m_folder.path()));
     EXPECT_FALSE(m_reader.read(m_folder / "missing.json"));
     const std::filesystem::path huge = m_folder / "local_huge.json";
     std::ofstream(huge) << R"({"sessionId": "s"})";
