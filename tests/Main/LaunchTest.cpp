@@ -97,25 +97,6 @@ TEST_F(CommandLaunch, AnOpenAccountIsActivatedTakenOverAndGuarded) {
     waitUntil([&] { return pids().empty(); });
 }
 
-TEST_F(CommandLaunch, SessionsForAnOpenAccountWaitForItsNextLaunch) {
-    home.output({"create", "Lavoro"});
-    home.environment["STAND_IN_OPTIONS"] = "--stand-in-session=Ricerca";
-    quit(launch("default", normalData));
-    home.environment.erase("STAND_IN_OPTIONS");
-    const std::string session = home.output({"sessions", "default"});
-    EXPECT_NE(session.find("\tRicerca\t" + home.path().string() + "\tsolo voce\n"), std::string::npos)
-        << session;
-
-    const Json open = launch("lavoro", lavoroData);
-    EXPECT_EQ(home.output({"import-sessions", "default", "lavoro"}),
-              "copiate 0, in attesa del prossimo avvio 1\n");
-    EXPECT_EQ(home.output({"sessions", "lavoro"}), "");
-    quit(open);
-    launch("lavoro", lavoroData);
-    EXPECT_EQ(home.output({"sessions", "lavoro"}), session);
-    EXPECT_FALSE(fs::exists(profile("lavoro") / ".pending-sessions"));
-}
-
 TEST_F(CommandLaunch, WrappersInASharedFolderAreSeenThrough) {
     home.output({"create", "Ospite", "--account", "default"});
     const struct {

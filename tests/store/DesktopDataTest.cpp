@@ -1,16 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include <array>
-#include <cerrno>
-#include <cstddef>
 #include <gtest/gtest.h>
-#include <linux/filter.h>
-#include <linux/seccomp.h>
-#include <sys/prctl.h>
-#include <sys/syscall.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include "model/LauncherError.h"
 #include "support/Home.h"
@@ -129,53 +120,6 @@ TEST(DesktopData, restore_LastMoveFails_IsRolledBack) {
     const Tree before = treeOf(home.path);
     EXPECT_THROW(store.restoreDesktopData(), fs::filesystem_error);
     EXPECT_EQ(treeOf(home.path), before);
-}
-
-/// Whether an operation fails with a file-system error if no file can be removed.
-bool failsWithoutRemoving(const std::function<void()>& operation) {
-    const pid_t child = ::fork();
-    if (child == 0) {
-        constexpr auto kNumber = static_cast<std::uint32_t>(offsetof(seccomp_data, nr));
-        std::array<sock_filter, 5> filter = {{
-            BPF_STMT(BPF_LD | BPF_W | BPF_ABS, kNumber),
-#ifdef __NR_unlink
-            BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, __NR_unlink, 1, 0),
-#else
-            BPF_STMT(BPF_LD | BPF_W | BPF_ABS, kNumber),
-#endif
-            BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, __NR_unlinkat, 0, 1),
-            BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | EIO),
-            BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW),
-        }};
-        const sock_fprog program = {filter.size(), filter.data()};
-        const auto fails = [&]() noexcept {
-            try {
-                operation();
-            } catch (const fs::filesystem_error& error) {
-                return error.code() == std::errc::io_error;
-            }
-            return false;
-        };
-        ::_exit(::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
-                        ::prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program) == 0 && fails()
-                    ? 0
-                    : 1);
-    }
-    int status = -1;
-    EXPECT_EQ(::waitpid(child, &status, 0), child);
-    return status == 0;
-}
-
-TEST(DesktopData, restore_MarkerCannotBeRemoved_SucceedsAgainLater) {
-    Home home;
-    const fs::path stored = home.store.desktopStore();
-    writeTree(stored, {{".live", "lavoro"}, {"default/a", "mine"}, {"LEGGIMI.txt", kNote}});
-    writeFile(home.store.liveDesktopDir() / "a", "lavoro");
-    const Tree before = treeOf(home.path);
-    EXPECT_TRUE(failsWithoutRemoving([&] { home.store.restoreDesktopData(); }));
-    EXPECT_EQ(treeOf(home.path), before);
-    home.store.restoreDesktopData();
-    EXPECT_EQ(dataOf(home), (Tree{{"normal/a", "mine"}, {"lavoro", "/"}, {"lavoro/a", "lavoro"}}));
 }
 
 TEST(DesktopData, create_WithAnAccount_SeedsItsDesktopDataOnce) {

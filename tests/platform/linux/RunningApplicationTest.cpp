@@ -187,27 +187,6 @@ TEST_F(RunningApplicationTest, IsRecognisedAfterItsExecutableWasReplaced) {
     EXPECT_EQ(ProcInfo::read(running[0].pid)->path, m_executable);
 }
 
-TEST_F(RunningApplicationTest, IsRecognisedBehindAWrapper) {
-    m_environment["STAND_IN_OPTIONS"] = "--stand-in-keep-title"; // its start variables identify it
-    const fs::path electron = m_root / "lib/electron";
-    const fs::path wrapper = m_root / "bin/wrapper";
-    install(electron);
-    const Application application{wrapper, {}, m_root / (m_identity.ids[0] + ".desktop"), {}, m_root / "lib"};
-    for (const std::string& script :
-         {"exec '" + electron.string() + "' \"$@\"\n", "'" + electron.string() + "' \"$@\"\nexit $?\n"}) {
-        std::ofstream(wrapper) << "#!/bin/sh\n" << script;
-        fs::permissions(wrapper, fs::perms::owner_all);
-        fs::remove_all(m_root / "data");
-        const nlohmann::json told = open(application);
-        EXPECT_EQ(told["workingFolder"], application.workingFolder.string());
-        const std::vector<RunningApplication> running = runningApplications();
-        ASSERT_EQ(running.size(), 1U) << script;
-        EXPECT_EQ(told["pid"], running[0].pid) << script;
-        workspace()->terminate(running[0]);
-        EXPECT_TRUE(eventually([&] { return workspace()->isTerminated(running[0]) && processes().empty(); }));
-    }
-}
-
 TEST_F(RunningApplicationTest, IsFoundByTheFirstEntryWhoseProgramIsThere) {
     const fs::path entries = m_root / "share/applications";
     fs::create_directories(entries);
