@@ -41,7 +41,7 @@ void noteWarnings(QtMsgType type, const QMessageLogContext& /*context*/, const Q
 /// What a window shows once that has stayed the same for a moment: by then what is read on other threads has
 /// arrived, and layout and fades have come to their end.
 QImage settled(QQuickWindow& window) {
-    constexpr int kMilliseconds = 150;
+    constexpr int kMilliseconds = 80;
     QImage before;
     QImage now = window.grabWindow();
     while (now != before) {
