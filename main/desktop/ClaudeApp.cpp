@@ -21,7 +21,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int kMaximumAncestors = 31;
-constexpr std::string_view kConfigDirVariable = "CLAUDE_CONFIG_DIR";
 constexpr std::string_view kMacInstallPrefix = "/Applications/Claude.app/";
 
 /// A new copy must not inherit variables meant for Selvane or for the copy that started it.

@@ -12,6 +12,9 @@
 
 namespace selvane {
 
+/// The variable with the configuration folder that Claude Code uses.
+inline constexpr std::string_view kConfigDirVariable = "CLAUDE_CONFIG_DIR";
+
 constexpr std::string_view kDataDirSwitch = "--user-data-dir=";
 
 /// The data folder that a Claude Desktop process names in its arguments, normalized. Nothing if it names none

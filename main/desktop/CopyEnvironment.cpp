@@ -5,14 +5,13 @@
 
 #include <algorithm>
 
+#include "desktop/ClaudeArguments.h"
 #include "platform/files/Locations.h"
 #include "platform/files/NormalizedPath.h"
 #include "platform/process/MainProcess.h"
 
 namespace selvane {
 namespace {
-
-constexpr std::string_view kConfigDirVariable = "CLAUDE_CONFIG_DIR";
 
 const std::string* variable(const ProcInfo& process, std::string_view name) {
     const auto found = process.env.find(std::string(name));

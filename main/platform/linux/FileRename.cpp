@@ -16,7 +16,7 @@ int rename(const std::filesystem::path& from, const std::filesystem::path& to, u
 }
 
 /// How network file systems and older ones answer a flag that they don't know.
-bool isUnsupported(int error) {
+bool isWithoutFlags(int error) {
     return error == EINVAL || error == ENOSYS || error == ENOTSUP;
 }
 
@@ -24,7 +24,7 @@ bool isUnsupported(int error) {
 
 int renameExclusively(const std::filesystem::path& from, const std::filesystem::path& to) {
     const int error = rename(from, to, RENAME_NOREPLACE);
-    if (!isUnsupported(error))
+    if (!isWithoutFlags(error))
         return error;
     struct stat status = {};
     if (::lstat(to.c_str(), &status) == 0)
@@ -34,7 +34,7 @@ int renameExclusively(const std::filesystem::path& from, const std::filesystem::
 
 int exchangeNames(const std::filesystem::path& first, const std::filesystem::path& second) {
     const int error = rename(first, second, RENAME_EXCHANGE);
-    return isUnsupported(error) ? ENOTSUP : error;
+    return isWithoutFlags(error) ? ENOTSUP : error;
 }
 
 } // namespace selvane::files
