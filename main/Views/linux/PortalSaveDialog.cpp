@@ -16,10 +16,11 @@
 
 #include <utility>
 
+#include "Views/linux/Portal.h"
+
 namespace selvane {
 namespace {
 
-const QString kService = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString kRequest = QStringLiteral("org.freedesktop.portal.Request");
 
 /// A kind of files in the portal's form: rules that are patterns (0) or content types (1).
@@ -93,12 +94,12 @@ void PortalSaveDialog::ask(const QWindow* parent, const QString& title, const QS
         QStringLiteral("selvane_%1_%2").arg(QCoreApplication::applicationPid()).arg(++m_count);
     const QString sender = bus.baseService().mid(1).replace('.', '_');
     m_request = "/org/freedesktop/portal/desktop/request/" + sender + '/' + token;
-    bus.connect(kService, m_request, kRequest, QStringLiteral("Response"), this,
+    bus.connect(portalService(), m_request, kRequest, QStringLiteral("Response"), this,
                 SLOT(respond(uint, QVariantMap)));
 
     const QList<FileFilter> filters = {{tr("Archivio zip"), {{1, QStringLiteral("application/zip")}}}};
     QDBusMessage call = QDBusMessage::createMethodCall(
-        kService, QStringLiteral("/org/freedesktop/portal/desktop"),
+        portalService(), QStringLiteral("/org/freedesktop/portal/desktop"),
         QStringLiteral("org.freedesktop.portal.FileChooser"), QStringLiteral("SaveFile"));
     call << handleOf(parent) << title
          << QVariantMap{{"handle_token", token},
@@ -121,7 +122,7 @@ void PortalSaveDialog::ask(const QWindow* parent, const QString& title, const QS
 void PortalSaveDialog::forget() {
     if (m_request.isEmpty())
         return;
-    QDBusConnection::sessionBus().disconnect(kService, std::exchange(m_request, {}), kRequest,
+    QDBusConnection::sessionBus().disconnect(portalService(), std::exchange(m_request, {}), kRequest,
                                              QStringLiteral("Response"), this,
                                              SLOT(respond(uint, QVariantMap)));
 }

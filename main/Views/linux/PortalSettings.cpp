@@ -9,10 +9,11 @@
 #include <QDBusPendingReply>
 #include <QGuiApplication>
 
+#include "Views/linux/Portal.h"
+
 namespace selvane {
 namespace {
 
-const QString kService = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString kPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString kInterface = QStringLiteral("org.freedesktop.portal.Settings");
 const QString kGnome = QStringLiteral("org.gnome.desktop.interface");
@@ -38,13 +39,13 @@ PortalSettings::PortalSettings(SystemAppearance& appearance) : m_appearance(appe
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
-    bus.connect(kService, kPath, kInterface, QStringLiteral("SettingChanged"), this,
+    bus.connect(portalService(), kPath, kInterface, QStringLiteral("SettingChanged"), this,
                 SLOT(settingChanged(QString, QString, QDBusVariant)));
     const std::pair<QString, QString> settings[] = {
         {kGnome, kTextFactor}, {kGnome, kAnimations}, {kPlasma, kAnimationDuration}};
     for (const auto& [group, key] : settings) {
         QDBusMessage call =
-            QDBusMessage::createMethodCall(kService, kPath, kInterface, QStringLiteral("Read"));
+            QDBusMessage::createMethodCall(portalService(), kPath, kInterface, QStringLiteral("Read"));
         call << group << key;
         auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(call), this);
         connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, group = group, key = key, watcher] {

@@ -5,6 +5,7 @@
 
 #include <utility>
 
+#include "AppModel/QtText.h"
 #include "model/LauncherError.h"
 #include "platform/json/Json.h"
 
@@ -12,10 +13,6 @@ namespace selvane {
 namespace {
 
 namespace fs = std::filesystem;
-
-QString text(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
 
 /// The number of MCP servers in a global state file; 0 if it can't be read.
 int serversIn(const fs::path& globalState) {
@@ -83,15 +80,15 @@ fs::path ComponentModel::place() const {
 }
 
 QString ComponentModel::component() const {
-    return text(rawValue(m_component));
+    return qtText(rawValue(m_component));
 }
 
 QString ComponentModel::title() const {
-    return text(selvane::title(m_component));
+    return qtText(selvane::title(m_component));
 }
 
 QString ComponentModel::symbol() const {
-    return text(selvane::symbol(m_component));
+    return qtText(selvane::symbol(m_component));
 }
 
 bool ComponentModel::isCollection() const {
@@ -101,14 +98,14 @@ bool ComponentModel::isCollection() const {
 QStringList ComponentModel::modes() const {
     QStringList labels;
     for (const ShareMode mode : allowedModes(m_component))
-        labels += text(label(mode));
+        labels += qtText(label(mode));
     return labels;
 }
 
 QStringList ComponentModel::modeExplanations() const {
     QStringList explanations;
     for (const ShareMode mode : allowedModes(m_component))
-        explanations += text(help(mode));
+        explanations += qtText(help(mode));
     return explanations;
 }
 
@@ -150,10 +147,10 @@ QString ComponentModel::description() const {
     if (m_content.linkTarget)
         return tr("Collegato a %1").arg(linkTarget());
     if (kind(m_component) != ComponentKind::servers)
-        return text(selvane::description(m_component, m_content.exists));
+        return qtText(selvane::description(m_component, m_content.exists));
     const int count = m_content.serverCount;
-    return count > 0 ? text(selvane::description(m_component, true)).arg(count)
-                     : text(selvane::description(m_component, false));
+    return count > 0 ? qtText(selvane::description(m_component, true)).arg(count)
+                     : qtText(selvane::description(m_component, false));
 }
 
 QString ComponentModel::linkTarget() const {

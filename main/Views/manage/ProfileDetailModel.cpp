@@ -6,15 +6,9 @@
 #include <QtConcurrent>
 
 #include "AppModel/Following.h"
+#include "AppModel/QtText.h"
 
 namespace selvane {
-namespace {
-
-QString text(const std::string& utf8) {
-    return QString::fromStdString(utf8);
-}
-
-} // namespace
 
 ProfileDetailModel::ProfileDetailModel(QObject* parent) : QObject(parent) {
     for (const Component component : kComponents)
@@ -100,27 +94,27 @@ void ProfileDetailModel::takeCounts() {
 }
 
 const Profile* ProfileDetailModel::source() const {
-    return !m_profile || !m_profile->meta.source ? nullptr : m_app->profile(text(*m_profile->meta.source));
+    return !m_profile || !m_profile->meta.source ? nullptr : m_app->profile(qtText(*m_profile->meta.source));
 }
 
 QString ProfileDetailModel::profileId() const {
-    return m_profile ? text(m_profile->id) : QString();
+    return m_profile ? qtText(m_profile->id) : QString();
 }
 
 QString ProfileDetailModel::name() const {
-    return !m_profile ? QString() : text(m_profile->meta.name);
+    return !m_profile ? QString() : qtText(m_profile->meta.name);
 }
 
 QString ProfileDetailModel::summary() const {
-    return !m_profile ? QString() : text(m_profile->meta.summary);
+    return !m_profile ? QString() : qtText(m_profile->meta.summary);
 }
 
 QString ProfileDetailModel::symbol() const {
-    return !m_profile ? QString() : text(m_profile->meta.symbol);
+    return !m_profile ? QString() : qtText(m_profile->meta.symbol);
 }
 
 QString ProfileDetailModel::folder() const {
-    return !m_profile ? QString() : text(m_profile->configDir.string());
+    return !m_profile ? QString() : qtText(m_profile->configDir.string());
 }
 
 bool ProfileDetailModel::isBuiltIn() const {
@@ -133,8 +127,8 @@ bool ProfileDetailModel::hasSource() const {
 
 QString ProfileDetailModel::sourceName() const {
     if (const Profile* from = source())
-        return text(from->meta.name);
-    return hasSource() ? text(*m_profile->meta.source) : QString();
+        return qtText(from->meta.name);
+    return hasSource() ? qtText(*m_profile->meta.source) : QString();
 }
 
 bool ProfileDetailModel::isRunning() const {
@@ -148,9 +142,9 @@ QString ProfileDetailModel::account() const {
     if (m_profile->isDefault())
         return tr("Cartella dati normale di Claude Desktop") + open;
     if (m_profile->accountOwner() != m_profile->id) {
-        const Profile* owner = m_app->profile(text(m_profile->accountOwner()));
+        const Profile* owner = m_app->profile(qtText(m_profile->accountOwner()));
         return tr("Usa l'account di «%1»")
-            .arg(text(owner == nullptr ? m_profile->accountOwner() : owner->meta.name));
+            .arg(qtText(owner == nullptr ? m_profile->accountOwner() : owner->meta.name));
     }
     return m_app->store().hasDesktopData(*m_profile) ? tr("Cartella dati propria nel launcher") + open
                                                      : tr("Account proprio — login al primo avvio");
@@ -174,7 +168,7 @@ QStringList ProfileDetailModel::accountChoices() const {
         return {};
     QStringList names = {tr("Proprio")};
     for (const Profile* owner : accountOwners())
-        names += text(owner->meta.name);
+        names += qtText(owner->meta.name);
     return names;
 }
 
@@ -229,7 +223,7 @@ void ProfileDetailModel::setAccount(int index) {
     const auto owners = accountOwners();
     if (index < 0 || index > static_cast<int>(owners.size()) || index == accountIndex())
         return;
-    m_app->setAccount(index == 0 ? QString() : text(owners[static_cast<std::size_t>(index) - 1]->id),
+    m_app->setAccount(index == 0 ? QString() : qtText(owners[static_cast<std::size_t>(index) - 1]->id),
                       profileId());
 }
 

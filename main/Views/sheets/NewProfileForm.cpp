@@ -7,13 +7,10 @@
 #include <utility>
 
 #include "AppModel/Following.h"
+#include "AppModel/QtText.h"
 
 namespace selvane {
 namespace {
-
-QString text(std::string_view value) {
-    return QString::fromUtf8(value.data(), static_cast<qsizetype>(value.size()));
-}
 
 ShareMode nearestMode(ShareMode wanted, Component component) {
     if (allows(component, wanted))
@@ -35,7 +32,7 @@ std::unique_ptr<ChoiceListModel> choices(const std::vector<ComponentItem>& items
 QStringList texts(std::span<const ShareMode> modes, std::string_view (*textOf)(ShareMode)) {
     QStringList result;
     for (const ShareMode mode : modes)
-        result += text(textOf(mode));
+        result += qtText(textOf(mode));
     return result;
 }
 
@@ -140,9 +137,9 @@ QVariant NewProfileForm::data(const QModelIndex& index, int role) const {
     const Row& row = m_rows[static_cast<std::size_t>(index.row())];
     switch (role) {
     case TitleRole:
-        return text(title(row.component));
+        return qtText(title(row.component));
     case SymbolRole:
-        return text(selvane::symbol(row.component));
+        return qtText(selvane::symbol(row.component));
     case ModeLabelsRole:
         return texts(allowedModes(row.component), label);
     case ModeExplanationsRole:
