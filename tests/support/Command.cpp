@@ -91,18 +91,24 @@ Outcome CommandHome::runProgram(const std::vector<std::string>& words) const {
     const TemporaryFolder streams;
     std::vector<std::string> arguments = words;
     std::vector<std::string> variables = entries(environment);
+    // The child may not allocate: another thread may hold the allocator's lock, for ever as the child sees
+    // it.
+    const fs::path out = streams / "out";
+    const fs::path err = streams / "err";
+    const std::vector<char*> argumentPointers = pointers(arguments);
+    const std::vector<char*> variablePointers = pointers(variables);
     const pid_t child = fork();
     if (child == 0) {
-        redirect(STDOUT_FILENO, streams / "out");
-        redirect(STDERR_FILENO, streams / "err");
         alarm(kTimeLimit); // stays in force after exec
-        execve(arguments[0].c_str(), pointers(arguments).data(), pointers(variables).data());
+        redirect(STDOUT_FILENO, out);
+        redirect(STDERR_FILENO, err);
+        execve(argumentPointers[0], argumentPointers.data(), variablePointers.data());
         _exit(127);
     }
     int state = 0;
     waitpid(child, &state, 0);
     const int status = WIFEXITED(state) ? WEXITSTATUS(state) : 128 + WTERMSIG(state);
-    return {status, readFile(streams / "out"), readFile(streams / "err")};
+    return {status, readFile(out), readFile(err)};
 }
 
 Outcome CommandHome::run(const std::vector<std::string>& arguments) const {
