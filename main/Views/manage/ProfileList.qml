@@ -101,7 +101,8 @@ FocusScope {
 
             required property string profileId
 
-            x: Theme.manage.listInset
+            // From Qt 6.8 on, a list also decides where its items lie across it.
+            transform: Translate { x: Theme.manage.listInset }
             width: ListView.view.width - 2 * Theme.manage.listInset
             isSelected: profileId === sidebar.app.selection
             isRinged: ListView.isCurrentItem && list.activeFocus && Theme.showsFocus

@@ -110,7 +110,8 @@ ListView {
 
         required property string profileId
 
-        y: Theme.picker.stripSpare
+        // From Qt 6.8 on, a list also decides where its items lie across it.
+        transform: Translate { y: Theme.picker.stripSpare }
         count: strip.profiles.count
         isFocused: profileId === strip.focused
         isCompact: strip.isCompact

@@ -187,6 +187,7 @@ Item {
             const rows = () => all(item => item instanceof ProfileRow)
             const selected = () => the(item => item instanceof ProfileRow && item.isSelected)
             verify(rows().length < 40)
+            compare(selected().mapToItem(scene, 0, 0).x, Theme.manage.listInset)
             press(Qt.Key_Up)
             compare(home.app.selection, "default")
             press(Qt.Key_Down, Qt.Key_Down)

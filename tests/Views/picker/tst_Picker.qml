@@ -84,6 +84,7 @@ Item {
         function test_pointer_FocusesLaunchesAndOpensSettings(): void {
             show()
             const work = tile("Lavoro")
+            compare(work.mapToItem(findChild(view, "strip"), 0, 0).y, Theme.picker.stripSpare)
             mouseMove(work)
             compare(view.picker.focused, "lavoro")
             mouseClick(work, work.width - Theme.picker.tileGearMargin - 10, Theme.picker.tileGearMargin + 10)
