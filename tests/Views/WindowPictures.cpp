@@ -14,7 +14,6 @@
 #include <QTextStream>
 #include <QTimer>
 
-#include <cstdlib>
 #include <utility>
 
 #include "AppModel/FakeBridge.h"
@@ -23,7 +22,7 @@
 #include "Views/shell/QmlModule.h"
 #include "artwork/Brand.h"
 #include "model/LauncherError.h"
-#include "support/TemporaryFolder.h"
+#include "support/OwnHome.h"
 
 namespace selvane::test {
 namespace {
@@ -210,11 +209,7 @@ int takeAll(const QDir& folder, const std::string& place) {
 } // namespace selvane::test
 
 int main(int argc, char** argv) {
-    // Neither the user's preferences nor their Trash.
-    const selvane::test::TemporaryFolder home;
-    setenv("HOME", home.path().c_str(), 1);
-    for (const char* variable : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "CLAUDE_CONFIG_DIR"})
-        unsetenv(variable);
+    const selvane::test::OwnHome home;
     // The same picture everywhere, without a display or a graphics card.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
