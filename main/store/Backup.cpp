@@ -183,6 +183,7 @@ BackupResult ProfileStore::backup(BackupScope scope, const fs::path& archive) {
         requireSuccess(
             runZip({"-j", "-q", partial.string(), readme.string()}, m_environment, readmeFolder.path()));
         m_files.setMode(partial, 0600);
+        m_files.waitForContent(partial);
         result.size = static_cast<std::int64_t>(fs::file_size(partial));
         if (m_files.exists(target))
             m_files.moveToTrash(target);

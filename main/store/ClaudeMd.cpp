@@ -59,15 +59,16 @@ std::optional<Span> headerIn(std::string_view text, const Profile& source) {
 
 } // namespace
 
-void ProfileStore::applyClaudeMd(ShareMode mode, const Profile& to, const Profile& from) {
+void ProfileStore::applyClaudeMd(ShareMode mode, const Profile& to, const Profile& from,
+                                 const FileManager& files) {
     const fs::path own = to.url(Component::claudeMd);
     const fs::path origin = from.url(Component::claudeMd);
     if (mode == ShareMode::shared)
-        m_files.createLink(origin, own);
-    else if (mode == ShareMode::separate && m_files.isPresent(origin))
-        m_files.copy(m_files.resolved(origin), own);
+        files.createLink(origin, own);
+    else if (mode == ShareMode::separate && files.isPresent(origin))
+        files.copy(files.resolved(origin), own);
     else if (mode == ShareMode::extend)
-        m_files.write(own, extendTemplate(from, ""));
+        files.write(own, extendTemplate(from, ""));
 }
 
 void ProfileStore::changeClaudeMd(ShareMode mode, const Profile& profile, const Profile& source) {

@@ -7,6 +7,7 @@
 
 #include "model/ByteText.h"
 #include "model/LauncherError.h"
+#include "platform/files/FileCopier.h"
 #include "platform/text/Text.h"
 #include "store/ItemListing.h"
 #include "store/Slug.h"
@@ -68,9 +69,13 @@ Profile ProfileStore::create(const NewProfile& request) {
         throw LauncherError("Account non valido: " + text::singleLine(*request.account));
     Profile profile = createFolder(request, name);
     try {
-        fill(profile, request);
+        files::DiskSync written;
+        fill(profile, request, FileManager(written));
+        // The record comes last: without it, the folder is no profile.
+        written.waitFor(profile.configDir);
         saveMeta(profile);
         writeProfileNote(profile);
+        m_files.waitForNames(m_root);
     } catch (...) {
         try {
             m_files.removeTree(profile.configDir);
@@ -85,7 +90,7 @@ Profile ProfileStore::create(const NewProfile& request) {
     return profile;
 }
 
-void ProfileStore::fill(Profile& profile, const NewProfile& request) {
+void ProfileStore::fill(Profile& profile, const NewProfile& request, const FileManager& files) {
     for (const Component component : kComponents) {
         const std::string key(rawValue(component));
         const auto chosen = request.modes.find(component);
@@ -105,34 +110,36 @@ void ProfileStore::fill(Profile& profile, const NewProfile& request) {
         }
 
         if (request.from && mode != ShareMode::none)
-            apply(component, mode, profile, *request.from);
+            apply(component, mode, profile, *request.from, files);
         else if (isCollection(component))
             m_files.createFolders(profile.url(component));
     }
 }
 
-void ProfileStore::apply(Component component, ShareMode mode, const Profile& to, const Profile& from) {
+void ProfileStore::apply(Component component, ShareMode mode, const Profile& to, const Profile& from,
+                         const FileManager& files) {
     switch (kind(component)) {
     case ComponentKind::collection:
-        return fillCollection(component, mode, to, from);
+        return fillCollection(component, mode, to, from, files);
     case ComponentKind::memory:
-        return applyClaudeMd(mode, to, from);
+        return applyClaudeMd(mode, to, from, files);
     case ComponentKind::file:
     case ComponentKind::folder:
     case ComponentKind::servers:
-        return reimport(component, to, from);
+        return importWhole(component, to, from, files);
     }
 }
 
 /// Builds a new profile's folder under one temporary name, so its items need none of their own.
-void ProfileStore::fillCollection(Component component, ShareMode mode, const Profile& to,
-                                  const Profile& from) {
+void ProfileStore::fillCollection(Component component, ShareMode mode, const Profile& to, const Profile& from,
+                                  const FileManager& files) {
     const fs::path origin = from.url(component);
     const ItemListing offered(component, origin);
     const std::set<std::string> excluded = to.excluded(component);
-    m_files.replaceTrashing(to.url(component), [&](const fs::path& temporary) {
-        m_files.createFolders(temporary);
+    files.replaceTrashing(to.url(component), [&](const fs::path& temporary) {
+        files.createFolders(temporary);
         const OpenFolder folder(temporary);
+        FileCopier copies(files);
         for (const FolderEntry& entry : offered.entries) {
             const fs::path item = origin / entry.name;
             if (excluded.contains(entry.name))
@@ -140,10 +147,11 @@ void ProfileStore::fillCollection(Component component, ShareMode mode, const Pro
             if (mode == ShareMode::shared)
                 folder.createLink(item.string(), entry.name);
             else if (entry.isLink) // it may lead to a folder that contains the profile
-                m_files.copy(m_files.resolved(item), temporary / entry.name);
+                files.copy(files.resolved(item), temporary / entry.name);
             else
-                m_files.copyDirectly(item, temporary / entry.name);
+                copies.copy(item, temporary / entry.name, to.url(component) / entry.name);
         }
+        copies.finish();
     });
 }
 

@@ -158,6 +158,7 @@ void ProfileStore::restoreDesktopData() {
     swapLiveData(owner);
     if (m_files.exists(desktopStore() / kLiveMarkerName))
         m_files.removeFile(desktopStore() / kLiveMarkerName);
+    m_files.waitForNames(desktopStore());
 }
 
 /// Parks the account that is in the normal folder and brings the built-in profile's data back there.
@@ -189,6 +190,7 @@ void ProfileStore::returnBuiltInData(const std::string& owner) {
         // move, the marker would name an account that is no longer in the normal folder.
         if (m_files.exists(marker))
             m_files.removeFile(marker);
+        m_files.waitForNames(desktopStore());
         if (!m_files.exists(builtIn))
             return;
         m_files.createFolders(normal.parent_path());
@@ -211,14 +213,16 @@ void ProfileStore::seedDesktopData(const Profile& profile, const Profile& source
     if (m_files.exists(folder) || !m_files.exists(origin))
         return;
     makeDesktopStore();
-    m_files.createFolders(folder, Privacy::ownerOnly);
-    for (const std::string_view name : kSeededItems) {
-        try {
-            if (m_files.exists(origin / name))
-                m_files.copy(origin / name, folder / name);
-        } catch (const fs::filesystem_error&) { // optional: Claude Desktop creates these itself
+    m_files.replaceTrashing(folder, [&](const fs::path& temporary) {
+        m_files.createFolders(temporary, Privacy::ownerOnly);
+        for (const std::string_view name : kSeededItems) {
+            try {
+                if (m_files.exists(origin / name))
+                    m_files.copy(origin / name, temporary / name);
+            } catch (const fs::filesystem_error&) { // optional: Claude Desktop creates these itself
+            }
         }
-    }
+    });
 }
 
 } // namespace selvane

@@ -4,6 +4,7 @@
 #include "store/ProfileStore.h"
 
 #include "model/LauncherError.h"
+#include "platform/files/FileBatch.h"
 #include "platform/text/Text.h"
 #include "store/ItemListing.h"
 
@@ -64,11 +65,20 @@ fs::path ProfileStore::freePlace(const std::string& name, const Profile& in, Com
 }
 
 void ProfileStore::addItem(const ComponentItem& item, const Profile& to, Component component, bool link) {
+    if (link) {
+        m_files.createLink(item.url, freePlace(item.name, to, component));
+        m_files.waitForNames(to.url(component));
+        return;
+    }
+    FileBatch batch;
+    addCopy(item, to, component, batch);
+    batch.finish();
+}
+
+void ProfileStore::addCopy(const ComponentItem& item, const Profile& to, Component component,
+                           FileBatch& batch) {
     const fs::path place = freePlace(item.name, to, component);
-    if (link)
-        m_files.createLink(item.url, place);
-    else
-        m_files.copy(item.isLinked() ? m_files.resolved(item.url) : item.url, place);
+    batch.copy(item.isLinked() ? m_files.resolved(item.url) : item.url, place);
 }
 
 } // namespace selvane

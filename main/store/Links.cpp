@@ -7,6 +7,7 @@
 #include <unordered_set>
 
 #include "model/LauncherError.h"
+#include "platform/files/FileBatch.h"
 #include "platform/text/Text.h"
 #include "store/ItemListing.h"
 
@@ -126,7 +127,7 @@ Profile ProfileStore::setMode(ShareMode mode, Component component, const Profile
     if (kind(component) == ComponentKind::memory)
         changeClaudeMd(mode, changed, *source);
     else if (mode == ShareMode::separate)
-        apply(component, mode, changed, *source);
+        apply(component, mode, changed, *source, m_files);
     record(mode, component, changed);
     saveMeta(changed);
     return changed;
@@ -140,16 +141,18 @@ void ProfileStore::setCollectionMode(ShareMode mode, Component component, Profil
         syncLinks(profile);
         return;
     }
+    FileBatch batch;
     for (const ComponentItem& item : items(component, profile)) {
         if (!isLinked(item, source, component))
             continue;
         if (mode == ShareMode::none)
             m_files.removeLink(item.url);
         else if (!item.isBroken) // a dangling link has nothing to copy, and may lead somewhere again
-            makeOwn(item, profile);
+            batch.copyOverLink(m_files.resolved(item.url), item.url);
     }
     if (mode == ShareMode::separate && profile.mode(component) == ShareMode::none)
-        copyMissing(component, profile, source);
+        copyMissing(component, profile, source, batch);
+    batch.finish();
     record(mode, component, profile);
     saveMeta(profile);
 }
@@ -161,12 +164,13 @@ void ProfileStore::makeOwn(const ComponentItem& item, const Profile&) {
     m_files.replaceLink(item.url, [&](const fs::path& temporary) { m_files.copy(origin, temporary); });
 }
 
-void ProfileStore::copyMissing(Component component, const Profile& to, const Profile& from) {
+void ProfileStore::copyMissing(Component component, const Profile& to, const Profile& from,
+                               FileBatch& batch) {
     const auto present = namesOf(items(component, to));
     const auto excluded = to.excluded(component);
     for (const ComponentItem& item : items(component, from)) {
         if (!present.contains(item.name) && !excluded.contains(item.name) && !item.isBroken)
-            addItem(item, to, component, false);
+            addCopy(item, to, component, batch);
     }
 }
 
@@ -193,13 +197,20 @@ Profile ProfileStore::remove(const ComponentItem& item, const Profile& from, Com
 Profile ProfileStore::importItems(const std::set<std::string>& names, const Profile& source,
                                   const Profile& into, Component component, bool link) {
     const FolderLock lock = locked(into);
+    FileBatch batch;
     std::set<std::string> imported;
     for (const ComponentItem& item : items(component, source)) {
         if (!names.contains(item.name))
             continue;
-        addItem(item, into, component, link);
+        if (link)
+            m_files.createLink(item.url, freePlace(item.name, into, component));
+        else
+            addCopy(item, into, component, batch);
         imported.insert(item.name);
     }
+    batch.finish();
+    if (link)
+        m_files.waitForNames(into.url(component));
     Profile changed = current(into);
     const auto excluded = changed.meta.excluded.find(std::string(rawValue(component)));
     if (excluded != changed.meta.excluded.end())

@@ -26,6 +26,8 @@
 
 namespace selvane {
 
+class FileBatch;
+
 /// The parts of a new profile.
 struct NewProfile {
     std::string name; ///< trimmed before use; must not be blank
@@ -143,14 +145,20 @@ private:
 
     std::string uniqueSlug(const std::string& name) const;
     Profile createFolder(const NewProfile& request, const std::string& name);
-    void fill(Profile& profile, const NewProfile& request);
-    void apply(Component component, ShareMode mode, const Profile& to, const Profile& from);
-    void fillCollection(Component component, ShareMode mode, const Profile& to, const Profile& from);
-    void importFile(Component component, const Profile& to, const Profile& from);
-    void importFolder(Component component, const Profile& to, const Profile& from);
-    void rewritePaths(const std::filesystem::path& file, const Profile& from, const Profile& to);
+    void fill(Profile& profile, const NewProfile& request, const FileManager& files);
+    // These write through `files`, which may leave it to the caller to wait for the disk.
+    void apply(Component component, ShareMode mode, const Profile& to, const Profile& from,
+               const FileManager& files);
+    void fillCollection(Component component, ShareMode mode, const Profile& to, const Profile& from,
+                        const FileManager& files);
+    void importWhole(Component component, const Profile& to, const Profile& from, const FileManager& files);
+    void importFile(Component component, const Profile& to, const Profile& from, const FileManager& files);
+    void importFolder(Component component, const Profile& to, const Profile& from, const FileManager& files);
+    void importServers(const Profile& to, const Profile& from, const FileManager& files);
+    void rewritePaths(const std::filesystem::path& file, const Profile& from, const Profile& to,
+                      const FileManager& files);
 
-    void applyClaudeMd(ShareMode mode, const Profile& to, const Profile& from);
+    void applyClaudeMd(ShareMode mode, const Profile& to, const Profile& from, const FileManager& files);
     void changeClaudeMd(ShareMode mode, const Profile& profile, const Profile& source);
 
     SyncReport syncLinks(const Profile& profile);
@@ -158,8 +166,9 @@ private:
                         SyncReport& report);
     void requireOwnFolder(Component component, const Profile& profile) const;
     std::filesystem::path freePlace(const std::string& name, const Profile& in, Component component);
+    void addCopy(const ComponentItem& item, const Profile& to, Component component, FileBatch& batch);
     void setCollectionMode(ShareMode mode, Component component, Profile& profile, const Profile& source);
-    void copyMissing(Component component, const Profile& to, const Profile& from);
+    void copyMissing(Component component, const Profile& to, const Profile& from, FileBatch& batch);
     std::string profileNote(const Profile& profile) const;
 
     std::filesystem::path desktopFolder(const std::string& owner) const;
@@ -170,7 +179,8 @@ private:
     void returnBuiltInData(const std::string& owner);
 
     std::vector<std::filesystem::path> sessionFolders(const std::filesystem::path& dataDir) const;
-    void copyTranscripts(const CodeSession& session, const TranscriptIndex& from, const Profile& target);
+    void copyTranscripts(const CodeSession& session, const TranscriptIndex& from, const Profile& target,
+                         std::set<std::string>& known, FileBatch& batch);
 
     std::vector<std::filesystem::path> desktopFolders(const std::vector<std::filesystem::path>& in) const;
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "platform/files/FileBatch.h"
 #include "platform/json/SessionRecord.h"
 #include "store/SessionHandover.h"
 
@@ -100,18 +101,18 @@ int ProfileStore::pendingSessionCount(const Profile& profile) const {
                             static_cast<std::size_t>(std::count_if(queued.begin(), queued.end(), isHidden)));
 }
 
-/// Never overwrites the target's existing transcripts.
+/// Never overwrites the target's existing transcripts. `known` are the ids that were looked at already.
 void ProfileStore::copyTranscripts(const CodeSession& session, const TranscriptIndex& from,
-                                   const Profile& target) {
+                                   const Profile& target, std::set<std::string>& known, FileBatch& batch) {
     for (const std::string& id : session.cliSessionIDs) {
         const auto folder = from.transcriptFolder(id);
-        if (!folder)
+        if (!folder || !known.insert(id).second)
             continue;
         const fs::path place = target.configDir / "projects" / folder->filename();
         m_files.createFolders(place);
         for (const std::string& name : {id + ".jsonl", id}) {
             if (m_files.exists(*folder / name) && !m_files.exists(place / name))
-                m_files.copy(*folder / name, place / name);
+                batch.copy(*folder / name, place / name);
         }
     }
 }
@@ -127,24 +128,37 @@ ImportCount ProfileStore::importSessions(const std::vector<CodeSession>& session
     const fs::path destination = canPlace ? folders.front() : target.configDir / kQueueFolder;
     const TranscriptIndex index = transcripts(source);
 
+    FileBatch batch;
+    std::set<std::string> knownTranscripts;
+    std::set<std::string> knownRecords;
     ImportCount count;
-    for (const CodeSession& session : sessions) {
+    const auto import = [&](const CodeSession& session) {
         if (!sameConfiguration)
-            copyTranscripts(session, index, target);
+            copyTranscripts(session, index, target, knownTranscripts, batch);
         if (sameAccount) { // both profiles already read this record
             ++count.copied;
-            continue;
+            return;
         }
         const std::string bytes = withoutAccount(m_files.read(session.file), session.file);
         const fs::path place = destination / fs::path(session.file).filename();
         if (!canPlace)
             m_files.createFolders(destination);
-        if (!canPlace || !m_files.exists(place)) {
-            m_files.write(place, bytes, Privacy::ownerOnly);
-            m_files.setMode(place, 0600);
-        }
+        // Two of the source's folders can have a record of one name; the first, the newest, counts.
+        const bool isFirst = knownRecords.insert(place.filename()).second;
+        if (isFirst && (!canPlace || !m_files.exists(place)))
+            batch.write(place, bytes, Privacy::ownerOnly);
         ++(canPlace ? count.copied : count.pending);
+    };
+    try {
+        std::for_each(sessions.begin(), sessions.end(), import);
+    } catch (const std::exception&) {
+        try {
+            batch.finish();               // the sessions before the failure stay
+        } catch (const std::exception&) { // report the first error
+        }
+        throw;
     }
+    batch.finish();
     return count;
 }
 
@@ -160,6 +174,7 @@ int ProfileStore::flushPendingSessions(const Profile& profile) {
     const std::vector<fs::path> folders = sessionFolders(data);
     if (folders.empty())
         return 0;
+    FileBatch batch;
     int placed = 0;
     for (const std::string& name : queued) {
         const fs::path place = folders.front() / name;
@@ -169,9 +184,10 @@ int ProfileStore::flushPendingSessions(const Profile& profile) {
             m_files.removeFile(queue / name);
         if (isHidden(name) || isPlaced)
             continue;
-        m_files.move(queue / name, place);
+        batch.move(queue / name, place);
         ++placed;
     }
+    batch.finish();
     std::error_code ignored;
     fs::remove(queue, ignored);
     return placed;

@@ -8,8 +8,8 @@
 
 namespace selvane::test {
 
-/// Looks on when this thread is about to wait for the disk (`fsync`) or for a lock (`flock`), and can do what
-/// another program would do in that moment. One at a time.
+/// Looks on when this thread is about to wait for the disk (`fsync`, `syncfs`) or for a lock (`flock`), and
+/// can do what another program would do in that moment. One at a time.
 class WaitWatch {
 public:
     enum class For { disk, lock };
@@ -20,6 +20,16 @@ public:
     WaitWatch(const WaitWatch&) = delete;
     WaitWatch& operator=(const WaitWatch&) = delete;
     ~WaitWatch();
+};
+
+/// Makes closing a file fail, as a full quota does on a network: for every file that was opened for writing
+/// and whose name begins like this. One at a time.
+class FailingClose {
+public:
+    FailingClose(const char* name, int error);
+    FailingClose(const FailingClose&) = delete;
+    FailingClose& operator=(const FailingClose&) = delete;
+    ~FailingClose();
 };
 
 /// Whether somebody holds the lock of a folder.

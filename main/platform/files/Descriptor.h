@@ -35,6 +35,12 @@ public:
         if (m_number >= 0)
             ::close(release());
     }
+    /// Returns 0 or the error: some file systems, such as those on a network, refuse what was written only
+    /// when it is closed.
+    int closeReporting() {
+        // After an interruption the file is closed all the same.
+        return m_number < 0 || ::close(release()) == 0 || errno == EINTR ? 0 : errno;
+    }
 
 private:
     int m_number = -1;

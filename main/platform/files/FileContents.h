@@ -8,6 +8,7 @@
 
 #include "platform/files/Descriptor.h"
 #include "platform/files/FileManager.h"
+#include "platform/files/Progress.h"
 
 namespace selvane::files {
 
@@ -15,7 +16,8 @@ namespace selvane::files {
 /// don't support, so use one for a whole tree.
 class ContentCopier {
 public:
-    ContentCopier();
+    /// Counts the bytes in `progress`, if there is one, and stops with ECANCELED when it says so.
+    explicit ContentCopier(Progress* progress);
     ~ContentCopier();
     ContentCopier(const ContentCopier&) = delete;
     ContentCopier& operator=(const ContentCopier&) = delete;

@@ -9,10 +9,12 @@
 #include <sys/stat.h>
 #include <vector>
 
-#include "platform/files/FileContents.h"
+#include "platform/files/CopyCrew.h"
+#include "platform/files/FileCopier.h"
 #include "platform/files/FolderTrail.h"
 
-namespace selvane::files {
+namespace selvane {
+namespace files {
 namespace {
 
 /// One entry to copy: its name in the current folder on each side. The two differ only at the top.
@@ -21,25 +23,17 @@ struct Item {
     const char* to;
 };
 
-/// The mode bits that a copy keeps. Set-user-ID and set-group-ID bits are kept only on the user's own files.
-mode_t copiedMode(const struct stat& status) {
-    const mode_t mode = status.st_mode & ALLPERMS;
-    constexpr mode_t kActsAsOwner = S_ISUID | S_ISGID;
-    const bool isForeign =
-        S_ISREG(status.st_mode) && (mode & kActsAsOwner) != 0 && status.st_uid != ::geteuid();
-    return isForeign ? mode & ~kActsAsOwner : mode;
-}
-
 unsigned char entryType(const struct stat& status) {
     return static_cast<unsigned char>(IFTODT(status.st_mode));
 }
 
 /// Copies a tree without recursion and with few open files, whatever its depth. It copies a folder's files
-/// while listing it, so it keeps only the names of subfolders.
+/// while listing it, or has the crew copy them, so it keeps only the names of subfolders.
 class TreeCopy {
 public:
-    TreeCopy(const std::filesystem::path& from, const std::filesystem::path& named, Privacy privacy)
-        : m_from(from), m_named(named), m_privacy(privacy) {}
+    TreeCopy(const std::filesystem::path& from, const std::filesystem::path& named, Privacy privacy,
+             CopyCrew& crew)
+        : m_from(from), m_named(named), m_privacy(privacy), m_crew(crew) {}
 
     void run(const std::filesystem::path& to);
 
@@ -47,7 +41,8 @@ private:
     struct Level {
         std::string name;
         struct stat status;
-        std::vector<std::string> folders; ///< subfolders still to be copied
+        std::vector<std::string> folders;    ///< subfolders still to be copied
+        std::shared_ptr<FolderPair> crews{}; ///< if the crew copies files in it
     };
 
     /// The path, in the user's terms, of an entry in the current folder, or of that folder if there is no
@@ -64,18 +59,18 @@ private:
     struct stat statusOf(const Item& item) const;
     void copyEntry(const Item& item, unsigned char type);
     void copyFile(const Item& item);
+    std::shared_ptr<FolderPair> pairForCrew();
     void copyLink(const Item& item);
     void copySpecial(const Item& item, const struct stat& status);
     void setTimesOfEntry(const Item& item, const struct stat& status) const;
     void enterFolder(const Item& item);
     Descriptor makeFolder(const Item& item);
     void finishFolder();
-    void finish(const Item& item, int from, int to, const struct stat& status) const;
 
     const std::filesystem::path& m_from;
     const std::filesystem::path& m_named;
     Privacy m_privacy;
-    ContentCopier m_contents;
+    CopyCrew& m_crew;
     FolderTrail m_source;
     FolderTrail m_target;
     std::vector<Level> m_levels; ///< the open folders, starting at the top
@@ -130,23 +125,39 @@ void TreeCopy::copyEntry(const Item& item, unsigned char type) {
 }
 
 void TreeCopy::copyFile(const Item& item) {
-    // O_NONBLOCK: a file may have become a FIFO since it was listed.
-    const Descriptor from(
-        ::openat(m_source.current(), item.from, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-    struct stat status = {};
-    if (!from || ::fstat(from.get(), &status) != 0)
-        failFrom(item.from, errno);
-    if (!S_ISREG(status.st_mode))
-        failFrom(item.from, S_ISDIR(status.st_mode) ? EISDIR : EINVAL);
-    Descriptor to;
-    const Privacy privacy = m_levels.empty() ? m_privacy : Privacy::inherited;
-    if (const int error = m_contents.copy(from.get(), status, m_target.current(), item.to, privacy, to);
-        error != 0) {
-        if (to)
-            failBoth(item.from, error);
-        failTo(item.to, error);
+    const bool isAlone = m_levels.empty();
+    const Privacy privacy = isAlone ? m_privacy : Privacy::inherited;
+    if (m_crew.takesFiles()) {
+        m_crew.add(isAlone ? nullptr : pairForCrew(), item.from, item.to,
+                   isAlone ? m_named.native() : item.to, privacy);
+        return;
     }
-    finish(item, from.get(), to.get(), status);
+    const CopyFailure failure =
+        m_crew.copyNow({m_source.current(), m_target.current(), item.from, item.to, privacy, isAlone});
+    if (failure.error == 0)
+        return;
+    if (failure.side == CopyFailure::Side::both)
+        failBoth(item.from, failure.error);
+    if (failure.side == CopyFailure::Side::from)
+        failFrom(item.from, failure.error);
+    failTo(item.to, failure.error);
+}
+
+/// The current folder, kept open for the crew.
+std::shared_ptr<FolderPair> TreeCopy::pairForCrew() {
+    Level& level = m_levels.back();
+    if (!level.crews) {
+        auto pair = std::make_shared<FolderPair>();
+        pair->source = Descriptor(::fcntl(m_source.current(), F_DUPFD_CLOEXEC, 0));
+        pair->target = Descriptor(::fcntl(m_target.current(), F_DUPFD_CLOEXEC, 0));
+        if (!pair->source || !pair->target)
+            failFrom("", errno);
+        pair->status = level.status;
+        pair->from = below(m_from, "");
+        pair->named = below(m_named, "");
+        level.crews = std::move(pair);
+    }
+    return level.crews;
 }
 
 void TreeCopy::copyLink(const Item& item) {
@@ -175,6 +186,7 @@ void TreeCopy::setTimesOfEntry(const Item& item, const struct stat& status) cons
     const std::array<timespec, 2> times = timesOf(status);
     if (::utimensat(m_target.current(), item.to, times.data(), AT_SYMLINK_NOFOLLOW) != 0)
         failTo(item.to, errno);
+    m_crew.advance();
 }
 
 void TreeCopy::enterFolder(const Item& item) {
@@ -193,6 +205,7 @@ void TreeCopy::enterFolder(const Item& item) {
         failFrom(item.from, error);
     m_levels.push_back({item.from, status, {}});
     error = forEachEntry(m_source.current(), [this](const char* name, unsigned char type) {
+        m_crew.requireWanted(m_from);
         copyEntry({name, name}, type);
     });
     if (error != 0)
@@ -225,26 +238,47 @@ void TreeCopy::finishFolder() {
         failFrom("", error);
     const Level level = std::move(m_levels.back());
     m_levels.pop_back();
-    finish({level.name.c_str(), level.name.c_str()}, from.get(), to.get(), level.status);
-}
-
-void TreeCopy::finish(const Item& item, int from, int to, const struct stat& status) const {
-    Privacy privacy = Privacy::inherited;
-    if (S_ISREG(status.st_mode) && m_levels.empty()) {
-        dropInheritedAccess(to);
-        privacy = m_privacy;
+    if (level.crews) {
+        m_crew.release(*level.crews);
+        return;
     }
-    const std::optional<mode_t> known = copyAttributes(from, to, copiedMode(status), privacy);
-    const std::array<timespec, 2> times = timesOf(status);
-    if (!known || ::fchmod(to, *known) != 0 || ::futimens(to, times.data()) != 0)
-        failTo(item.to, errno);
+    error = finishCopy(from.get(), std::move(to), level.status, Privacy::inherited, m_crew.written());
+    if (error != 0)
+        failTo(level.name.c_str(), error);
+    m_crew.advance();
 }
 
 } // namespace
+} // namespace files
 
-void copyTree(const std::filesystem::path& from, const std::filesystem::path& to,
-              const std::filesystem::path& named, Privacy privacy) {
-    TreeCopy(from, named, privacy).run(to);
+class FileCopier::Crew : public files::CopyCrew {
+public:
+    using CopyCrew::CopyCrew;
+};
+
+FileCopier::FileCopier(files::DiskSync& written, Progress* progress)
+    : m_crew(std::make_unique<Crew>(written, progress)) {}
+
+FileCopier::FileCopier(const FileManager& files)
+    : m_crew(
+          std::make_unique<Crew>(files.m_written != nullptr ? *files.m_written : m_own, files.m_progress)) {}
+
+FileCopier::~FileCopier() = default;
+
+void FileCopier::copy(const std::filesystem::path& from, const std::filesystem::path& to,
+                      const std::filesystem::path& named, Privacy privacy) {
+    if (m_first.empty())
+        m_first = named;
+    files::TreeCopy(from, named, privacy, *m_crew).run(to);
 }
 
-} // namespace selvane::files
+void FileCopier::finish() {
+    m_crew->finish();
+    m_own.waitFor(m_first);
+}
+
+void FileCopier::stop() {
+    m_crew->stop();
+}
+
+} // namespace selvane

@@ -14,12 +14,6 @@
 /// What the file manager needs from the system beyond POSIX.
 namespace selvane::files {
 
-/// Copies `from` to `to`, which must not exist, as `FileManager::copy` describes. After a failure, whatever
-/// was created stays. Errors name the path at or below `from`, or at or below `named`, the user's name for
-/// `to`.
-void copyTree(const std::filesystem::path& from, const std::filesystem::path& to,
-              const std::filesystem::path& named, Privacy privacy);
-
 /// Copies the user's extended attributes and the access lists from one open file to another. Returns the bits
 /// of `mode` that still mean at `to` what they mean at `from`, or nothing, with errno, on failure. A file
 /// system without attributes is no failure. An `ownerOnly` copy gives nobody else access.

@@ -10,7 +10,9 @@
 #include <sys/stat.h>
 
 #include "platform/files/Descriptor.h"
+#include "platform/files/DiskSync.h"
 #include "platform/files/FileRemoval.h"
+#include "platform/files/Temporary.h"
 #include "platform/files/Trash.h"
 
 namespace selvane {
@@ -197,6 +199,25 @@ void FileManager::removeTree(const std::filesystem::path& path) const {
 
 void FileManager::moveToTrash(const std::filesystem::path& path) const {
     selvane::moveToTrash(path);
+    waitForPlaceOf(path);
+}
+
+void FileManager::waitForContent(const std::filesystem::path& file) const {
+    Descriptor open(::open(file.c_str(), O_RDONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC));
+    const int error = open ? files::syncOne(open.get()) : errno;
+    if (error != 0)
+        fail("write", file, error);
+}
+
+void FileManager::waitForNames(const std::filesystem::path& folder) const {
+    if (const int error = m_written == nullptr ? files::syncFolder(folder) : m_written->addFolder(folder);
+        error != 0)
+        fail("write", folder, error);
+}
+
+/// Waits until the folder that `path` is in has its name, or no longer has it.
+void FileManager::waitForPlaceOf(const std::filesystem::path& path) const {
+    waitForNames(files::folderOf(path));
 }
 
 } // namespace selvane

@@ -13,6 +13,11 @@
 
 namespace selvane {
 
+namespace files {
+class DiskSync;
+}
+class Progress;
+
 /// Who may read a file that Selvane creates.
 enum class Privacy {
     inherited, ///< as for the original, or as the user's file-creation mask says
@@ -25,9 +30,21 @@ enum class Privacy {
 /// are built under a temporary name beside the target, beginning with `kTemporaryPrefix`, and take their
 /// final name in one step; after a failure, the temporary is removed. No operation ever recurses through a
 /// symbolic link.
+///
+/// What was written, copied, moved, replaced or moved to the Trash is on the disk when the operation ends:
+/// the content before it gets its name, the name before anything of the user's is removed. Only creating
+/// folders and links, changing modes and removing wait for nothing.
 class FileManager {
 public:
     static constexpr std::string_view kTemporaryPrefix = ".selvane-";
+
+    FileManager() = default;
+    /// Tells `progress` what is copied, and stops copying when it says so.
+    explicit FileManager(Progress* progress) : m_progress(progress) {}
+    /// Doesn't wait for the disk but leaves that to `written`: for making something of many parts that counts
+    /// only when all of it is there.
+    explicit FileManager(files::DiskSync& written, Progress* progress = nullptr)
+        : m_written(&written), m_progress(progress) {}
 
     /// Whether anything is at `path`, even a dangling link; false on any error.
     bool exists(const std::filesystem::path& path) const;
@@ -54,7 +71,7 @@ public:
     std::optional<std::string> readIfPossible(const std::filesystem::path& file) const;
     /// Replaces `file` whole or leaves it as it was. The new file keeps the mode of the one it replaces;
     /// otherwise it gets 0600 if `ownerOnly`, else 0644 less the creation mask. A link at `file` is replaced,
-    /// never followed. The folder must exist. Waits for the disk only if it replaces a file.
+    /// never followed. The folder must exist.
     void write(const std::filesystem::path& file, std::string_view bytes,
                Privacy privacy = Privacy::inherited) const;
     void setMode(const std::filesystem::path& file, mode_t mode) const;
@@ -73,10 +90,8 @@ public:
     /// is at `to`.
     void copy(const std::filesystem::path& from, const std::filesystem::path& to,
               Privacy privacy = Privacy::inherited) const;
-    /// The same without a temporary, for use inside a folder that is itself still temporary. After a failure,
-    /// whatever was copied stays.
-    void copyDirectly(const std::filesystem::path& from, const std::filesystem::path& to) const;
-    /// Moves, even across file systems. Fails if anything is at `to`.
+    /// Moves, even across file systems: then the original is removed once the copy is on the disk. Fails if
+    /// anything is at `to`.
     void move(const std::filesystem::path& from, const std::filesystem::path& to) const;
 
     /// Replaces `path` by what `make` builds at the path it is given, once that is complete. The old content
@@ -96,6 +111,19 @@ public:
     /// Moves `path` to the user's Trash. If the Trash can't take it, throws `LauncherError` and leaves it as
     /// it was.
     void moveToTrash(const std::filesystem::path& path) const;
+
+    /// Waits until a file that another program wrote is on the disk.
+    void waitForContent(const std::filesystem::path& file) const;
+    /// Waits until the names in a folder are on the disk.
+    void waitForNames(const std::filesystem::path& folder) const;
+
+private:
+    friend class FileCopier;
+
+    void waitForPlaceOf(const std::filesystem::path& path) const;
+
+    files::DiskSync* m_written = nullptr; ///< waits later, if set
+    Progress* m_progress = nullptr;
 };
 
 } // namespace selvane

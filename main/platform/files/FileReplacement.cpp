@@ -1,23 +1,25 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include <algorithm>
-#include <array>
 #include <cstdio>
 #include <string>
-#include <sys/random.h>
 #include <sys/stat.h>
 
-#include "platform/files/Descriptor.h"
+#include "platform/files/DiskSync.h"
+#include "platform/files/FileCopier.h"
 #include "platform/files/FileCopy.h"
 #include "platform/files/FileManager.h"
 #include "platform/files/FileRemoval.h"
+#include "platform/files/Temporary.h"
 
 /// The operations of `FileManager` that build something new beside its final place.
 namespace selvane {
 
 using files::Descriptor;
 using files::fail;
+using files::newSibling;
+using files::requireOutside;
+using files::Temporary;
 
 namespace {
 
@@ -25,56 +27,6 @@ namespace {
 std::filesystem::path withoutEndingSlash(const std::filesystem::path& path) {
     return path.has_filename() ? path : path.parent_path();
 }
-
-/// A path for a temporary beside `path`. It doesn't contain the name of `path`, which may already have the
-/// maximum length.
-std::filesystem::path newSibling(const std::filesystem::path& path) {
-    constexpr std::string_view kDigits = "0123456789abcdef";
-    std::array<unsigned char, 8> bytes = {};
-    if (::getentropy(bytes.data(), bytes.size()) != 0)
-        throw std::system_error(errno, std::generic_category(), "getentropy");
-    std::string name(FileManager::kTemporaryPrefix);
-    for (const unsigned char byte : bytes) {
-        name += kDigits[byte >> 4];
-        name += kDigits[byte & 15];
-    }
-    return path.parent_path() / name;
-}
-
-/// Something new beside `target`, removed again unless it is put in place.
-class Temporary {
-public:
-    explicit Temporary(const std::filesystem::path& target) : m_path(newSibling(target)) {}
-    Temporary(const Temporary&) = delete;
-    Temporary& operator=(const Temporary&) = delete;
-    ~Temporary() {
-        if (!m_isPlaced) {
-            try {
-                files::removeTree(m_path, m_path);
-            } catch (const std::exception&) {
-                // Report the error that led here.
-            }
-        }
-    }
-
-    const std::filesystem::path& path() const { return m_path; }
-    void setPlaced() { m_isPlaced = true; }
-
-    /// Renames it to `target`, which must not exist.
-    void place(const std::filesystem::path& target) {
-        if (const int error = files::renameExclusively(m_path, target); error != 0)
-            fail("create", target, error);
-        setPlaced();
-    }
-    /// Undoes `place` if possible.
-    void takeBack(const std::filesystem::path& target) {
-        m_isPlaced = files::renameExclusively(target, m_path) != 0;
-    }
-
-private:
-    std::filesystem::path m_path;
-    bool m_isPlaced = false;
-};
 
 /// Lets `make` build the temporary. Errors about it name `target` instead, the path that the user knows.
 void build(const Temporary& temporary, const std::filesystem::path& target,
@@ -102,16 +54,6 @@ bool isLink(const std::filesystem::path& path) {
     return isAnything(path, status) && S_ISLNK(status.st_mode);
 }
 
-void writeAll(int file, std::string_view bytes, const std::filesystem::path& named) {
-    while (!bytes.empty()) {
-        const ssize_t written = ::write(file, bytes.data(), bytes.size());
-        if (written >= 0)
-            bytes.remove_prefix(static_cast<std::size_t>(written));
-        else if (errno != EINTR)
-            fail("write", named, errno);
-    }
-}
-
 /// Gives a new file the mode, access list and attributes of the one it replaces.
 void inherit(int file, const std::filesystem::path& old, mode_t mode, Privacy privacy) {
     files::dropInheritedAccess(file);
@@ -126,24 +68,16 @@ void inherit(int file, const std::filesystem::path& old, mode_t mode, Privacy pr
         fail("write", old, errno);
 }
 
-/// A folder copied into itself would keep growing during the copy.
-void requireOutside(const char* operation, const std::filesystem::path& from,
-                    const std::filesystem::path& to) {
-    const std::filesystem::path origin = std::filesystem::canonical(from);
-    std::filesystem::path folder = to.parent_path();
-    folder = std::filesystem::canonical(folder.empty() ? "." : folder);
-    if (std::mismatch(origin.begin(), origin.end(), folder.begin(), folder.end()).first == origin.end())
-        fail(operation, from, to, EINVAL);
-}
-
 void copyBeside(const std::filesystem::path& from, const std::filesystem::path& to,
-                const Temporary& temporary, Privacy privacy) {
+                const Temporary& temporary, Privacy privacy, const FileManager& files) {
     struct stat status = {};
     if (isAnything(to, status))
         fail("copy", to, EEXIST);
     if (isAnything(from, status) && S_ISDIR(status.st_mode))
         requireOutside("copy", from, to);
-    files::copyTree(from, temporary.path(), to, privacy);
+    FileCopier copier(files);
+    copier.copy(from, temporary.path(), to, privacy);
+    copier.finish();
 }
 
 /// Replaces a link by `temporary` where names can't be exchanged. For a moment, neither is there.
@@ -167,17 +101,24 @@ void FileManager::write(const std::filesystem::path& file, std::string_view byte
     struct stat old = {};
     const bool replaces = isAnything(file, old) && S_ISREG(old.st_mode);
     const mode_t mode = replaces || privacy == Privacy::ownerOnly ? 0600 : 0644;
-    const Descriptor open(
+    Descriptor open(
         ::open(temporary.path().c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode));
     if (!open)
         fail("write", file, errno);
-    writeAll(open.get(), bytes, file);
+    if (const int error = files::writeAll(open.get(), bytes); error != 0)
+        fail("write", file, error);
     if (replaces)
         inherit(open.get(), file, old.st_mode, privacy);
-    // A power cut must not destroy the old content before the new content is on the disk.
-    if ((replaces && ::fsync(open.get()) != 0) || ::rename(temporary.path().c_str(), file.c_str()) != 0)
-        fail("write", file, errno);
+    // A power cut must not leave the name with half the content.
+    int error = m_written != nullptr ? m_written->add(std::move(open)) : files::syncOne(open.get());
+    if (const int closing = open.closeReporting(); error == 0)
+        error = closing;
+    if (error == 0 && ::rename(temporary.path().c_str(), file.c_str()) != 0)
+        error = errno;
+    if (error != 0)
+        fail("write", file, error);
     temporary.setPlaced();
+    waitForPlaceOf(file);
 }
 
 void FileManager::copy(const std::filesystem::path& from, const std::filesystem::path& to,
@@ -185,20 +126,21 @@ void FileManager::copy(const std::filesystem::path& from, const std::filesystem:
     const std::filesystem::path origin = withoutEndingSlash(from);
     const std::filesystem::path target = withoutEndingSlash(to);
     Temporary temporary(target);
-    copyBeside(origin, target, temporary, privacy);
+    copyBeside(origin, target, temporary, privacy, *this);
     temporary.place(target);
-}
-
-void FileManager::copyDirectly(const std::filesystem::path& from, const std::filesystem::path& to) const {
-    files::copyTree(from, to, to, Privacy::inherited);
+    waitForPlaceOf(target);
 }
 
 void FileManager::move(const std::filesystem::path& from, const std::filesystem::path& to) const {
     const std::filesystem::path origin = withoutEndingSlash(from);
     const std::filesystem::path target = withoutEndingSlash(to);
     int error = files::renameExclusively(origin, target);
-    if (error == 0)
+    if (error == 0) {
+        waitForPlaceOf(target);
+        if (files::folderOf(origin) != files::folderOf(target))
+            waitForPlaceOf(origin);
         return;
+    }
     if (error == EINVAL && isFolder(origin))
         requireOutside("move", origin, target);
     if (error == EINVAL)
@@ -206,9 +148,14 @@ void FileManager::move(const std::filesystem::path& from, const std::filesystem:
     if (error != EXDEV)
         fail("move", origin, target, error);
     Temporary copied(target);
-    copyBeside(origin, target, copied, Privacy::inherited);
+    copyBeside(origin, target, copied, Privacy::inherited, FileManager(m_progress));
     // Place the target first: whatever happens next, the content keeps its name in one of the two places.
     copied.place(target);
+    error = files::syncFolder(files::folderOf(target));
+    if (error != 0) {
+        copied.takeBack(target);
+        fail("move", target, error);
+    }
     // Remove the original in one step too, or not at all: its folder may be read-only.
     const std::filesystem::path aside = newSibling(origin);
     error = files::renameExclusively(origin, aside);
@@ -219,6 +166,7 @@ void FileManager::move(const std::filesystem::path& from, const std::filesystem:
         fail("move", origin, error);
     }
     files::removeTree(isAside ? aside : origin, origin);
+    waitForPlaceOf(origin);
 }
 
 void FileManager::replaceTrashing(
@@ -230,6 +178,7 @@ void FileManager::replaceTrashing(
     if (exists(target))
         moveToTrash(target);
     temporary.place(target);
+    waitForPlaceOf(target);
 }
 
 void FileManager::replaceLink(const std::filesystem::path& link,
@@ -252,6 +201,7 @@ void FileManager::replaceLink(const std::filesystem::path& link,
         fail("replace link", place, EEXIST);
     }
     // Otherwise the old link now has the temporary name and is removed with it.
+    waitForPlaceOf(place);
 }
 
 } // namespace selvane

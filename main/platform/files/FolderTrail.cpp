@@ -8,7 +8,7 @@
 namespace selvane::files {
 namespace {
 
-constexpr std::size_t kOpenFolders = 16;
+constexpr std::size_t kOpenFolders = 8;
 
 } // namespace
 

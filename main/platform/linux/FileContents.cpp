@@ -14,8 +14,8 @@ namespace selvane::files {
 namespace {
 
 constexpr std::size_t kBufferSize = 131072;
-constexpr off_t kRangeSize = 1 << 30;
-constexpr off_t kBlockSize = 512; // the unit of st_blocks
+constexpr off_t kRangeSize = 1 << 24; // a part of a second even on a slow disk
+constexpr off_t kBlockSize = 512;     // the unit of st_blocks
 constexpr off_t kToTheEnd = std::numeric_limits<off_t>::max();
 
 int writeAt(int to, const char* bytes, std::size_t count, off_t offset) {
@@ -37,6 +37,8 @@ int writeAt(int to, const char* bytes, std::size_t count, off_t offset) {
 
 class ContentCopier::System {
 public:
+    explicit System(Progress* progress) : m_progress(progress) {}
+
     /// Copies all of `from`, described by `status`, into the empty file `to`. Returns 0 or an error.
     int copy(int from, int to, const struct stat& status);
 
@@ -45,13 +47,16 @@ private:
     int copyDataOfSparse(int from, int to, off_t size);
     int copyRange(int from, int to, off_t offset, off_t end);
     int copyThroughMemory(int from, int to, off_t offset, off_t end);
+    /// Returns 0, or ECANCELED if the copying is to stop.
+    int advance(off_t bytes) const;
 
+    Progress* m_progress;
     bool m_canClone = true;
     bool m_canCopyRanges = true;
     std::unique_ptr<char[]> m_buffer;
 };
 
-ContentCopier::ContentCopier() : m_system(std::make_unique<System>()) {}
+ContentCopier::ContentCopier(Progress* progress) : m_system(std::make_unique<System>(progress)) {}
 ContentCopier::~ContentCopier() = default;
 
 int ContentCopier::copy(int from, const struct stat& status, int folder, const char* name,
@@ -66,10 +71,17 @@ int ContentCopier::System::copy(int from, int to, const struct stat& status) {
     if (status.st_size == 0)
         return copyThroughMemory(from, to, 0, kToTheEnd);
     if (clone(from, to))
-        return 0;
+        return advance(status.st_size);
     if (status.st_blocks < status.st_size / kBlockSize)
         return copyDataOfSparse(from, to, status.st_size);
     return copyRange(from, to, 0, status.st_size);
+}
+
+int ContentCopier::System::advance(off_t bytes) const {
+    if (m_progress == nullptr)
+        return 0;
+    m_progress->advance(0, bytes);
+    return m_progress->isCancelled() ? ECANCELED : 0;
 }
 
 bool ContentCopier::System::clone(int from, int to) {
@@ -107,6 +119,8 @@ int ContentCopier::System::copyRange(int from, int to, off_t offset, off_t end) 
         const ssize_t copied = ::copy_file_range(from, &in, to, &out, count, 0);
         if (copied > 0) {
             offset += copied;
+            if (const int error = advance(copied); error != 0)
+                return error;
         } else if (copied == 0) {
             break; // the file is shorter than it claimed, unless reading shows otherwise
         } else if (errno != EINTR) {
@@ -134,6 +148,8 @@ int ContentCopier::System::copyThroughMemory(int from, int to, off_t offset, off
             error != 0)
             return error;
         offset += count;
+        if (const int error = advance(count); error != 0)
+            return error;
     }
     return 0;
 }

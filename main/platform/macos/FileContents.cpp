@@ -21,9 +21,17 @@ public:
     int clone(int from, int folder, const char* name, Descriptor& to);
     int copyData(int from, int folder, const char* name, Descriptor& to) const;
 
+    explicit System(Progress* progress) : m_progress(progress) {}
+    int advance(off_t bytes) const {
+        if (m_progress == nullptr)
+            return 0;
+        m_progress->advance(0, bytes);
+        return m_progress->isCancelled() ? ECANCELED : 0;
+    }
     bool canClone(const struct stat& status) const { return m_canClone && (status.st_flags & kLocks) == 0; }
 
 private:
+    Progress* m_progress;
     bool m_canClone = true;
 };
 
@@ -51,16 +59,16 @@ int ContentCopier::System::copyData(int from, int folder, const char* name, Desc
     return ::fcopyfile(from, to.get(), nullptr, kWhat) == 0 ? 0 : errno;
 }
 
-ContentCopier::ContentCopier() : m_system(std::make_unique<System>()) {}
+ContentCopier::ContentCopier(Progress* progress) : m_system(std::make_unique<System>(progress)) {}
 ContentCopier::~ContentCopier() = default;
 
 int ContentCopier::copy(int from, const struct stat& status, int folder, const char* name, Privacy privacy,
                         Descriptor& to) {
     // From its first moment, a clone can be read by anyone who can read the original.
     const bool maybe = privacy == Privacy::inherited && m_system->canClone(status);
-    if (maybe && m_system->clone(from, folder, name, to) == 0)
-        return 0;
-    return m_system->copyData(from, folder, name, to);
+    const bool isCloned = maybe && m_system->clone(from, folder, name, to) == 0;
+    const int error = isCloned ? 0 : m_system->copyData(from, folder, name, to);
+    return error != 0 ? error : m_system->advance(status.st_size);
 }
 
 } // namespace selvane::files

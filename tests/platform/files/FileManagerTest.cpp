@@ -3,6 +3,7 @@
 
 #include "platform/files/FileManager.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <fcntl.h>
@@ -319,13 +320,27 @@ TEST(FileManager, MovesAcrossFileSystems) {
     makeTree(origin);
     const auto before = picture(origin);
     const NameWatch watch({elsewhere, folder.path()});
-    kFiles.move(origin, folder / "moved");
+    std::vector<bool> bothWhileWaiting;
+    {
+        const WaitWatch waiting(WaitWatch::For::disk, [&](const fs::path& file) {
+            bothWhileWaiting.push_back(kFiles.exists(origin) && file != elsewhere);
+        });
+        kFiles.move(origin, folder / "moved");
+    }
+    EXPECT_GE(bothWhileWaiting.size(), 3U);
+    EXPECT_EQ(std::count(bothWhileWaiting.begin(), bothWhileWaiting.end(), false), 1)
+        << "the original goes when the copy and its name are on the disk";
     EXPECT_EQ(watch.changes(), (Names{"+moved", "-origin"})) << "the tree had neither name in between";
     EXPECT_EQ(picture(folder / "moved"), before);
     EXPECT_EQ(kFiles.entries(elsewhere), Names{});
     EXPECT_EQ(kFiles.entries(folder.path()), Names{"moved"});
 
     makeFile(origin, "can't go", 0644);
+    {
+        const FailingClose failing(FileManager::kTemporaryPrefix.data(), EDQUOT);
+        EXPECT_EQ(failure([&] { kFiles.move(origin, folder / "copied"); }), EDQUOT);
+        EXPECT_EQ(kFiles.read(origin), "can't go");
+    }
     kFiles.setMode(elsewhere, 0555);
     EXPECT_TRUE(holdsUnprivileged(folder, [&] {
         return failure([&] { kFiles.move(origin, folder / "copied"); }) == EACCES &&

@@ -34,18 +34,6 @@ TEST(FileManager, WriteKeepsTheModeAndReplacesALink) {
     EXPECT_EQ(kFiles.entries(folder.path()).size(), 3U);
 }
 
-TEST(FileManager, WriteWaitsForTheDiskBeforeTheOldContentGoes) {
-    const TemporaryFolder folder;
-    Names waits;
-    const WaitWatch watch(WaitWatch::For::disk, [&](const fs::path& file) {
-        waits.push_back(kFiles.read(file) + " for " + kFiles.read(folder / "file"));
-    });
-    kFiles.write(folder / "file", "old");
-    EXPECT_EQ(waits, Names()) << "there is nothing to lose";
-    kFiles.write(folder / "file", "new");
-    EXPECT_EQ(waits, Names{"new for old"});
-}
-
 TEST(FileManager, WriteThatFailsLeavesEverythingAsItWas) {
     const TemporaryFolder folder;
     kFiles.createFolder(folder / "folder");

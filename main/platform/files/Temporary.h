@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+
+namespace selvane::files {
+
+/// A path for a temporary beside `path`. It doesn't contain the name of `path`, which may already have the
+/// maximum length.
+std::filesystem::path newSibling(const std::filesystem::path& path);
+/// The folder that `path` is in, "." if the path doesn't say.
+std::filesystem::path folderOf(const std::filesystem::path& path);
+/// Throws if `to` would be inside the folder `from`: copied there, it would keep growing during the copy.
+void requireOutside(const char* operation, const std::filesystem::path& from,
+                    const std::filesystem::path& to);
+/// Returns 0 or the error.
+int writeAll(int file, std::string_view bytes);
+
+/// Something new beside `target`, removed again unless it is put in place.
+class Temporary {
+public:
+    explicit Temporary(const std::filesystem::path& target) : m_path(newSibling(target)) {}
+    Temporary(const Temporary&) = delete;
+    Temporary& operator=(const Temporary&) = delete;
+    ~Temporary();
+
+    const std::filesystem::path& path() const { return m_path; }
+    void setPlaced() { m_isPlaced = true; }
+
+    /// Renames it to `target`, which must not exist.
+    void place(const std::filesystem::path& target);
+    /// Undoes `place` if possible.
+    void takeBack(const std::filesystem::path& target);
+
+private:
+    std::filesystem::path m_path;
+    bool m_isPlaced = false;
+};
+
+} // namespace selvane::files

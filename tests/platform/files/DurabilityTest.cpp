@@ -1,0 +1,157 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <numeric>
+#include <set>
+#include <sys/resource.h>
+
+#include "platform/files/FileBatch.h"
+#include "platform/files/Progress.h"
+#include "support/Files.h"
+#include "support/WaitWatch.h"
+
+namespace selvane {
+namespace {
+
+namespace fs = std::filesystem;
+using Names = std::vector<std::string>;
+using namespace test;
+
+/// The names in a folder that are no temporaries, with the content of files.
+std::string shown(const fs::path& folder) {
+    std::set<std::string> entries;
+    for (const std::string& name : kFiles.entries(folder)) {
+        if (!name.starts_with(FileManager::kTemporaryPrefix))
+            entries.insert(" " + name + "=" + kFiles.readIfPossible(folder / name).value_or(""));
+    }
+    return std::accumulate(entries.begin(), entries.end(), std::string());
+}
+
+/// What is waited for during `operation`, and what `folder` shows meanwhile.
+template <typename Operation>
+Names waits(const fs::path& folder, Operation operation) {
+    Names result;
+    const WaitWatch watch(WaitWatch::For::disk, [&](const fs::path& file) {
+        const bool isFolder = kFiles.isFolder(file);
+        const std::string what = isFolder ? (file == folder ? "names" : "a folder") : kFiles.read(file);
+        result.push_back(what + ":" + shown(folder));
+    });
+    operation();
+    return result;
+}
+
+TEST(Durability, ContentIsOnTheDiskBeforeItsNameAndTheNameBeforeTheEnd) {
+    const TemporaryFolder folder;
+    const fs::path& top = folder.path();
+    EXPECT_EQ(waits(top, [&] { kFiles.write(top / "a", "1"); }), (Names{"1:", "names: a=1"}));
+    EXPECT_EQ(waits(top, [&] { kFiles.write(top / "a", "2"); }), (Names{"2: a=1", "names: a=2"}));
+    EXPECT_EQ(waits(top, [&] { kFiles.copy(top / "a", top / "b"); }), (Names{"2: a=2", "names: a=2 b=2"}));
+    EXPECT_EQ(waits(top, [&] { kFiles.move(top / "b", top / "c"); }), Names{"names: a=2 c=2"});
+    kFiles.removeFile(top / "c");
+    kFiles.createLink(top / "a", top / "l");
+    const auto copyOf = [&](const char* name) {
+        return [&, name](const fs::path& temporary) { kFiles.copy(top / name, temporary); };
+    };
+    EXPECT_EQ(waits(top, [&] { kFiles.replaceLink(top / "l", copyOf("a")); }),
+              (Names{"2: a=2 l=2", "names: a=2 l=2", "names: a=2 l=2"}))
+        << "the copy has its temporary name before the link is replaced";
+    EXPECT_FALSE(kFiles.linkTarget(top / "l"));
+}
+
+TEST(Durability, ManyFilesNeedOneWait) {
+    const TemporaryFolder folder;
+    const fs::path& top = folder.path();
+    kFiles.createFolder(top / "from");
+    kFiles.createFolder(top / "to");
+    for (int i = 0; i < 300; ++i) {
+        kFiles.createLink(top / "from/item", top / "to" / std::to_string(i));
+        kFiles.createFolder(top / "from" / std::to_string(i));
+        kFiles.write(top / "from" / std::to_string(i) / "f", std::to_string(i));
+    }
+    FileBatch batch;
+    const Names waited = waits(top / "to", [&] {
+        for (int i = 0; i < 300; ++i)
+            batch.copyOverLink(top / "from" / std::to_string(i), top / "to" / std::to_string(i));
+        batch.write(top / "to/own", "own", Privacy::ownerOnly);
+        batch.finish();
+    });
+    EXPECT_EQ(waited.size(), 2U) << "the file system, then the folder";
+    EXPECT_EQ(waited.front().find("own"), std::string::npos);
+    for (int i = 0; i < 300; ++i)
+        EXPECT_EQ(kFiles.read(top / "to" / std::to_string(i) / "f"), std::to_string(i));
+    EXPECT_EQ(modeOf(top / "to/own"), 0600U);
+    EXPECT_EQ(kFiles.entries(top / "to").size(), 301U) << "no temporary is left";
+}
+
+TEST(Durability, ABatchThatFailsLeavesWhatWasThere) {
+    const TemporaryFolder folder;
+    const fs::path& top = folder.path();
+    makeFile(top / "from", "new", 0644);
+    kFiles.createLink("nowhere", top / "link");
+    FileBatch batch;
+    batch.copy(top / "from", top / "first");
+    batch.copyOverLink(top / "from", top / "link");
+    kFiles.removeFile(top / "link");
+    makeFile(top / "link", "the user's", 0644); // as an editor does
+    EXPECT_EQ(failure([&] { batch.finish(); }), EEXIST);
+    EXPECT_EQ(kFiles.read(top / "link"), "the user's");
+    EXPECT_EQ(kFiles.read(top / "first"), "new") << "what has its name keeps it";
+}
+
+/// A folder of 20 folders with 20 files each.
+void makeManyFiles(const fs::path& top) {
+    kFiles.createFolder(top);
+    for (int i = 0; i < 20; ++i) {
+        const fs::path folder = top / std::to_string(i);
+        kFiles.createFolder(folder);
+        for (int j = 0; j < 20; ++j)
+            makeFile(folder / (std::to_string(i) + "-" + std::to_string(j)), std::string(1000, 'x'), 0640);
+        const timespec times[] = {{1, 0}, {1, 0}};
+        EXPECT_EQ(::utimensat(AT_FDCWD, folder.c_str(), times, 0), 0);
+        kFiles.setMode(folder, 0550);
+    }
+}
+
+TEST(Copying, ManyFilesAtATimeKeepModesAndTimesWithFewOpenFiles) {
+    const TemporaryFolder folder;
+    makeManyFiles(folder / "many");
+    rlimit before = {};
+    ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &before), 0);
+    const rlimit few = {128, before.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &few), 0);
+    Progress progress;
+    const FileManager files(&progress);
+    EXPECT_NO_THROW(files.copy(folder / "many", folder / "copy"));
+    ::setrlimit(RLIMIT_NOFILE, &before);
+    for (int i = 0; i < 20; ++i) {
+        const fs::path copy = folder / "copy" / std::to_string(i);
+        EXPECT_EQ(modeOf(copy), 0550U);
+        EXPECT_EQ(statusOf(copy).st_mtim.tv_sec, 1);
+        EXPECT_EQ(kFiles.entries(copy).size(), 20U);
+        EXPECT_EQ(kFiles.read(copy / (std::to_string(i) + "-19")), std::string(1000, 'x'));
+    }
+    EXPECT_EQ(progress.entries(), 421);
+    EXPECT_EQ(progress.bytes(), 400'000);
+
+    progress.cancel();
+    EXPECT_EQ(failure([&] { files.copy(folder / "many", folder / "cancelled"); }), ECANCELED);
+    EXPECT_EQ(kFiles.entries(folder.path()).size(), 2U) << "nothing is left of it";
+}
+
+TEST(Copying, AnErrorThatOnlyClosingReportsCounts) {
+    const TemporaryFolder folder;
+    makeManyFiles(folder / "many");
+    makeFile(folder / "file", "old", 0644);
+    for (const char* const name : {"0-0", "9-9"}) { // threads copy at least one of them
+        const FailingClose failing(name, EDQUOT);
+        EXPECT_EQ(failure([&] { kFiles.copy(folder / "many", folder / "copy"); }), EDQUOT) << name;
+    }
+    const FailingClose failing(FileManager::kTemporaryPrefix.data(), EDQUOT);
+    EXPECT_EQ(failure([&] { kFiles.write(folder / "file", "new"); }), EDQUOT);
+    EXPECT_EQ(shown(folder.path()), " file=old many=");
+}
+
+} // namespace
+} // namespace selvane
