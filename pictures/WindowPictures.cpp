@@ -17,7 +17,7 @@
 #include <utility>
 
 #include "AppModel/FakeBridge.h"
-#include "Views/PictureHome.h"
+#include "PictureHome.h"
 #include "Views/shell/LauncherApp.h"
 #include "Views/shell/QmlModule.h"
 #include "artwork/Brand.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "Views/PictureHome.h"
+#include "PictureHome.h"
 
 namespace selvane::test {
 namespace {
