@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 //
-// window-pictures FOLDER [HOME]: one PNG of each window, sheet, alert and state, drawn from a made-up home.
-// HOME is its path, which the pictures show; nothing may exist there. Fails if a view prints a warning.
+// window-pictures [FOLDER [HOME]]: one PNG of each window, sheet, alert and state, drawn from a made-up home;
+// without FOLDER they are drawn all the same, but not kept. HOME is the home's path, which the pictures show;
+// nothing may exist there. Fails if a view prints a warning.
 
 #include <QDir>
 #include <QEventLoop>
@@ -14,6 +15,7 @@
 #include <QTextStream>
 #include <QTimer>
 
+#include <optional>
 #include <utility>
 
 #include "AppModel/FakeBridge.h"
@@ -63,7 +65,7 @@ std::unique_ptr<QObject> themeOf(QQmlEngine& engine) {
 /// The application with its windows for one home.
 class Scene {
 public:
-    Scene(Home& home, const QDir& folder)
+    Scene(Home& home, const std::optional<QDir>& folder)
         : m_folder(folder), m_preferences(QString::fromStdString((home / "preferences.conf").string())),
           m_updates(nullptr), model(home.store, home.claude, m_bridge, m_preferences),
           launcher(m_engine, model, m_updates), m_theme(themeOf(m_engine)) {
@@ -71,9 +73,9 @@ public:
     }
 
     void take(LauncherApp::WindowName name, const QString& picture) {
-        const QString file = m_folder.filePath(picture + ".png");
-        if (!settled(*launcher.window(name)).save(file))
-            qFatal("%s can't be written", qPrintable(file));
+        const QImage image = settled(*launcher.window(name));
+        if (m_folder && !image.save(m_folder->filePath(picture + ".png")))
+            qFatal("%s can't be written", qPrintable(picture));
     }
     void setTheme(const char* property, const QVariant& value) {
         m_theme->property("theme").value<QObject*>()->setProperty(property, value);
@@ -94,7 +96,7 @@ public:
     }
 
 private:
-    QDir m_folder;
+    std::optional<QDir> m_folder;
     FakeBridge m_bridge;
     Preferences m_preferences;
     Updates m_updates;
@@ -188,7 +190,7 @@ void takeLargeText(Scene& scene) {
     scene.setTheme("textScale", 1);
 }
 
-int takeAll(const QDir& folder, const std::string& place) {
+int takeAll(const std::optional<QDir>& folder, const std::string& place) {
     {
         PictureHome home(place);
         Scene scene(home, folder);
@@ -216,13 +218,16 @@ int main(int argc, char** argv) {
     qInstallMessageHandler(selvane::test::noteWarnings);
     const QGuiApplication application(argc, argv);
     qml_register_types_Selvane();
-    if (argc != 2 && argc != 3)
-        qFatal("usage: window-pictures FOLDER [HOME]");
+    if (argc > 3)
+        qFatal("usage: window-pictures [FOLDER [HOME]]");
     const std::string place = argc == 3 ? argv[2] : "anna";
     if (std::filesystem::exists(place))
         qFatal("%s is there already", argv[2]);
-    QDir folder(QString::fromLocal8Bit(argv[1]));
-    folder.mkpath(".");
+    std::optional<QDir> folder;
+    if (argc > 1) {
+        folder.emplace(QString::fromLocal8Bit(argv[1]));
+        folder->mkpath(".");
+    }
     selvane::Brand::registerFonts();
     return selvane::test::takeAll(folder, place);
 }
