@@ -83,13 +83,13 @@ TEST(CommandProfiles, ListShowsEachProfileWithItsModes) {
     EXPECT_EQ(home.output({"create", " Città Nuova ", "--from", "default", "--mode", "CLAUDE.md=none",
                            "--mode", "skills=none", "--mode", "=CLAUDE.md==extend="}),
               "citta-nuova\n");
-    EXPECT_EQ(home.output({"create", "città nuova"}), "citta-nuova-2\n");
+    EXPECT_EQ(home.output({"create", "città nuova?"}), "citta-nuova-2\n");
     EXPECT_EQ(
         home.output({"list"}),
         builtIn + "citta-nuova\tCittà Nuova\t" + root +
             "/citta-nuova\tsource=default\tskills=none agents=shared commands=shared output-styles=shared "
             "rules=shared CLAUDE.md=extend settings=separate plugins=separate mcp=separate\n"
-            "citta-nuova-2\tcittà nuova\t" +
+            "citta-nuova-2\tcittà nuova?\t" +
             root +
             "/citta-nuova-2\tsource=-\tskills=none agents=none commands=none output-styles=none rules=none "
             "CLAUDE.md=none settings=none plugins=none mcp=none\n");

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <unistd.h>
+
 #include <cerrno>
 #include <cstdlib>
 #include <filesystem>
@@ -12,12 +14,14 @@
 
 namespace selvane::test {
 
-/// A new empty folder, removed at the end with everything in it. Its path contains no symbolic links.
+/// A new empty folder, removed at the end with everything in it. Its path contains no symbolic links. It is
+/// in TMPDIR if that is set, and otherwise in memory if possible: on a disk, whoever makes and removes many
+/// files waits for it.
 class TemporaryFolder {
 public:
     TemporaryFolder() {
         namespace fs = std::filesystem;
-        std::string name = fs::canonical(fs::temp_directory_path()) / (kPrefix + "XXXXXX");
+        std::string name = fs::canonical(place()) / (kPrefix + "XXXXXX");
         if (::mkdtemp(name.data()) == nullptr)
             throw std::system_error(errno, std::generic_category(), name);
         m_path = name;
@@ -46,6 +50,12 @@ public:
 
 private:
     static inline const std::string kPrefix = "selvane-test-";
+
+    static std::filesystem::path place() {
+        constexpr const char* kMemory = "/dev/shm";
+        const bool isInMemory = std::getenv("TMPDIR") == nullptr && ::access(kMemory, W_OK | X_OK) == 0;
+        return isInMemory ? kMemory : std::filesystem::temp_directory_path();
+    }
 
     /// Changes each folder before listing it: only then can the folders inside be reached.
     static void makeWritable(const std::filesystem::path& folder) {
