@@ -16,7 +16,6 @@ using namespace test;
 using enum ShareMode;
 using Modes = std::map<Component, ShareMode>;
 
-constexpr fs::perms kOwnerOnly = fs::perms::owner_read | fs::perms::owner_write;
 const Modes kSeparate = {{Component::skills, separate},       {Component::agents, separate},
                          {Component::commands, separate},     {Component::rules, separate},
                          {Component::outputStyles, separate}, {Component::claudeMd, separate}};

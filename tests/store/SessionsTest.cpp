@@ -14,8 +14,6 @@ namespace fs = std::filesystem;
 using namespace test;
 using Texts = std::vector<std::string>;
 
-constexpr fs::perms kOwnerOnly = fs::perms::owner_read | fs::perms::owner_write;
-
 void setAge(const fs::path& path, std::chrono::hours age) {
     fs::last_write_time(path, fs::file_time_type::clock::now() - age);
 }

@@ -20,6 +20,9 @@ namespace selvane::test {
 /// The entries below a folder: the text of a file, "-> target" for a link, "/" for a folder.
 using Tree = std::map<std::string, std::string>;
 
+constexpr std::filesystem::perms kOwnerOnly =
+    std::filesystem::perms::owner_read | std::filesystem::perms::owner_write;
+
 void makePrivate(const std::filesystem::path& folder); ///< private to its owner; created if missing
 void writeFile(const std::filesystem::path& file, const std::string& content); ///< creates its folders too
 void writeTree(const std::filesystem::path& folder, const Tree& tree);         ///< adds to what is there
