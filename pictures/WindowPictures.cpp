@@ -19,12 +19,14 @@
 #include <utility>
 
 #include "AppModel/FakeBridge.h"
+#include "AppModel/WorkProgress.h"
 #include "PictureHome.h"
 #include "Views/shell/LauncherApp.h"
 #include "Views/shell/QmlModule.h"
 #include "artwork/Brand.h"
 #include "model/LauncherError.h"
 #include "support/OwnHome.h"
+#include "support/TemporaryFolder.h"
 
 namespace selvane::test {
 namespace {
@@ -157,6 +159,29 @@ void takeSheets(Scene& scene) {
     scene.takeWith(kManage, "BackupSheet", {{"app", app}}, "backup-sheet");
 }
 
+/// Half of a large copy.
+void takeProgress(Scene& scene) {
+    const TemporaryFolder folder;
+    writeFile(folder / "grande", "");
+    std::filesystem::resize_file(folder / "grande", 1'200'000'000); // takes no room
+    const auto progress = std::make_shared<Progress>();
+    WorkProgress work;
+    work.begin(progress);
+    progress->expect(folder.path());
+    progress->advance(1, 640'000'000);
+    while (work.fraction() < 0)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    scene.takeWith(
+        kPicker, "BusyOverlay",
+        {{"message", "Creazione di «Lavoro»…"}, {"delay", 0}, {"work", QVariant::fromValue(&work)}},
+        "busy-progress");
+    work.cancel();
+    scene.takeWith(
+        kPicker, "BusyOverlay",
+        {{"message", "Creazione di «Lavoro»…"}, {"delay", 0}, {"work", QVariant::fromValue(&work)}},
+        "busy-cancelling");
+}
+
 void takeFeedback(Scene& scene) {
     scene.takeWith(kManage, "AlertDialog",
                    {{"title", "Spostare «Lavoro» nel Cestino?"},
@@ -170,7 +195,9 @@ void takeFeedback(Scene& scene) {
     scene.model.clearNotice();
 
     scene.launcher.showPicker();
-    scene.takeWith(kPicker, "BusyOverlay", {{"message", "Avvio di Claude con «Lavoro»…"}}, "busy");
+    scene.takeWith(kPicker, "BusyOverlay", {{"message", "Avvio di Claude con «Lavoro»…"}, {"delay", 0}},
+                   "busy");
+    takeProgress(scene);
     scene.model.perform([&] {
         throw LauncherError("L'account di «Lavoro» è già aperto in Claude: chiudilo "
                             "prima.");

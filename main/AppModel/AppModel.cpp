@@ -106,38 +106,6 @@ void AppModel::perform(const std::function<void()>& action) {
     reload();
 }
 
-void AppModel::importSessions(const std::vector<CodeSession>& sessions, const Profile& source,
-                              const Profile& target) {
-    perform([&] {
-        const ImportCount count = m_store.importSessions(sessions, source, target);
-        if (count.pending < 1)
-            setNotice(tr("%1 sessioni copiate").arg(count.copied));
-        else
-            setNotice(tr("%1 copiate, %2 aggiunte al prossimo avvio di «%3»")
-                          .arg(count.copied)
-                          .arg(count.pending)
-                          .arg(QString::fromStdString(target.meta.name)));
-    });
-}
-
-void AppModel::create(const ProfileRequest& request) {
-    try {
-        const Profile made = m_store.create(request.profile);
-        if (request.copySessions && request.profile.from) {
-            const Profile& source = *request.profile.from;
-            const ImportCount count = m_store.importSessions(m_store.codeSessions(source), source, made);
-            setNotice(count.pending < 1
-                          ? tr("%1 sessioni copiate").arg(count.copied)
-                          : tr("%1 sessioni verranno aggiunte dopo il primo login").arg(count.pending));
-        }
-        reload();
-        select(QString::fromStdString(made.id));
-    } catch (const std::exception& error) {
-        report(error);
-        reload();
-    }
-}
-
 void AppModel::setAccount(const QString& account, const QString& id) {
     const Profile* current = profile(id);
     if (current == nullptr)

@@ -17,6 +17,7 @@
 
 #include "AppModel/DesktopBridge.h"
 #include "AppModel/Preferences.h"
+#include "AppModel/WorkProgress.h"
 #include "desktop/ClaudeApp.h"
 #include "store/ProfileStore.h"
 
@@ -40,6 +41,7 @@ class AppModel : public QObject {
     Q_PROPERTY(QString selection READ selection WRITE select NOTIFY selectionChanged)
     Q_PROPERTY(QString errorMessage READ errorMessage NOTIFY errorMessageChanged)
     Q_PROPERTY(QString busyMessage READ busyMessage NOTIFY busyMessageChanged)
+    Q_PROPERTY(selvane::WorkProgress* work READ work CONSTANT) ///< how far what `busyMessage` names is
     Q_PROPERTY(QString notice READ notice NOTIFY noticeChanged)
     /// Counts the reloads, so that whatever depends on files is read again when it changes.
     Q_PROPERTY(qint64 revision READ revision NOTIFY reloaded)
@@ -76,14 +78,28 @@ public:
     bool closeAfterLaunch() const { return m_preferences.closeAfterLaunch(); }
     void setCloseAfterLaunch(bool value);
 
+    WorkProgress* work() { return &m_workProgress; }
+
     QString closeMessage(const Profile& target) const;
     void setNotice(const QString& text);
 
-    /// Runs an action, reports its failure, and always reloads.
+    /// Work on another thread: changes files through the store that it is given, and returns what to tell the
+    /// user, if anything. Only values may be taken along.
+    using Work = std::function<QString(ProfileStore&)>;
+    using Done = std::function<void()>;
+
+    /// Runs a quick action, reports its failure, and always reloads.
     void perform(const std::function<void()>& action);
-    void importSessions(const std::vector<CodeSession>& sessions, const Profile& source,
-                        const Profile& target);
-    void create(const ProfileRequest& request);
+    /// Does work that may take long, while the windows show `message` and how far it is and let the user
+    /// cancel it. Reports its failure, always reloads, and calls `succeeded` only after success. If there is
+    /// other work in progress, says so and does nothing.
+    void performLong(
+        const QString& message, Work work, Done succeeded = [] {});
+    void importSessions(
+        const std::vector<CodeSession>& sessions, const Profile& source, const Profile& target,
+        Done succeeded = [] {});
+    void create(
+        const ProfileRequest& request, Done succeeded = [] {});
     void exportBackup(BackupScope scope);
 
 public slots:
@@ -151,6 +167,7 @@ private:
     QString m_pendingLaunch;
     QString m_offerForceQuit;
     qint64 m_revision = 0;
+    WorkProgress m_workProgress;
     QFuture<void> m_work;
 };
 

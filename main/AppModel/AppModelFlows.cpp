@@ -1,50 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 //
-// The slow actions: launching, with any quitting that it needs, and backing up.
+// The slow actions: launching, with any quitting that it needs.
 
 #include "AppModel/AppModel.h"
-
-#include <QDate>
-#include <QFutureWatcher>
-#include <QtConcurrent>
 
 #include <algorithm>
 #include <utility>
 
-#include "platform/text/ErrorText.h"
-#include "platform/text/Text.h"
+#include "AppModel/Background.h"
 
 namespace selvane {
-namespace {
-
-/// The outcome of work on another thread: nothing, or the sentence that says why it failed.
-using Failure = std::optional<QString>;
-
-Failure failureOf(const std::function<void()>& work) {
-    try {
-        work();
-        return std::nullopt;
-    } catch (const std::exception& error) {
-        return QString::fromStdString(describe(error));
-    }
-}
-
-/// Runs `work` on another thread and passes its result to `done` on this one, unless `owner` is gone by then.
-template <typename Work, typename Done>
-QFuture<void> runInBackground(QObject* owner, Work work, Done done) {
-    auto future = QtConcurrent::run(std::move(work));
-    auto* watcher = new QFutureWatcher<decltype(future.result())>(owner);
-    QObject::connect(watcher, &QFutureWatcherBase::finished, owner, [watcher, done = std::move(done)] {
-        watcher->deleteLater();
-        done(watcher->result());
-    });
-    watcher->setFuture(future);
-    return QFuture<void>(future);
-}
-
-} // namespace
-
 /// What a launch has to do, worked out on the main thread.
 struct AppModel::LaunchPlan {
     Profile profile;
@@ -130,6 +96,7 @@ void AppModel::startLaunch(const QString& id, LaunchStep step) {
 void AppModel::runLaunch(LaunchPlan plan, LaunchStep step) {
     const QString launching =
         tr("Avvio di Claude con «%1»…").arg(QString::fromStdString(plan.profile.meta.name));
+    m_workProgress.clear();
     setText(m_busyMessage, plan.toClose.empty() ? launching : tr("Chiusura di Claude…"),
             &AppModel::busyMessageChanged);
     const auto work = [this, plan, step, launching]() -> LaunchResult {
@@ -204,39 +171,6 @@ void AppModel::forceLaunch() {
 
 void AppModel::cancelForceQuit() {
     setText(m_offerForceQuit, {}, &AppModel::offerForceQuitChanged);
-}
-
-void AppModel::exportBackup(BackupScope scope) {
-    const QString name = tr("Backup Claude %1.zip").arg(QDate::currentDate().toString(Qt::ISODate));
-    m_desktop.askForArchive(name, [this, scope](const std::optional<std::filesystem::path>& archive) {
-        if (archive)
-            runBackup(scope, *archive);
-    });
-}
-
-void AppModel::runBackup(BackupScope scope, const std::filesystem::path& archive) {
-    setText(m_busyMessage, tr("Backup in corso…"), &AppModel::busyMessageChanged);
-    struct Outcome {
-        BackupResult result;
-        Failure failure;
-    };
-    const auto work = [this, scope, archive] {
-        Outcome outcome;
-        outcome.failure = failureOf([&] { outcome.result = m_store.backup(scope, archive); });
-        return outcome;
-    };
-    m_work = runInBackground(this, work, [this](const Outcome& outcome) {
-        setText(m_busyMessage, {}, &AppModel::busyMessageChanged);
-        if (outcome.failure) {
-            setText(m_errorMessage, *outcome.failure, &AppModel::errorMessageChanged);
-            return;
-        }
-        const QString size = QString::fromStdString(text::byteCount(outcome.result.size));
-        setNotice(outcome.result.skippedFiles
-                      ? tr("Backup creato (%1); alcuni file non leggibili sono stati saltati").arg(size)
-                      : tr("Backup creato (%1)").arg(size));
-        m_desktop.reveal(outcome.result.archive);
-    });
 }
 
 } // namespace selvane

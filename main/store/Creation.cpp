@@ -70,7 +70,7 @@ Profile ProfileStore::create(const NewProfile& request) {
     Profile profile = createFolder(request, name);
     try {
         files::DiskSync written;
-        fill(profile, request, FileManager(written));
+        fill(profile, request, FileManager(written, m_progress));
         // The record comes last: without it, the folder is no profile.
         written.waitFor(profile.configDir);
         saveMeta(profile);

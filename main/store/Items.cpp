@@ -70,7 +70,7 @@ void ProfileStore::addItem(const ComponentItem& item, const Profile& to, Compone
         m_files.waitForNames(to.url(component));
         return;
     }
-    FileBatch batch;
+    FileBatch batch(m_progress);
     addCopy(item, to, component, batch);
     batch.finish();
 }

@@ -141,7 +141,7 @@ void ProfileStore::setCollectionMode(ShareMode mode, Component component, Profil
         syncLinks(profile);
         return;
     }
-    FileBatch batch;
+    FileBatch batch(m_progress);
     for (const ComponentItem& item : items(component, profile)) {
         if (!isLinked(item, source, component))
             continue;
@@ -197,7 +197,7 @@ Profile ProfileStore::remove(const ComponentItem& item, const Profile& from, Com
 Profile ProfileStore::importItems(const std::set<std::string>& names, const Profile& source,
                                   const Profile& into, Component component, bool link) {
     const FolderLock lock = locked(into);
-    FileBatch batch;
+    FileBatch batch(m_progress);
     std::set<std::string> imported;
     for (const ComponentItem& item : items(component, source)) {
         if (!names.contains(item.name))

@@ -41,6 +41,11 @@ ProfileStore::ProfileStore(const Environment& environment, const ClaudeApp& clau
     }
 }
 
+ProfileStore::ProfileStore(const ProfileStore& other, Progress& progress)
+    : m_progress(&progress), m_files(&progress), m_claude(other.m_claude), m_environment(other.m_environment),
+      m_home(other.m_home), m_root(other.m_root), m_defaultDir(other.m_defaultDir),
+      m_defaultGlobalJSON(other.m_defaultGlobalJSON), m_testMode(other.m_testMode) {}
+
 fs::path ProfileStore::liveDesktopDir() const {
     const std::lock_guard guard(m_liveDesktopDirMutex);
     if (!m_liveDesktopDir.empty())

@@ -27,6 +27,7 @@
 namespace selvane {
 
 class FileBatch;
+class Progress;
 
 /// The parts of a new profile.
 struct NewProfile {
@@ -52,6 +53,8 @@ public:
 
     /// Creates the profiles root if it is missing, ignoring failures.
     ProfileStore(const Environment& environment, const ClaudeApp& claude);
+    /// The same profiles, for one long operation: what is copied is told to `progress`, which can cancel it.
+    ProfileStore(const ProfileStore& other, Progress& progress);
 
     // Locations (ProfileStore.cpp)
     const std::filesystem::path& home() const { return m_home; }
@@ -184,6 +187,7 @@ private:
 
     std::vector<std::filesystem::path> desktopFolders(const std::vector<std::filesystem::path>& in) const;
 
+    Progress* m_progress = nullptr;
     FileManager m_files;
     const ClaudeApp& m_claude;
     Environment m_environment;

@@ -128,7 +128,11 @@ ImportCount ProfileStore::importSessions(const std::vector<CodeSession>& session
     const fs::path destination = canPlace ? folders.front() : target.configDir / kQueueFolder;
     const TranscriptIndex index = transcripts(source);
 
-    FileBatch batch;
+    for (const CodeSession& session : sessions) {
+        if (m_progress != nullptr)
+            m_progress->expect(session.file);
+    }
+    FileBatch batch(m_progress);
     std::set<std::string> knownTranscripts;
     std::set<std::string> knownRecords;
     ImportCount count;
@@ -174,7 +178,7 @@ int ProfileStore::flushPendingSessions(const Profile& profile) {
     const std::vector<fs::path> folders = sessionFolders(data);
     if (folders.empty())
         return 0;
-    FileBatch batch;
+    FileBatch batch(m_progress);
     int placed = 0;
     for (const std::string& name : queued) {
         const fs::path place = folders.front() / name;

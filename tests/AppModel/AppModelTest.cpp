@@ -85,17 +85,82 @@ TEST_F(AppModelTest, create_WithSessions_TellsWhatWaitsAndSelects) {
         writeFile(home / (".config/Claude/claude-code-sessions/a/b/local_" + id + ".json"),
                   R"({"sessionId": ")" + id + "\"}");
     model().create({request("Lavoro", home.builtIn()), true});
+    waitUntilIdle();
     EXPECT_EQ(model().notice(), "3 sessioni verranno aggiunte dopo il primo login");
     EXPECT_EQ(model().selection(), "lavoro");
     model().create({request("Ospite", home.builtIn(), "default"), true});
+    waitUntilIdle();
     EXPECT_EQ(model().notice(), "3 sessioni copiate");
     model().create({request("  "), false});
+    waitUntilIdle();
     EXPECT_EQ(model().errorMessage(), "Il nome del profilo è obbligatorio");
     EXPECT_EQ(model().selection(), "ospite");
 
     const Profile work = *home.store.profile("lavoro");
     model().importSessions(home.store.codeSessions(home.builtIn()), home.builtIn(), work);
+    waitUntilIdle();
     EXPECT_EQ(model().notice(), "0 copiate, 3 aggiunte al prossimo avvio di «Lavoro»");
+}
+
+TEST_F(AppModelTest, performLong_IsOneAtATimeAndCanBeCancelled) {
+    const fs::path skills = home / ".claude/skills";
+    for (int i = 0; i < 300; ++i)
+        writeFile(skills / std::to_string(i) / "SKILL.md", "x");
+    NewProfile wanted = request("Lavoro", home.builtIn());
+    wanted.modes[Component::skills] = ShareMode::separate;
+    bool hasSucceeded = false;
+    model().create({wanted}, [&] { hasSucceeded = true; });
+    EXPECT_EQ(model().busyMessage(), "Creazione di «Lavoro»…");
+    model().create({request("Altro")});
+    EXPECT_EQ(model().notice(), "Selvane sta già lavorando: riprova quando ha finito");
+    model().work()->cancel();
+    EXPECT_EQ(model().work()->headline(), "Annullamento…");
+    waitUntilIdle();
+    EXPECT_EQ(model().notice(), "Annullato");
+    EXPECT_EQ(model().errorMessage(), "");
+    EXPECT_FALSE(hasSucceeded);
+    EXPECT_EQ(model().profiles().size(), 1U);
+    EXPECT_EQ(FileManager().entries(home.store.root()), std::vector<std::string>{}) << "nothing half made";
+
+    model().create({wanted}, [&] { hasSucceeded = true; });
+    waitUntilIdle();
+    EXPECT_TRUE(hasSucceeded);
+    EXPECT_TRUE(fs::is_regular_file(home.store.profile("lavoro")->configDir / "skills/299/SKILL.md"));
+}
+
+TEST_F(AppModelTest, work_TellsHowFarItIs) {
+    writeTree(home / "alto",
+              {{"a", std::string(3'000'000, 'x')}, {"b/c", std::string(1'000'000, 'x')}, {"d", "-> a"}});
+    WorkProgress work;
+    const auto progress = std::make_shared<Progress>();
+    work.begin(progress);
+    const auto waitFor = [&](const QString& detail) {
+        const QDeadlineTimer limit(20'000);
+        while (work.detail() != detail && !limit.hasExpired())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+        EXPECT_EQ(work.detail(), detail);
+    };
+    progress->advance(1, 1'000'000);
+    waitFor("1 file finora · 1 MB");
+    EXPECT_LT(work.fraction(), 0) << "the whole isn't known";
+    progress->expect(home / "alto");
+    progress->expect(home / "assente");
+    waitFor("1 MB di 4 MB");
+    EXPECT_EQ(work.headline(), "Copia di 5 elementi…");
+    EXPECT_EQ(work.fraction(), 0.25);
+    progress->expect(home / "alto");
+    waitFor("1 MB di 8 MB");
+    EXPECT_EQ(work.fraction(), 0.25) << "the bar never moves back";
+
+    work.end();
+    work.clear();
+    EXPECT_EQ(work.headline() + work.detail(), "");
+
+    const std::vector<std::pair<double, QString>> left = {
+        {0.9, "meno di 5 secondi"}, {0.5, "circa 20 secondi"}, {0.26, "circa 57 secondi"},
+        {0.25, "circa 1 minuto"},   {0.1, "circa 3 minuti"},   {0.005, "circa 1 ora"}};
+    for (const auto& [fraction, words] : left)
+        EXPECT_EQ(WorkProgress::timeLeft(fraction, 20'000), words) << fraction;
 }
 
 TEST_F(AppModelTest, exportBackup_EachEnd_LeavesNothingBusy) {

@@ -6,16 +6,22 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// Dims the window and takes all input while there is a message. Meanwhile the light moves from leaf to leaf.
+/// Takes all input while there is a message. If that lasts, it dims the window and shows the message, how far the work
+/// is, and a button that cancels it. Meanwhile the light moves from leaf to leaf.
 FocusScope {
     id: overlay
 
     required property string message
+    property WorkProgress work: null
     property string lastMessage ///< still readable while it fades
     property Item previousFocus: null
     property real light ///< 0: the lower leaf is lit, 1: the upper leaf
+    property bool isShown: false
+    property int delay: Theme.motion.busyDelay
 
     readonly property bool isBusy: message !== ""
+    readonly property bool hasProgress: work !== null && work.detail !== ""
+    readonly property string headline: work !== null && work.headline !== "" ? work.headline : lastMessage
 
     function mix(amount: real): color {
         const dark = Theme.separator
@@ -23,35 +29,66 @@ FocusScope {
         return Qt.rgba(dark.r + (lit.r - dark.r) * amount, dark.g + (lit.g - dark.g) * amount,
                        dark.b + (lit.b - dark.b) * amount, 1)
     }
-
-    anchors.fill: parent
-    z: Theme.busyLayer
-    opacity: isBusy ? 1 : 0
-    visible: isBusy || opacity > 0
-    enabled: isBusy
-
-    Accessible.role: Accessible.AlertMessage
-    Accessible.name: message
-
-    onMessageChanged: {
-        if (isBusy)
-            lastMessage = message
-    }
-    onIsBusyChanged: {
+    function update(): void {
         if (isBusy) {
             previousFocus = Window.activeFocusItem
             forceActiveFocus(Qt.OtherFocusReason)
-        } else if (previousFocus) {
-            previousFocus.forceActiveFocus(Qt.OtherFocusReason)
+            delayTimer.start()
+        } else {
+            delayTimer.stop()
+            if (!least.running)
+                isShown = false
+            if (previousFocus)
+                previousFocus.forceActiveFocus(Qt.OtherFocusReason)
         }
     }
+
+    anchors.fill: parent
+    z: Theme.busyLayer
+    opacity: isShown ? 1 : 0
+    visible: isBusy || isShown || opacity > 0
+    enabled: isBusy
+
+    Accessible.role: Accessible.AlertMessage
+    Accessible.name: headline
+
+    Component.onCompleted: {
+        lastMessage = message
+        if (isBusy)
+            update()
+    }
+    // Bindings to the message may still have its last value.
+    onMessageChanged: {
+        if (message !== "")
+            lastMessage = message
+    }
+    onIsBusyChanged: update()
+    Keys.onEscapePressed: work?.cancel()
     Keys.onPressed: event => event.accepted = true
 
+    Timer {
+        id: delayTimer
+
+        interval: overlay.delay
+        onTriggered: {
+            overlay.isShown = true
+            least.start()
+        }
+    }
+    Timer {
+        id: least
+
+        interval: Theme.motion.busyLeast
+        onTriggered: {
+            if (!overlay.isBusy)
+                overlay.isShown = false
+        }
+    }
     Behavior on opacity {
         NumberAnimation { duration: Theme.motion.busyFade }
     }
     SequentialAnimation on light {
-        running: overlay.isBusy && !Theme.reducedMotion
+        running: overlay.isShown && !Theme.reducedMotion
         loops: Animation.Infinite
         onStopped: overlay.light = 0
 
@@ -72,34 +109,43 @@ FocusScope {
     Rectangle {
         anchors.centerIn: parent
         width: Math.min(parent.width - 2 * Theme.sheets.margin,
-                        Math.max(Theme.sheets.busyWidth, caption.implicitWidth + 2 * Theme.sheets.busySide))
-        height: mark.height + Theme.space20 + caption.height + 2 * Theme.sheets.busyMargin
+                        overlay.hasProgress ? Theme.sheets.progressWidth
+                                            : Math.max(Theme.sheets.busyWidth, caption.implicitWidth + 2 * Theme.sheets.busySide))
+        height: column.height + 2 * Theme.sheets.busyMargin
         radius: Theme.radiusTile
         color: Theme.surface
         border.width: Theme.hairline
         border.color: Theme.separator
 
-        BrandMark {
-            id: mark
+        Column {
+            id: column
 
-            anchors.horizontalCenter: parent.horizontalCenter
-            y: Theme.sheets.busyMargin
-            size: Theme.sheets.busyMark
-            upper: overlay.mix(overlay.light)
-            lower: overlay.mix(1 - overlay.light)
-        }
-        StyledText {
-            id: caption
-
-            anchors.top: mark.bottom
-            anchors.topMargin: Theme.space20
             x: Theme.sheets.busySide
+            y: Theme.sheets.busyMargin
             width: parent.width - 2 * x
-            horizontalAlignment: Text.AlignHCenter
-            look: Theme.type.busyMessage
-            text: overlay.lastMessage
-            wrapMode: Text.Wrap
-            Accessible.ignored: true
+
+            BrandMark {
+                anchors.horizontalCenter: parent.horizontalCenter
+                size: Theme.sheets.busyMark
+                upper: overlay.mix(overlay.light)
+                lower: overlay.mix(1 - overlay.light)
+            }
+            StyledText {
+                id: caption
+
+                width: parent.width
+                topPadding: Theme.space20
+                horizontalAlignment: Text.AlignHCenter
+                look: Theme.type.busyMessage
+                text: overlay.headline
+                wrapMode: Text.Wrap
+                Accessible.ignored: true
+            }
+            WorkDetail {
+                width: parent.width
+                visible: overlay.hasProgress
+                work: overlay.work
+            }
         }
     }
 }

@@ -7,7 +7,8 @@ import QtQuick
 import Selvane
 
 /// A panel over the dimmed window, shown from its creation until `closed`. Escape cancels and Return
-/// confirms; both close it. The focus stays inside and then returns to where it was.
+/// confirms; both close it, but for a confirmation that `closesWhenDone`. The focus stays inside and then returns to
+/// where it was.
 FocusScope {
     id: layer
 
@@ -15,6 +16,7 @@ FocusScope {
     property string title ///< accessible name
     property bool confirmEnabled: true
     property bool cancellable: true
+    property bool closesWhenDone: false ///< whoever is asked by `confirmed` calls `close` after success
     property Item firstFocus: null ///< otherwise the first control
     property real plateWidth: Theme.sheets.alertWidth
     property real plateHeight: 0
@@ -28,7 +30,8 @@ FocusScope {
     function confirm(): void {
         if (!layer.isOpen || !layer.confirmEnabled)
             return
-        layer.close()
+        if (!layer.closesWhenDone)
+            layer.close()
         layer.confirmed()
     }
     function cancel(): void {

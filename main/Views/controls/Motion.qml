@@ -27,6 +27,8 @@ QtObject {
     readonly property int toastOut: fading(160)
     readonly property int busyFade: fading(150)
     readonly property int busyCross: 900
+    readonly property int busyDelay: 200 ///< before quick work is shown at all
+    readonly property int busyLeast: 400 ///< so that it doesn't flash
     readonly property int noticeDuration: 2500
     readonly property int toolTipDelay: 600
     readonly property real menuSlide: reducedMotion ? 0 : 4

@@ -174,8 +174,12 @@ void ComponentModel::setMode(int index) {
     const auto allowed = allowedModes(m_component);
     if (!m_profile || index < 0 || index >= static_cast<int>(allowed.size()))
         return;
-    m_app->perform(
-        [&] { m_app->store().setMode(allowed[static_cast<std::size_t>(index)], m_component, *m_profile); });
+    const ShareMode mode = allowed[static_cast<std::size_t>(index)];
+    m_app->performLong(tr("Cambio di «%1»…").arg(title()),
+                       [mode, component = m_component, profile = *m_profile](ProfileStore& store) {
+                           store.setMode(mode, component, profile);
+                           return QString();
+                       });
 }
 
 void ComponentModel::reveal() {
@@ -194,14 +198,17 @@ void ComponentModel::reimport(const QString& profileId) {
     const Profile* profile = m_app->profile(profileId);
     if (profile == nullptr)
         return;
-    m_app->perform([this, profile = *profile] {
-        const auto id = profile.meta.source;
-        const Profile* source = id ? m_app->profile(QString::fromStdString(*id)) : nullptr;
-        if (source == nullptr)
-            throw LauncherError("Il profilo da cui «" + profile.meta.name + "» eredita non c'è più");
-        m_app->store().reimport(m_component, profile, *source);
-        m_app->setNotice(tr("%1: reimportati").arg(title()));
-    });
+    m_app->performLong(tr("Reimportazione di «%1»…").arg(title()),
+                       [component = m_component, profile = *profile,
+                        done = tr("%1: reimportati").arg(title())](ProfileStore& store) {
+                           const auto id = profile.meta.source;
+                           const auto source = id ? store.profile(*id) : std::nullopt;
+                           if (!source)
+                               throw LauncherError("Il profilo da cui «" + profile.meta.name +
+                                                   "» eredita non c'è più");
+                           store.reimport(component, profile, *source);
+                           return done;
+                       });
 }
 
 void ComponentModel::remove(int row) {

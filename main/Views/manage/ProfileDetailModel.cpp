@@ -229,7 +229,10 @@ void ProfileDetailModel::setAccount(int index) {
 
 void ProfileDetailModel::remove(const QString& profileId) {
     if (const Profile* profile = m_app->profile(profileId))
-        m_app->perform([this, profile = *profile] { m_app->store().deleteProfile(profile); });
+        m_app->performLong(tr("Spostamento nel Cestino…"), [profile = *profile](ProfileStore& store) {
+            store.deleteProfile(profile);
+            return QString();
+        });
 }
 
 } // namespace selvane

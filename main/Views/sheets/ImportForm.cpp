@@ -3,6 +3,8 @@
 
 #include "Views/sheets/ImportForm.h"
 
+#include <QPointer>
+
 namespace selvane {
 
 QString ImportForm::heading() const {
@@ -47,9 +49,16 @@ void ImportForm::submit() {
     const std::set<std::string> names = m_items.chosenKeys();
     if (source == nullptr || target == nullptr || !part || names.empty())
         return;
-    // Pass copies: `perform` reloads the profiles that these pointers refer to.
-    m_app->perform([&store = m_app->store(), names, from = *source, into = *target, part = *part,
-                    links = m_links] { store.importItems(names, from, into, part, links); });
+    m_app->performLong(
+        tr("Aggiunta degli elementi…"),
+        [names, from = *source, into = *target, part = *part, links = m_links](ProfileStore& store) {
+            store.importItems(names, from, into, part, links);
+            return QString();
+        },
+        [form = QPointer(this)] {
+            if (form)
+                emit form->succeeded();
+        });
 }
 
 } // namespace selvane

@@ -39,10 +39,11 @@ public:
     void classBegin() override {}
     void componentComplete() override { setSource(m_app->firstOther(m_target)); }
 
-    /// Does nothing if no item is chosen.
+    /// Does nothing if no item is chosen. `succeeded` follows once all is there.
     Q_INVOKABLE void submit();
 
 signals:
+    void succeeded(); ///< the submitted work is done
     void inputChanged();
     void sourceChanged();
     void linksChanged();

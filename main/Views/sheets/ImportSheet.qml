@@ -20,6 +20,7 @@ Sheet {
     plateWidth: Theme.sheets.importWidth
     spacing: Theme.space20
     firstFocus: items.focusTarget
+    closesWhenDone: true
     onConfirmed: form.submit()
 
     ImportForm {
@@ -28,6 +29,7 @@ Sheet {
         app: sheet.app
         target: sheet.target
         component: sheet.component
+        onSucceeded: sheet.close()
     }
     ProfileDropDown {
         id: source

@@ -3,6 +3,8 @@
 
 #include "Views/sheets/NewProfileForm.h"
 
+#include <QPointer>
+
 #include <algorithm>
 #include <utility>
 
@@ -123,8 +125,12 @@ ProfileRequest NewProfileForm::request() const {
 }
 
 void NewProfileForm::create() {
-    if (canCreate())
-        m_app->create(request());
+    if (!canCreate())
+        return;
+    m_app->create(request(), [form = QPointer(this)] {
+        if (form)
+            emit form->succeeded();
+    });
 }
 
 int NewProfileForm::rowCount(const QModelIndex& parent) const {

@@ -54,7 +54,8 @@ public:
     // Sets this mode for every component that allows it, and the nearest one for the others.
     Q_INVOKABLE void shareAll() { setAll(ShareMode::shared); }
     Q_INVOKABLE void separateAll() { setAll(ShareMode::separate); }
-    /// Passes the request to the application. Does nothing if the name is blank.
+    /// Passes the request to the application; `succeeded` follows once the profile is there. Does nothing if
+    /// the name is blank.
     Q_INVOKABLE void create();
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -62,6 +63,7 @@ public:
     QHash<int, QByteArray> roleNames() const override;
 
 signals:
+    void succeeded(); ///< the profile is there
     void appChanged();
     void nameChanged();
     void summaryChanged();

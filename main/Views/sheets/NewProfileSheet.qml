@@ -19,6 +19,7 @@ Sheet {
     plateWidth: Theme.sheets.newProfileWidth
     spacing: Theme.space24
     firstFocus: nameField
+    closesWhenDone: true
     onConfirmed: form.create()
 
     NewProfileForm {
@@ -26,6 +27,7 @@ Sheet {
 
         app: sheet.app
         source: sheet.initialSource
+        onSucceeded: sheet.close()
     }
     Column {
         width: parent.width

@@ -3,6 +3,7 @@
 
 #include "Views/sheets/SessionImportForm.h"
 
+#include <QPointer>
 #include <QtConcurrent>
 
 namespace selvane {
@@ -68,8 +69,10 @@ void SessionImportForm::submit() {
         if (files.contains(session.file))
             chosen.push_back(session);
     }
-    // Pass copies: importing reloads the profiles that these pointers refer to.
-    m_app->importSessions(chosen, Profile(*source), Profile(*target));
+    m_app->importSessions(chosen, *source, *target, [form = QPointer(this)] {
+        if (form)
+            emit form->succeeded();
+    });
 }
 
 } // namespace selvane

@@ -19,6 +19,7 @@ Sheet {
     plateWidth: Theme.sheets.sessionImportWidth
     spacing: Theme.space12
     firstFocus: search
+    closesWhenDone: true
     onConfirmed: form.submit()
 
     SessionImportForm {
@@ -26,6 +27,7 @@ Sheet {
 
         app: sheet.app
         target: sheet.target
+        onSucceeded: sheet.close()
     }
     Row {
         id: inputs

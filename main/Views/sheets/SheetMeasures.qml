@@ -24,6 +24,9 @@ Measures {
     readonly property real busyMargin: 32 ///< above and below
     readonly property real busySide: 40
     readonly property real busyMark: 56
+    readonly property real progressWidth: 400 ///< of the same plate with a bar
+    readonly property real progressBar: 320
+    readonly property real progressHeight: 8
     readonly property real toastHeight: scaled(40)
     readonly property real toastMargin: 24
 }

@@ -78,6 +78,7 @@ Item {
     }
     BusyOverlay {
         message: feedback.app.busyMessage
+        work: feedback.app.work
     }
 
     Component {

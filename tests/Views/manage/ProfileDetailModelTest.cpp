@@ -167,18 +167,22 @@ TEST_F(ProfileDetailModelTest, answers_ConcernTheProfileThatWasAskedAbout) {
     const Profile other = home.make("Altro", {{Component::settings, ShareMode::none}});
     show("altro");
     shown(Component::settings).reimport("lavoro");
+    waitUntilIdle();
     EXPECT_EQ(model().notice(), "Impostazioni e hook: reimportati");
     EXPECT_TRUE(fs::exists(work.configDir / "settings.json"));
     EXPECT_FALSE(fs::exists(other.configDir / "settings.json"));
     detail.remove("lavoro");
+    waitUntilIdle();
     EXPECT_FALSE(fs::exists(work.configDir));
     EXPECT_TRUE(fs::exists(other.configDir));
     EXPECT_EQ(detail.profileId(), "altro");
 
     detail.remove("default");
+    waitUntilIdle();
     EXPECT_NE(model().errorMessage(), "");
     EXPECT_TRUE(fs::exists(home / ".claude"));
     shown(Component::settings).reimport("default");
+    waitUntilIdle();
     EXPECT_NE(model().errorMessage(), "") << "it has no source";
 }
 

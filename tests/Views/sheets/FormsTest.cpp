@@ -62,6 +62,7 @@ TEST_F(FormsTest, newProfile_Create_MakesWhatWasChosen) {
     prepare(form, {{"name", "   "}, {"source", "default"}});
     EXPECT_FALSE(form.canCreate());
     form.create();
+    waitUntilIdle();
     EXPECT_EQ(model().profiles().size(), 1U);
 
     form.setProperty("name", " Lavoro ");
@@ -72,6 +73,7 @@ TEST_F(FormsTest, newProfile_Create_MakesWhatWasChosen) {
     items->chooseNone();
     items->toggle(0);
     form.create();
+    waitUntilIdle();
     const Profile made = *home.store.profile("lavoro");
     EXPECT_EQ(made.meta.account, "default");
     EXPECT_EQ(made.meta.symbol, "briefcase");
@@ -82,6 +84,7 @@ TEST_F(FormsTest, newProfile_Create_MakesWhatWasChosen) {
     form.setSource("");
     form.setProperty("name", "Vuoto");
     form.create();
+    waitUntilIdle();
     EXPECT_FALSE(home.store.profile("vuoto")->meta.source || home.store.profile("vuoto")->meta.account);
 }
 
@@ -97,10 +100,12 @@ TEST_F(FormsTest, import_OffersWhatIsMissingByName) {
     EXPECT_EQ(titles(*form.items()), std::vector<std::string>{"due.md"});
     const qint64 revision = model().revision();
     form.submit();
+    waitUntilIdle();
     EXPECT_EQ(model().revision(), revision) << "nothing chosen, nothing done";
     form.items()->toggle(0);
     form.setProperty("links", false);
     form.submit();
+    waitUntilIdle();
     EXPECT_EQ(readFile(target.configDir / "rules/due.md"), "2");
     EXPECT_FALSE(fs::is_symlink(target.configDir / "rules/due.md"));
     form.setSource("default");
@@ -129,6 +134,7 @@ TEST_F(FormsTest, sessionImport_SearchNarrowsWhatIsChosen) {
     sessions.setSearch("");
     EXPECT_EQ(sessions.chosenCount(), 1) << "what was chosen stays chosen when the search ends";
     form.submit();
+    waitUntilIdle();
     EXPECT_EQ(model().notice(), "0 copiate, 1 aggiunte al prossimo avvio di «Lavoro»");
 }
 
@@ -139,6 +145,7 @@ TEST_F(FormsTest, backup_SavesWhatIsSwitchedOn) {
     prepare(form, {{"savesPrincipal", false}, {"savesProfiles", false}});
     EXPECT_FALSE(form.canSave());
     form.submit();
+    waitUntilIdle();
     EXPECT_EQ(bridge.proposedName, "") << "nobody is asked for a place";
     form.setProperty("savesProfiles", true);
     form.submit();

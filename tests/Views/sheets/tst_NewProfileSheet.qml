@@ -48,6 +48,22 @@ Item {
             compare(home.app.selection, "lavoro")
         }
 
+        function test_staysUntilTheProfileIsThere(): void {
+            openSheet(newProfile)
+            write("Lavoro")
+            home.remove(".claude-profiles")
+            home.write(".claude-profiles", "no folder")
+            press(Qt.Key_Return)
+            tryVerify(() => home.app.errorMessage !== "")
+            home.app.clearError()
+            verify(sheet.isOpen)
+            compare([nameOf(focused()), focused().text], ["Nome", "Lavoro"])
+            home.remove(".claude-profiles")
+            home.write(".claude-profiles/.x")
+            confirm()
+            compare(home.app.selection, "lavoro")
+        }
+
         function test_emptyProfileTakesNothing(): void {
             openSheet(newProfile, { initialSource: "default" })
             const note = "Il profilo parte senza skill né regole."

@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+//
+// The actions that change many files, each on another thread: creating, importing, backing up.
+
+#include "AppModel/AppModel.h"
+
+#include <QDate>
+
+#include <memory>
+#include <utility>
+
+#include "AppModel/Background.h"
+#include "AppModel/QtText.h"
+#include "platform/text/Text.h"
+
+namespace selvane {
+
+void AppModel::performLong(const QString& message, Work work, Done succeeded) {
+    if (!m_busyMessage.isEmpty()) {
+        setNotice(tr("Selvane sta già lavorando: riprova quando ha finito"));
+        return;
+    }
+    struct Outcome {
+        QString notice;
+        Failure failure;
+        bool isCancelled = false;
+    };
+    const auto progress = std::make_shared<Progress>();
+    m_workProgress.begin(progress);
+    setText(m_busyMessage, message, &AppModel::busyMessageChanged);
+    const auto run = [this, progress, work = std::move(work)] {
+        Outcome outcome;
+        outcome.failure = failureOf([&] {
+            ProfileStore store(m_store, *progress);
+            outcome.notice = work(store);
+        });
+        outcome.isCancelled = outcome.failure && progress->isCancelled();
+        return outcome;
+    };
+    m_work = runInBackground(this, run, [this, succeeded = std::move(succeeded)](const Outcome& outcome) {
+        m_workProgress.end();
+        setText(m_busyMessage, {}, &AppModel::busyMessageChanged);
+        reload();
+        if (outcome.isCancelled) {
+            setNotice(tr("Annullato"));
+        } else if (outcome.failure) {
+            setText(m_errorMessage, *outcome.failure, &AppModel::errorMessageChanged);
+        } else {
+            if (!outcome.notice.isEmpty())
+                setNotice(outcome.notice);
+            succeeded();
+        }
+    });
+}
+
+void AppModel::importSessions(const std::vector<CodeSession>& sessions, const Profile& source,
+                              const Profile& target, Done succeeded) {
+    const Work work = [sessions, source, target](ProfileStore& store) {
+        const ImportCount count = store.importSessions(sessions, source, target);
+        if (count.pending < 1)
+            return tr("%1 sessioni copiate").arg(count.copied);
+        return tr("%1 copiate, %2 aggiunte al prossimo avvio di «%3»")
+            .arg(count.copied)
+            .arg(count.pending)
+            .arg(QString::fromStdString(target.meta.name));
+    };
+    performLong(tr("Copia delle sessioni…"), work, std::move(succeeded));
+}
+
+void AppModel::create(const ProfileRequest& request, Done succeeded) {
+    const auto made = std::make_shared<QString>(); // its id, written by the work and read after it
+    const Work work = [request, made](ProfileStore& store) -> QString {
+        const Profile profile = store.create(request.profile);
+        *made = QString::fromStdString(profile.id);
+        if (!request.copySessions || !request.profile.from)
+            return {};
+        const Profile& source = *request.profile.from;
+        const ImportCount count = store.importSessions(store.codeSessions(source), source, profile);
+        return count.pending < 1 ? tr("%1 sessioni copiate").arg(count.copied)
+                                 : tr("%1 sessioni verranno aggiunte dopo il primo login").arg(count.pending);
+    };
+    const QString name = qtText(text::trimmed(request.profile.name));
+    performLong(tr("Creazione di «%1»…").arg(name), work, [this, made, succeeded = std::move(succeeded)] {
+        select(*made);
+        succeeded();
+    });
+}
+
+void AppModel::exportBackup(BackupScope scope) {
+    const QString name = tr("Backup Claude %1.zip").arg(QDate::currentDate().toString(Qt::ISODate));
+    m_desktop.askForArchive(name, [this, scope](const std::optional<std::filesystem::path>& archive) {
+        if (archive)
+            runBackup(scope, *archive);
+    });
+}
+
+void AppModel::runBackup(BackupScope scope, const std::filesystem::path& archive) {
+    const auto made = std::make_shared<std::filesystem::path>(); // written by the work and read after it
+    const Work work = [scope, archive, made](ProfileStore& store) {
+        const BackupResult result = store.backup(scope, archive);
+        *made = result.archive;
+        const QString size = QString::fromStdString(text::byteCount(result.size));
+        return result.skippedFiles
+                   ? tr("Backup creato (%1); alcuni file non leggibili sono stati saltati").arg(size)
+                   : tr("Backup creato (%1)").arg(size);
+    };
+    performLong(tr("Backup in corso…"), work, [this, made] { m_desktop.reveal(*made); });
+}
+
+} // namespace selvane
