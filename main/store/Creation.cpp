@@ -109,10 +109,27 @@ void ProfileStore::fill(Profile& profile, const NewProfile& request, const FileM
             std::sort(excluded.begin(), excluded.end());
         }
 
+        if (request.from && mode == ShareMode::separate)
+            announceCopies(component, profile, *request.from);
+    }
+    for (const Component component : kComponents) {
+        const ShareMode mode = profile.mode(component);
         if (request.from && mode != ShareMode::none)
             apply(component, mode, profile, *request.from, files);
         else if (isCollection(component))
             m_files.createFolders(profile.url(component));
+    }
+}
+
+/// What a new profile takes separately.
+void ProfileStore::announceCopies(Component component, const Profile& to, const Profile& from) const {
+    const fs::path origin = from.url(component);
+    if (!isCollection(component))
+        return announce(origin);
+    const std::set<std::string> excluded = to.excluded(component);
+    for (const FolderEntry& entry : ItemListing(component, origin).entries) {
+        if (!excluded.contains(entry.name))
+            announce(origin / entry.name);
     }
 }
 

@@ -23,6 +23,7 @@ void ProfileStore::rewritePaths(const fs::path& file, const Profile& from, const
 }
 
 void ProfileStore::reimport(Component component, const Profile& to, const Profile& from) {
+    announce(from.url(component));
     importWhole(component, to, from, m_files);
 }
 

@@ -141,8 +141,15 @@ void ProfileStore::setCollectionMode(ShareMode mode, Component component, Profil
         syncLinks(profile);
         return;
     }
+    const std::vector<ComponentItem> present = items(component, profile);
+    if (mode == ShareMode::separate) {
+        for (const ComponentItem& item : present) {
+            if (!item.isBroken && isLinked(item, source, component))
+                announce(m_files.resolved(item.url));
+        }
+    }
     FileBatch batch(m_progress);
-    for (const ComponentItem& item : items(component, profile)) {
+    for (const ComponentItem& item : present) {
         if (!isLinked(item, source, component))
             continue;
         if (mode == ShareMode::none)
@@ -168,10 +175,15 @@ void ProfileStore::copyMissing(Component component, const Profile& to, const Pro
                                FileBatch& batch) {
     const auto present = namesOf(items(component, to));
     const auto excluded = to.excluded(component);
-    for (const ComponentItem& item : items(component, from)) {
-        if (!present.contains(item.name) && !excluded.contains(item.name) && !item.isBroken)
-            addCopy(item, to, component, batch);
+    std::vector<ComponentItem> missing;
+    for (ComponentItem& item : items(component, from)) {
+        if (!present.contains(item.name) && !excluded.contains(item.name) && !item.isBroken) {
+            announce(item.url);
+            missing.push_back(std::move(item));
+        }
     }
+    for (const ComponentItem& item : missing)
+        addCopy(item, to, component, batch);
 }
 
 Profile ProfileStore::remove(const ComponentItem& item, const Profile& from, Component component) {
@@ -197,9 +209,14 @@ Profile ProfileStore::remove(const ComponentItem& item, const Profile& from, Com
 Profile ProfileStore::importItems(const std::set<std::string>& names, const Profile& source,
                                   const Profile& into, Component component, bool link) {
     const FolderLock lock = locked(into);
+    const std::vector<ComponentItem> offered = items(component, source);
+    for (const ComponentItem& item : offered) {
+        if (!link && names.contains(item.name))
+            announce(item.url);
+    }
     FileBatch batch(m_progress);
     std::set<std::string> imported;
-    for (const ComponentItem& item : items(component, source)) {
+    for (const ComponentItem& item : offered) {
         if (!names.contains(item.name))
             continue;
         if (link)

@@ -6,6 +6,7 @@
 #include "model/LauncherError.h"
 #include "platform/files/Locations.h"
 #include "platform/files/NormalizedPath.h"
+#include "platform/files/Progress.h"
 #include "platform/text/Text.h"
 #include "store/ProfileRecord.h"
 
@@ -59,6 +60,11 @@ fs::path ProfileStore::liveDesktopDir() const {
     if (isSettled)
         m_liveDesktopDir = folder;
     return folder;
+}
+
+void ProfileStore::announce(const fs::path& tree) const {
+    if (m_progress != nullptr)
+        m_progress->expect(tree);
 }
 
 fs::path ProfileStore::globalJSON(const Profile& profile) const {

@@ -146,10 +146,15 @@ private:
     FolderLock locked(const Profile& profile) const;
     Profile current(const Profile& profile) const;
 
+    /// Tells the progress, if there is one, that everything at `tree` will be copied. Said before the first
+    /// copy of an operation, so that how far it is doesn't jump.
+    void announce(const std::filesystem::path& tree) const;
+
     std::string uniqueSlug(const std::string& name) const;
     Profile createFolder(const NewProfile& request, const std::string& name);
     void fill(Profile& profile, const NewProfile& request, const FileManager& files);
     // These write through `files`, which may leave it to the caller to wait for the disk.
+    void announceCopies(Component component, const Profile& to, const Profile& from) const;
     void apply(Component component, ShareMode mode, const Profile& to, const Profile& from,
                const FileManager& files);
     void fillCollection(Component component, ShareMode mode, const Profile& to, const Profile& from,

@@ -129,8 +129,14 @@ ImportCount ProfileStore::importSessions(const std::vector<CodeSession>& session
     const TranscriptIndex index = transcripts(source);
 
     for (const CodeSession& session : sessions) {
-        if (m_progress != nullptr)
-            m_progress->expect(session.file);
+        if (!sameAccount)
+            announce(session.file);
+        for (const std::string& id : session.cliSessionIDs) {
+            if (const auto folder = sameConfiguration ? std::nullopt : index.transcriptFolder(id)) {
+                announce(*folder / (id + ".jsonl"));
+                announce(*folder / id);
+            }
+        }
     }
     FileBatch batch(m_progress);
     std::set<std::string> knownTranscripts;

@@ -12,6 +12,7 @@ Column {
 
     required property WorkProgress work
 
+    readonly property bool canCancel: work !== null && work.canCancel
     readonly property bool hasBar: work !== null && work.fraction >= 0 && !work.isCancelling
 
     Item {
@@ -54,7 +55,7 @@ Column {
     Item {
         width: parent.width
         height: Theme.space20 + cancel.height
-        visible: cancel.visible
+        visible: detail.canCancel
 
         GhostButton {
             id: cancel
@@ -62,8 +63,7 @@ Column {
             anchors.horizontalCenter: parent.horizontalCenter
             anchors.bottom: parent.bottom
             text: qsTr("Annulla")
-            visible: detail.work !== null && detail.work.canCancel
-            enabled: detail.work !== null && !detail.work.isCancelling
+            enabled: detail.canCancel && !detail.work.isCancelling
             onClicked: detail.work.cancel()
         }
     }

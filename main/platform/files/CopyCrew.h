@@ -65,11 +65,6 @@ public:
     CopyCrew(const CopyCrew&) = delete;
     CopyCrew& operator=(const CopyCrew&) = delete;
 
-    /// Announces what will be copied.
-    void expect(const std::filesystem::path& tree) {
-        if (m_progress != nullptr)
-            m_progress->expect(tree);
-    }
     /// Whether the next file goes to a thread. Otherwise the caller copies it by `copyNow`.
     bool takesFiles();
     CopyFailure copyNow(const FileToCopy& file);
