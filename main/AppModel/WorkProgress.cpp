@@ -9,7 +9,7 @@
 #include <cmath>
 #include <utility>
 
-#include "platform/text/Text.h"
+#include "platform/files/ProgressText.h"
 
 namespace selvane {
 namespace {
@@ -20,10 +20,6 @@ constexpr qint64 kTimeRenewedAfter = 1000;
 
 QString number(qint64 value) {
     return QLocale(QLocale::Italian, QLocale::Italy).toString(value);
-}
-
-QString size(std::int64_t bytes) {
-    return QString::fromStdString(text::byteCount(bytes));
 }
 
 } // namespace
@@ -79,7 +75,7 @@ void WorkProgress::look() {
                                             : tr("Copia di %1 elementi…").arg(number(expected->entries));
     }
     showTime();
-    m_detail = amounts(expected);
+    m_detail = QString::fromStdString(progressText(*m_progress));
     if (!m_detail.isEmpty() && !m_timeLeft.isEmpty())
         m_detail += tr(" · ") + m_timeLeft;
     emit changed();
@@ -91,19 +87,6 @@ void WorkProgress::showTime() {
         return;
     m_timeShownAt = now;
     m_timeLeft = timeLeft(m_fraction, now);
-}
-
-QString WorkProgress::amounts(const std::optional<Progress::Amount>& expected) const {
-    const std::int64_t entries = m_progress->entries();
-    if (expected && expected->bytes > 0)
-        return tr("%1 di %2")
-            .arg(size(std::min(m_progress->bytes(), expected->bytes)), size(expected->bytes));
-    if (expected)
-        return tr("%1 di %2").arg(number(std::min(entries, expected->entries)), number(expected->entries));
-    if (entries == 0)
-        return {};
-    return (entries == 1 ? tr("1 file finora") : tr("%1 file finora").arg(number(entries))) + tr(" · ") +
-           size(m_progress->bytes());
 }
 
 QString WorkProgress::timeLeft(double fraction, qint64 elapsedMilliseconds) {

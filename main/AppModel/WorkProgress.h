@@ -58,7 +58,6 @@ signals:
 private:
     void look();
     void showTime();
-    QString amounts(const std::optional<Progress::Amount>& expected) const;
 
     std::shared_ptr<Progress> m_progress;
     QTimer m_timer;

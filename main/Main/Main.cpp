@@ -14,8 +14,10 @@
 #include <vector>
 
 #include "Main/CLI.h"
+#include "Main/TerminalProgress.h"
 #include "Main/WindowsModule.h"
 #include "desktop/ClaudeApp.h"
+#include "platform/files/Progress.h"
 #include "platform/process/Clock.h"
 #include "platform/process/Process.h"
 #include "platform/process/Workspace.h"
@@ -84,7 +86,18 @@ int runCommand(const std::vector<std::string>& arguments, WindowsModule& windows
     Output output;
     std::ostream out(&output);
     std::ostringstream err;
-    int status = CLI::run({arguments, store, claude, windows, out}, err);
+    const auto run = [&](ProfileStore& used) {
+        return CLI::run({arguments, used, claude, windows, out}, err);
+    };
+    int status = 0;
+    if (isatty(STDERR_FILENO) == 1) {
+        Progress progress;
+        const TerminalProgress shown(progress, STDERR_FILENO);
+        ProfileStore telling(store, progress);
+        status = run(telling);
+    } else {
+        status = run(store);
+    }
     if (const int error = output.finish(); error != 0) {
         const std::error_code reason(error, std::generic_category());
         err << "Errore: " << describe(std::filesystem::filesystem_error("write", "uscita standard", reason))
