@@ -32,9 +32,10 @@ Desktop::Desktop() {
     const Environment here = {{"PATH", "/usr/bin:/bin"},
                               {"HOME", m_folder.path().string()},
                               {"XDG_RUNTIME_DIR", m_folder.path().string()}};
+    // -r: on a busy machine, the display would repeat a key before its release arrives.
     m_screen = std::make_unique<Program>(
-        std::vector<std::string>{"Xvfb", "-displayfd", "1", "-screen", "0", "1600x1200x24", "-noreset"}, here,
-        m_folder.path());
+        std::vector<std::string>{"Xvfb", "-displayfd", "1", "-screen", "0", "1600x1200x24", "-noreset", "-r"},
+        here, m_folder.path());
     const std::string display = ":" + m_screen->firstLine();
 
     writeFile(m_folder / "bus.conf", busConfiguration(m_folder / "services"));
