@@ -160,6 +160,8 @@ void ProfileStore::setCollectionMode(ShareMode mode, Component component, Profil
     if (mode == ShareMode::separate && profile.mode(component) == ShareMode::none)
         copyMissing(component, profile, source, batch);
     batch.finish();
+    if (mode == ShareMode::none && m_files.isFolder(profile.url(component)))
+        m_files.waitForNames(profile.url(component));
     record(mode, component, profile);
     saveMeta(profile);
 }
@@ -195,6 +197,7 @@ Profile ProfileStore::remove(const ComponentItem& item, const Profile& from, Com
         m_files.moveToTrash(item.url);
         return changed;
     }
+    m_files.waitForNames(item.url.parent_path());
     const auto source = sourceOf(from);
     if (source && isLinked(item, *source, component)) {
         auto& excluded = changed.meta.excluded[std::string(rawValue(component))];

@@ -33,6 +33,7 @@ std::filesystem::path ProfileStore::installTerminalHelper() {
     m_files.write(script, std::string(kScriptBegin) + text::quotedForShell(m_root.string()) +
                               std::string(kScriptEnd));
     m_files.setMode(script, 0755);
+    m_files.waitForContent(script);
     return script;
 }
 

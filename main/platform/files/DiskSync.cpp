@@ -92,4 +92,11 @@ int syncFolder(const std::filesystem::path& folder) {
     return open ? syncOne(open.get()) : 0;
 }
 
+int syncAllWith(const std::filesystem::path& folder) {
+    const Descriptor open = openFolder(folder);
+    if (!open)
+        return 0;
+    return canSyncTogether(open.get()) ? syncTogether(open.get()) : syncOne(open.get());
+}
+
 } // namespace selvane::files

@@ -47,6 +47,9 @@ private:
 /// Waits for the names in a folder. Returns 0 or the error; one that can't be opened is no error.
 int syncFolder(const std::filesystem::path& folder);
 
+/// Waits for everything in the file system of a folder. Otherwise the same.
+int syncAllWith(const std::filesystem::path& folder);
+
 // What differs between the systems (linux, macos).
 
 /// Waits for one open file or folder. Returns 0 or the error.

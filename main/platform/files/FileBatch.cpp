@@ -61,15 +61,19 @@ FileBatch::~FileBatch() {
 }
 
 void FileBatch::copy(const std::filesystem::path& from, const std::filesystem::path& to, Privacy privacy) {
-    struct stat status = {};
-    if (::lstat(from.c_str(), &status) == 0 && S_ISDIR(status.st_mode))
-        files::requireOutside("copy", from, to);
-    m_copier.copy(from, addNew(to, Kind::isNew), to, privacy);
+    copyAs(Kind::isNew, from, to, privacy);
 }
 
 void FileBatch::copyOverLink(const std::filesystem::path& from, const std::filesystem::path& link) {
-    files::requireOutside("copy", from, link);
-    m_copier.copy(from, addNew(link, Kind::overLink), link);
+    copyAs(Kind::overLink, from, link, Privacy::inherited);
+}
+
+void FileBatch::copyAs(Kind kind, const std::filesystem::path& from, const std::filesystem::path& to,
+                       Privacy privacy) {
+    struct stat status = {};
+    if (::lstat(from.c_str(), &status) == 0 && S_ISDIR(status.st_mode))
+        files::requireOutside("copy", from, to);
+    m_copier.copy(from, addNew(to, kind), to, privacy);
 }
 
 void FileBatch::write(const std::filesystem::path& file, std::string_view bytes, Privacy privacy) {

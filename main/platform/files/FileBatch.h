@@ -53,6 +53,8 @@ private:
         std::filesystem::path temporary; ///< inside it; empty if there is none
     };
 
+    void copyAs(Kind kind, const std::filesystem::path& from, const std::filesystem::path& to,
+                Privacy privacy);
     Entry& add(const std::filesystem::path& target, Kind kind);
     /// The same; returns where to make what will be at `target`.
     std::filesystem::path addNew(const std::filesystem::path& target, Kind kind);

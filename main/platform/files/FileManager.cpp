@@ -199,7 +199,10 @@ void FileManager::removeTree(const std::filesystem::path& path) const {
 
 void FileManager::moveToTrash(const std::filesystem::path& path) const {
     selvane::moveToTrash(path);
-    waitForPlaceOf(path);
+    // Some file systems (btrfs) would let go of the old name before the new one is on the disk, or forget
+    // what the Trash notes about it, if only the folder were waited for.
+    if (const int error = files::syncAllWith(files::folderOf(path)); error != 0)
+        fail("write", path, error);
 }
 
 void FileManager::waitForContent(const std::filesystem::path& file) const {

@@ -93,6 +93,9 @@ public:
     /// Moves, even across file systems: then the original is removed once the copy is on the disk. Fails if
     /// anything is at `to`.
     void move(const std::filesystem::path& from, const std::filesystem::path& to) const;
+    /// If `to` is a complete copy of `from`, as a move to another file system leaves it when it is interrupted,
+    /// removes `from`. Otherwise changes nothing and returns false.
+    bool completeMove(const std::filesystem::path& from, const std::filesystem::path& to) const;
 
     /// Replaces `path` by what `make` builds at the path it is given, once that is complete. The old content
     /// goes to the Trash; if there was none, this simply creates `path`.
@@ -112,7 +115,7 @@ public:
     /// it was.
     void moveToTrash(const std::filesystem::path& path) const;
 
-    /// Waits until a file that another program wrote is on the disk.
+    /// Waits until a file that another program wrote, and its mode, are on the disk.
     void waitForContent(const std::filesystem::path& file) const;
     /// Waits until the names in a folder are on the disk.
     void waitForNames(const std::filesystem::path& folder) const;
