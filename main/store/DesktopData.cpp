@@ -150,6 +150,9 @@ void ProfileStore::restoreDesktopData() {
     const std::string owner = desktopLiveOwner();
     desktopFolder(owner); // throws on an invalid marker before anything is touched
     makeDesktopStore();
+    const fs::path builtIn = desktopFolder(std::string(Profile::kDefaultId));
+    if (owner == Profile::kDefaultId && m_files.exists(liveDesktopDir()) && m_files.exists(builtIn))
+        m_files.completeMove(builtIn, liveDesktopDir());
     if (!needsDesktopRestore())
         return;
     if (!m_testMode && !m_claude.allProcesses(dataFolders()).empty())
@@ -171,7 +174,8 @@ void ProfileStore::swapLiveData(const std::string& owner) {
     }
     if (owner == Profile::kDefaultId)
         return;
-    if (m_files.exists(parked))
+    // An earlier run may have been interrupted before the original was gone.
+    if (m_files.exists(parked) && !(m_files.exists(normal) && m_files.completeMove(normal, parked)))
         throw LauncherError("Esiste già " + parked.string() +
                             ": i dati Desktop sono in uno stato inatteso, controlla a mano");
     if (m_files.exists(normal))

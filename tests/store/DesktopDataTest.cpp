@@ -67,6 +67,13 @@ TEST(DesktopData, restore_EachLayout_BringsTheBuiltInAccountBack) {
         {{{".live", "lavoro"}, {"lavoro/Cookies", "lavoro"}, {"default/Cookies", "mine"}},
          {{"normal/Cookies", "mine"}, {"lavoro", "/"}, {"lavoro/Cookies", "lavoro"}}},
         {{{".live", "lavoro"}}, {}},
+        // Moves to another file system, interrupted when the copy was complete.
+        {{{".live", "lavoro"}, {"normal/Cookies", "l"}, {"lavoro/Cookies", "l"}, {"default/Cookies", "mine"}},
+         {{"normal/Cookies", "mine"}, {"lavoro", "/"}, {"lavoro/Cookies", "l"}}},
+        {{{"normal/Cookies", "mine"}, {"default/Cookies", "mine"}}, clean, false},
+        {{{"normal/Cookies", "mine"}, {"default/Cookies", "more"}},
+         {{"normal/Cookies", "mine"}, {"default", "/"}, {"default/Cookies", "more"}},
+         false},
     };
     for (const auto& [before, after, needed] : cases) {
         Home home;

@@ -11,6 +11,7 @@
 #include "platform/files/FileManager.h"
 #include "platform/files/FileRemoval.h"
 #include "platform/files/Temporary.h"
+#include "platform/files/TreeComparison.h"
 
 /// The operations of `FileManager` that build something new beside its final place.
 namespace selvane {
@@ -78,6 +79,18 @@ void copyBeside(const std::filesystem::path& from, const std::filesystem::path& 
     FileCopier copier(files);
     copier.copy(from, temporary.path(), to, privacy);
     copier.finish();
+}
+
+/// Removes it whole or, if its folder is read-only, not at all; then returns the error.
+int removeInOneStep(const std::filesystem::path& path) {
+    const std::filesystem::path aside = newSibling(path);
+    const int error = files::renameExclusively(path, aside);
+    // Overlay file systems can't rename some folders at all.
+    const bool isAside = error == 0;
+    if (!isAside && error != EXDEV)
+        return error;
+    files::removeTree(isAside ? aside : path, path);
+    return 0;
 }
 
 /// Replaces a link by `temporary` where names can't be exchanged. For a moment, neither is there.
@@ -156,17 +169,22 @@ void FileManager::move(const std::filesystem::path& from, const std::filesystem:
         copied.takeBack(target);
         fail("move", target, error);
     }
-    // Remove the original in one step too, or not at all: its folder may be read-only.
-    const std::filesystem::path aside = newSibling(origin);
-    error = files::renameExclusively(origin, aside);
-    // Overlay file systems can't rename some folders at all.
-    const bool isAside = error == 0;
-    if (!isAside && error != EXDEV) {
+    error = removeInOneStep(origin);
+    if (error != 0) {
         copied.takeBack(target);
         fail("move", origin, error);
     }
-    files::removeTree(isAside ? aside : origin, origin);
     waitForPlaceOf(origin);
+}
+
+bool FileManager::completeMove(const std::filesystem::path& from, const std::filesystem::path& to) const {
+    const std::filesystem::path origin = withoutEndingSlash(from);
+    if (!files::isCopy(origin, withoutEndingSlash(to)))
+        return false;
+    if (const int error = removeInOneStep(origin); error != 0)
+        fail("move", origin, error);
+    waitForPlaceOf(origin);
+    return true;
 }
 
 void FileManager::replaceTrashing(
