@@ -29,8 +29,8 @@ PAUSE = 8000  # microseconds
 LATER = 1.4
 QUICK = {"create-separate-account", "set-mode-CLAUDE.md-shared-separate", "set-mode-mcp-merged", "import-sessions",
          "restore-desktop-mounts", "set-mode-skills-shared-separate"}
-# What only makes links, which the next sync makes again, or removes.
-LINKS_ONLY = ("sync", "launch-built-in", "set-mode-skills-shared-none", "set-mode-skills-none-shared")
+# What makes links, which the next sync makes again.
+LINKS_ONLY = ("sync", "launch", "set-mode-skills-none-shared")
 
 
 def chosen_operations():
