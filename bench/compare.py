@@ -184,7 +184,31 @@ class Programs:
 
     def copy_files(self, home):
         copy = f"{home}/copied"
-        return Work(["/bin/cp", "-a", f"{home}/.claude", copy], reset=lambda: self.runner.put_aside(copy))
+        return self.shell("cp -a .claude copied && sync -f copied", reset=lambda: self.runner.put_aside(copy))
+
+    # set-mode
+
+    def linked_again(self, home):
+        skills = f"{home}/.claude-profiles/copia/skills"
+        self.runner.put_aside(skills, f"{home}/copied")
+        os.mkdir(skills)
+        for name in os.listdir(f"{home}/.claude/skills"):
+            os.symlink(f"{home}/.claude/skills/{name}", f"{skills}/{name}")
+        homes.set_mode(home, "copia", "skills", "shared")
+        os.sync()
+
+    def separate(self, home):
+        skills = f"{home}/.claude-profiles/copia/skills"
+
+        def check():
+            files = sum(entry.is_file(follow_symlinks=False) for entry in os.scandir(skills))
+            require(files == count_files(f"{home}/.claude/skills"), "set-mode left links")
+        return Work([self.selvane, "set-mode", "copia", "skills=separate"], reset=lambda: self.linked_again(home),
+                    check=check)
+
+    def copy_through_links(self, home):
+        return self.shell("cp -aL .claude-profiles/copia/skills copied && sync -f copied",
+                          reset=lambda: self.linked_again(home))
 
     # sessions
 
@@ -208,7 +232,8 @@ class Programs:
 
     def copy_sessions(self, home):
         copy = f"{home}/copied"
-        script = "mkdir copied && cp -a .config/Claude/claude-code-sessions copied && cp -a .claude/projects copied"
+        script = ("mkdir copied && cp -a .config/Claude/claude-code-sessions .claude/projects copied && "
+                  "sync -f copied")
         return self.shell(script, reset=lambda: self.runner.put_aside(copy))
 
     # processes
@@ -269,9 +294,13 @@ def groups(programs):
                  programs.idle_sync, programs.stow, rounds=5),
         ], growth_fill=homes.items),
         Group(lambda home, size: homes.files(home, size, size * 53_687), 20_000, "files of 54 KB", [
-            Line("create", "`create`, all `separate`", "`cp -a`", 1.0, programs.create, programs.copy_files,
-                 rounds=5, memory_matters=True, other_grows=True),
+            Line("create", "`create`, all `separate`", "`cp -a`, then `sync -f`", 0.65, programs.create,
+                 programs.copy_files, rounds=5, memory_matters=True, other_grows=True),
         ], growth_fill=lambda home, size: homes.files(home, size, size * 1000), growth_unit="files of 1 KB"),
+        Group(lambda home, size: homes.linked_files(home, size, size * 53_687), 20_000, "files of 54 KB, linked", [
+            Line("separate", "`set-mode skills=separate`", "`cp -aL`, then `sync -f`", 0.65, programs.separate,
+                 programs.copy_through_links, rounds=5, grows=False),
+        ]),
         Group(lambda home, size: homes.sessions(home, size, 60_000, 1000), 5000, "records of 60 KB", [
             Line("sessions", "`sessions`", "`cat` of the records", 1.5,
                  command("sessions", "default"), programs.cat(".config/Claude", "local_*.json"), rounds=15,
@@ -280,7 +309,7 @@ def groups(programs):
                  command("sessions", "default"), programs.jq, rounds=3, grows=False),
         ], growth_fill=lambda home, size: homes.sessions(home, size, 6000, 1000), growth_unit="records of 6 KB"),
         Group(lambda home, size: homes.sessions(home, size, 60_000, 160_000), 2000, "sessions with transcripts", [
-            Line("import", "`import-sessions`", "`cp -a` of records and transcripts", 1.5,
+            Line("import", "`import-sessions`", "`cp -a` of records and transcripts, then `sync -f`", 0.8,
                  programs.import_sessions, programs.copy_sessions, other_grows=True),
         ], growth_fill=lambda home, size: homes.sessions(home, size, 6000, 16_000),
            growth_unit="sessions of 6 KB, transcripts of 16 KB"),

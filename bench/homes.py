@@ -105,6 +105,25 @@ def files(home, count, size):
     write(f"{claude}/settings.json", b'{\n  "model": "opus"\n}\n')
 
 
+def linked_files(home, count, size):
+    """`count` skills that are files with `size` bytes in total, and a profile, "copia", to share them."""
+    bare(home)
+    os.mkdir(skills := f"{home}/.claude/skills")
+    for number in range(count):
+        write(f"{skills}/{number:06}.md", text(size // count, number))
+    add_profile(home, "copia", {"skills": "shared"}, "default")
+
+
+def set_mode(home, ident, part, mode):
+    """Changes a mode in a profile's record without applying it."""
+    path = f"{home}/.claude-profiles/{ident}/.launcher.json"
+    with open(path, encoding="utf-8") as file:
+        record = json.load(file)
+    record["modes"][part] = mode
+    with open(path, "w", encoding="utf-8") as file:
+        json.dump(record, file)
+
+
 def tool(number):
     properties = {name: {"type": "string", "description": words(9, number + index)}
                   for index, name in enumerate(["query", "folder", "since"])}
