@@ -16,7 +16,8 @@ public:
     explicit Layout(std::string_view text) : m_text(text) {}
 
     char next() {
-        m_position = std::min(m_text.find_first_not_of(" \t\r\n", m_position), m_text.size());
+        while (m_position < m_text.size() && isBlank(m_text[m_position]))
+            ++m_position;
         return m_position < m_text.size() ? m_text[m_position] : '\0';
     }
     void skip() { ++m_position; }
@@ -25,7 +26,8 @@ public:
     std::string_view scalar() {
         const std::size_t begin = m_position;
         if (m_text[begin] != '"') {
-            m_position = std::min(m_text.find_first_of(",]} \t\r\n", begin), m_text.size());
+            while (m_position < m_text.size() && !endsScalar(m_text[m_position]))
+                ++m_position;
         } else {
             do {
                 m_position = m_text.find('"', m_position + 1);
@@ -59,10 +61,35 @@ public:
         return true;
     }
 
+    void skipValue() {
+        int depth = 0;
+        do {
+            const char token = next();
+            if (token == '{' || token == '[')
+                ++depth;
+            else if (token == '}' || token == ']')
+                --depth;
+            else if (token != ',' && token != ':') {
+                scalar();
+                continue;
+            }
+            skip();
+        } while (depth > 0);
+    }
+
 private:
+    static bool isBlank(char character) {
+        return character == ' ' || character == '\n' || character == '\t' || character == '\r';
+    }
+    static bool endsScalar(char character) {
+        return character == ',' || character == ']' || character == '}' || isBlank(character);
+    }
+
     bool isEscaped(std::size_t quote) const {
-        const std::size_t last = m_text.find_last_not_of('\\', quote - 1);
-        return (quote - last) % 2 == 0;
+        std::size_t backslashes = 0;
+        while (m_text[quote - 1 - backslashes] == '\\')
+            ++backslashes;
+        return backslashes % 2 == 1;
     }
 
     static void breakLine(std::size_t depth, std::string& out) { out.append(1, '\n').append(2 * depth, ' '); }
@@ -106,7 +133,6 @@ std::optional<std::string> withoutMembers(std::string_view object, std::span<con
         return std::nullopt;
     std::string out = "{";
     out.reserve(object.size() + object.size() / 4);
-    std::string dropped;
     bool isFirst = true;
     text.skip();
     while (text.next() != '}') {
@@ -116,13 +142,14 @@ std::optional<std::string> withoutMembers(std::string_view object, std::span<con
         const std::string_view name = text.scalar();
         text.next();
         text.skip(); // the colon
-        const bool drops = isAmong(names, name);
-        if (!drops)
-            out.append(isFirst ? "\n  " : ",\n  ").append(name).append(": ");
-        if (!text.value(1, drops ? dropped : out))
+        if (isAmong(names, name)) {
+            text.skipValue();
+            continue;
+        }
+        out.append(isFirst ? "\n  " : ",\n  ").append(name).append(": ");
+        if (!text.value(1, out))
             return std::nullopt;
-        isFirst = isFirst && drops;
-        dropped.clear();
+        isFirst = false;
     }
     return out + (isFirst ? "}\n" : "\n}\n");
 }
