@@ -20,9 +20,10 @@ Descriptor openFolder(const std::filesystem::path& folder) {
 } // namespace
 
 int DiskSync::add(Descriptor file) {
-    if (keep(file))
+    bool together = false;
+    if (keep(file, together))
         return 0;
-    const int error = canSyncTogether(file.get()) ? startWriting(file.get()) : syncOne(file.get());
+    const int error = together ? startWriting(file.get()) : syncOne(file.get());
     const int closing = file.closeReporting();
     return error != 0 ? error : closing;
 }
@@ -32,8 +33,7 @@ int DiskSync::addFolder(const std::filesystem::path& folder) {
     return open ? add(std::move(open)) : 0;
 }
 
-/// Takes over `file` if it is one of the few, or a folder that is among them already.
-bool DiskSync::keep(Descriptor& file) {
+bool DiskSync::keep(Descriptor& file, bool& together) {
     struct stat status = {};
     if (::fstat(file.get(), &status) != 0)
         status = {}; // an open file always has a status; otherwise it counts as on a disk of its own
@@ -41,7 +41,8 @@ bool DiskSync::keep(Descriptor& file) {
     auto disk = std::find_if(m_disks.begin(), m_disks.end(),
                              [&](const Disk& known) { return known.device == status.st_dev; });
     if (disk == m_disks.end())
-        disk = m_disks.insert(m_disks.end(), Disk{status.st_dev, {}, false});
+        disk = m_disks.insert(m_disks.end(), Disk{status.st_dev, {}, false, canSyncTogether(file.get())});
+    together = disk->together;
     if (S_ISDIR(status.st_mode)) {
         const auto same = [&](const Kept& kept) { return kept.inode == status.st_ino; };
         if (std::any_of(disk->kept.begin(), disk->kept.end(), same)) {
@@ -71,7 +72,7 @@ int DiskSync::wait() {
 int DiskSync::wait(Disk& disk) {
     int error = 0;
     const auto note = [&](int failed) { error = error == 0 ? failed : error; };
-    const bool together = disk.hasMore && canSyncTogether(disk.kept.front().file.get());
+    const bool together = disk.hasMore && disk.together;
     for (const Kept& kept : disk.kept)
         note(together ? startWriting(kept.file.get()) : syncOne(kept.file.get()));
     // This also reports what couldn't be written since the first of these files was opened.

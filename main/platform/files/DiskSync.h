@@ -35,9 +35,12 @@ private:
         dev_t device = 0;
         std::vector<Kept> kept;
         bool hasMore = false;
+        bool together = false; ///< whether it can be waited for as a whole
     };
 
-    bool keep(Descriptor& file);
+    /// Takes over `file` if it is one of the few. Otherwise says whether its file system can be waited for as
+    /// a whole.
+    bool keep(Descriptor& file, bool& together);
     static int wait(Disk& disk);
 
     std::mutex m_mutex;
