@@ -136,7 +136,7 @@ Outcome CommandHome::runUnprivileged(const std::vector<std::string>& arguments) 
     const TemporaryFolder programs;
     fs::permissions(programs.path(), fs::perms(0755));
     const fs::path built = SELVANE_EXECUTABLE;
-    for (const std::string name : {"selvane", "libselvane-services.so"})
+    for (const std::string name : {"selvane", "libselvane-services.so", "libselvane-archives.so"})
         fs::copy_file(built.parent_path() / name, programs / name);
     for (const auto& entry : fs::recursive_directory_iterator(path()))
         EXPECT_EQ(lchown(entry.path().c_str(), 65534, 65534), 0);

@@ -6,13 +6,15 @@
 #include <dlfcn.h>
 
 #include "model/LauncherError.h"
+#include "platform/services/Archives.h"
 #include "platform/services/ModuleFolder.h"
 
 namespace selvane {
 
 namespace {
 
-constexpr const char* kModuleName = "libselvane-services.so";
+constexpr const char* kServices = "libselvane-services.so";
+constexpr const char* kArchives = "libselvane-archives.so";
 
 [[noreturn]] void fail(const std::filesystem::path& module) {
     const char* const reason = dlerror();
@@ -22,33 +24,37 @@ constexpr const char* kModuleName = "libselvane-services.so";
                         module.parent_path().string() + " (" + (reason != nullptr ? reason : "") + ")");
 }
 
-void* loadModule() {
-    const std::filesystem::path module = modulePath(kModuleName);
+void* loadModule(const char* name) {
+    const std::filesystem::path module = modulePath(name);
     void* const handle = dlopen(module.c_str(), RTLD_LAZY | RTLD_LOCAL);
     if (handle == nullptr)
         fail(module);
     return handle;
 }
 
-/// The table returned by the module's function of that name.
+/// The table returned by a module's function of that name.
 template <typename Table>
-const Table& table(const char* function) {
-    static void* const module = loadModule();
-    const auto hand = reinterpret_cast<const Table* (*)()>(dlsym(module, function));
+const Table& table(const char* module, const char* function) {
+    const auto hand = reinterpret_cast<const Table* (*)()>(dlsym(loadModule(module), function));
     if (hand == nullptr)
-        fail(modulePath(kModuleName));
+        fail(modulePath(module));
     return *hand();
 }
 
 } // namespace
 
 const Services& services() {
-    static const auto& known = table<Services>("selvane_services");
+    static const auto& known = table<Services>(kServices, "selvane_services");
+    return known;
+}
+
+const Archives& archives() {
+    static const auto& known = table<Archives>(kArchives, "selvane_archives");
     return known;
 }
 
 const DesktopServices& desktopServices() {
-    static const auto& known = table<DesktopServices>("selvane_desktop_services");
+    static const auto& known = table<DesktopServices>(kServices, "selvane_desktop_services");
     return known;
 }
 

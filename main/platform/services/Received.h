@@ -15,6 +15,9 @@ namespace selvane {
 template <typename Value>
 class Received {
 public:
+    Received() = default;
+    explicit Received(Value value) : m_value(std::move(value)) {}
+
     /// For the callbacks: runs `act(value)` on the `Received` that `context` points to; nothing after a
     /// failure.
     template <typename Act>
