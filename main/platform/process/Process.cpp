@@ -6,8 +6,10 @@
 #include <array>
 #include <csignal>
 #include <optional>
+#include <poll.h>
 #include <pwd.h>
 #include <string_view>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include "model/LauncherError.h"
@@ -130,10 +132,42 @@ void keepExitStatus() {
         ::signal(SIGCHLD, SIG_DFL);
 }
 
+/// Whether a child that is stopped has gone on or ended within `limit`. Counts only the time in which this
+/// process runs: Ctrl+Z stops both.
+bool goesOn(pid_t child, int& status, std::chrono::milliseconds limit) {
+    constexpr int kLookMilliseconds = 50;
+    for (auto waited = 0; waited < limit.count(); waited += kLookMilliseconds) {
+        ::poll(nullptr, 0, kLookMilliseconds);
+        const pid_t changed = waitFor(child, status, WNOHANG | WCONTINUED);
+        if (changed != 0)
+            return true;
+    }
+    return false;
+}
+
+/// Waits for a child to end. Returns its status as the system gives it; nothing if it had to be killed
+/// because it stays stopped.
+std::optional<int> endOf(pid_t child, std::chrono::milliseconds stopLimit,
+                         const std::filesystem::path& executable) {
+    int status = 0;
+    bool isKilled = false;
+    while (true) {
+        if (waitFor(child, status, WUNTRACED) < 0)
+            files::fail("wait", executable, errno);
+        if (WIFSTOPPED(status) && !goesOn(child, status, stopLimit)) {
+            ::kill(child, SIGKILL);
+            isKilled = true;
+        }
+        if (WIFEXITED(status) || WIFSIGNALED(status))
+            return isKilled ? std::nullopt : std::optional(status);
+    }
+}
+
 } // namespace
 
 int run(const std::filesystem::path& executable, const std::vector<std::string>& arguments,
-        const Environment& environment, const std::filesystem::path& folder) {
+        const Environment& environment, const std::filesystem::path& folder,
+        std::chrono::milliseconds stopLimit) {
     const Texts words(commandLine(executable, arguments));
     const Texts variables(environmentTexts(environment, {}));
     const Plan plan = {executable.c_str(), folder.c_str(), words.data(), variables.data(), nullptr};
@@ -146,13 +180,13 @@ int run(const std::filesystem::path& executable, const std::vector<std::string>&
     if (child < 0)
         files::fail("start", executable, errno);
     const std::optional<Message> failure = receive(pipe);
-    int status = 0;
-    const pid_t ended = waitFor(child, status, 0);
+    const std::optional<int> status = endOf(child, stopLimit, executable);
     if (failure)
         raise(*failure, executable, folder);
-    if (ended < 0)
-        files::fail("wait", executable, errno);
-    return exitStatus(status);
+    if (!status)
+        throw LauncherError("«" + executable.filename().native() +
+                            "» è stato sospeso e non riprende: operazione annullata");
+    return exitStatus(*status);
 }
 
 Started startDetached(const std::filesystem::path& executable, const std::vector<std::string>& arguments,

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <map>
@@ -21,11 +22,16 @@ std::filesystem::path homeFolder(const Environment& environment);
 
 namespace process {
 
+/// How long a program that has been stopped may take to go on.
+inline constexpr std::chrono::milliseconds kStopLimit{10'000};
+
 /// Runs a program to its end and discards its output; only the owner can read the files it creates. Returns
 /// its exit status, or 128 plus the signal that ended it. The program ends if this process does. Throws
-/// `std::filesystem::filesystem_error` naming the executable if it can't be started.
+/// `std::filesystem::filesystem_error` naming the executable if it can't be started, and `LauncherError` if
+/// somebody stops it and doesn't continue it within `stopLimit`; then it is ended.
 int run(const std::filesystem::path& executable, const std::vector<std::string>& arguments,
-        const Environment& environment, const std::filesystem::path& folder);
+        const Environment& environment, const std::filesystem::path& folder,
+        std::chrono::milliseconds stopLimit = kStopLimit);
 
 struct Started {
     std::int32_t pid = 0;        ///< also its session

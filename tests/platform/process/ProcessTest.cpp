@@ -111,6 +111,16 @@ TEST(Process, RunEndsWithItsParent) {
     ::prctl(PR_SET_CHILD_SUBREAPER, 0);
 }
 
+TEST(Process, RunWaitsForAStoppedProgramButNotForEver) {
+    const TemporaryFolder folder;
+    const auto run = [&](const std::string& script, std::chrono::milliseconds limit) {
+        return process::run("/bin/sh", {"-c", script}, currentEnvironment(), folder.path(), limit);
+    };
+    EXPECT_EQ(run("(sleep 0.1; kill -CONT $$) & kill -STOP $$; wait; exit 7", std::chrono::minutes(1)), 7);
+    EXPECT_THROW(run("echo $$ >pid; kill -STOP $$; sleep 60", std::chrono::milliseconds(100)), LauncherError);
+    EXPECT_NE(::kill(std::stoi(kFiles.read(folder / "pid")), 0), 0) << "it is ended";
+}
+
 TEST(Process, DetachedProgramGetsItsOwnWorld) {
     const TemporaryFolder folder;
     const int leaked = ::open("/dev/zero", O_RDONLY); // not closed on exec
