@@ -5,17 +5,20 @@
 
 #include <algorithm>
 #include <array>
-#include <chrono>
 #include <cstdio>
 #include <functional>
+#include <optional>
 #include <random>
 #include <system_error>
 #include <unistd.h>
 
 #include "model/LauncherError.h"
-#include "platform/files/Locations.h"
+#include "platform/files/DiskSync.h"
+#include "platform/files/FolderLock.h"
 #include "platform/files/NormalizedPath.h"
 #include "platform/text/Text.h"
+#include "store/BackupContents.h"
+#include "store/BackupReadme.h"
 #include "store/ZipList.h"
 
 namespace selvane {
@@ -26,32 +29,6 @@ namespace fs = std::filesystem;
 const fs::path kZip = "/usr/bin/zip";
 constexpr int kZipSkippedFiles = 18;
 constexpr std::string_view kReadmeName = "LEGGIMI-backup.txt";
-
-std::string backupReadme(const std::vector<std::string>& paths) {
-    std::string text = "Backup di Claude creato da Selvane il " +
-                       text::longDate(std::chrono::system_clock::now()) +
-                       ".\n\nContiene (percorsi relativi alla cartella home):\n";
-    for (std::size_t i = 0; i < paths.size(); ++i) {
-        text += i == 0 ? "" : "\n";
-        text += (paths[i].starts_with('/') ? "  " : "  ~/") + paths[i];
-    }
-    text +=
-        "\n\nNon contiene cache, macchine virtuali e binari di Claude Code: Claude li riscarica da solo.\n"
-        "I login restano nel Portachiavi di questo Mac: su un altro Mac servirà rifare l'accesso.\n"
-        "\nPer ripristinare:\n"
-        "1. chiudi Claude (e Selvane);\n"
-        "2. sposta nel Cestino le cartelle elencate sopra, se esistono;\n"
-        "3. nel Terminale: ditto -x -k \"<questo archivio>.zip\" ~\n";
-    // The steps above are those of a Mac, where logins aren't in the archive.
-    if (!keepsLoginsWithTheSystem())
-        text +=
-            "\nSu Linux:\n"
-            "- i login di Claude Code (.credentials.json) sono nell'archivio: conservalo al sicuro;\n"
-            "- al passo 3, nel terminale: unzip \"<questo archivio>.zip\" -d ~\n"
-            "- i percorsi che iniziano con \"/\" stavano fuori dalla cartella home: unzip li estrae sotto "
-            "~.\n";
-    return text;
-}
 
 /// A new folder in the system's temporary folder, removed with this object.
 class TemporaryFolder {
@@ -87,6 +64,37 @@ private:
     fs::path m_path;
 };
 
+/// Where zip writes, beside the archive. One that is killed leaves its temporary there, where nothing of the
+/// user's is, and the next backup of that name removes it.
+class WorkFolder {
+public:
+    explicit WorkFolder(const fs::path& archive)
+        : m_path(archive.parent_path() /
+                 (std::string(FileManager::kTemporaryPrefix) + archive.filename().string())) {
+        do { // another backup that held the lock has removed the folder
+            m_files.createFolders(m_path, Privacy::ownerOnly);
+            m_lock.emplace(m_path);
+        } while (!m_files.isPresent(m_path));
+        for (const std::string& name : m_files.entries(m_path))
+            m_files.removeTree(m_path / name);
+    }
+    ~WorkFolder() {
+        try {
+            m_files.removeTree(m_path);
+        } catch (const fs::filesystem_error&) { // the next backup tries again
+        }
+    }
+    WorkFolder(const WorkFolder&) = delete;
+    WorkFolder& operator=(const WorkFolder&) = delete;
+
+    const fs::path& path() const { return m_path; }
+
+private:
+    FileManager m_files;
+    fs::path m_path;
+    std::optional<FolderLock> m_lock; ///< two backups must not write the same archive
+};
+
 /// Refuses a folder, which would go to the Trash whole, and a file that is itself to be saved.
 void requireUsable(const fs::path& target, const std::vector<fs::path>& sources) {
     if (fs::is_directory(target))
@@ -100,17 +108,6 @@ void requireUsable(const fs::path& target, const std::vector<fs::path>& sources)
         throw fs::filesystem_error("archive folder", folder, std::error_code(errno, std::generic_category()));
 }
 
-/// zip silently skips folders that it can't read.
-bool hasUnreadableFolder(const fs::path& source) {
-    std::error_code failure;
-    if (!fs::is_directory(source))
-        return false;
-    fs::recursive_directory_iterator entry(source, failure);
-    while (!failure && entry != fs::recursive_directory_iterator())
-        entry.increment(failure);
-    return failure == std::errc::permission_denied;
-}
-
 int runZip(const std::vector<std::string>& arguments, Environment environment, const fs::path& folder) {
     // zip reads more options from these, such as "-m", which deletes what it has stored.
     environment.erase("ZIP");
@@ -121,6 +118,23 @@ int runZip(const std::vector<std::string>& arguments, Environment environment, c
 void requireSuccess(int status) {
     if (status != 0)
         throw LauncherError("Backup non riuscito (zip: errore " + std::to_string(status) + ")");
+}
+
+/// Lets the system write the archive to the disk while it is read back.
+void startWriting(const fs::path& archive) {
+    // What goes wrong here does so again, and is reported, when Selvane waits for the disk.
+    if (const files::Descriptor open(::open(archive.c_str(), O_RDONLY | O_CLOEXEC)); open)
+        static_cast<void>(files::startWriting(open.get()));
+}
+
+/// Reads all that is in the archive and throws unless it is whole and has this many entries.
+void requireWhole(const fs::path& archive, std::size_t entries) {
+    ArchiveReader reader(archive);
+    std::size_t count = 0;
+    for (; reader.next(); ++count)
+        reader.read([](std::string_view) {});
+    if (count != entries)
+        throw LauncherError("Backup non riuscito: l'archivio riletto non è completo");
 }
 
 fs::path temporaryFolder(const Environment& environment) {
@@ -136,7 +150,13 @@ std::vector<fs::path> ProfileStore::backupSources(BackupScope scope) const {
         sources = {m_defaultDir, m_defaultGlobalJSON, liveDesktopDir()};
     if (scope.contains(BackupScope::profiles()))
         sources.push_back(m_root);
-    std::erase_if(sources, [this](const fs::path& source) { return !m_files.exists(source); });
+    std::erase_if(sources, [](const fs::path& source) {
+        std::error_code failure;
+        const fs::file_type type = fs::symlink_status(source, failure).type();
+        if (type == fs::file_type::none) // a source that can't be looked at must not be left out unnoticed
+            throw fs::filesystem_error("look up", source, failure);
+        return type == fs::file_type::not_found;
+    });
     return sources;
 }
 
@@ -144,7 +164,8 @@ std::vector<fs::path> ProfileStore::backupSources(BackupScope scope) const {
 std::vector<fs::path> ProfileStore::desktopFolders(const std::vector<fs::path>& in) const {
     std::vector<fs::path> folders = {liveDesktopDir()};
     for (const std::string& account : m_files.entriesIfReadable(desktopStore())) {
-        if (Profile::isPossibleId(account) && m_files.isFolder(desktopStore() / account))
+        std::error_code failure;
+        if (Profile::isPossibleId(account) && fs::is_directory(desktopStore() / account, failure))
             folders.push_back(desktopStore() / account);
     }
     std::erase_if(folders, [&](const fs::path& folder) {
@@ -166,23 +187,41 @@ BackupResult ProfileStore::backup(BackupScope scope, const fs::path& archive) {
     if (std::any_of(dataFolders.begin(), dataFolders.end(), inUse))
         throw LauncherError("Per un backup affidabile Claude va chiuso: chiudilo e riprova.");
 
+    // A profile or an account that the user keeps elsewhere, behind a link, is to be saved too.
+    std::vector<fs::path> ownFolders = dataFolders;
+    if (scope.contains(BackupScope::profiles())) {
+        ownFolders.push_back(desktopStore());
+        for (const std::string& name : m_files.entriesIfReadable(m_root)) {
+            if (m_files.existsFollowingLinks(m_root / name / kMetaFileName))
+                ownFolders.push_back(m_root / name);
+        }
+    }
     const TemporaryFolder readmeFolder(temporaryFolder(m_environment));
-    const fs::path readme = readmeFolder.path() / kReadmeName;
-    const ZipList list = zipList(sources, dataFolders, m_home);
-    m_files.write(readme, backupReadme(list.paths));
-
-    BackupResult result{.archive = target};
     const fs::path partial = target.string() + ".partial";
     if (m_files.exists(partial))
         m_files.removeFile(partial);
+    const WorkFolder work(target);
+    ZipList list = zipList(sources, dataFolders, ownFolders, m_home);
+    list.exclusions.emplace_back(relativeToHome(work.path(), m_home) + "/", "*");
+
+    BackupResult result{.archive = target};
     try {
-        const int status = runZip(zipArguments(list, partial), m_environment, m_home);
+        BackupContents contents(list, m_home);
+        const int status = runZip(zipArguments(list, partial, work.path()), m_environment, m_home);
         requireSuccess(status == kZipSkippedFiles ? 0 : status);
-        result.skippedFiles =
-            status == kZipSkippedFiles || std::any_of(sources.begin(), sources.end(), hasUnreadableFolder);
+        ArchiveReader reader(partial);
+        contents.compare(reader);
+        const std::vector<std::string> missing = contents.missing();
+        result.skippedFiles = !missing.empty();
+
+        const fs::path readme = readmeFolder.path() / kReadmeName;
+        m_files.write(readme, backupReadme(list.paths, missing));
         requireSuccess(
-            runZip({"-j", "-q", partial.string(), readme.string()}, m_environment, readmeFolder.path()));
+            runZip({"-j", "-q", "-g", "-b", work.path().string(), partial.string(), readme.string()},
+                   m_environment, readmeFolder.path()));
         m_files.setMode(partial, 0600);
+        startWriting(partial);
+        requireWhole(partial, contents.archived() + 1);
         m_files.waitForContent(partial);
         result.size = static_cast<std::int64_t>(fs::file_size(partial));
         if (m_files.exists(target))

@@ -60,7 +60,7 @@ TEST(CommandBackup, AKilledOneLeavesNoArchiveAndNothingRunning) {
     writeFile(home / ".claude/grande", "");
     fs::resize_file(home / ".claude/grande", 4'000'000'000); // a hole, which takes zip long to read
     const Outcome killed = home.shell(R"("$selvane" backup "$HOME/out/b.zip" &
-        until set -- "$HOME"/out/*; [ -e "$1" ]; do :; done
+        until set -- "$HOME"/out/.selvane-b.zip/zi*; [ -e "$1" ]; do :; done
         kill -9 $!; wait $!)");
     EXPECT_EQ(killed.status, 137);
     EXPECT_FALSE(fs::exists(out / "b.zip"));
@@ -75,6 +75,12 @@ TEST(CommandBackup, AKilledOneLeavesNoArchiveAndNothingRunning) {
     while (isRunning() && std::chrono::steady_clock::now() < deadline)
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
     EXPECT_FALSE(isRunning());
+
+    const Outcome failed = home.shell(R"("$selvane" backup "$HOME/out/b.zip" &
+        until set -- "$HOME"/out/.selvane-b.zip/zi*; [ -e "$1" ]; do :; done
+        read zip </proc/$!/task/$!/children; kill -9 $zip; wait $!)");
+    EXPECT_EQ(failed, failure("Backup non riuscito (zip: errore 137)"));
+    EXPECT_TRUE(fs::is_empty(out)) << "not even the temporary of a killed zip";
 
     fs::resize_file(home / ".claude/grande", 1);
     home.output({"backup", out / "b.zip"});

@@ -1,10 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/un.h>
 
+#include "store/BackupContents.h"
 #include "support/Home.h"
 #include "support/RunningProcess.h"
 
@@ -19,6 +22,24 @@ Tree filesOf(const fs::path& folder) {
     Tree tree = treeOf(folder);
     std::erase_if(tree, [](const auto& entry) { return entry.second == "/"; });
     return tree;
+}
+
+/// Creates folders in one another, with the file "end" in the last, until the path from `top` is this long.
+/// Returns that path, without the file.
+std::string makeDeepFolder(const fs::path& top, std::size_t length) {
+    const std::string name(200, 'd');
+    fs::create_directories(top);
+    int folder = open(top.c_str(), O_RDONLY | O_DIRECTORY);
+    std::string path;
+    while (path.size() < length) {
+        mkdirat(folder, name.c_str(), 0700);
+        const int below = openat(folder, name.c_str(), O_RDONLY | O_DIRECTORY);
+        close(std::exchange(folder, below));
+        path += "/" + name;
+    }
+    close(openat(folder, "end", O_WRONLY | O_CREAT, 0600));
+    close(folder);
+    return path;
 }
 
 Tree unpacked(const fs::path& archive) {
@@ -102,10 +123,62 @@ TEST(Backup, backup_UnreadableFile_IsReportedAndLeftOut) {
     close(socketFile);
     fs::create_directories(home.folder / "archives/new");
     fs::create_directory_symlink(home.folder / "archives/new", home / "link");
+    const std::string deep = makeDeepFolder(home / ".claude/\033\xff", 4100);
     const BackupResult result = home.store.backup(BackupScope::principal(), home / "link/../b.zip");
     EXPECT_EQ(result.archive, home.folder / "archives/b.zip") << "where the link leads, and then up";
     EXPECT_TRUE(result.skippedFiles);
-    EXPECT_EQ(unpacked(result.archive).at(".claude/a"), "a");
+    const Tree found = unpacked(result.archive);
+    EXPECT_EQ(found.at(".claude/a"), "a");
+    const std::string& readme = found.at("LEGGIMI-backup.txt");
+    EXPECT_TRUE(readme.ends_with("\n  ~/.claude/\uFFFD\uFFFD" + deep + "/end\n  ~/.claude/socket\n"))
+        << readme;
+}
+
+TEST(Backup, backup_FoldersBehindLinks_AreSavedLikeTheOthers) {
+    Home home;
+    writeTree(home.folder / "disk", {{"uno/.launcher.json", "{}"},
+                                     {"uno/skills/a", "-> /elsewhere"},
+                                     {"conto/Cookies", "login"},
+                                     {"conto/Code Cache/x", "left out"},
+                                     {"other/x", "no profile"}});
+    writeTree(home.path, {{".claude-profiles/uno", "-> " + (home.folder / "disk/uno").string()},
+                          {".claude-profiles/due", "-> .desktop-data/due"},
+                          {".claude-profiles/tre", "-> ../../disk/other"},
+                          {".claude-profiles/.desktop-data/conto", "-> ../../../disk/conto"},
+                          {".claude-profiles/.desktop-data/due/.launcher.json", "{}"},
+                          {".claude-profiles/.desktop-data/gone", "-> /assente"}});
+    const Tree before = treeOf(home.folder.path());
+    const BackupResult result = home.store.backup(BackupScope::profiles(), home / "b.zip");
+    EXPECT_FALSE(result.skippedFiles);
+    Tree found = unpacked(result.archive);
+    EXPECT_EQ(found.erase("LEGGIMI-backup.txt"), 1U);
+    EXPECT_EQ(found, (Tree{{".claude-profiles/uno/.launcher.json", "{}"},
+                           {".claude-profiles/uno/skills/a", "-> /elsewhere"},
+                           {".claude-profiles/due", "-> .desktop-data/due"},
+                           {".claude-profiles/tre", "-> ../../disk/other"},
+                           {".claude-profiles/.desktop-data/conto/Cookies", "login"},
+                           {".claude-profiles/.desktop-data/due/.launcher.json", "{}"},
+                           {".claude-profiles/.desktop-data/gone", "-> /assente"}}));
+    fs::remove(result.archive);
+    EXPECT_EQ(treeOf(home.folder.path()), before);
+}
+
+TEST(Backup, BackupContents_TellWhatAnArchiveLacks) {
+    Home home;
+    const auto change = [&](const Tree& tree) { writeTree(home / "a", tree); };
+    change({{"same", "x"}, {"torn", "0123456789"}, {"grows", "01"}, {"goes", ""}, {"lost/x", ""}});
+    BackupContents contents(zipList({home / "a"}, {}, {}, home.path), home.path);
+    change({{"torn", "01234"}, {"grows", "0123"}});
+    fs::remove(home / "a/goes");
+    fs::rename(home / "a/lost", home / "lost");
+    ASSERT_EQ(
+        process::run("/usr/bin/zip", {"-r", "-q", home / "a.zip", "a"}, currentEnvironment(), home.path), 0);
+    change({{"torn", "0123456789"}, {"grows", "012345"}, {"new", ""}});
+    fs::rename(home / "lost", home / "a/lost");
+    ArchiveReader archive(home / "a.zip");
+    contents.compare(archive);
+    EXPECT_EQ(contents.missing(), (std::vector<std::string>{"a/lost", "a/lost/x", "a/torn"}));
+    EXPECT_EQ(contents.archived(), 4U);
 }
 
 TEST(Backup, backup_NotPossible_LeavesEverythingInPlace) {
