@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include "desktop/ClaudeArguments.h"
+#include "desktop/CopyEnvironment.h"
 #include "model/LauncherError.h"
 #include "platform/files/FolderLock.h"
 #include "platform/files/NormalizedPath.h"
@@ -98,7 +99,7 @@ CopyEvidence ClaudeApp::evidence(const std::vector<ProcInfo>& processes, std::ve
 ClaudeApp::Look ClaudeApp::look(const DataFolders& folders) const {
     // Read the notes first: every copy they mention has then started by the time we read the processes.
     std::vector<LaunchNote> notes = m_notes.all();
-    Look look = {ProcInfo::all(), {}};
+    Look look = {ProcInfo::all(kCopyVariables), {}};
     const ProcessFamily family(look.processes);
     std::erase_if(notes, [&](const LaunchNote& note) {
         const bool isRunning = std::ranges::any_of(
@@ -234,7 +235,7 @@ void ClaudeApp::awaitCopy(const LaunchNote& note, const Profile& profile, const 
     for (;;) {
         const bool isLast = m_clock.now() >= deadline;
         const DataFolders folders = store.dataFolders();
-        const std::vector<ProcInfo> processes = ProcInfo::all();
+        const std::vector<ProcInfo> processes = ProcInfo::all(kCopyVariables);
         const ProcessFamily family(processes);
         const CopyEvidence evidence = this->evidence(processes, {}, folders);
         for (const Instance& copy : openCopies(evidence)) {

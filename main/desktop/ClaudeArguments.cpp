@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "platform/files/NormalizedPath.h"
+#include "platform/process/MainProcess.h"
 
 namespace selvane {
 namespace {
@@ -15,6 +16,15 @@ bool areJoined(const std::vector<std::string>& arguments) {
     return !arguments.empty() && arguments.front().find(" --") != std::string::npos &&
            std::all_of(arguments.begin() + 1, arguments.end(),
                        [](const std::string& argument) { return argument.empty(); });
+}
+
+/// The script that an interpreter runs; empty if the process isn't one.
+std::string_view scriptOf(const ProcInfo& process) {
+    if (!isInterpreter(process.path) || process.args.empty())
+        return {};
+    const auto script = std::find_if(process.args.begin() + 1, process.args.end(),
+                                     [](const std::string& argument) { return !argument.starts_with('-'); });
+    return script == process.args.end() ? std::string_view() : *script;
 }
 
 } // namespace
@@ -42,9 +52,11 @@ bool namesDataFolder(const ProcInfo& process, const std::string& folder, const D
                 return true;
         }
     }
-    return std::any_of(process.args.begin(), process.args.end(), [&](const std::string& argument) {
-        return argument.find(folder + "/") != std::string::npos || argument.ends_with("=" + folder);
+    const std::string value = "=" + folder;
+    const bool isOption = std::ranges::any_of(process.args, [&](const std::string& argument) {
+        return argument.ends_with(value) || argument.find(value + "/") != std::string::npos;
     });
+    return isOption || scriptOf(process).starts_with(folder + "/");
 }
 
 } // namespace selvane

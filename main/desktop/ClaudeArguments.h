@@ -22,8 +22,9 @@ constexpr std::string_view kDataDirSwitch = "--user-data-dir=";
 /// be recognised there, so any other gives nothing.
 std::optional<std::string> dataDirArgument(const ProcInfo& process, const DataFolders& folders);
 
-/// Whether an argument names a data folder (normalized) or something in it: it contains the folder followed
-/// by "/", or ends with "=" and the folder. In joined arguments, a space may follow the folder.
+/// Whether a process was started for a data folder (normalized): an option has the folder, or something in
+/// it, as its value, or it is an interpreter that runs a script from there. In joined arguments, a space may
+/// follow the folder. A program that merely works on a file there, such as `tail`, doesn't count.
 bool namesDataFolder(const ProcInfo& process, const std::string& folder, const DataFolders& folders);
 
 } // namespace selvane

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 
-#include "desktop/ClaudeArguments.h"
 #include "platform/files/Locations.h"
 #include "platform/files/NormalizedPath.h"
 #include "platform/process/MainProcess.h"

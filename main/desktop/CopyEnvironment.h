@@ -3,10 +3,24 @@
 
 #pragma once
 
+#include <array>
+#include <string_view>
+
+#include "desktop/ClaudeArguments.h"
 #include "desktop/OpenCopies.h"
 #include "platform/process/ProcessFamily.h"
 
 namespace selvane {
+
+/// The variables that `CopyEnvironment` looks at, apart from those by which applications are recognised.
+inline constexpr std::array<std::string_view, 8> kCopyVariables = {kConfigDirVariable,
+                                                                   "HOME",
+                                                                   "PATH",
+                                                                   "XDG_CONFIG_HOME",
+                                                                   "DISPLAY",
+                                                                   "WAYLAND_DISPLAY",
+                                                                   "XDG_RUNTIME_DIR",
+                                                                   "DBUS_SESSION_BUS_ADDRESS"};
 
 /// The environment that a copy's main process was started with. Most wipe theirs; then crash handlers and the
 /// copy's child processes show what it was.

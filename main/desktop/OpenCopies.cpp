@@ -44,10 +44,10 @@ public:
         return wasThere || heldBy(process.pid).contains(lock.folder);
     }
 
-    /// The known data folders in which the process has open files.
+    /// The known data folders in which the process has files open for writing. Anybody may read there.
     std::set<std::string> heldBy(std::int32_t pid) const {
         std::set<std::string> folders;
-        for (const std::string& file : m_evidence.openFiles(pid)) {
+        for (const std::string& file : m_evidence.openFiles(pid, FileUse::writing)) {
             if (std::string folder = m_folders.holding(file); !folder.empty())
                 folders.insert(std::move(folder));
         }
@@ -173,7 +173,7 @@ private:
 
     /// A copy whose open files we can see would also show some in its data folder.
     bool showsFiles(std::int32_t pid) const {
-        return std::ranges::any_of(m_evidence.openFiles(pid),
+        return std::ranges::any_of(m_evidence.openFiles(pid, FileUse::any),
                                    [](const std::string& file) { return !file.starts_with("/dev/"); });
     }
 

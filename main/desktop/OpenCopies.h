@@ -39,20 +39,20 @@ struct CopyEvidence {
     std::string host; ///< this machine's name, as written in the locks
     const DataFolders& folders;
     /// The files that a process has open. Slow, so asked only when the other evidence isn't enough.
-    std::function<std::vector<std::string>(std::int32_t pid)> openFiles;
+    std::function<std::vector<std::string>(std::int32_t pid, FileUse use)> openFiles;
 };
 
 /// The running copies, in the order of the processes.
 ///
 /// The data folder comes from the launch note, the lock and the arguments. If they disagree or say nothing,
-/// open files decide; failing that the lock wins, then the note, then the arguments. A copy gets its normal
-/// folder without further evidence only if its arguments can be read and name no other folder, no other copy
-/// holds the lock there, and, where that is the user's own normal folder, its open files can't be seen. The
-/// configuration comes from the environment of the main process or its crash handler, then from the note,
-/// then from descendants, then from a crash handler that is probably its own.
+/// files open for writing decide; failing that the lock wins, then the note, then the arguments. A copy gets
+/// its normal folder without further evidence only if its arguments can be read and name no other folder, no
+/// other copy holds the lock there, and, where that is the user's own normal folder, its open files can't be
+/// seen. The configuration comes from the environment of the main process or its crash handler, then from the
+/// note, then from descendants, then from a crash handler that is probably its own.
 std::vector<OpenCopy> openCopies(const CopyEvidence& evidence);
 
-/// Whether the lock or open files prove that a process uses a data folder.
+/// Whether the lock or files open for writing prove that a process uses a data folder.
 bool usesDataFolder(const CopyEvidence& evidence, std::int32_t pid, const std::string& folder);
 
 /// Whether a process belongs to the application we opened: it runs in the session created for it or, on

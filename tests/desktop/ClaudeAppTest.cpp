@@ -47,10 +47,13 @@ TEST(ClaudeApp, processesOf_Rules_TellWhoBelongs) {
                                        process(52, 1, "/bin/x", {"/a/bc", "/a/b", "=/a/b ", "=/x/a/b"}),
                                        process(70, 1, "/c", {"/c --type=x --user-data-dir=/a/b --lang=it"}),
                                        process(71, 1, "/c", {"/c --type=x --user-data-dir=/a/b 2 --lang=it"}),
+                                       process(80, 1, "/bin/tail", {"tail", "-f", "/a/b/main.log"}),
+                                       process(81, 1, "/bin/bash", {"sh", "-e", "/a/b/x.sh", "y"}),
+                                       process(82, 1, "/bin/bash", {"sh", "/x.sh", "/a/b/y"}),
                                        process(60, 61, "/bin/loop"),
                                        process(61, 60, "/bin/loop")};
     const DataFolders folders("/normal", "/a", {"b", "b 2"});
-    EXPECT_EQ(pidsOf(processesOf("/a/b", {10}, all, folders)), (Pids{99, 10, 30, 40, 50, 51, 70}));
+    EXPECT_EQ(pidsOf(processesOf("/a/b", {10}, all, folders)), (Pids{99, 10, 30, 40, 50, 51, 70, 81}));
     std::vector<ProcInfo> chain;
     for (std::int32_t generation = 0; generation <= 33; ++generation)
         chain.push_back(process(generation, generation - 1, "/bin/x"));

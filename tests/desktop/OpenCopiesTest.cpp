@@ -28,7 +28,8 @@ struct Machine {
     std::vector<RunningApplication> recognised;
     std::vector<LaunchNote> notes;
     std::vector<DataFolderLock> locks;
-    std::map<std::int32_t, std::vector<std::string>> files;
+    std::map<std::int32_t, std::vector<std::string>> files; ///< open for writing
+    std::map<std::int32_t, std::vector<std::string>> filesRead;
 
     ProcInfo& add(std::int32_t pid, std::int32_t ppid, const std::string& path,
                   std::vector<std::string> args = {}, Environment env = {}) {
@@ -58,9 +59,14 @@ struct Machine {
     }
 
     CopyEvidence evidence() const {
-        const auto openFiles = [this](std::int32_t pid) {
-            const auto found = files.find(pid);
-            return found == files.end() ? std::vector<std::string>() : found->second;
+        const auto openFiles = [this](std::int32_t pid, FileUse use) {
+            std::vector<std::string> open;
+            for (const auto* each : {&files, &filesRead}) {
+                const auto found = each->find(pid);
+                if (found != each->end() && (use == FileUse::any || each == &files))
+                    open.insert(open.end(), found->second.begin(), found->second.end());
+            }
+            return open;
         };
         return {processes, recognised, notes, locks, "qui", folders, openFiles};
     }
@@ -232,6 +238,12 @@ TEST(OpenCopies, EvidenceThatLies_IsNotBelieved) {
              m.files[100] = {kLavoro + "/x"};
          },
          {copy(kLavoro, "?")}},
+        {"the same, but the files are only read",
+         [](Machine& m) {
+             m.add(100, 1, "/usr/bin/tail", {"tail", "-f", "main.log"});
+             m.addLock(kLavoro, 100, "qui", 999), m.filesRead[100] = {kLavoro + "/main.log"};
+         },
+         {}},
         {"lock of another host",
          [](Machine& m) { m.add(100, 1, "/usr/bin/gimp"), m.addLock(kLavoro, 100, "li"); },
          {}},
@@ -265,7 +277,7 @@ TEST(OpenCopies, EvidenceThatLies_IsNotBelieved) {
          },
          {}},
         {"no argument, but its files lie elsewhere",
-         [](Machine& m) { m.addMain(""), m.files[100] = {"/home/b/.config/Claude/x"}; },
+         [](Machine& m) { m.addMain(""), m.filesRead[100] = {"/home/b/.config/Claude/x"}; },
          {copy("?", "?")}},
         {"a second start, about to hand over",
          [](Machine& m) {
@@ -303,6 +315,8 @@ TEST(OpenCopies, Wrappers_AreSeenThrough) {
              inSession(m.add(100, 1, "/usr/lib/postgresql/postgres", {"postgres"}), 90);
              m.addNote(90, kLavoro, kConfig, 90);
              m.files[100] = {"/home/a/progetto/base"};
+             inSession(m.add(101, 1, "/usr/bin/tail", {"tail"}), 90);
+             m.filesRead[101] = {kLavoro + "/main.log"};
          },
          {}},
         {"a program that waits and is taken for the application",

@@ -5,6 +5,7 @@
 
 #include <fcntl.h>
 #include <limits.h>
+#include <sys/stat.h>
 #include <time.h>
 #include <unistd.h>
 
@@ -47,11 +48,12 @@ std::vector<std::string> splitArguments(std::string_view bytes) {
     return arguments;
 }
 
-std::map<std::string, std::string> splitEnvironment(std::string_view bytes) {
+template <typename IsKept>
+std::map<std::string, std::string> splitEnvironment(std::string_view bytes, IsKept isKept) {
     std::map<std::string, std::string> environment;
     forEachTerminated(bytes, [&](std::string_view variable) {
         const std::size_t sign = variable.find('=');
-        if (sign != std::string_view::npos)
+        if (sign != std::string_view::npos && isKept(variable.substr(0, sign)))
             environment.insert_or_assign(std::string(variable.substr(0, sign)),
                                          std::string(variable.substr(sign + 1)));
     });
@@ -78,7 +80,8 @@ public:
 
     std::optional<ProcStat> stat() { return ProcStat::parse(contents("stat")); }
 
-    std::optional<ProcInfo> info(std::int32_t pid) {
+    template <typename IsKept>
+    std::optional<ProcInfo> info(std::int32_t pid, IsKept isKept) {
         std::optional<std::string> path = executable();
         if (!path)
             return std::nullopt;
@@ -91,23 +94,29 @@ public:
             info.startTime = status->startTime;
         }
         info.args = splitArguments(contents("cmdline"));
-        info.env = splitEnvironment(contents("environ"));
+        info.env = splitEnvironment(contents("environ"), isKept);
         return info;
     }
 
-    std::vector<std::string> openFiles() const {
+    std::vector<std::string> openFiles(FileUse use) const {
         const files::Descriptor folder(::openat(m_process.get(), "fd", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
         std::vector<std::string> paths;
         std::array<char, PATH_MAX> target;
         files::forEachEntry(folder.get(), [&](const char* name, unsigned char) {
             const std::string_view path = readLink(folder.get(), name, target);
-            if (path.starts_with('/'))
+            if (path.starts_with('/') && (use == FileUse::any || isForWriting(folder.get(), name)))
                 paths.emplace_back(path);
         });
         return paths;
     }
 
 private:
+    /// The permissions of these links say how the file was opened.
+    static bool isForWriting(int folder, const char* name) {
+        struct stat status = {};
+        return ::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) == 0 && (status.st_mode & S_IWUSR) != 0;
+    }
+
     /// Empty on failure. The kernel never gives more text than fits.
     static std::string_view readLink(int folder, const char* name, std::array<char, PATH_MAX>& target) {
         const ssize_t size = ::readlinkat(folder, name, target.data(), target.size());
@@ -179,25 +188,27 @@ std::optional<ProcStat> ProcStat::read(std::int32_t pid) {
 
 std::optional<ProcInfo> ProcInfo::read(std::int32_t pid) {
     ProcReader reader;
-    return reader.open(std::to_string(pid).c_str()) ? reader.info(pid) : std::nullopt;
+    return reader.open(std::to_string(pid).c_str()) ? reader.info(pid, [](std::string_view) { return true; })
+                                                    : std::nullopt;
 }
 
-std::vector<ProcInfo> ProcInfo::all() {
+std::vector<ProcInfo> ProcInfo::all(std::span<const std::string_view> variables) {
+    const auto isWanted = [&](std::string_view name) { return isKept(name, variables); };
     std::vector<ProcInfo> processes;
     ProcReader reader;
     reader.forEachName([&](const char* name) {
         const auto number = parseNumber<std::int32_t>(name);
         if (!number || !reader.open(name))
             return;
-        if (std::optional<ProcInfo> process = reader.info(*number))
+        if (std::optional<ProcInfo> process = reader.info(*number, isWanted))
             processes.push_back(std::move(*process));
     });
     return processes;
 }
 
-std::vector<std::string> ProcInfo::openFiles(std::int32_t pid) {
+std::vector<std::string> ProcInfo::openFiles(std::int32_t pid, FileUse use) {
     ProcReader reader;
-    return reader.open(std::to_string(pid).c_str()) ? reader.openFiles() : std::vector<std::string>();
+    return reader.open(std::to_string(pid).c_str()) ? reader.openFiles(use) : std::vector<std::string>();
 }
 
 std::uint64_t ProcInfo::startTimePerSecond() {

@@ -70,7 +70,7 @@ std::optional<ProcInfo> ProcInfo::read(std::int32_t pid) {
     return info;
 }
 
-std::vector<ProcInfo> ProcInfo::all() {
+std::vector<ProcInfo> ProcInfo::all(std::span<const std::string_view> variables) {
     const int expected = ::proc_listallpids(nullptr, 0);
     if (expected < 1)
         return {};
@@ -81,13 +81,15 @@ std::vector<ProcInfo> ProcInfo::all() {
     std::vector<ProcInfo> processes;
     for (const pid_t pid : pids) {
         std::optional<ProcInfo> process = pid > 0 ? read(pid) : std::nullopt;
-        if (process)
-            processes.push_back(std::move(*process));
+        if (!process)
+            continue;
+        std::erase_if(process->env, [&](const auto& variable) { return !isKept(variable.first, variables); });
+        processes.push_back(std::move(*process));
     }
     return processes;
 }
 
-std::vector<std::string> ProcInfo::openFiles(std::int32_t pid) {
+std::vector<std::string> ProcInfo::openFiles(std::int32_t pid, FileUse use) {
     const int expected = ::proc_pidinfo(pid, PROC_PIDLISTFDS, 0, nullptr, 0);
     if (expected <= 0)
         return {};
@@ -101,7 +103,8 @@ std::vector<std::string> ProcInfo::openFiles(std::int32_t pid) {
         vnode_fdinfowithpath info = {};
         constexpr int kSize = sizeof info;
         if (file.proc_fdtype == PROX_FDTYPE_VNODE &&
-            ::proc_pidfdinfo(pid, file.proc_fd, PROC_PIDFDVNODEPATHINFO, &info, kSize) == kSize)
+            ::proc_pidfdinfo(pid, file.proc_fd, PROC_PIDFDVNODEPATHINFO, &info, kSize) == kSize &&
+            (use == FileUse::any || (info.pfi.fi_openflags & FWRITE) != 0))
             paths.emplace_back(info.pvip.vip_path);
     }
     return paths;

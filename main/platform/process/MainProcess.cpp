@@ -19,13 +19,6 @@ bool isHelperExecutable(std::string_view name) {
     return std::find(kHelperExecutables.begin(), kHelperExecutables.end(), name) != kHelperExecutables.end();
 }
 
-bool isInterpreter(std::string_view name) {
-    return std::any_of(kInterpreters.begin(), kInterpreters.end(), [&](std::string_view interpreter) {
-        return name.starts_with(interpreter) &&
-               name.find_first_not_of("0123456789.", interpreter.size()) == std::string_view::npos;
-    });
-}
-
 /// A process that has rewritten its title has all its arguments in the first one, joined by spaces.
 bool hasTypeArgument(const ProcInfo& process) {
     const auto isType = [](const std::string& argument) { return argument.starts_with("--type="); };
@@ -33,10 +26,22 @@ bool hasTypeArgument(const ProcInfo& process) {
            (!process.args.empty() && process.args.front().find(" --type=") != std::string::npos);
 }
 
+std::string_view nameOf(std::string_view executable) {
+    return executable.substr(executable.rfind('/') + 1);
+}
+
 } // namespace
 
+bool isInterpreter(std::string_view executable) {
+    const std::string_view name = nameOf(executable);
+    return std::any_of(kInterpreters.begin(), kInterpreters.end(), [&](std::string_view interpreter) {
+        return name.starts_with(interpreter) &&
+               name.find_first_not_of("0123456789.", interpreter.size()) == std::string_view::npos;
+    });
+}
+
 bool canBeMainProcess(const ProcInfo& process) {
-    const std::string_view name = std::string_view(process.path).substr(process.path.rfind('/') + 1);
+    const std::string_view name = nameOf(process.path);
     return !isHelperExecutable(name) && !isInterpreter(name) && !hasTypeArgument(process) &&
            !process.env.contains("ELECTRON_RUN_AS_NODE");
 }

@@ -3,14 +3,21 @@
 
 #pragma once
 
+#include <algorithm>
+#include <array>
 #include <chrono>
 #include <cstdint>
 #include <map>
 #include <optional>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace selvane {
+
+/// What a process has a file open for.
+enum class FileUse { any, writing };
 
 /// One process, as the kernel describes it at the moment of reading.
 struct ProcInfo {
@@ -24,10 +31,11 @@ struct ProcInfo {
 
     /// Nothing if there is no such process or its executable is unknown (another user's process).
     static std::optional<ProcInfo> read(std::int32_t pid);
-    /// Every readable process, in the kernel's order.
-    static std::vector<ProcInfo> all();
+    /// Every readable process, in the kernel's order. Of their environments, which together can take hundreds
+    /// of megabytes, only these variables and those of `kRecognitionVariables` are kept.
+    static std::vector<ProcInfo> all(std::span<const std::string_view> variables = {});
     /// The paths of the files that a process has open; empty if that can't be determined.
-    static std::vector<std::string> openFiles(std::int32_t pid);
+    static std::vector<std::string> openFiles(std::int32_t pid, FileUse use);
     /// How many units of `startTime` make a second.
     static std::uint64_t startTimePerSecond();
     /// The `startTime` of a process that starts at that moment.
@@ -35,5 +43,17 @@ struct ProcInfo {
 
     bool operator==(const ProcInfo&) const = default;
 };
+
+/// The variables by which `Workspace::running` recognises applications.
+inline constexpr std::array<std::string_view, 3> kRecognitionVariables = {
+    "ELECTRON_RUN_AS_NODE", "GIO_LAUNCHED_DESKTOP_FILE", "GIO_LAUNCHED_DESKTOP_FILE_PID"};
+
+/// Whether `ProcInfo::all(variables)` keeps a variable.
+inline bool isKept(std::string_view variable, std::span<const std::string_view> variables) {
+    const auto isIn = [&](const auto& names) {
+        return std::find(names.begin(), names.end(), variable) != names.end();
+    };
+    return isIn(variables) || isIn(kRecognitionVariables);
+}
 
 } // namespace selvane
