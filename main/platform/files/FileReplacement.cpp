@@ -16,8 +16,11 @@
 /// The operations of `FileManager` that build something new beside its final place.
 namespace selvane {
 
+using files::build;
 using files::Descriptor;
 using files::fail;
+using files::inherit;
+using files::isAnything;
 using files::newSibling;
 using files::requireOutside;
 using files::Temporary;
@@ -29,44 +32,9 @@ std::filesystem::path withoutEndingSlash(const std::filesystem::path& path) {
     return path.has_filename() ? path : path.parent_path();
 }
 
-/// Lets `make` build the temporary. Errors about it name `target` instead, the path that the user knows.
-void build(const Temporary& temporary, const std::filesystem::path& target,
-           const std::function<void(const std::filesystem::path& temporary)>& make) {
-    const auto named = [&](const std::filesystem::path& path) -> std::filesystem::path {
-        const std::string& name = temporary.path().native();
-        if (!path.native().starts_with(name))
-            return path;
-        return target.native() + path.native().substr(name.size());
-    };
-    try {
-        make(temporary.path());
-    } catch (const std::filesystem::filesystem_error& error) {
-        throw std::filesystem::filesystem_error("create", named(error.path1()), named(error.path2()),
-                                                error.code());
-    }
-}
-
-bool isAnything(const std::filesystem::path& path, struct stat& status) {
-    return ::lstat(path.c_str(), &status) == 0;
-}
-
 bool isLink(const std::filesystem::path& path) {
     struct stat status = {};
     return isAnything(path, status) && S_ISLNK(status.st_mode);
-}
-
-/// Gives a new file the mode, access list and attributes of the one it replaces.
-void inherit(int file, const std::filesystem::path& old, mode_t mode, Privacy privacy) {
-    files::dropInheritedAccess(file);
-    std::optional<mode_t> known = mode & ALLPERMS;
-    // If the old file can't be read, its attributes can't be copied.
-    const Descriptor origin(::open(old.c_str(), O_RDONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC));
-    if (origin)
-        known = files::copyAttributes(origin.get(), file, *known, privacy);
-    else if (privacy == Privacy::ownerOnly)
-        *known &= S_IRWXU;
-    if (!known || ::fchmod(file, *known) != 0)
-        fail("write", old, errno);
 }
 
 void copyBeside(const std::filesystem::path& from, const std::filesystem::path& to,

@@ -75,4 +75,37 @@ void Temporary::takeBack(const std::filesystem::path& target) {
     m_isPlaced = renameExclusively(target, m_path) != 0;
 }
 
+void build(const Temporary& temporary, const std::filesystem::path& target,
+           const std::function<void(const std::filesystem::path& temporary)>& make) {
+    const auto named = [&](const std::filesystem::path& path) -> std::filesystem::path {
+        const std::string& name = temporary.path().native();
+        if (!path.native().starts_with(name))
+            return path;
+        return target.native() + path.native().substr(name.size());
+    };
+    try {
+        make(temporary.path());
+    } catch (const std::filesystem::filesystem_error& error) {
+        throw std::filesystem::filesystem_error("create", named(error.path1()), named(error.path2()),
+                                                error.code());
+    }
+}
+
+bool isAnything(const std::filesystem::path& path, struct stat& status) {
+    return ::lstat(path.c_str(), &status) == 0;
+}
+
+void inherit(int file, const std::filesystem::path& old, mode_t mode, Privacy privacy) {
+    dropInheritedAccess(file);
+    std::optional<mode_t> known = mode & ALLPERMS;
+    // If the old file can't be read, its attributes can't be copied.
+    const Descriptor origin(::open(old.c_str(), O_RDONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC));
+    if (origin)
+        known = copyAttributes(origin.get(), file, *known, privacy);
+    else if (privacy == Privacy::ownerOnly)
+        *known &= S_IRWXU;
+    if (!known || ::fchmod(file, *known) != 0)
+        fail("write", old, errno);
+}
+
 } // namespace selvane::files

@@ -4,7 +4,11 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string_view>
+#include <sys/stat.h>
+
+#include "platform/files/FileManager.h"
 
 namespace selvane::files {
 
@@ -39,5 +43,15 @@ private:
     std::filesystem::path m_path;
     bool m_isPlaced = false;
 };
+
+/// Lets `make` build the temporary. Errors about it name `target` instead, the path that the user knows.
+void build(const Temporary& temporary, const std::filesystem::path& target,
+           const std::function<void(const std::filesystem::path& temporary)>& make);
+
+/// Whether there is anything at `path`, even a dangling link, which `status` then describes; else with errno.
+bool isAnything(const std::filesystem::path& path, struct stat& status);
+
+/// Gives a new file the mode, access list and attributes of the one it replaces.
+void inherit(int file, const std::filesystem::path& old, mode_t mode, Privacy privacy);
 
 } // namespace selvane::files
