@@ -3,21 +3,35 @@
 
 #pragma once
 
+#include <chrono>
 #include <filesystem>
+#include <optional>
 
 #include "platform/files/Descriptor.h"
 
 namespace selvane {
 
-/// Locks a folder against other Selvanes for the lifetime of this object; they wait. A second lock on the
-/// same folder waits for ever, even in the same thread. It leaves nothing behind, not even after a crash. It
-/// does nothing if there is no such folder, even if that only turns out after waiting, or if the file system
-/// has no locks.
+/// Locks a folder against other Selvanes for the lifetime of this object. It leaves nothing behind, not even
+/// after a crash. It does nothing if there is no such folder, even if that only turns out after waiting, or
+/// if the file system has no locks.
 class FolderLock {
 public:
-    explicit FolderLock(const std::filesystem::path& folder);
+    /// How long an operation waits for others.
+    static constexpr std::chrono::milliseconds kPatience = std::chrono::seconds(10);
+
+    /// Waits while somebody else has locked the folder, at most for `patience`; then throws a `LauncherError`
+    /// that names them. If this thread has already locked it, perhaps under another name, throws at once.
+    explicit FolderLock(const std::filesystem::path& folder, std::chrono::milliseconds patience = kPatience);
+    FolderLock(FolderLock&& other) noexcept = default;
+    FolderLock& operator=(FolderLock&& other) = delete;
+    ~FolderLock();
+
+    /// Locks a folder unless somebody has locked it already, or it isn't there.
+    static std::optional<FolderLock> ifFree(const std::filesystem::path& folder);
 
 private:
+    FolderLock() = default;
+
     files::Descriptor m_folder;
 };
 

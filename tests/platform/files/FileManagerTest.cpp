@@ -354,19 +354,5 @@ TEST(FileManager, MovesAcrossFileSystems) {
     kFiles.removeTree(elsewhere);
 }
 
-TEST(FolderLock, IsThatOfAFolderWhichAppearsWhileItWaits) {
-    const TemporaryFolder folder;
-    kFiles.createFolder(folder / "locked");
-    const WaitWatch watch(WaitWatch::For::lock, [&](const fs::path& waitedFor) {
-        if (kFiles.exists(folder / "away"))
-            return;
-        fs::rename(waitedFor, folder / "away");
-        kFiles.createFolder(waitedFor);
-    });
-    const FolderLock lock(folder / "locked");
-    EXPECT_TRUE(isLocked(folder / "locked"));
-    EXPECT_FALSE(isLocked(folder / "away"));
-}
-
 } // namespace
 } // namespace selvane

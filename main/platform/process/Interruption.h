@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <array>
+#include <csignal>
+
+namespace selvane {
+
+/// While one lives, a request to end this program (SIGINT, SIGTERM, SIGHUP) only makes `check` throw, so that
+/// unfinished work can be undone first. Ignored signals stay ignored. There may be only one at a time.
+class Interruption {
+public:
+    Interruption();
+    Interruption(const Interruption&) = delete;
+    Interruption& operator=(const Interruption&) = delete;
+    ~Interruption();
+
+    /// Throws a `LauncherError` after such a request. Any thread may call it, whether or not one lives.
+    static void check();
+
+    /// Ends the program as the request would have done, if there has been one.
+    void endIfRequested();
+
+private:
+    static constexpr std::array kSignals = {SIGINT, SIGTERM, SIGHUP};
+
+    void restore();
+
+    std::array<struct sigaction, kSignals.size()> m_before = {};
+};
+
+} // namespace selvane
