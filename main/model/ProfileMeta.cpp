@@ -3,7 +3,9 @@
 
 #include "model/ProfileMeta.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <iterator>
 #include <nlohmann/json.hpp>
 
 #include "model/ByteText.h"
@@ -12,6 +14,9 @@ namespace selvane {
 namespace {
 
 using Json = nlohmann::ordered_json;
+
+constexpr std::string_view kKeys[] = {"account", "created", "excluded", "lastLaunched", "modes",
+                                      "name",    "source",  "summary",  "symbol"};
 
 /// Thrown by an unusable record, caught in this file and turned into "nothing".
 struct InvalidRecord {};
@@ -153,6 +158,12 @@ std::map<std::string, std::vector<std::string>> exclusions(const Json& value) {
     return result;
 }
 
+/// Adds a new key without looking it up: a record made by others can have very many.
+void append(Json& object, const std::string& key, Json value) {
+    std::vector<Json::object_t::value_type>& members = object.get_ref<Json::object_t&>();
+    members.emplace_back(key, std::move(value));
+}
+
 ProfileMeta metaFrom(const Json& object) {
     ProfileMeta meta;
     const auto name = optionalText(requireObject(object), "name");
@@ -181,13 +192,14 @@ Timestamp currentTimestamp() {
 Json toJson(const ProfileMeta& meta) {
     Json excluded = Json::object();
     for (const auto& [component, names] : meta.excluded) {
-        Json& list = excluded[component] = Json::array();
+        Json list = Json::array();
         for (const auto& name : names)
             list.push_back(textFromBytes(name));
+        append(excluded, component, std::move(list));
     }
     Json modes = Json::object();
     for (const auto& [component, mode] : meta.modes)
-        modes[component] = rawValue(mode);
+        append(modes, component, rawValue(mode));
 
     Json object = Json::object(); // keys in alphabetical order
     if (meta.account)
@@ -203,6 +215,10 @@ Json toJson(const ProfileMeta& meta) {
     object["summary"] = textFromBytes(meta.summary);
     object["symbol"] = textFromBytes(meta.symbol);
     return object;
+}
+
+bool isProfileMetaKey(std::string_view key) {
+    return std::find(std::begin(kKeys), std::end(kKeys), key) != std::end(kKeys);
 }
 
 std::optional<ProfileMeta> profileMeta(const Json& record) {

@@ -8,6 +8,7 @@
 #include <nlohmann/json_fwd.hpp>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "model/ShareMode.h"
@@ -36,6 +37,9 @@ struct ProfileMeta {
 
 /// The record as an object with sorted keys and dates like 2025-03-01T09:30:00Z.
 nlohmann::ordered_json toJson(const ProfileMeta& meta);
+
+/// Whether a record's key is one that `toJson` writes.
+bool isProfileMetaKey(std::string_view key);
 
 /// Reads a record. Keys other than "name" may be missing or null; unknown keys are ignored. Returns nothing
 /// if the value is no object, has no name, or gives a known key a wrong type or an invalid value.

@@ -5,6 +5,7 @@
 
 #include <array>
 
+#include "model/ByteText.h"
 #include "model/LauncherError.h"
 #include "platform/files/NormalizedPath.h"
 #include "platform/text/Text.h"
@@ -38,9 +39,10 @@ fs::path ProfileStore::desktopFolder(const std::string& owner) const {
 }
 
 std::string ProfileStore::desktopLiveOwner() const {
-    const auto content = m_files.readIfPossible(desktopStore() / kLiveMarkerName);
+    const auto content =
+        m_files.readIfPossible(desktopStore() / kLiveMarkerName, FileManager::kLongestRecord);
     const std::string owner(text::trimmed(content.value_or("")));
-    return owner.empty() ? std::string(Profile::kDefaultId) : owner;
+    return owner.empty() || !isUtf8(owner) ? std::string(Profile::kDefaultId) : owner;
 }
 
 fs::path ProfileStore::desktopDataDir(const Profile& profile) const {

@@ -7,6 +7,7 @@
 #include "platform/files/Locations.h"
 #include "platform/files/NormalizedPath.h"
 #include "platform/files/Progress.h"
+#include "platform/text/ErrorText.h"
 #include "platform/text/Text.h"
 #include "store/ProfileRecord.h"
 
@@ -20,6 +21,11 @@ constexpr std::string_view kDefaultSummary = "La configurazione standard di Clau
 constexpr std::string_view kDefaultSymbol = "house";
 constexpr std::string_view kDefaultMetaFileName = "default.json";
 constexpr std::string_view kActiveFileName = ".active";
+
+LauncherError damaged(const fs::path& record) {
+    return LauncherError(text::singleLine(record.string()) +
+                         " è danneggiato: correggilo o spostalo nel Cestino");
+}
 
 /// Links and logins are tied to the spelling.
 fs::path location(const Environment& environment, const std::string& variable, const fs::path& standard) {
@@ -76,7 +82,7 @@ Profile ProfileStore::loadDefault() const {
     meta.name = kDefaultName;
     meta.summary = kDefaultSummary;
     meta.symbol = kDefaultSymbol;
-    if (const auto text = m_files.readIfPossible(m_root / kDefaultMetaFileName))
+    if (const auto text = m_files.readIfPossible(m_root / kDefaultMetaFileName, FileManager::kLongestRecord))
         meta = decodedProfileMeta(*text).value_or(meta);
     return {std::string(Profile::kDefaultId), meta, m_defaultDir, m_defaultGlobalJSON};
 }
@@ -85,11 +91,22 @@ std::optional<Profile> ProfileStore::loadProfile(const std::string& id) const {
     if (!Profile::isPossibleId(id))
         return std::nullopt;
     const fs::path folder = m_root / id;
-    const auto text = m_files.readIfPossible(folder / kMetaFileName);
+    const auto text = m_files.readIfPossible(folder / kMetaFileName, FileManager::kLongestRecord);
     if (!text)
         return std::nullopt;
     auto meta = decodedProfileMeta(*text);
     return meta ? std::optional(Profile{id, std::move(*meta), folder}) : std::nullopt;
+}
+
+/// The record in `file`; nothing if there is none. Throws if it is damaged or can't be read.
+std::optional<ProfileMeta> ProfileStore::readRecord(const fs::path& file) const {
+    const auto text = m_files.readIfPresent(file, FileManager::kLongestRecord);
+    if (!text)
+        return std::nullopt;
+    auto meta = decodedProfileMeta(*text);
+    if (!meta)
+        throw damaged(file);
+    return meta;
 }
 
 std::vector<Profile> ProfileStore::loadAll() const {
@@ -108,6 +125,20 @@ std::vector<Profile> ProfileStore::loadAll() const {
     return result;
 }
 
+std::vector<DamagedProfile> ProfileStore::damagedProfiles() const {
+    std::vector<DamagedProfile> found;
+    for (const std::string& id : text::sorted(m_files.entriesIfReadable(m_root))) {
+        if (!Profile::isPossibleId(id))
+            continue;
+        try {
+            static_cast<void>(readRecord(m_root / id / kMetaFileName));
+        } catch (const std::exception& error) {
+            found.push_back({id, m_root / id, describe(error)});
+        }
+    }
+    return found;
+}
+
 std::optional<Profile> ProfileStore::profile(std::string_view id) const {
     return id == Profile::kDefaultId ? loadDefault() : loadProfile(std::string(id));
 }
@@ -119,10 +150,32 @@ std::optional<Profile> ProfileStore::sourceOf(const Profile& profile) const {
     return this->profile(*profile.meta.source);
 }
 
+fs::path ProfileStore::recordOf(const Profile& profile) const {
+    return profile.isDefault() ? m_root / kDefaultMetaFileName : profile.configDir / kMetaFileName;
+}
+
 void ProfileStore::saveMeta(const Profile& profile) {
-    const fs::path file =
-        profile.isDefault() ? m_root / kDefaultMetaFileName : profile.configDir / kMetaFileName;
-    m_files.write(file, encoded(profile.meta));
+    const fs::path file = recordOf(profile);
+    const auto before = m_files.readIfPresent(file, FileManager::kLongestRecord);
+    if (before && !decodedProfileMeta(*before))
+        throw damaged(file);
+    m_files.write(file, before ? encoded(profile.meta, *before) : encoded(profile.meta));
+}
+
+void ProfileStore::repair(const std::string& id) {
+    if (!Profile::isPossibleId(id))
+        throw LauncherError("Profilo sconosciuto: " + text::singleLine(id));
+    const FolderLock lock(m_root / id);
+    const fs::path file = m_root / id / kMetaFileName;
+    try {
+        if (readRecord(file)) // repaired meanwhile
+            return;
+    } catch (const std::exception&) { // the damage to repair
+    }
+    ProfileMeta standard;
+    standard.name = id;
+    m_files.replaceTrashing(file,
+                            [&](const fs::path& temporary) { m_files.write(temporary, encoded(standard)); });
 }
 
 FolderLock ProfileStore::locked(const Profile& profile) const {
@@ -133,9 +186,14 @@ FolderLock ProfileStore::locked(const Profile& profile) const {
     return lock;
 }
 
-/// The profile as it is on disk now: its record may have changed since `profile` was loaded.
+/// The profile as it is on disk now: its record may have changed since `profile` was loaded. Throws if that
+/// has been damaged, except for the built-in profile.
 Profile ProfileStore::current(const Profile& profile) const {
-    return this->profile(profile.id).value_or(profile);
+    if (profile.isDefault())
+        return loadDefault();
+    Profile current = profile;
+    current.meta = readRecord(recordOf(profile)).value_or(profile.meta);
+    return current;
 }
 
 Profile ProfileStore::changeMeta(const Profile& profile, const std::function<void(ProfileMeta&)>& change) {
@@ -158,7 +216,7 @@ void ProfileStore::markLaunched(const Profile& profile) {
 }
 
 std::optional<std::string> ProfileStore::activeID() const {
-    const auto content = m_files.readIfPossible(m_root / kActiveFileName);
+    const auto content = m_files.readIfPossible(m_root / kActiveFileName, FileManager::kLongestRecord);
     return content ? std::optional(std::string(text::trimmed(*content))) : std::nullopt;
 }
 

@@ -40,6 +40,15 @@ struct NewProfile {
     std::optional<std::string> account;                   ///< id of the profile whose account it uses
 };
 
+/// A folder in the profiles root whose record is there, but damaged or unreadable.
+struct DamagedProfile {
+    std::string id;
+    std::filesystem::path configDir;
+    std::string reason; ///< in Italian, naming the record
+
+    bool operator==(const DamagedProfile&) const = default;
+};
+
 /// The profiles on disk. It keeps no cache: every query reads the file system again.
 ///
 /// Operations throw `LauncherError` for Selvane's own errors and let file-system and JSON errors pass;
@@ -69,9 +78,16 @@ public:
     std::filesystem::path globalJSON(const Profile& profile) const;
 
     // Loading and saving (ProfileStore.cpp)
-    std::vector<Profile> loadAll() const; ///< the built-in profile, then the others by name
+    std::vector<Profile> loadAll() const;                ///< the built-in profile, then the others by name
+    std::vector<DamagedProfile> damagedProfiles() const; ///< by id; the built-in profile is never among them
+    /// Without a valid record, the built-in profile has the standard one, and any other isn't found.
     std::optional<Profile> profile(std::string_view id) const;
+    /// Keys that Selvane doesn't know stay in the record. Throws if the record on disk is damaged or can't be
+    /// read, and leaves it as it is.
     void saveMeta(const Profile& profile);
+    /// Gives a damaged profile a standard record with its id as the name; the damaged record goes to the
+    /// Trash. Does nothing if the record is valid.
+    void repair(const std::string& id);
     /// Changes the record on disk, which may differ from `profile` as loaded.
     Profile changeMeta(const Profile& profile, const std::function<void(ProfileMeta&)>& change);
     void markLaunched(const Profile& profile);   ///< never fails
@@ -140,6 +156,8 @@ public:
 
 private:
     Profile loadDefault() const;
+    std::filesystem::path recordOf(const Profile& profile) const;
+    std::optional<ProfileMeta> readRecord(const std::filesystem::path& file) const;
     std::optional<Profile> loadProfile(const std::string& id) const;
     std::optional<Profile> sourceOf(const Profile& profile) const;
     /// Locks the profile against other Selvanes. Throws if it has been deleted.

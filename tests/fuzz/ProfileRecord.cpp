@@ -34,6 +34,9 @@ void checkRecord(std::string_view text) {
     if (!meta)
         return;
     requireSameAgain(*meta);
+    const std::string changed = encoded(*meta, text);
+    require(decodedProfileMeta(changed) == meta, "a record that replaces another is read the same");
+    require(encoded(*meta, changed) == changed, "unknown keys stay");
     const std::string owner = Profile{"lavoro", *meta, "/r/lavoro"}.accountOwner();
     require(!Profile::isPossibleId(owner) || std::filesystem::path("/r") / owner ==
                                                  std::filesystem::path("/r/" + owner).lexically_normal(),

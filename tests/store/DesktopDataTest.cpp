@@ -50,6 +50,14 @@ TEST(DesktopData, desktopDataDir_EachMarker_FollowsTheLiveOwner) {
     }
 }
 
+TEST(DesktopData, desktopLiveOwner_NoText_IsTheBuiltInProfile) {
+    Home home;
+    for (const char* marker : {"", " \n", "caff\xE8", "\xFF"}) {
+        writeFile(home.store.desktopStore() / ".live", marker);
+        EXPECT_EQ(home.store.desktopLiveOwner(), "default") << marker;
+    }
+}
+
 TEST(DesktopData, restore_EachLayout_BringsTheBuiltInAccountBack) {
     const Tree clean = {{"normal/Cookies", "mine"}};
     const struct {

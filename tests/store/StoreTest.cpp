@@ -77,9 +77,82 @@ TEST(Store, defaultProfile_WithARecord_IsWhatTheRecordSays) {
     EXPECT_EQ(home.builtIn().meta.name + home.builtIn().meta.symbol, "Casaperson.crop.circle");
     writeFile(record, R"({"name": "Casa", "created": "ieri"})");
     EXPECT_EQ(home.builtIn().meta.name + home.builtIn().meta.symbol, "Principalehouse");
+    const Tree before = treeOf(home.path);
+    home.store.markLaunched(home.builtIn());
+    fs::remove(home.store.root() / ".active");
+    const std::string message = messageOf([&] { home.store.saveMeta(home.builtIn()); });
+    EXPECT_NE(message.find(record), message.npos) << message;
+    EXPECT_EQ(treeOf(home.path), before) << "a damaged record is never written over";
+    fs::remove(record);
     home.store.saveMeta(home.builtIn());
     EXPECT_EQ(treeOf(home.path), (Tree{{".claude-profiles", "/"},
                                        {".claude-profiles/default.json", encoded(home.builtIn().meta)}}));
+}
+
+TEST(Store, changeMeta_RecordOfALaterVersion_KeepsItsUnknownKeys) {
+    Home home;
+    const fs::path record = home.store.root() / "lavoro/.launcher.json";
+    writeFile(record, R"({"z": [1.0, {"name": 1e3}], "name": "Lavoro", "created": "2025-03-01T09:30:00Z",
+                          "Zeta": null, "account": null, "z": [1.50]})");
+    home.store.changeMeta(*home.store.profile("lavoro"), [](ProfileMeta& meta) { meta.summary = "s"; });
+    EXPECT_EQ(readFile(record), R"({
+  "Zeta": null,
+  "created": "2025-03-01T09:30:00Z",
+  "excluded": {},
+  "modes": {},
+  "name": "Lavoro",
+  "summary": "s",
+  "symbol": "person.crop.circle",
+  "z": [
+    1.50
+  ]
+}
+)");
+}
+
+TEST(Store, damagedProfiles_EachKindOfDamage_IsNamedAndCanBeRepaired) {
+    Home home;
+    const fs::path root = home.store.root();
+    home.make("Sano");
+    const std::string large = R"({"name": "Grande"})" + std::string(FileManager::kLongestRecord, ' ');
+    writeTree(root, {{"cartella/.launcher.json/x", "x"},
+                     {"default/.launcher.json", ""},
+                     {"giro/.launcher.json", "-> .launcher.json"},
+                     {"grande/.launcher.json", large},
+                     {"rotto/.launcher.json", R"({"name": "Rotto", "modes": {"skills": "linked"}})"},
+                     {"rotto/CLAUDE.md", "regole"},
+                     {"appeso/.launcher.json", "-> assente"},
+                     {"vecchio/CLAUDE.md", ""},
+                     {".nascosto/.launcher.json", ""},
+                     {"default.json", ""}});
+    const Tree before = treeOf(root);
+    Texts damaged;
+    for (const DamagedProfile& profile : home.store.damagedProfiles()) {
+        damaged.push_back(profile.id);
+        EXPECT_EQ(profile.configDir, root / profile.id);
+        EXPECT_NE(profile.reason.find(root / profile.id / ".launcher.json"), std::string::npos)
+            << profile.reason;
+    }
+    EXPECT_EQ(damaged, (Texts{"cartella", "default", "giro", "grande", "rotto"}));
+    EXPECT_EQ(home.store.loadAll().size(), 2U);
+
+    Profile stale = *home.store.profile("sano");
+    writeFile(root / "sano/.launcher.json", "{");
+    EXPECT_NE(messageOf([&] { home.store.sync(stale); }), "") << "a record that was valid when it was loaded";
+    EXPECT_EQ(readFile(root / "sano/.launcher.json"), "{");
+    for (const std::string& id : damaged)
+        home.store.repair(id);
+    const Tree trash = takeTrash();
+    EXPECT_EQ(trash.size(), damaged.size() + 1) << "also what was in the folder";
+    EXPECT_EQ(home.store.damagedProfiles().size(), 1U) << "the one damaged last";
+    EXPECT_EQ(home.store.profile("rotto")->meta.name, "rotto");
+    EXPECT_EQ(readFile(root / "rotto/CLAUDE.md") + readFile(root / "default.json"), "regole");
+    const std::string record = readFile(root / "rotto/.launcher.json");
+    home.store.repair("rotto");
+    EXPECT_EQ(readFile(root / "rotto/.launcher.json"), record) << "nothing to repair";
+    EXPECT_NE(messageOf([&] { home.store.repair("assente"); }), "");
+    EXPECT_NE(messageOf([&] { home.store.repair("../x"); }), "");
+    EXPECT_EQ(takeTrash(), Tree{});
 }
 
 TEST(Store, markLaunched_AfterAnEdit_KeepsTheEdit) {

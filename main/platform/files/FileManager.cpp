@@ -22,9 +22,6 @@ using files::fail;
 
 namespace {
 
-/// Selvane reads settings and records. A larger file isn't one, and reading it would only exhaust memory.
-constexpr off_t kLongestText = 1 << 30;
-
 std::optional<struct stat> statusOf(const std::filesystem::path& path) {
     struct stat status = {};
     if (::lstat(path.c_str(), &status) != 0)
@@ -36,9 +33,14 @@ Descriptor openFolder(const std::filesystem::path& folder) {
     return Descriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
 }
 
-/// All bytes of an open file of about `size` bytes; nothing, with errno, on failure.
-std::optional<std::string> readAll(int file, std::size_t size) {
+/// All bytes of an open file of about `size` bytes; nothing, with errno, on failure or if there are more than
+/// `longest`.
+std::optional<std::string> readAll(int file, std::size_t size, std::size_t longest) {
     constexpr std::size_t kLeast = 4096;
+    if (size > longest) {
+        errno = EOVERFLOW;
+        return std::nullopt;
+    }
     // With room for one more byte, a file of the expected size shows its end at once.
     std::string bytes(std::max(size + 1, kLeast), '\0');
     std::size_t used = 0;
@@ -53,6 +55,10 @@ std::optional<std::string> readAll(int file, std::size_t size) {
         if (count == 0 || (size > 0 && used == size)) {
             bytes.resize(used);
             return bytes;
+        }
+        if (used > longest) {
+            errno = EOVERFLOW;
+            return std::nullopt;
         }
         if (used == bytes.size())
             bytes.resize(2 * used);
@@ -121,7 +127,7 @@ std::vector<std::string> FileManager::entriesIfReadable(const std::filesystem::p
     }
 }
 
-std::string FileManager::read(const std::filesystem::path& file) const {
+std::string FileManager::read(const std::filesystem::path& file, std::size_t longest) const {
     // O_NONBLOCK: opening a FIFO without a writer would block.
     const Descriptor open(::open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     struct stat status = {};
@@ -129,17 +135,28 @@ std::string FileManager::read(const std::filesystem::path& file) const {
         fail("read", file, errno);
     if (!S_ISREG(status.st_mode))
         fail("read", file, S_ISDIR(status.st_mode) ? EISDIR : EINVAL);
-    if (status.st_size > kLongestText)
-        fail("read", file, EFBIG);
-    auto bytes = readAll(open.get(), static_cast<std::size_t>(status.st_size));
+    auto bytes = readAll(open.get(), static_cast<std::size_t>(status.st_size), longest);
     if (!bytes)
         fail("read", file, errno);
     return std::move(*bytes);
 }
 
-std::optional<std::string> FileManager::readIfPossible(const std::filesystem::path& file) const {
+std::optional<std::string> FileManager::readIfPresent(const std::filesystem::path& file,
+                                                      std::size_t longest) const {
     try {
-        return read(file);
+        return read(file, longest);
+    } catch (const std::filesystem::filesystem_error& error) {
+        if (error.code() == std::errc::no_such_file_or_directory ||
+            error.code() == std::errc::not_a_directory)
+            return std::nullopt;
+        throw;
+    }
+}
+
+std::optional<std::string> FileManager::readIfPossible(const std::filesystem::path& file,
+                                                       std::size_t longest) const {
+    try {
+        return read(file, longest);
     } catch (const std::filesystem::filesystem_error&) {
         return std::nullopt;
     }

@@ -37,6 +37,10 @@ enum class Privacy {
 class FileManager {
 public:
     static constexpr std::string_view kTemporaryPrefix = ".selvane-";
+    /// The largest files that are read, in bytes. A larger one is no configuration and would only exhaust
+    /// memory.
+    static constexpr std::size_t kLongestText = 256U << 20;
+    static constexpr std::size_t kLongestRecord = 1U << 20; ///< for Selvane's own files
 
     FileManager() = default;
     /// Tells `progress` what is copied, and stops copying when it says so.
@@ -65,10 +69,14 @@ public:
     /// The same, but empty if the folder is missing or can't be read.
     std::vector<std::string> entriesIfReadable(const std::filesystem::path& folder) const;
 
-    /// The bytes of a file, following links. Throws unless it is a regular file.
-    std::string read(const std::filesystem::path& file) const;
+    /// The bytes of a file, following links. Throws unless it is a regular file of at most `longest` bytes.
+    std::string read(const std::filesystem::path& file, std::size_t longest = kLongestText) const;
+    /// The same, but nothing if there is no such file.
+    std::optional<std::string> readIfPresent(const std::filesystem::path& file,
+                                             std::size_t longest = kLongestText) const;
     /// The same, but nothing on any failure.
-    std::optional<std::string> readIfPossible(const std::filesystem::path& file) const;
+    std::optional<std::string> readIfPossible(const std::filesystem::path& file,
+                                              std::size_t longest = kLongestText) const;
     /// Replaces `file` whole or leaves it as it was. The new file keeps the mode of the one it replaces;
     /// otherwise it gets 0600 if `ownerOnly`, else 0644 less the creation mask. A link at `file` is replaced,
     /// never followed. The folder must exist.

@@ -255,16 +255,18 @@ void set(Json& object, std::string_view key, Json value) {
     auto& members = object.get_ref<Object&>();
     const auto isKey = [&](const auto& member) { return member.first == key; };
     const auto first = std::find_if(members.begin(), members.end(), isKey);
-    if (first == members.end()) {
-        membersOf(members).emplace_back(key, std::move(value));
-        return;
-    }
+    if (first == members.end())
+        return append(object, key, std::move(value));
     first->second = std::move(value);
     if (std::find_if(std::next(first), members.end(), isKey) == members.end())
         return;
     bool isFirst = true;
     keep(members,
          [&](const std::string& name, const Json&) { return name != key || std::exchange(isFirst, false); });
+}
+
+void append(Json& object, std::string_view key, Json value) {
+    membersOf(object.get_ref<Object&>()).emplace_back(key, std::move(value));
 }
 
 void remove(Json& object, std::string_view key) {

@@ -33,6 +33,8 @@ Json parse(std::string_view text, const std::filesystem::path& file);
 const Json* find(const Json& object, std::string_view key);
 /// Sets a key of an object where it is, or adds it at the end.
 void set(Json& object, std::string_view key, Json value);
+/// Adds a key that an object doesn't have yet, without looking it up.
+void append(Json& object, std::string_view key, Json value);
 /// Removes every occurrence of a key from an object.
 void remove(Json& object, std::string_view key);
 

@@ -40,6 +40,7 @@ constexpr Reason kReasons[] = {
     {ENOTEMPTY, "la cartella non è vuota"},
     {ENOTSUP, "operazione non supportata"},
     {ENXIO, "il dispositivo non esiste"},
+    {EOVERFLOW, "file troppo grande"},
     {EPERM, "operazione non consentita"},
     {EROFS, "il disco è di sola lettura"},
     {ESTALE, "il file non è più raggiungibile"},
@@ -61,7 +62,7 @@ std::string describe(const std::error_code& code) {
 std::string describe(const std::exception& error) {
     const auto* failure = dynamic_cast<const std::filesystem::filesystem_error*>(&error);
     if (failure == nullptr)
-        return error.what();
+        return text::singleLine(error.what());
     std::string paths = text::singleLine(failure->path1().native());
     const bool hasTwoPaths = !failure->path2().empty();
     if (hasTwoPaths)

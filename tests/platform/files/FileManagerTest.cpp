@@ -276,6 +276,14 @@ TEST(FileManager, ReadsRegularFilesOnly) {
     EXPECT_EQ(failure([&] { kFiles.read(folder / "fifo"); }), EINVAL);
     EXPECT_EQ(failure([&] { kFiles.read(folder.path()); }), EISDIR);
     EXPECT_EQ(kFiles.readIfPossible(folder / "missing"), std::nullopt);
+    EXPECT_EQ(kFiles.readIfPresent(folder / "file/missing"), std::nullopt);
+    EXPECT_EQ(failure([&] { kFiles.readIfPresent(folder / "fifo"); }), EINVAL);
+    EXPECT_EQ(kFiles.read(folder / "file", 4096).size(), 4096U);
+    EXPECT_EQ(failure([&] { kFiles.read(folder / "file", 4095); }), EOVERFLOW);
+    EXPECT_EQ(failure([&] { kFiles.read("/proc/self/maps", 20); }), EOVERFLOW) << "of unknown size";
+    makeFile(folder / "large", "", 0600);
+    fs::resize_file(folder / "large", FileManager::kLongestText + 1);
+    EXPECT_EQ(failure([&] { kFiles.read(folder / "large"); }), EOVERFLOW);
     EXPECT_EQ(kFiles.entriesIfReadable(folder / "fifo"), Names());
 }
 
