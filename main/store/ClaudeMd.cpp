@@ -74,6 +74,7 @@ void ProfileStore::applyClaudeMd(ShareMode mode, const Profile& to, const Profil
 void ProfileStore::changeClaudeMd(ShareMode mode, const Profile& profile, const Profile& source) {
     const fs::path own = profile.url(Component::claudeMd);
     const fs::path origin = source.url(Component::claudeMd);
+    m_files.recoverReplaced(own);
     const bool isFile = m_files.isRegularFile(own);
     // An unreadable file counts as empty: the whole file goes to the Trash.
     const std::string ownText = isFile ? m_files.readIfPossible(own).value_or("") : std::string();

@@ -3,7 +3,12 @@
 
 #include "store/ProfileStore.h"
 
+#include <chrono>
+
+#include "model/ByteText.h"
+#include "model/LauncherError.h"
 #include "platform/json/Json.h"
+#include "platform/text/Text.h"
 #include "store/ServerImport.h"
 #include "store/SettingsPaths.h"
 
@@ -11,11 +16,18 @@ namespace selvane {
 
 namespace fs = std::filesystem;
 
+namespace {
+
+/// How long an import tries to change a file that others keep changing.
+constexpr auto kPatience = std::chrono::seconds(10);
+
+} // namespace
+
 /// Changes the paths in a settings file from the source's folder to the profile's.
 void ProfileStore::rewritePaths(const fs::path& file, const Profile& from, const Profile& to,
                                 const FileManager& files) {
     const auto before = files.readIfPossible(file);
-    if (!before)
+    if (!before || !isUtf8(*before)) // no JSON; it stays as it is
         return;
     const std::string after = withRewrittenPaths(*before, from, to);
     if (after != *before)
@@ -80,28 +92,49 @@ void ProfileStore::importFolder(Component component, const Profile& to, const Pr
     });
 }
 
+/// Claude Code keeps rewriting the target, so it is never away, not even for a moment: what is replaced there
+/// goes to the Trash as a copy.
 void ProfileStore::importServers(const Profile& to, const Profile& from, const FileManager& files) {
     const fs::path origin = globalJSON(from);
     if (!files.isPresent(origin))
         return;
     const Json source = json::parse(files.read(origin), origin);
     const fs::path file = globalJSON(to);
-    std::optional<Json> target;
-    if (files.exists(file)) {
-        target = json::parse(files.read(file), file);
-        if (!target->is_object())
+    const auto deadline = std::chrono::steady_clock::now() + kPatience;
+    std::optional<Json> trashed;
+    while (std::chrono::steady_clock::now() < deadline) {
+        const auto before = files.readIfPresent(file);
+        if (!before && files.linkTarget(file))
+            throw fs::filesystem_error("read", file,
+                                       std::make_error_code(std::errc::no_such_file_or_directory));
+        const auto target = before ? std::optional(json::parse(*before, file)) : std::nullopt;
+        if (target && !target->is_object())
             throw JsonError(file.string() + ": non è un oggetto JSON");
+        const ServerImport imported = importedServers(source, target);
+        if (imported.state == target.value_or(Json::object()))
+            return;
+        const Json* servers = target ? json::find(*target, kServersKey) : nullptr;
+        if (imported.losesServers && trashed != *servers) {
+            trashCopy(file, *before);
+            trashed = *servers;
+        }
+        if (files.writeIfUnchanged(file, before, json::serialized(imported.state)))
+            return;
     }
-    const ServerImport imported = importedServers(source, target);
-    if (imported.state == target.value_or(Json::object()))
-        return;
-    const auto writeTo = [&](const fs::path& path) {
-        files.write(path, json::serialized(imported.state), Privacy::ownerOnly);
-    };
-    if (imported.losesServers)
-        files.replaceTrashing(file, writeTo);
-    else
-        writeTo(file);
+    throw LauncherError(text::singleLine(file.string()) + " cambia di continuo: chiudi Claude e riprova");
+}
+
+void ProfileStore::trashCopy(const fs::path& file, const std::string& text) {
+    const fs::path copy = file.string() + ".precedente";
+    if (m_files.exists(copy))
+        m_files.moveToTrash(copy);
+    m_files.write(copy, text, Privacy::ownerOnly);
+    try {
+        m_files.moveToTrash(copy);
+    } catch (const std::exception&) {
+        m_files.removeFile(copy);
+        throw;
+    }
 }
 
 } // namespace selvane

@@ -136,7 +136,10 @@ Profile ProfileStore::setMode(ShareMode mode, Component component, const Profile
 void ProfileStore::setCollectionMode(ShareMode mode, Component component, Profile& profile,
                                      const Profile& source) {
     if (mode == ShareMode::shared) {
+        // Recorded only once its links are there: if one fails, the same change completes the work later.
+        SyncReport report;
         record(mode, component, profile);
+        syncCollection(component, profile, source, report);
         saveMeta(profile);
         syncLinks(profile);
         return;

@@ -181,6 +181,7 @@ private:
     void importFile(Component component, const Profile& to, const Profile& from, const FileManager& files);
     void importFolder(Component component, const Profile& to, const Profile& from, const FileManager& files);
     void importServers(const Profile& to, const Profile& from, const FileManager& files);
+    void trashCopy(const std::filesystem::path& file, const std::string& text);
     void rewritePaths(const std::filesystem::path& file, const Profile& from, const Profile& to,
                       const FileManager& files);
 

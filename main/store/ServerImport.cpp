@@ -8,7 +8,6 @@
 namespace selvane {
 namespace {
 
-constexpr std::string_view kServersKey = "mcpServers";
 constexpr std::string_view kOnboardingKey = "hasCompletedOnboarding";
 
 const Json* serversIn(const Json& globalState) {

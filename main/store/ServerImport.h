@@ -4,10 +4,14 @@
 #pragma once
 
 #include <optional>
+#include <string_view>
 
 #include "platform/json/Json.h"
 
 namespace selvane {
+
+/// The key of Claude Code's global state that holds its MCP servers.
+constexpr std::string_view kServersKey = "mcpServers";
 
 /// Claude Code's global state after MCP servers were imported.
 struct ServerImport {

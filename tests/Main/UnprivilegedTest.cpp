@@ -72,6 +72,7 @@ TEST(CommandUnprivileged, RefusedWritesLoseNothing) {
     writeFile(home / ".claude/skills/pdf/SKILL.md", "x");
     writeFile(home / "b.zip", "precedente");
     home.output({"create", "Lavoro", "--from", "default"});
+    home.output({"create", "Vuoto", "--from", "default", "--mode", "skills=none"});
     writeFile(home / ".claude/skills/nuova", "");
     const fs::path root = home / ".claude-profiles";
     const fs::path profile = root / "lavoro";
@@ -87,6 +88,7 @@ TEST(CommandUnprivileged, RefusedWritesLoseNothing) {
         {skills, {"set-mode", "lavoro", "skills=separate"}, skills / "pdf"},
         {skills, {"set-mode", "lavoro", "skills=none"}, skills / "pdf"},
         {skills, {"sync", "lavoro"}, skills / "nuova"},
+        {root / "vuoto/skills", {"set-mode", "vuoto", "skills=shared"}, root / "vuoto/skills/nuova"},
         {profile, {"set-mode", "lavoro", "CLAUDE.md=shared"}, profile / "CLAUDE.md"},
         {home.path(), {"set-mode", "lavoro", "CLAUDE.md=none"}, profile / "CLAUDE.md"}, // has no Trash
         {home.path(), {"backup", home / "b.zip"}, {}},

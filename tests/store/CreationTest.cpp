@@ -201,6 +201,12 @@ TEST(Imports, import_OverOwnFiles_MovesThemToTheTrash) {
     EXPECT_EQ(takeTrash(), (Tree{{"settings.json", "mine"}, {"plugins", "/"}, {"plugins/mine", "mine"}}));
     EXPECT_EQ(readFile(profile.configDir / "settings.json"), "new");
     EXPECT_EQ(treeOf(profile.configDir / "plugins"), (Tree{{"new", "new"}}));
+
+    const std::string latin = "{\"caff\xE8\": \"" + (home / ".claude/h.sh").string() + "\"}";
+    writeTree(home / ".claude", {{"settings.json", latin}, {"plugins/known.json", latin}});
+    import();
+    for (const char* name : {"settings.json", "plugins/known.json"})
+        EXPECT_EQ(readFile(profile.configDir / name), latin) << "no JSON, so it stays as it is";
 }
 
 TEST(Imports, importMCP_EachState_TakesTheServersOnly) {
@@ -239,7 +245,7 @@ TEST(Imports, importMCP_EachState_TakesTheServersOnly) {
             EXPECT_EQ(expected, "failure") << own;
             EXPECT_EQ(readFile(file), own);
         }
-        EXPECT_EQ(takeTrash(), trashes ? (Tree{{".claude.json", own}}) : Tree{}) << source << own;
+        EXPECT_EQ(takeTrash(), trashes ? (Tree{{".claude.json.precedente", own}}) : Tree{}) << source << own;
     }
 }
 

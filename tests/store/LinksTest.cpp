@@ -223,6 +223,20 @@ TEST_F(Links, setMode_ClaudeMd_KeepsTheOwnRules) {
     EXPECT_EQ(readFile(origin), "fonte\n");
 }
 
+TEST_F(Links, setMode_AfterAnInterruptedOne_KeepsTheOwnRules) {
+    writeFile(home / ".claude/CLAUDE.md", "comuni\n");
+    const fs::path rules = profile.url(Component::claudeMd);
+    const std::string before = readFile(rules) + "mie\n";
+    for (const ShareMode mode : {ShareMode::separate, ShareMode::extend}) {
+        // Killed when the old file was in the Trash and the new one not yet in its place.
+        writeFile(rules.parent_path() / ".selvane-kept-CLAUDE.md", before);
+        fs::remove(rules);
+        setMode(mode, Component::claudeMd);
+        EXPECT_NE(readFile(rules).find("mie\n"), std::string::npos) << readFile(rules);
+    }
+    EXPECT_FALSE(fs::exists(rules.parent_path() / ".selvane-kept-CLAUDE.md"));
+}
+
 TEST_F(Links, makeOwn_EachKind_LeavesOwnContent) {
     const ComponentItem tre = item("tre.md");
     home.store.makeOwn(item("due"), profile);

@@ -82,6 +82,10 @@ public:
     /// never followed. The folder must exist.
     void write(const std::filesystem::path& file, std::string_view bytes,
                Privacy privacy = Privacy::inherited) const;
+    /// Replaces `file`, which others may change at any time, if it still holds `expected`, or isn't there if
+    /// that is nothing. Otherwise changes nothing and returns false. For its owner alone.
+    bool writeIfUnchanged(const std::filesystem::path& file, const std::optional<std::string>& expected,
+                          std::string_view bytes) const;
     void setMode(const std::filesystem::path& file, mode_t mode) const;
     /// The permission bits at `path`, without following a link; nothing on failure.
     std::optional<mode_t> mode(const std::filesystem::path& path) const;
@@ -109,7 +113,12 @@ public:
     /// goes to the Trash; if there was none, this simply creates `path`.
     void replaceTrashing(const std::filesystem::path& path,
                          const std::function<void(const std::filesystem::path& temporary)>& make) const;
-    /// The same for a symbolic link at `link`, which is removed. Fails if it is no longer a link.
+    /// Puts back the file that an interrupted `replaceTrashing` took from `path`, unless something else is
+    /// there now; then it goes to the Trash. `replaceTrashing` begins with this. Call it before reading a
+    /// file whose old content becomes part of the new one.
+    void recoverReplaced(const std::filesystem::path& path) const;
+    /// The same as `replaceTrashing` for a symbolic link at `link`, which is removed. Fails if it is no
+    /// longer a link.
     void replaceLink(const std::filesystem::path& link,
                      const std::function<void(const std::filesystem::path& temporary)>& make) const;
 

@@ -60,6 +60,44 @@ int removeInOneStep(const std::filesystem::path& path) {
     files::removeTree(isAside ? aside : path, path);
     return 0;
 }
+/// A second name for a file that goes to the Trash, for as long as nothing has taken its place. If Selvane is
+/// killed then, `FileManager::recoverReplaced` finds it there.
+class KeptFile {
+public:
+    explicit KeptFile(const std::filesystem::path& target) : m_target(target), m_path(pathFor(target)) {
+        struct stat status = {};
+        if (::lstat(target.c_str(), &status) != 0)
+            fail("replace", target, errno);
+        if (!S_ISREG(status.st_mode))
+            return;
+        if (::link(target.c_str(), m_path.c_str()) != 0) // not every file system has hard links
+            FileManager().copy(target, m_path);
+        m_isKept = true;
+    }
+    KeptFile(const KeptFile&) = delete;
+    KeptFile& operator=(const KeptFile&) = delete;
+    ~KeptFile() {
+        struct stat status = {};
+        if (m_isKept && isAnything(m_target, status))
+            ::unlink(m_path.c_str());
+    }
+
+    /// After a failure: the file is also in the Trash, but its place is free.
+    void putBack() {
+        if (m_isKept)
+            m_isKept = files::renameExclusively(m_path, m_target) != 0;
+    }
+
+    static std::filesystem::path pathFor(const std::filesystem::path& target) {
+        return target.parent_path() /
+               (std::string(FileManager::kTemporaryPrefix) + "kept-" + target.filename().native());
+    }
+
+private:
+    std::filesystem::path m_target;
+    std::filesystem::path m_path;
+    bool m_isKept = false;
+};
 
 /// Replaces a link by `temporary` where names can't be exchanged. For a moment, neither is there.
 void replaceLinkInSteps(const std::filesystem::path& link, Temporary& temporary) {
@@ -159,12 +197,39 @@ void FileManager::replaceTrashing(
     const std::filesystem::path& path,
     const std::function<void(const std::filesystem::path& temporary)>& make) const {
     const std::filesystem::path target = withoutEndingSlash(path);
+    recoverReplaced(target);
     Temporary temporary(target);
     build(temporary, target, make);
-    if (exists(target))
-        moveToTrash(target);
-    temporary.place(target);
-    waitForPlaceOf(target);
+    if (!exists(target)) {
+        temporary.place(target);
+        return waitForPlaceOf(target);
+    }
+    KeptFile kept(target);
+    moveToTrash(target);
+    try {
+        temporary.place(target);
+        waitForPlaceOf(target);
+    } catch (const std::filesystem::filesystem_error&) {
+        kept.putBack();
+        throw;
+    }
+}
+
+void FileManager::recoverReplaced(const std::filesystem::path& path) const {
+    const std::filesystem::path kept = KeptFile::pathFor(path);
+    struct stat old = {};
+    struct stat present = {};
+    if (::lstat(kept.c_str(), &old) != 0) {
+        if (errno != ENOENT && errno != ENOTDIR && errno != ENAMETOOLONG)
+            fail("look up", kept, errno);
+        return;
+    }
+    if (S_ISREG(old.st_mode) && files::renameExclusively(kept, path) == 0)
+        return;
+    if (isAnything(path, present) && present.st_dev == old.st_dev && present.st_ino == old.st_ino)
+        removeFile(kept);
+    else
+        moveToTrash(kept);
 }
 
 void FileManager::replaceLink(const std::filesystem::path& link,

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "support/Files.h"
+#include "support/Home.h"
 #include "support/WaitWatch.h"
 
 namespace selvane {
@@ -100,6 +101,47 @@ TEST(FileManager, ReplaceTrashingNeedsACompleteSuccessor) {
                            [](const fs::path& temporary) { kFiles.write(temporary, "new"); });
     EXPECT_EQ(kFiles.read(folder / "other"), "new");
     EXPECT_EQ(kFiles.entries(folder.path()).size(), 2U);
+}
+
+/// The places in which a killed `replaceTrashing` leaves a file, and what comes of it.
+TEST(FileManager, RecoverReplacedPutsBackWhatHasNoSuccessor) {
+    const TemporaryFolder folder;
+    const fs::path file = folder / "file";
+    const fs::path kept = folder / ".selvane-kept-file";
+    kFiles.recoverReplaced(file);
+    makeFile(kept, "old", 0640);
+    kFiles.recoverReplaced(file);
+    EXPECT_EQ(kFiles.read(file), "old") << "its name was free";
+    EXPECT_EQ(modeOf(file), 0640U);
+    fs::create_hard_link(file, kept);
+    kFiles.recoverReplaced(file);
+    EXPECT_EQ(kFiles.entries(folder.path()), Names{"file"}) << "it never went away";
+    makeFile(kept, "older", 0600);
+    const std::string message = messageOf([&] { kFiles.recoverReplaced(file); });
+    EXPECT_EQ(kFiles.read(file), "old") << "somebody has written a new one";
+    EXPECT_EQ(message, "");
+    EXPECT_EQ(takeTrash().size(), 1U);
+    EXPECT_EQ(kFiles.entries(folder.path()), Names{"file"});
+}
+
+TEST(FileManager, WriteIfUnchangedTakesNothingAwayThatOthersWrote) {
+    const TemporaryFolder folder;
+    const fs::path file = folder / "file";
+    EXPECT_FALSE(kFiles.writeIfUnchanged(file, "old", "new"));
+    EXPECT_TRUE(kFiles.writeIfUnchanged(file, {}, "old"));
+    EXPECT_FALSE(kFiles.writeIfUnchanged(file, {}, "new"));
+    EXPECT_EQ(modeOf(file), 0600U);
+    {
+        // Just before the last look, another program writes.
+        const WaitWatch watch(WaitWatch::For::disk, [&](const fs::path&) { writeFile(file, "theirs"); });
+        EXPECT_FALSE(kFiles.writeIfUnchanged(file, "old", "new"));
+    }
+    EXPECT_EQ(kFiles.read(file), "theirs");
+    kFiles.setMode(file, 0400);
+    EXPECT_TRUE(kFiles.writeIfUnchanged(file, "theirs", "new"));
+    EXPECT_EQ(kFiles.read(file), "new");
+    EXPECT_EQ(modeOf(file), 0400U);
+    EXPECT_EQ(kFiles.entries(folder.path()), Names{"file"});
 }
 
 } // namespace
