@@ -10,6 +10,7 @@
 #include <streambuf>
 #include <string>
 #include <string_view>
+#include <sys/stat.h>
 #include <unistd.h>
 #include <vector>
 
@@ -19,6 +20,7 @@
 #include "desktop/ClaudeApp.h"
 #include "platform/files/Progress.h"
 #include "platform/process/Clock.h"
+#include "platform/process/HomeOwner.h"
 #include "platform/process/Process.h"
 #include "platform/process/Workspace.h"
 #include "platform/text/ErrorText.h"
@@ -108,14 +110,21 @@ int runCommand(const std::vector<std::string>& arguments, WindowsModule& windows
     return status;
 }
 
+/// Whatever the creation mask is, we can enter and change what we create.
+void keepOwnAccess() {
+    umask(umask(0) & ~static_cast<mode_t>(S_IRWXU));
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
     occupyStandardStreams();
+    keepOwnAccess();
     std::signal(SIGXFSZ, SIG_IGN); // exceeding the file size limit becomes an ordinary error
     const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
     WindowsModule windows;
     try {
+        becomeOwnerOf(homeFolder(currentEnvironment()));
         const auto answer = arguments.empty() ? std::nullopt : CLI::answer(arguments.front());
         if (answer)
             return writeAll(STDOUT_FILENO, *answer) ? 0 : 1;

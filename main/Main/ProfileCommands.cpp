@@ -6,6 +6,8 @@
 #include "Main/Arguments.h"
 #include "Main/Commands.h"
 #include "model/LauncherError.h"
+#include "platform/files/Progress.h"
+#include "platform/process/Interruption.h"
 
 namespace selvane::CLI {
 namespace {
@@ -60,7 +62,15 @@ void list(const Call& call) {
 
 void create(const Call& call) {
     requireArguments(call, 2);
-    call.out << call.store.create(newProfile(call)).id << '\n';
+    const NewProfile request = newProfile(call);
+    Progress progress;
+    Interruption interruption(progress);
+    try {
+        call.out << call.store.create(request, &progress).id << '\n';
+    } catch (...) { // an interrupted profile is removed by now
+        interruption.endIfRequested();
+        throw;
+    }
 }
 
 void path(const Call& call) {

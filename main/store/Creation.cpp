@@ -8,14 +8,18 @@
 #include "model/ByteText.h"
 #include "model/LauncherError.h"
 #include "platform/files/FileCopier.h"
+#include "platform/files/Progress.h"
 #include "platform/text/Text.h"
 #include "store/ItemListing.h"
+#include "store/ProfileRecord.h"
 #include "store/Slug.h"
 
 namespace selvane {
 namespace {
 
 namespace fs = std::filesystem;
+
+constexpr std::string_view kUnfinishedName = ".selvane-unfinished";
 
 std::string checkedName(const std::string& name) {
     const std::string trimmed(text::trimmed(name));
@@ -31,16 +35,44 @@ std::string checkedName(const std::string& name) {
 
 } // namespace
 
-std::string ProfileStore::uniqueSlug(const std::string& name) const {
+/// The first free id. One whose profile was never completed is free again.
+std::string ProfileStore::freeSlug(const std::string& name) {
     const std::string base = slug(name);
     std::string candidate = base;
-    for (int number = 2; m_files.exists(m_root / candidate); ++number)
+    for (int number = 2; m_files.exists(m_root / candidate) && !removeUnfinished(candidate); ++number)
         candidate = base + "-" + std::to_string(number);
     return candidate;
 }
 
-/// Creates the profile's folder under the first free id, even if another Selvane is creating one too.
-Profile ProfileStore::createFolder(const NewProfile& request, const std::string& name) {
+/// Removes what an interrupted `create` has left of a profile; false if the folder is anything else, or if
+/// another Selvane is creating it now.
+bool ProfileStore::removeUnfinished(const std::string& id) {
+    const fs::path folder = m_root / id;
+    if (!m_files.isFolder(folder))
+        return false;
+    const auto lock = FolderLock::ifFree(folder);
+    if (!lock || m_files.exists(folder / kMetaFileName))
+        return false;
+    std::error_code error;
+    if (!m_files.isRegularFile(folder / kUnfinishedName)) // or interrupted before that was there
+        return fs::remove(folder, error);
+    removeNewFolder(folder);
+    return true;
+}
+
+/// Hides the folder before it removes anything: if that is interrupted, the rest occupies no id.
+void ProfileStore::removeNewFolder(const fs::path& folder) {
+    const fs::path aside = m_root / (std::string(FileManager::kTemporaryPrefix) + "new-profile");
+    std::error_code error;
+    m_files.removeTree(aside);
+    fs::rename(folder, aside, error);
+    m_files.removeTree(error ? folder : aside);
+}
+
+/// Creates the profile's folder under the first free id and locks it, even if another Selvane is creating one
+/// too. A file in it says that it is unfinished; in the end, that becomes the profile's record.
+std::pair<Profile, FolderLock> ProfileStore::createFolder(const NewProfile& request,
+                                                          const std::string& name) {
     Profile profile;
     profile.meta.name = name;
     profile.meta.summary = request.summary;
@@ -50,35 +82,49 @@ Profile ProfileStore::createFolder(const NewProfile& request, const std::string&
     profile.meta.account = request.account;
 
     m_files.createFolders(m_root, Privacy::ownerOnly);
-    while (profile.configDir.empty()) {
-        profile.id = uniqueSlug(name);
-        try {
-            m_files.createFolder(m_root / profile.id);
-            profile.configDir = m_root / profile.id;
-        } catch (const fs::filesystem_error& error) {
-            if (error.code() != std::errc::file_exists)
-                throw;
-        }
+    const FolderLock others(m_root);
+    profile.id = freeSlug(name);
+    profile.configDir = m_root / profile.id;
+    m_files.createFolder(profile.configDir);
+    try {
+        FolderLock lock(profile.configDir);
+        m_files.write(profile.configDir / kUnfinishedName, "");
+        return {std::move(profile), std::move(lock)};
+    } catch (...) {
+        std::error_code ignored; // report the first error
+        fs::remove(profile.configDir, ignored);
+        throw;
     }
-    return profile;
 }
 
-Profile ProfileStore::create(const NewProfile& request) {
+/// The profile appears with its record, complete.
+void ProfileStore::completeFolder(const Profile& profile) {
+    const fs::path unfinished = profile.configDir / kUnfinishedName;
+    m_files.write(unfinished, encoded(profile.meta));
+    m_files.move(unfinished, profile.configDir / kMetaFileName);
+}
+
+Profile ProfileStore::create(const NewProfile& request, Progress* progress) {
     const std::string name = checkedName(request.name);
     if (request.account && !Profile::isPossibleId(*request.account))
         throw LauncherError("Account non valido: " + text::singleLine(*request.account));
-    Profile profile = createFolder(request, name);
+    auto [profile, lock] = createFolder(request, name);
+    if (progress == nullptr)
+        progress = m_progress;
     try {
         files::DiskSync written;
-        fill(profile, request, FileManager(written, m_progress));
+        fill(profile, request, FileManager(written, progress));
+        writeProfileNote(profile);
         // The record comes last: without it, the folder is no profile.
         written.waitFor(profile.configDir);
-        saveMeta(profile);
-        writeProfileNote(profile);
+        if (progress != nullptr && progress->isCancelled())
+            throw fs::filesystem_error("create", profile.configDir,
+                                       std::make_error_code(std::errc::operation_canceled));
+        completeFolder(profile);
         m_files.waitForNames(m_root);
     } catch (...) {
         try {
-            m_files.removeTree(profile.configDir);
+            removeNewFolder(profile.configDir);
         } catch (const fs::filesystem_error&) { // report the first error
         }
         throw;

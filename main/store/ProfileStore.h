@@ -11,6 +11,7 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "desktop/ClaudeApp.h"
@@ -95,8 +96,9 @@ public:
     bool exists(const std::filesystem::path& path) const { return m_files.exists(path); }
 
     // Creation and deletion (Creation.cpp, Imports.cpp, Deletion.cpp)
-    /// On failure, removes what it created, unless only seeding the account's data failed.
-    Profile create(const NewProfile& request);
+    /// On failure, and when `progress` is cancelled, removes what it created, unless only seeding the
+    /// account's data failed. What a killed run has left makes way for the next profile of that name.
+    Profile create(const NewProfile& request, Progress* progress = nullptr);
     /// Copies a component that is copied as a whole again; what the profile had of it goes to the Trash.
     void reimport(Component component, const Profile& to, const Profile& from);
     void importSettings(const Profile& to, const Profile& from);
@@ -168,8 +170,11 @@ private:
     /// copy of an operation, so that how far it is doesn't jump.
     void announce(const std::filesystem::path& tree) const;
 
-    std::string uniqueSlug(const std::string& name) const;
-    Profile createFolder(const NewProfile& request, const std::string& name);
+    std::string freeSlug(const std::string& name);
+    bool removeUnfinished(const std::string& id);
+    void removeNewFolder(const std::filesystem::path& folder);
+    std::pair<Profile, FolderLock> createFolder(const NewProfile& request, const std::string& name);
+    void completeFolder(const Profile& profile);
     void fill(Profile& profile, const NewProfile& request, const FileManager& files);
     // These write through `files`, which may leave it to the caller to wait for the disk.
     void announceCopies(Component component, const Profile& to, const Profile& from) const;

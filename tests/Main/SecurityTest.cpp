@@ -102,6 +102,21 @@ TEST_F(Hostile, NamesForgeNoRecords) {
     const std::string profiles = home.output({"list"});
     EXPECT_EQ(std::count(profiles.begin(), profiles.end(), '\n'), 3);
     EXPECT_TRUE(isPrintable(home.run({"path", "a\x1b[2J\nb"}).err));
+
+    // Paths in errors: of a JSON file, and of what a marker names.
+    const std::string escape = "\x1b[2J\nfinto";
+    home.environment["CLAUDE_LAUNCHER_DEFAULT_JSON"] = (home / escape).string();
+    writeFile(home / escape, "{");
+    const fs::path data = home / ".claude-profiles/.desktop-data";
+    writeFile(data / escape / "Cookies", "");
+    writeFile(data / ".live", escape);
+    for (const std::vector<std::string>& arguments :
+         {std::vector<std::string>{"create", "A", "--from", "default"}, {"restore-desktop"}}) {
+        const Outcome outcome = home.run(arguments);
+        EXPECT_EQ(outcome.status, 1) << outcome;
+        EXPECT_TRUE(isPrintable(outcome.err)) << outcome;
+        EXPECT_EQ(std::count(outcome.err.begin(), outcome.err.end(), '\n'), 1) << outcome;
+    }
 }
 
 TEST_F(Hostile, SessionsStayInTheirFolders) {
@@ -151,6 +166,34 @@ TEST_F(Hostile, NothingIsMadeMoreReadableThanItWas) {
         if (text.find("segreto") == std::string::npos && text.find("sessionId") == std::string::npos)
             continue;
         EXPECT_EQ(entry.symlink_status().permissions(), fs::perms(0600)) << entry.path();
+    }
+    EXPECT_EQ(home.shell("umask 0777; \"$selvane\" create Chiuso --from default").status, 0);
+    for (const auto& entry : fs::recursive_directory_iterator(home / ".claude-profiles/chiuso")) {
+        const fs::perms own = entry.is_directory() ? fs::perms::owner_all : fs::perms(0600);
+        EXPECT_TRUE(entry.is_symlink() || (entry.status().permissions() & own) == own) << entry.path();
+    }
+}
+
+/// With `sudo`, or in a container.
+TEST_F(Hostile, WhatRootDoesInTheHomeOfAUserStaysTheirs) {
+    constexpr uid_t kNobody = 65534;
+    if (geteuid() != 0)
+        GTEST_SKIP() << "takes root";
+    writeFile(home / ".claude/skills/pdf/SKILL.md", "testo");
+    home.output({"create", "Lavoro", "--from", "default"});
+    for (const std::string program : {"selvane", "libselvane-services.so"})
+        fs::copy_file(fs::path(SELVANE_EXECUTABLE).parent_path() / program, home / program);
+    home.runUnprivileged({"list"}); // gives the user the whole home
+    const Outcome outcome = home.shell(R"(
+        selvane="$HOME/selvane"
+        "$selvane" set-mode lavoro skills=separate && "$selvane" set-mode lavoro CLAUDE.md=none &&
+        "$selvane" create Altro --from default && "$selvane" backup "$HOME/b.zip"
+    )");
+    EXPECT_EQ(outcome.status, 0) << outcome;
+    for (const auto& entry : fs::recursive_directory_iterator(home.path())) {
+        struct stat status {};
+        ASSERT_EQ(lstat(entry.path().c_str(), &status), 0) << entry.path();
+        EXPECT_EQ(status.st_uid, kNobody) << entry.path();
     }
 }
 

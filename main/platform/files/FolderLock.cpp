@@ -13,7 +13,6 @@
 
 #include "model/LauncherError.h"
 #include "platform/files/LockHolder.h"
-#include "platform/process/Interruption.h"
 #include "platform/text/Text.h"
 
 namespace selvane {
@@ -85,7 +84,6 @@ FolderLock::FolderLock(const std::filesystem::path& folder, std::chrono::millise
         while (!tryLock(m_folder.get(), folder)) {
             if (std::chrono::steady_clock::now() >= deadline)
                 throwOccupied(folder, status);
-            Interruption::check();
             std::this_thread::sleep_for(kPause);
         }
         if (isAt(folder, status)) {

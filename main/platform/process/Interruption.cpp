@@ -5,21 +5,23 @@
 
 #include <atomic>
 
-#include "model/LauncherError.h"
-
 namespace selvane {
 namespace {
 
 std::atomic<int> requested = 0; ///< the signal
+std::atomic<Progress*> interrupted = nullptr;
 
 void request(int signal) {
     requested = signal;
+    if (Progress* progress = interrupted)
+        progress->cancel();
 }
 
 } // namespace
 
-Interruption::Interruption() {
+Interruption::Interruption(Progress& progress) {
     requested = 0;
+    interrupted = &progress;
     struct sigaction action = {};
     action.sa_handler = request;
     action.sa_flags = SA_RESTART;
@@ -31,17 +33,12 @@ Interruption::Interruption() {
 
 Interruption::~Interruption() {
     restore();
-    requested = 0;
+    interrupted = nullptr;
 }
 
 void Interruption::restore() {
     for (std::size_t i = 0; i < kSignals.size(); ++i)
         ::sigaction(kSignals[i], &m_before[i], nullptr);
-}
-
-void Interruption::check() {
-    if (requested != 0)
-        throw LauncherError("Operazione interrotta");
 }
 
 void Interruption::endIfRequested() {

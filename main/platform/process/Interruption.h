@@ -6,19 +6,18 @@
 #include <array>
 #include <csignal>
 
+#include "platform/files/Progress.h"
+
 namespace selvane {
 
-/// While one lives, a request to end this program (SIGINT, SIGTERM, SIGHUP) only makes `check` throw, so that
-/// unfinished work can be undone first. Ignored signals stay ignored. There may be only one at a time.
+/// While one lives, a request to end this program (SIGINT, SIGTERM, SIGHUP) cancels `progress` instead, so
+/// that unfinished work can be undone first. Ignored signals stay ignored. There may be only one at a time.
 class Interruption {
 public:
-    Interruption();
+    explicit Interruption(Progress& progress);
     Interruption(const Interruption&) = delete;
     Interruption& operator=(const Interruption&) = delete;
     ~Interruption();
-
-    /// Throws a `LauncherError` after such a request. Any thread may call it, whether or not one lives.
-    static void check();
 
     /// Ends the program as the request would have done, if there has been one.
     void endIfRequested();
