@@ -209,6 +209,19 @@ void takeFeedback(Scene& scene) {
     scene.model.cancelLaunch();
 }
 
+/// Profiles whose record can't be read.
+void takeDamaged(Scene& scene, const Home& home) {
+    for (const char* id : {"prove-di-marzo", "un-cliente-dal-nome-piuttosto-lungo"})
+        writeFile(home.store.root() / id / ".launcher.json", "{");
+    scene.model.reload();
+    scene.take(kPicker, "picker-damaged");
+    scene.resize(kPicker, {720, 560});
+    scene.take(kPicker, "picker-damaged-narrow");
+    scene.resize(kPicker, {980, 660});
+    scene.launcher.showManage();
+    scene.take(kManage, "manage-damaged");
+}
+
 /// Both windows with text one and a half times as large.
 void takeLargeText(Scene& scene) {
     scene.setTheme("textScale", 1.5);
@@ -226,6 +239,7 @@ int takeAll(const std::optional<QDir>& folder, const std::string& place) {
         takeSheets(scene);
         takeFeedback(scene);
         takeLargeText(scene);
+        takeDamaged(scene, home);
     }
     Home fresh;
     Scene scene(fresh, folder);

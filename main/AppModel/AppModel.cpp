@@ -74,6 +74,11 @@ void AppModel::setCloseAfterLaunch(bool value) {
 
 void AppModel::reload() {
     m_profiles = m_store.loadAll();
+    auto damaged = m_store.damagedProfiles();
+    if (damaged != m_damaged) {
+        m_damaged = std::move(damaged);
+        emit damagedChanged();
+    }
     ++m_revision;
     refreshRunning();
     emit reloaded();
@@ -141,6 +146,25 @@ void AppModel::copyTerminalCommand(const QString& id) {
 void AppModel::revealProfile(const QString& id) {
     if (const Profile* shown = profile(id))
         reveal(shown->configDir);
+}
+
+QStringList AppModel::damaged() const {
+    QStringList names;
+    for (const DamagedProfile& profile : m_damaged)
+        names.append(QString::fromStdString(text::singleLine(profile.id)));
+    return names;
+}
+
+void AppModel::revealDamaged(int index) {
+    reveal(m_damaged.at(static_cast<std::size_t>(index)).configDir);
+}
+
+void AppModel::repairDamaged(int index) {
+    const std::string id = m_damaged.at(static_cast<std::size_t>(index)).id;
+    perform([&] {
+        m_store.repair(id);
+        setNotice(tr("«%1» è di nuovo fra i profili").arg(QString::fromStdString(text::singleLine(id))));
+    });
 }
 
 void AppModel::reveal(const std::filesystem::path& item) {

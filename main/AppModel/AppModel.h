@@ -43,6 +43,8 @@ class AppModel : public QObject {
     Q_PROPERTY(QString busyMessage READ busyMessage NOTIFY busyMessageChanged)
     Q_PROPERTY(selvane::WorkProgress* work READ work CONSTANT) ///< how far what `busyMessage` names is
     Q_PROPERTY(QString notice READ notice NOTIFY noticeChanged)
+    /// The ids of the profiles whose record is damaged, as they are shown.
+    Q_PROPERTY(QStringList damaged READ damaged NOTIFY damagedChanged)
     /// Counts the reloads, so that whatever depends on files is read again when it changes.
     Q_PROPERTY(qint64 revision READ revision NOTIFY reloaded)
     /// Ids of the profiles waiting for a confirmation and for a forced quit; empty for none.
@@ -72,6 +74,7 @@ public:
     QString errorMessage() const { return m_errorMessage; }
     QString busyMessage() const { return m_busyMessage; }
     QString notice() const { return m_notice; }
+    QStringList damaged() const;
     qint64 revision() const { return m_revision; }
     QString pendingLaunch() const { return m_pendingLaunch; }
     QString offerForceQuit() const { return m_offerForceQuit; }
@@ -119,6 +122,8 @@ public slots:
     void sync(const QString& id);
     void copyTerminalCommand(const QString& id);
     void revealProfile(const QString& id);
+    void revealDamaged(int index); ///< in `damaged`
+    void repairDamaged(int index);
     void reveal(const std::filesystem::path& item);
     /// Creates an empty file first if there is none.
     void open(const std::filesystem::path& file);
@@ -130,6 +135,7 @@ signals:
     void noticeChanged();
     void noticeShown(); ///< emitted even if the same text is shown again
     void reloaded();
+    void damagedChanged();
     void runningChanged();
     void claudeCopiesChanged(); ///< emitted even if the copy runs no known profile
     void pendingLaunchChanged();
@@ -159,6 +165,7 @@ private:
     Preferences& m_preferences;
 
     std::vector<Profile> m_profiles;
+    std::vector<DamagedProfile> m_damaged;
     std::set<std::string> m_running;
     QString m_selection;
     QString m_errorMessage;

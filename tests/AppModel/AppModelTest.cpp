@@ -52,6 +52,21 @@ TEST_F(AppModelTest, perform_Failure_IsShownAndReloads) {
     EXPECT_EQ(model().errorMessage(), "");
 }
 
+TEST_F(AppModelTest, damagedProfiles_AreShownAndRepaired) {
+    const fs::path record = home.store.root() / "rotto\t1/.launcher.json";
+    EXPECT_EQ(model().damaged(), QStringList{});
+    writeFile(record, "{");
+    model().reload();
+    EXPECT_EQ(model().damaged(), QStringList{"rotto\uFFFD1"});
+    EXPECT_EQ(model().profiles().size(), 1U) << "nothing can be done with it but this";
+    model().revealDamaged(0);
+    EXPECT_EQ(bridge.revealed, std::vector{record.parent_path()});
+    model().repairDamaged(0);
+    EXPECT_EQ(model().notice(), "«rotto\uFFFD1» è di nuovo fra i profili");
+    EXPECT_EQ(model().damaged(), QStringList{});
+    EXPECT_EQ(model().profiles().size(), 2U);
+}
+
 TEST_F(AppModelTest, actions_TellWhatTheyDid) {
     writeTree(home.path, {{".claude/skills/uno.md", ""}, {".claude/skills/due.md", ""}});
     const Profile profile = home.make("Lavoro");

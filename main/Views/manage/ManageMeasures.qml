@@ -21,6 +21,7 @@ Measures {
     readonly property real profileHeight: scaled(52)
     readonly property real profileGap: 4
     readonly property real profileGlyph: 32
+    readonly property real damagedHeight: 3 * profileHeight ///< at most, for the damaged ones
     readonly property real markGap: 7
     readonly property real markLeaf: 9
     readonly property real markTip: 1

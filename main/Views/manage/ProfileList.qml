@@ -60,7 +60,7 @@ FocusScope {
 
         anchors { left: parent.left; right: parent.right; rightMargin: Theme.hairline }
         y: Theme.manage.listTop
-        height: footer.y - y
+        height: (damaged.visible ? damaged.y - Theme.space12 : footer.y) - y
         bottomMargin: Theme.manage.listInset
         spacing: Theme.manage.profileGap
         clip: true
@@ -116,6 +116,14 @@ FocusScope {
     ThinScrollBar {
         flickable: list
         inset: Theme.space2
+    }
+    DamagedProfiles {
+        id: damaged
+
+        anchors { left: parent.left; right: parent.right; bottom: footer.top; margins: Theme.manage.sidebarMargin }
+        height: Math.min(contentHeight, Theme.manage.damagedHeight)
+        app: sidebar.app
+        isNarrow: true
     }
     SidebarFooter {
         id: footer

@@ -142,6 +142,13 @@ FocusScope {
         onNewProfileAsked: source => view.newProfile(source)
     }
 
+    DamagedProfiles {
+        x: view.columnLeft
+        y: strip.y + strip.height - Theme.picker.stripSpare + Theme.space8
+        width: view.columnWidth
+        height: Theme.controls.smallHeight
+        app: view.app
+    }
     PickerHint {
         x: view.columnLeft
         y: view.height - view.places.footer - height
