@@ -57,7 +57,7 @@ void removeIfPossible(const fs::path& file) {
 /// Nothing if the file isn't a note written since the last boot. Removes older notes.
 std::optional<LaunchNote> current(const fs::path& file) {
     try {
-        std::optional<LaunchNote> note = parsed(FileManager().read(file), file);
+        std::optional<LaunchNote> note = parsed(FileManager().read(file, FileManager::kLongestRecord), file);
         if (!note)
             removeIfPossible(file);
         return note;
