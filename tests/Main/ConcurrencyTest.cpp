@@ -90,6 +90,33 @@ void writeItems(const fs::path& claude, int round) {
     }
 }
 
+TEST(Concurrency, FileRenamedOverALinkBeingRemoved_Stays) {
+    const TemporaryFolder folder;
+    const FileManager files;
+    int inTime = 0;
+    for (int round = 0; round < rounds() * 1000; ++round) {
+        const fs::path link = folder / "elemento";
+        files.write(folder / "nuovo", "mio");
+        files.createLink("/altrove", link);
+        std::atomic<int> waiting = 2;
+        const auto start = [&] {
+            for (--waiting; waiting > 0;) {
+            }
+        };
+        std::thread other([&] {
+            start();
+            fs::rename(folder / "nuovo", link);
+        });
+        start();
+        inTime += files.removeLink(link) ? 0 : 1;
+        other.join();
+        ASSERT_EQ(files.read(link), "mio") << "in round " << round;
+        files.removeFile(link);
+        ASSERT_EQ(files.entries(folder.path()), std::vector<std::string>());
+    }
+    EXPECT_GT(inTime, 0) << "rounds in which the file was there before the link was gone";
+}
+
 TEST(Concurrency, ProfilesOfOneName_EachGetAnIdAndAllItems) {
     const CommandHome home;
     writeItems(home / ".claude", 0);

@@ -46,6 +46,11 @@ private:
     int m_number = -1;
 };
 
+/// Whether an error says that there is nothing at a path, as opposed to nobody knowing what is there.
+inline bool meansMissing(int error) {
+    return error == ENOENT || error == ENOTDIR || error == ELOOP || error == ENAMETOOLONG;
+}
+
 [[noreturn]] inline void fail(const char* operation, const std::filesystem::path& path, int error) {
     throw std::filesystem::filesystem_error(operation, path, std::error_code(error, std::generic_category()));
 }

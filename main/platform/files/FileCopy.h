@@ -5,6 +5,7 @@
 
 #include <array>
 #include <ctime>
+#include <fcntl.h>
 #include <filesystem>
 #include <optional>
 #include <sys/stat.h>
@@ -28,8 +29,13 @@ std::array<timespec, 2> timesOf(const struct stat& status);
 /// error.
 int makeSpecial(int folder, const char* name, const struct stat& status);
 
-/// Renames `from` to `to`. Returns 0 or the error, EEXIST if anything is at `to`.
-int renameExclusively(const std::filesystem::path& from, const std::filesystem::path& to);
+/// Renames `from` to `to`, each a path from an open folder unless it is absolute. Returns 0 or the error,
+/// EEXIST if anything is at `to`.
+int renameExclusively(int fromFolder, const std::filesystem::path& from, int toFolder,
+                      const std::filesystem::path& to);
+inline int renameExclusively(const std::filesystem::path& from, const std::filesystem::path& to) {
+    return renameExclusively(AT_FDCWD, from, AT_FDCWD, to);
+}
 /// Exchanges two names in one step. Returns 0 or the error, ENOTSUP if the file system can't.
 int exchangeNames(const std::filesystem::path& first, const std::filesystem::path& second);
 

@@ -192,6 +192,38 @@ void FileManager::createFolder(const std::filesystem::path& folder) const {
         fail("create folder", folder, errno);
 }
 
+void FileManager::createFoldersBelow(const std::filesystem::path& top,
+                                     const std::filesystem::path& folder) const {
+    Descriptor open = openFolder(top);
+    if (!open)
+        fail("create folder", top, errno);
+    std::filesystem::path path = top;
+    for (const std::filesystem::path& name : folder.lexically_relative(top)) {
+        path /= name;
+        if (::mkdirat(open.get(), name.c_str(), ACCESSPERMS) != 0 && errno != EEXIST)
+            fail("create folder", path, errno);
+        open =
+            Descriptor(::openat(open.get(), name.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+        if (!open)
+            fail("create folder", path, errno);
+    }
+}
+
+std::optional<std::filesystem::path> FileManager::linkBelow(const std::filesystem::path& top,
+                                                            const std::filesystem::path& folder) const {
+    std::filesystem::path path = top;
+    for (const std::filesystem::path& name : folder.lexically_relative(top)) {
+        path /= name;
+        if (const auto status = statusOf(path); !status || S_ISLNK(status->st_mode))
+            return status ? std::optional(path) : std::nullopt;
+    }
+    return std::nullopt;
+}
+
+bool FileManager::removeEmptyFolder(const std::filesystem::path& folder) const {
+    return ::rmdir(folder.c_str()) == 0;
+}
+
 void FileManager::createLink(const std::filesystem::path& target, const std::filesystem::path& link) const {
     if (::symlink(target.c_str(), link.c_str()) != 0)
         fail("create link", link, errno);
@@ -203,11 +235,7 @@ void FileManager::removeFile(const std::filesystem::path& file) const {
 }
 
 bool FileManager::removeLink(const std::filesystem::path& link) const {
-    const auto status = statusOf(link);
-    if (!status || !S_ISLNK(status->st_mode))
-        return false;
-    removeFile(link);
-    return true;
+    return files::removeLink(AT_FDCWD, link, link);
 }
 
 void FileManager::removeTree(const std::filesystem::path& path) const {

@@ -94,6 +94,14 @@ public:
     void createFolders(const std::filesystem::path& folder, Privacy privacy = Privacy::inherited) const;
     /// For its owner alone. Fails if anything is there.
     void createFolder(const std::filesystem::path& folder) const;
+    /// Creates `folder` and what is missing between it and `top`, one of the folders above it, which must
+    /// exist. Follows no link below `top`: fails with ENOTDIR if anything but a folder is there.
+    void createFoldersBelow(const std::filesystem::path& top, const std::filesystem::path& folder) const;
+    /// The first link on the way from `top` down to `folder`, the latter included; nothing if there is none.
+    std::optional<std::filesystem::path> linkBelow(const std::filesystem::path& top,
+                                                   const std::filesystem::path& folder) const;
+    /// Removes a folder if it is empty; a link to one stays. Returns whether it did.
+    bool removeEmptyFolder(const std::filesystem::path& folder) const;
     /// Creates a symbolic link whose text is `target`. Fails if anything is at `link`.
     void createLink(const std::filesystem::path& target, const std::filesystem::path& link) const;
 
@@ -124,7 +132,8 @@ public:
 
     /// Removes a file or link, but not a folder.
     void removeFile(const std::filesystem::path& file) const;
-    /// Removes a symbolic link. If there is none, does nothing and returns false.
+    /// Removes a symbolic link. If there is none, does nothing and returns false. A file that takes the
+    /// link's place at the last moment stays, or goes to the Trash if a newer one has taken that place too.
     bool removeLink(const std::filesystem::path& link) const;
     /// Removes everything at `path`, even folders without write permission. Does nothing if nothing is there.
     void removeTree(const std::filesystem::path& path) const;

@@ -8,7 +8,10 @@
 #include <tuple>
 #include <vector>
 
+#include "platform/files/FileCopy.h"
 #include "platform/files/FolderTrail.h"
+#include "platform/files/Temporary.h"
+#include "platform/files/Trash.h"
 
 namespace selvane::files {
 namespace {
@@ -116,7 +119,43 @@ void TreeRemoval::finish() {
     enter(std::move(level.name), level.pass + 1);
 }
 
+/// Whether `name` is a symbolic link. Returns 0 or the error.
+int look(int folder, const std::filesystem::path& name, bool& isLink) {
+    struct stat status = {};
+    if (::fstatat(folder, name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0)
+        return errno;
+    isLink = S_ISLNK(status.st_mode);
+    return 0;
+}
+
 } // namespace
+
+bool removeLink(int folder, const std::filesystem::path& name, const std::filesystem::path& named) {
+    bool isLink = false;
+    if (const int error = look(folder, name, isLink); error != 0 && !meansMissing(error))
+        fail("remove", named, error);
+    if (!isLink)
+        return false;
+    // Another program may have replaced the link since. Nobody else knows the new name, so that look holds.
+    const std::filesystem::path aside = newSibling(name);
+    int error = renameExclusively(folder, name, folder, aside);
+    if (error == ENOENT)
+        return false;
+    if (error != 0)
+        fail("remove", named, error);
+    error = look(folder, aside, isLink);
+    if (error == 0 && isLink) {
+        if (::unlinkat(folder, aside.c_str(), 0) == 0)
+            return true;
+        error = errno;
+    }
+    // If the name is taken again, what has it is newer.
+    if (renameExclusively(folder, aside, folder, name) != 0)
+        moveToTrash(named.parent_path() / aside.filename());
+    if (error != 0)
+        fail("remove", named, error);
+    return false;
+}
 
 void removeTree(const std::filesystem::path& path, const std::filesystem::path& named) {
     struct stat status = {};

@@ -7,6 +7,8 @@
 #include <climits>
 #include <sys/stat.h>
 
+#include "platform/files/FileRemoval.h"
+
 namespace selvane {
 
 using files::Descriptor;
@@ -63,11 +65,7 @@ void OpenFolder::createLink(const std::string& target, const std::string& name) 
 }
 
 bool OpenFolder::removeLink(const std::string& name) const {
-    if (!isLink(m_folder.get(), name.c_str()))
-        return false;
-    if (::unlinkat(m_folder.get(), name.c_str(), 0) != 0)
-        fail("remove", m_path / name, errno);
-    return true;
+    return files::removeLink(m_folder.get(), name, m_path / name);
 }
 
 } // namespace selvane

@@ -37,7 +37,7 @@ public:
 
     /// Creates a symbolic link whose text is `target`. Fails if the name is taken.
     void createLink(const std::string& target, const std::string& name) const;
-    /// Removes a symbolic link. If there is none of that name, does nothing and returns false.
+    /// `FileManager::removeLink` for the link `name`.
     bool removeLink(const std::string& name) const;
 
 private:

@@ -11,10 +11,6 @@
 namespace selvane::files {
 namespace {
 
-int rename(const std::filesystem::path& from, const std::filesystem::path& to, unsigned int flags) {
-    return ::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), flags) == 0 ? 0 : errno;
-}
-
 /// How network file systems and older ones answer a flag that they don't know.
 bool isWithoutFlags(int error) {
     return error == EINVAL || error == ENOSYS || error == ENOTSUP;
@@ -22,19 +18,24 @@ bool isWithoutFlags(int error) {
 
 } // namespace
 
-int renameExclusively(const std::filesystem::path& from, const std::filesystem::path& to) {
-    const int error = rename(from, to, RENAME_NOREPLACE);
-    if (!isWithoutFlags(error))
-        return error;
+int renameExclusively(int fromFolder, const std::filesystem::path& from, int toFolder,
+                      const std::filesystem::path& to) {
+    if (::renameat2(fromFolder, from.c_str(), toFolder, to.c_str(), RENAME_NOREPLACE) == 0)
+        return 0;
+    if (!isWithoutFlags(errno))
+        return errno;
     struct stat status = {};
-    if (::lstat(to.c_str(), &status) == 0)
+    if (::fstatat(toFolder, to.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0)
         return EEXIST;
-    return rename(from, to, 0);
+    if (errno != ENOENT)
+        return errno;
+    return ::renameat(fromFolder, from.c_str(), toFolder, to.c_str()) == 0 ? 0 : errno;
 }
 
 int exchangeNames(const std::filesystem::path& first, const std::filesystem::path& second) {
-    const int error = rename(first, second, RENAME_EXCHANGE);
-    return isWithoutFlags(error) ? ENOTSUP : error;
+    if (::renameat2(AT_FDCWD, first.c_str(), AT_FDCWD, second.c_str(), RENAME_EXCHANGE) == 0)
+        return 0;
+    return isWithoutFlags(errno) ? ENOTSUP : errno;
 }
 
 } // namespace selvane::files

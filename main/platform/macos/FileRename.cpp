@@ -10,10 +10,6 @@
 namespace selvane::files {
 namespace {
 
-int rename(const std::filesystem::path& from, const std::filesystem::path& to, unsigned int flags) {
-    return ::renameatx_np(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), flags) == 0 ? 0 : errno;
-}
-
 /// How file systems answer a flag that they don't know.
 bool isUnsupported(int error) {
     return error == ENOTSUP || error == EOPNOTSUPP || error == EINVAL || error == ENOSYS;
@@ -21,19 +17,24 @@ bool isUnsupported(int error) {
 
 } // namespace
 
-int renameExclusively(const std::filesystem::path& from, const std::filesystem::path& to) {
-    const int error = rename(from, to, RENAME_EXCL);
-    if (!isUnsupported(error))
-        return error;
+int renameExclusively(int fromFolder, const std::filesystem::path& from, int toFolder,
+                      const std::filesystem::path& to) {
+    if (::renameatx_np(fromFolder, from.c_str(), toFolder, to.c_str(), RENAME_EXCL) == 0)
+        return 0;
+    if (!isUnsupported(errno))
+        return errno;
     struct stat status = {};
-    if (::lstat(to.c_str(), &status) == 0)
+    if (::fstatat(toFolder, to.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0)
         return EEXIST;
-    return ::rename(from.c_str(), to.c_str()) == 0 ? 0 : errno;
+    if (errno != ENOENT)
+        return errno;
+    return ::renameat(fromFolder, from.c_str(), toFolder, to.c_str()) == 0 ? 0 : errno;
 }
 
 int exchangeNames(const std::filesystem::path& first, const std::filesystem::path& second) {
-    const int error = rename(first, second, RENAME_SWAP);
-    return isUnsupported(error) ? ENOTSUP : error;
+    if (::renameatx_np(AT_FDCWD, first.c_str(), AT_FDCWD, second.c_str(), RENAME_SWAP) == 0)
+        return 0;
+    return isUnsupported(errno) ? ENOTSUP : errno;
 }
 
 } // namespace selvane::files
