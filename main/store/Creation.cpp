@@ -11,6 +11,7 @@
 #include "platform/files/Progress.h"
 #include "platform/text/Text.h"
 #include "store/ItemListing.h"
+#include "store/OwnFolder.h"
 #include "store/ProfileRecord.h"
 #include "store/Slug.h"
 
@@ -163,7 +164,7 @@ void ProfileStore::fill(Profile& profile, const NewProfile& request, const FileM
         if (request.from && mode != ShareMode::none)
             apply(component, mode, profile, *request.from, files);
         else if (isCollection(component))
-            m_files.createFolders(profile.url(component));
+            createOwnFolder(profile, profile.url(component));
     }
 }
 

@@ -7,6 +7,7 @@
 #include "platform/files/FileBatch.h"
 #include "platform/text/Text.h"
 #include "store/ItemListing.h"
+#include "store/OwnFolder.h"
 
 namespace selvane {
 
@@ -57,7 +58,7 @@ void ProfileStore::requireOwnFolder(Component component, const Profile& profile)
 fs::path ProfileStore::freePlace(const std::string& name, const Profile& in, Component component) {
     const fs::path folder = in.url(component);
     requireOwnFolder(component, in);
-    m_files.createFolders(folder);
+    createOwnFolder(in, folder);
     fs::path place = folder / name;
     if (m_files.exists(place))
         throw LauncherError("\"" + text::singleLine(name) + "\" esiste già in " + in.meta.name);

@@ -10,6 +10,7 @@
 #include "platform/files/FileBatch.h"
 #include "platform/text/Text.h"
 #include "store/ItemListing.h"
+#include "store/OwnFolder.h"
 
 namespace selvane {
 namespace {
@@ -89,6 +90,8 @@ SyncReport ProfileStore::syncLinks(const Profile& profile) {
 void ProfileStore::syncCollection(Component component, const Profile& profile, const Profile& source,
                                   SyncReport& report) {
     const fs::path folder = profile.url(component);
+    if (m_files.linkTarget(folder))
+        return; // what is in it isn't the profile's
     const std::string origin = source.url(component).native() + "/";
     const ItemListing offered(component, origin);
     const ItemListing own(component, folder);
@@ -100,8 +103,7 @@ void ProfileStore::syncCollection(Component component, const Profile& profile, c
     const std::vector<std::string> missing = missingItems(own, offered, profile.excluded(component));
     if (missing.empty())
         return;
-    requireOwnFolder(component, profile);
-    m_files.createFolders(folder);
+    createOwnFolder(profile, folder);
     const OpenFolder target(folder);
     for (const std::string& name : text::sorted(missing)) {
         target.createLink(origin + name, name);
@@ -135,6 +137,7 @@ Profile ProfileStore::setMode(ShareMode mode, Component component, const Profile
 
 void ProfileStore::setCollectionMode(ShareMode mode, Component component, Profile& profile,
                                      const Profile& source) {
+    requireOwnFolder(component, profile);
     if (mode == ShareMode::shared) {
         // Recorded only once its links are there: if one fails, the same change completes the work later.
         SyncReport report;

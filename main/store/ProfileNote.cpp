@@ -4,6 +4,7 @@
 #include "store/ProfileStore.h"
 
 #include "platform/text/Text.h"
+#include "store/OwnFolder.h"
 
 namespace selvane {
 namespace {
@@ -79,7 +80,7 @@ void ProfileStore::writeProfileNote(const Profile& profile) {
     const fs::path folder = profile.url(Component::rules);
     if (m_files.linkTarget(folder))
         return; // a folder that is itself a link belongs to another profile
-    m_files.createFolders(folder);
+    createOwnFolder(profile, folder);
     const fs::path file = folder / kProfileNoteName;
     const std::string text = profileNote(profile);
     // A link here would lead to the source's note. Writing replaces the link and leaves that note alone.

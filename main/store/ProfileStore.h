@@ -211,6 +211,8 @@ private:
     void returnBuiltInData(const std::string& owner);
 
     std::vector<std::filesystem::path> sessionFolders(const std::filesystem::path& dataDir) const;
+    std::optional<std::filesystem::path> sessionPlace(const std::filesystem::path& dataDir) const;
+    std::vector<std::string> queuedSessions(const Profile& profile) const;
     void copyTranscripts(const CodeSession& session, const TranscriptIndex& from, const Profile& target,
                          std::set<std::string>& known, FileBatch& batch);
 

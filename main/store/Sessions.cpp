@@ -8,6 +8,7 @@
 
 #include "platform/files/FileBatch.h"
 #include "platform/json/SessionRecord.h"
+#include "store/OwnFolder.h"
 #include "store/SessionHandover.h"
 
 namespace selvane {
@@ -96,9 +97,24 @@ TranscriptIndex ProfileStore::transcripts(const Profile& profile) const {
 }
 
 int ProfileStore::pendingSessionCount(const Profile& profile) const {
-    const auto queued = m_files.entriesIfReadable(profile.configDir / kQueueFolder);
+    const auto queued = queuedSessions(profile);
     return static_cast<int>(queued.size() -
                             static_cast<std::size_t>(std::count_if(queued.begin(), queued.end(), isHidden)));
+}
+
+/// The names in the queue; none if it is a link, which leads to what isn't the profile's.
+std::vector<std::string> ProfileStore::queuedSessions(const Profile& profile) const {
+    const fs::path queue = profile.configDir / kQueueFolder;
+    return m_files.isFolder(queue) ? m_files.entriesIfReadable(queue) : std::vector<std::string>();
+}
+
+/// The folder for new session records: the most recently changed one that no link leads to, if there is any.
+std::optional<fs::path> ProfileStore::sessionPlace(const fs::path& dataDir) const {
+    for (const fs::path& folder : sessionFolders(dataDir)) {
+        if (!m_files.linkBelow(dataDir, folder))
+            return folder;
+    }
+    return std::nullopt;
 }
 
 /// Never overwrites the target's existing transcripts. `known` are the ids that were looked at already.
@@ -109,7 +125,7 @@ void ProfileStore::copyTranscripts(const CodeSession& session, const TranscriptI
         if (!folder || !known.insert(id).second)
             continue;
         const fs::path place = target.configDir / "projects" / folder->filename();
-        m_files.createFolders(place);
+        createOwnFolder(target, place);
         for (const std::string& name : {id + ".jsonl", id}) {
             if (m_files.exists(*folder / name) && !m_files.exists(place / name))
                 batch.copy(*folder / name, place / name);
@@ -123,9 +139,9 @@ ImportCount ProfileStore::importSessions(const std::vector<CodeSession>& session
     const bool sameAccount = source.accountOwner() == target.accountOwner();
     const bool sameConfiguration = source.configDir == target.configDir;
     const fs::path data = desktopDataDir(target);
-    const std::vector<fs::path> folders = sessionFolders(data);
-    const bool canPlace = !folders.empty() && !desktopDataInUse(data);
-    const fs::path destination = canPlace ? folders.front() : target.configDir / kQueueFolder;
+    const std::optional<fs::path> open = sessionPlace(data);
+    const bool canPlace = open && !desktopDataInUse(data);
+    const fs::path destination = canPlace ? *open : target.configDir / kQueueFolder;
     const TranscriptIndex index = transcripts(source);
 
     for (const CodeSession& session : sessions) {
@@ -152,7 +168,7 @@ ImportCount ProfileStore::importSessions(const std::vector<CodeSession>& session
         const std::string bytes = withoutAccount(m_files.read(session.file), session.file);
         const fs::path place = destination / fs::path(session.file).filename();
         if (!canPlace)
-            m_files.createFolders(destination);
+            createOwnFolder(target, destination);
         // Two of the source's folders can have a record of one name; the first, the newest, counts.
         const bool isFirst = knownRecords.insert(place.filename()).second;
         if (isFirst && (!canPlace || !m_files.exists(place)))
@@ -175,19 +191,19 @@ ImportCount ProfileStore::importSessions(const std::vector<CodeSession>& session
 int ProfileStore::flushPendingSessions(const Profile& profile) {
     const FolderLock lock = locked(profile);
     const fs::path queue = profile.configDir / kQueueFolder;
-    const std::vector<std::string> queued = m_files.entriesIfReadable(queue);
+    const std::vector<std::string> queued = queuedSessions(profile);
     if (queued.empty())
         return 0;
     const fs::path data = desktopDataDir(profile);
     if (desktopDataInUse(data))
         return 0;
-    const std::vector<fs::path> folders = sessionFolders(data);
-    if (folders.empty())
+    const std::optional<fs::path> folder = sessionPlace(data);
+    if (!folder)
         return 0;
     FileBatch batch(m_progress);
     int placed = 0;
     for (const std::string& name : queued) {
-        const fs::path place = folders.front() / name;
+        const fs::path place = *folder / name;
         const bool isLeftover = name.starts_with(FileManager::kTemporaryPrefix);
         const bool isPlaced = !isHidden(name) && m_files.exists(place);
         if ((isLeftover || isPlaced) && m_files.isRegularFile(queue / name))
@@ -198,8 +214,7 @@ int ProfileStore::flushPendingSessions(const Profile& profile) {
         ++placed;
     }
     batch.finish();
-    std::error_code ignored;
-    fs::remove(queue, ignored);
+    m_files.removeEmptyFolder(queue);
     return placed;
 }
 

@@ -4,6 +4,7 @@
 #include "store/ProfileStore.h"
 
 #include "platform/text/Text.h"
+#include "store/OwnFolder.h"
 
 namespace selvane {
 namespace {
@@ -28,7 +29,8 @@ exec claude "$@"
 
 std::filesystem::path ProfileStore::installTerminalHelper() {
     const std::filesystem::path folder = m_root / "bin";
-    m_files.createFolders(folder);
+    m_files.createFolders(m_root, Privacy::ownerOnly);
+    createOwnFolder(m_root, folder);
     const std::filesystem::path script = folder / "claude-profile";
     m_files.write(script, std::string(kScriptBegin) + text::quotedForShell(m_root.string()) +
                               std::string(kScriptEnd));

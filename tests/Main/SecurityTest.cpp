@@ -63,15 +63,29 @@ TEST_F(Hostile, LinksAmongItemsLeadNowhere) {
     const Outcome endless = home.run({"set-mode", "lavoro", "skills=separate"});
     EXPECT_TRUE(endless.err.starts_with("Errore: /")) << endless;
     EXPECT_EQ(home.run({"backup", home / "b.zip"}).status, 0);
+}
 
-    // A folder of the profile that has become a link to somewhere else.
+TEST_F(Hostile, LinkedFoldersAreLeftAlone) {
+    const fs::path skills = home / ".claude/skills";
+    writeFile(skills / "pdf/SKILL.md", "testo");
+    home.output({"create", "Lavoro", "--from", "default"});
+    // What set-mode would remove or convert, and what sync would remove, in a folder of the profile's own.
+    for (const char* name : {"pdf", "sparita"}) {
+        fs::create_directory_symlink(skills / name, victim / name);
+        victimBefore[name] = "-> " + (skills / name).string();
+    }
     for (const std::string name : {"skills", "agents", "rules"}) {
         fs::remove_all(profile / name);
         fs::create_directory_symlink(victim, profile / name);
     }
-    for (const std::string pair : {"skills=shared", "skills=separate", "skills=none", "rules=shared"})
-        home.run({"set-mode", "lavoro", pair});
-    home.run({"sync", "lavoro"});
+    for (const std::string mode : {"separate", "none", "shared"}) {
+        const Outcome refused = home.run({"set-mode", "lavoro", "skills=" + mode});
+        EXPECT_EQ(refused.status, mode == "shared" ? 0 : 1) << refused;
+        EXPECT_EQ(home.run({"sync", "lavoro"}).status, 0);
+    }
+    EXPECT_EQ(home.run({"set-mode", "lavoro", "rules=separate"}).status, 1);
+    fs::create_directory_symlink(victim, home / ".claude-profiles/bin");
+    EXPECT_EQ(home.run({"install-helper"}).status, 1);
 }
 
 TEST_F(Hostile, NamesForgeNoRecords) {

@@ -161,6 +161,33 @@ TEST_F(Sessions, import_NoSessionFolderYet_QueuesUntilThereIsOne) {
     EXPECT_EQ(home.store.flushPendingSessions(lavoro), 0);
 }
 
+TEST_F(Sessions, linkedFolders_AreNeitherEmptiedNorWrittenThrough) {
+    const fs::path outside = home / "Documenti";
+    writeTree(outside, {{"lettera.txt", "cara"}, {"local_9.json", "mine"}, {"org/x", ""}});
+    const Tree before = treeOf(outside);
+    const std::string refusal = " è un collegamento: Selvane non scrive nella cartella a cui porta";
+    const fs::path projects = lavoro.configDir / "projects";
+    fs::create_directory_symlink(outside, queue());
+    EXPECT_EQ(messageOf([&] { import(); }), queue().string() + refusal);
+    makeFolders();
+    EXPECT_EQ(home.store.flushPendingSessions(lavoro), 0);
+    EXPECT_EQ(home.store.pendingSessionCount(lavoro), 0);
+    EXPECT_EQ(fs::read_symlink(queue()), outside);
+    for (const fs::path& link : {projects, projects / "p"}) {
+        fs::remove_all(projects);
+        fs::create_directories(link.parent_path());
+        fs::create_directory_symlink(outside, link);
+        EXPECT_EQ(messageOf([&] { import(); }), link.string() + refusal);
+    }
+    fs::remove_all(projects);
+    fs::remove(queue());
+    fs::remove_all(destination.parent_path());
+    fs::create_directory_symlink(outside, destination.parent_path());
+    EXPECT_EQ(import(), (ImportCount{0, 1})) << "queued rather than placed behind a link";
+    EXPECT_EQ(home.store.flushPendingSessions(lavoro), 0);
+    EXPECT_EQ(treeOf(outside), before);
+}
+
 struct SessionsOfOpenAccounts : Sessions {
     SessionsOfOpenAccounts() : Sessions(Home::Processes::seen) {}
 };
