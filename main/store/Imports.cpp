@@ -35,6 +35,7 @@ void ProfileStore::rewritePaths(const fs::path& file, const Profile& from, const
 }
 
 void ProfileStore::reimport(Component component, const Profile& to, const Profile& from) {
+    const FolderLock lock = locked(to);
     announce(from.url(component));
     importWhole(component, to, from, m_files);
 }
@@ -52,18 +53,6 @@ void ProfileStore::importWhole(Component component, const Profile& to, const Pro
     case ComponentKind::servers:
         return importServers(to, from, files);
     }
-}
-
-void ProfileStore::importSettings(const Profile& to, const Profile& from) {
-    importFile(Component::settings, to, from, m_files);
-}
-
-void ProfileStore::importPlugins(const Profile& to, const Profile& from) {
-    importFolder(Component::plugins, to, from, m_files);
-}
-
-void ProfileStore::importMCP(const Profile& to, const Profile& from) {
-    importServers(to, from, m_files);
 }
 
 void ProfileStore::importFile(Component component, const Profile& to, const Profile& from,

@@ -66,6 +66,7 @@ fs::path ProfileStore::freePlace(const std::string& name, const Profile& in, Com
 }
 
 void ProfileStore::addItem(const ComponentItem& item, const Profile& to, Component component, bool link) {
+    const FolderLock lock = locked(to);
     if (link) {
         m_files.createLink(item.url, freePlace(item.name, to, component));
         m_files.waitForNames(to.url(component));

@@ -172,7 +172,9 @@ void ProfileStore::setCollectionMode(ShareMode mode, Component component, Profil
     saveMeta(profile);
 }
 
-void ProfileStore::makeOwn(const ComponentItem& item, const Profile&) {
+void ProfileStore::makeOwn(const ComponentItem& item, const Profile& profile) {
+    const FolderLock lock = locked(profile);
+    requireNoLink(profile.configDir, item.url.parent_path());
     if (!m_files.linkTarget(item.url))
         return;
     const fs::path origin = m_files.resolved(item.url);

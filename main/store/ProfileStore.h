@@ -101,9 +101,9 @@ public:
     Profile create(const NewProfile& request, Progress* progress = nullptr);
     /// Copies a component that is copied as a whole again; what the profile had of it goes to the Trash.
     void reimport(Component component, const Profile& to, const Profile& from);
-    void importSettings(const Profile& to, const Profile& from);
-    void importPlugins(const Profile& to, const Profile& from);
-    void importMCP(const Profile& to, const Profile& from);
+    void importSettings(const Profile& to, const Profile& from) { reimport(Component::settings, to, from); }
+    void importPlugins(const Profile& to, const Profile& from) { reimport(Component::plugins, to, from); }
+    void importMCP(const Profile& to, const Profile& from) { reimport(Component::mcp, to, from); }
     /// Moves it to the Trash with its own desktop data. Refuses if other profiles depend on it or its account
     /// is open.
     void deleteProfile(const Profile& profile);

@@ -8,6 +8,7 @@
 
 #include "model/LauncherError.h"
 #include "support/Home.h"
+#include "support/WaitWatch.h"
 
 namespace selvane {
 namespace {
@@ -16,6 +17,7 @@ namespace fs = std::filesystem;
 using namespace test;
 using enum ShareMode;
 using Texts = std::vector<std::string>;
+using Paths = std::vector<fs::path>;
 
 /// A profile called "Lavoro" whose source has some skills, one of them a folder.
 struct Links : testing::Test {
@@ -265,6 +267,25 @@ TEST_F(Links, remove_ThenImport_ExcludesAndTakesBack) {
     profile = home.store.importItems({"uno.md"}, home.builtIn(), profile, Component::skills, false);
     EXPECT_EQ(skills(), (Tree{{"tre.md", link("tre.md")}, {"due", link("due")}, {"uno.md", "uno"}}));
     EXPECT_EQ(home.store.profile("lavoro")->meta.excluded["skills"], Texts{});
+}
+
+TEST_F(Links, changes_OfAProfile_LockItOnce) {
+    writeTree(home.path,
+              {{".claude/settings.json", "{}"}, {".claude/plugins/a", ""}, {".claude.json", "{}"}});
+    const Profile source = home.builtIn();
+    const ComponentItem linked = item("due");
+    ComponentItem fresh = linked;
+    fresh.name = "nuovo";
+    Paths locked;
+    const WaitWatch watch(WaitWatch::For::lock, [&](const fs::path& folder) { locked.push_back(folder); });
+    home.store.importSettings(profile, source);
+    home.store.importPlugins(profile, source);
+    home.store.importMCP(profile, source);
+    home.store.reimport(Component::settings, profile, source);
+    home.store.makeOwn(linked, profile);
+    home.store.addItem(fresh, profile, Component::skills, true);
+    EXPECT_EQ(locked, Paths(6, profile.configDir));
+    takeTrash();
 }
 
 TEST_F(Links, sync_DeletedWhileItWaits_LeavesNothing) {
