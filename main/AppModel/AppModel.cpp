@@ -172,13 +172,10 @@ void AppModel::reveal(const std::filesystem::path& item) {
 }
 
 void AppModel::open(const std::filesystem::path& file) {
-    const FileManager files;
-    if (files.existsFollowingLinks(file)) {
-        m_desktop.open(file);
-        return;
-    }
     perform([&] {
-        files.write(file, "");
+        const FileManager files;
+        if (!files.isPresent(file))
+            files.write(file, "");
         m_desktop.open(file);
     });
 }

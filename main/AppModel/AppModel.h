@@ -83,6 +83,7 @@ public:
 
     WorkProgress* work() { return &m_workProgress; }
 
+    bool restoresFirst() const;
     QString closeMessage(const Profile& target) const;
     void setNotice(const QString& text);
 

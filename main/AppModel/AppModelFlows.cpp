@@ -37,9 +37,17 @@ const Profile* AppModel::openProfile(const Profile& sameAccount) const {
     return nullptr;
 }
 
+bool AppModel::restoresFirst() const {
+    try {
+        return m_store.needsDesktopRestore();
+    } catch (const std::exception&) { // the launch itself will say why
+        return false;
+    }
+}
+
 QString AppModel::closeMessage(const Profile& target) const {
     const QString name = QString::fromStdString(target.meta.name);
-    if (m_store.needsDesktopRestore())
+    if (restoresFirst())
         return tr("Per passare alle istanze separate Claude va chiuso una volta e riaperto con «%1». Le "
                   "sessioni in corso verranno interrotte.")
             .arg(name);

@@ -76,7 +76,8 @@ void AppModel::create(const ProfileRequest& request, Done succeeded) {
         if (!request.copySessions || !request.profile.from)
             return {};
         const Profile& source = *request.profile.from;
-        const ImportCount count = store.importSessions(store.codeSessions(source), source, profile);
+        const ImportCount count =
+            store.importSessions(store.codeSessions(source, Unreadable::fails), source, profile);
         return count.pending < 1 ? tr("%1 sessioni copiate").arg(count.copied)
                                  : tr("%1 sessioni verranno aggiunte dopo il primo login").arg(count.pending);
     };

@@ -22,7 +22,7 @@ void importSessions(const Call& call) {
     requireArguments(call, 3);
     const Profile source = profile(call);
     const Profile target = profile(call.arguments[2], call.store);
-    std::vector<CodeSession> chosen = call.store.codeSessions(source);
+    std::vector<CodeSession> chosen = call.store.codeSessions(source, Unreadable::fails);
     if (call.arguments.size() > 3) {
         const std::set<std::string> ids(call.arguments.begin() + 3, call.arguments.end());
         std::erase_if(chosen, [&](const CodeSession& session) { return !ids.contains(session.id); });

@@ -7,8 +7,8 @@
 
 #include <charconv>
 #include <chrono>
+#include <filesystem>
 
-#include "platform/files/FileManager.h"
 #include "platform/process/ProcInfo.h"
 
 namespace selvane {
@@ -29,8 +29,8 @@ std::optional<DataFolderLock> DataFolderLock::read(const std::string& folder) {
     using namespace std::chrono;
     constexpr seconds kClockError(2); // the file system's clock against the kernel's
     const std::string link = folder + "/SingletonLock";
-    const auto target = FileManager().linkTarget(link);
-    auto lock = target ? parse(folder, target->native()) : std::nullopt;
+    std::error_code unreadable; // one piece of evidence among others
+    auto lock = parse(folder, std::filesystem::read_symlink(link, unreadable).native());
     struct stat status = {};
     if (lock && ::lstat(link.c_str(), &status) == 0)
         lock->madeBefore =

@@ -57,6 +57,17 @@ std::optional<Span> headerIn(std::string_view text, const Profile& source) {
     return Span{begin, end - begin};
 }
 
+/// The text in `file`; nothing if nothing is there, or something that has no text, such as a folder.
+std::optional<std::string> rulesIn(const fs::path& file) {
+    try {
+        return FileManager().readIfPresent(file);
+    } catch (const fs::filesystem_error& error) {
+        if (error.code() == std::errc::invalid_argument || error.code() == std::errc::is_a_directory)
+            return std::nullopt;
+        throw;
+    }
+}
+
 } // namespace
 
 void ProfileStore::applyClaudeMd(ShareMode mode, const Profile& to, const Profile& from,
@@ -76,8 +87,7 @@ void ProfileStore::changeClaudeMd(ShareMode mode, const Profile& profile, const 
     const fs::path origin = source.url(Component::claudeMd);
     m_files.recoverReplaced(own);
     const bool isFile = m_files.isRegularFile(own);
-    // An unreadable file counts as empty: the whole file goes to the Trash.
-    const std::string ownText = isFile ? m_files.readIfPossible(own).value_or("") : std::string();
+    const std::string ownText = isFile ? m_files.read(own) : std::string();
     const auto header = headerIn(ownText, source);
     const auto writeOwn = [&](const std::string& text) {
         m_files.replaceTrashing(own, [&](const fs::path& temporary) {
@@ -98,8 +108,8 @@ void ProfileStore::changeClaudeMd(ShareMode mode, const Profile& profile, const 
             extendTemplate(source, header && header->begin == 0 ? ownText.substr(header->size) : ownText));
         break;
     case ShareMode::separate: {
-        // Unreadable source rules count as none. If there are none, a profile without rules stays without.
-        const auto sourceText = m_files.readIfPossible(origin);
+        // If the source has no rules, a profile without rules stays without.
+        const auto sourceText = rulesIn(origin);
         if (!m_files.exists(own) && !sourceText)
             break;
         std::string text = ownText;

@@ -149,7 +149,7 @@ void ProfileStore::fill(Profile& profile, const NewProfile& request, const FileM
         const auto selected = request.selection.find(component);
         if (isCollection(component) && selected != request.selection.end() && request.from) {
             auto& excluded = profile.meta.excluded[key];
-            for (const ComponentItem& item : items(component, *request.from)) {
+            for (const FolderEntry& item : ItemListing(component, request.from->url(component)).entries) {
                 if (!selected->second.contains(item.name))
                     excluded.push_back(item.name);
             }
@@ -210,6 +210,8 @@ void ProfileStore::fillCollection(Component component, ShareMode mode, const Pro
                 continue;
             if (mode == ShareMode::shared)
                 folder.createLink(item.string(), entry.name);
+            else if (entry.isLink && !offered.folder->isPresent(entry.name))
+                continue;          // a dangling link has nothing to copy: see `uncopiedItems`
             else if (entry.isLink) // it may lead to a folder that contains the profile
                 files.copy(files.resolved(item), temporary / entry.name);
             else

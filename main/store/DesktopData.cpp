@@ -40,7 +40,7 @@ fs::path ProfileStore::desktopFolder(const std::string& owner) const {
 
 std::string ProfileStore::desktopLiveOwner() const {
     const auto content =
-        m_files.readIfPossible(desktopStore() / kLiveMarkerName, FileManager::kLongestRecord);
+        m_files.readIfPresent(desktopStore() / kLiveMarkerName, FileManager::kLongestRecord);
     const std::string owner(text::trimmed(content.value_or("")));
     return owner.empty() || !isUtf8(owner) ? std::string(Profile::kDefaultId) : owner;
 }
@@ -55,8 +55,8 @@ bool ProfileStore::hasDesktopData(const Profile& profile) const {
     return m_files.exists(desktopDataDir(profile));
 }
 
-DataFolders ProfileStore::dataFolders() const {
-    std::vector<std::string> accounts = m_files.entriesIfReadable(desktopStore());
+DataFolders ProfileStore::dataFolders(Unreadable unreadable) const {
+    std::vector<std::string> accounts = m_files.entriesIfPresent(desktopStore(), unreadable);
     std::erase_if(accounts, [](const std::string& name) { return !Profile::isPossibleId(name); });
     return {liveDesktopDir(), desktopStore(), accounts};
 }
@@ -68,7 +68,7 @@ bool ProfileStore::desktopDataInUse(const fs::path& folder) const {
 std::vector<ClaudeApp::Instance> ProfileStore::claudeInstances() const {
     if (m_testMode)
         return {};
-    std::vector<ClaudeApp::Instance> copies = m_claude.instances(dataFolders());
+    std::vector<ClaudeApp::Instance> copies = m_claude.instances(dataFolders(Unreadable::leftOut));
     for (ClaudeApp::Instance& copy : copies) {
         if (!copy.isConfigKnown)
             assumeConfig(copy);
@@ -90,9 +90,15 @@ void ProfileStore::assumeConfig(ClaudeApp::Instance& copy) const {
         copy.config = normalizedPath(users.front().configDir);
 }
 
-/// `folder` is normalized. A profile whose account isn't a valid id uses none.
+/// `folder` is normalized. A profile whose account isn't a valid id uses none, or none that is known if it
+/// can't be read who uses the normal one.
 bool ProfileStore::usesDataFolder(const Profile& profile, const std::string& folder) const {
-    return Profile::isPossibleId(profile.accountOwner()) && normalizedPath(desktopDataDir(profile)) == folder;
+    try {
+        return Profile::isPossibleId(profile.accountOwner()) &&
+               normalizedPath(desktopDataDir(profile)) == folder;
+    } catch (const fs::filesystem_error&) {
+        return false;
+    }
 }
 
 std::optional<ClaudeApp::Instance> ProfileStore::instance(const Profile& usingAccountOf) const {
@@ -143,6 +149,8 @@ bool ProfileStore::needsDesktopRestore() const {
 void ProfileStore::makeDesktopStore() {
     const fs::path store = desktopStore();
     m_files.createFolders(store, Privacy::ownerOnly); // it will hold logins
+    if (m_files.linkTarget(store))
+        return; // somebody else's folder may have a file of the note's name
     if (m_files.readIfPossible(store / kNoteName) != kNote)
         m_files.write(store / kNoteName, kNote);
 }

@@ -26,11 +26,11 @@ constexpr auto kPatience = std::chrono::seconds(10);
 /// Changes the paths in a settings file from the source's folder to the profile's.
 void ProfileStore::rewritePaths(const fs::path& file, const Profile& from, const Profile& to,
                                 const FileManager& files) {
-    const auto before = files.readIfPossible(file);
-    if (!before || !isUtf8(*before)) // no JSON; it stays as it is
+    const std::string before = files.read(file);
+    if (!isUtf8(before)) // no JSON; it stays as it is
         return;
-    const std::string after = withRewrittenPaths(*before, from, to);
-    if (after != *before)
+    const std::string after = withRewrittenPaths(before, from, to);
+    if (after != before)
         files.write(file, after);
 }
 

@@ -8,11 +8,12 @@
 
 namespace selvane {
 
-/// The items in a collection's folder, which stays open for further questions about them.
+/// The items in a collection's folder, which stays open for further questions about them. Throws if the
+/// folder is there but can't be read.
 struct ItemListing {
     ItemListing(Component component, const std::filesystem::path& path);
 
-    std::optional<OpenFolder> folder; ///< nothing if it can't be read; then there are no entries
+    std::optional<OpenFolder> folder; ///< nothing if there is none; then there are no entries
     std::vector<FolderEntry> entries; ///< in the folder's own order
 };
 

@@ -13,9 +13,9 @@ namespace selvane {
 
 namespace fs = std::filesystem;
 
-ItemListing::ItemListing(Component component, const fs::path& path) : folder(OpenFolder::ifReadable(path)) {
+ItemListing::ItemListing(Component component, const fs::path& path) : folder(OpenFolder::ifPresent(path)) {
     if (folder)
-        entries = folder->entriesIfReadable();
+        entries = folder->entries();
     std::erase_if(entries, [component](const FolderEntry& entry) {
         return entry.name.starts_with('.') ||
                (component == Component::rules && entry.name == ProfileStore::kProfileNoteName);
@@ -24,19 +24,28 @@ ItemListing::ItemListing(Component component, const fs::path& path) : folder(Ope
 
 std::vector<ComponentItem> ProfileStore::items(Component component, const Profile& profile) const {
     const fs::path folder = profile.url(component);
-    const ItemListing listing(component, folder);
+    std::optional<ItemListing> listing;
+    try {
+        listing.emplace(component, folder);
+    } catch (const fs::filesystem_error&) { // shown as empty
+        return {};
+    }
     std::vector<std::string_view> names;
-    for (const FolderEntry& entry : listing.entries)
+    for (const FolderEntry& entry : listing->entries)
         names.push_back(entry.name);
 
     std::vector<ComponentItem> result;
     result.reserve(names.size());
     for (const std::size_t position : text::sortedOrder(names)) {
-        const auto& [name, isLink] = listing.entries[position];
+        const auto& [name, isLink] = listing->entries[position];
         ComponentItem item{name, folder / name, std::nullopt, false};
-        if (isLink)
-            item.linkTarget = listing.folder->linkTarget(name);
-        item.isBroken = item.isLinked() && !listing.folder->existsFollowingLinks(name);
+        try {
+            if (isLink)
+                item.linkTarget = listing->folder->linkTarget(name);
+            item.isBroken = item.isLinked() && !listing->folder->isPresent(name);
+        } catch (const fs::filesystem_error&) { // where the link leads can't be seen
+            item.isBroken = true;
+        }
         result.push_back(std::move(item));
     }
     return result;
@@ -73,14 +82,31 @@ void ProfileStore::addItem(const ComponentItem& item, const Profile& to, Compone
         return;
     }
     FileBatch batch(m_progress);
-    addCopy(item, to, component, batch);
+    addCopy(item.url, to, component, batch);
     batch.finish();
 }
 
-void ProfileStore::addCopy(const ComponentItem& item, const Profile& to, Component component,
-                           FileBatch& batch) {
-    const fs::path place = freePlace(item.name, to, component);
-    batch.copy(item.isLinked() ? m_files.resolved(item.url) : item.url, place);
+void ProfileStore::addCopy(const fs::path& item, const Profile& to, Component component, FileBatch& batch) {
+    const fs::path place = freePlace(item.filename().string(), to, component);
+    batch.copy(m_files.linkTarget(item) ? m_files.resolved(item) : item, place);
+}
+
+std::vector<std::string> ProfileStore::uncopiedItems(const Profile& profile) const {
+    std::vector<std::string> lines;
+    const auto source = sourceOf(profile);
+    for (const Component component : kComponents) {
+        if (!source || !isCollection(component) || profile.mode(component) != ShareMode::separate)
+            continue;
+        const std::set<std::string> excluded = profile.excluded(component);
+        std::set<std::string> own;
+        for (const ComponentItem& item : items(component, profile))
+            own.insert(item.name);
+        for (const ComponentItem& item : items(component, *source)) {
+            if (item.isBroken && !excluded.contains(item.name) && !own.contains(item.name))
+                lines.push_back(std::string(title(component)) + ": " + item.name);
+        }
+    }
+    return lines;
 }
 
 } // namespace selvane

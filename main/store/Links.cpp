@@ -21,14 +21,23 @@ std::string reportLine(Component component, const std::string& item) {
     return std::string(title(component)) + ": " + item;
 }
 
-std::unordered_set<std::string> namesOf(const std::vector<ComponentItem>& items) {
-    std::unordered_set<std::string> names;
-    for (const ComponentItem& item : items)
-        names.insert(item.name);
-    return names;
+struct SharedItem {
+    std::string name;
+    std::string target; ///< what the link leads to, below the source's folder
+};
+
+/// The links in `own` to something below `origin`, the source's folder of the same component.
+std::vector<SharedItem> sharedItems(const ItemListing& own, std::string_view origin) {
+    std::vector<SharedItem> shared;
+    for (const FolderEntry& entry : own.entries) {
+        const auto target = entry.isLink ? own.folder->linkTarget(entry.name) : std::nullopt;
+        if (target && target->starts_with(origin))
+            shared.push_back({entry.name, target->substr(origin.size())});
+    }
+    return shared;
 }
 
-/// The dangling links in `own` to something below `origin`, the folder that `offered` lists.
+/// The dangling links among those into `origin`, which `offered` lists.
 std::vector<std::string> brokenLinks(const ItemListing& own, const ItemListing& offered,
                                      std::string_view origin) {
     std::unordered_set<std::string_view> there; // these exist, so there is no need to look
@@ -37,14 +46,17 @@ std::vector<std::string> brokenLinks(const ItemListing& own, const ItemListing& 
             there.insert(entry.name);
     }
     std::vector<std::string> broken;
-    for (const FolderEntry& entry : own.entries) {
-        const auto target = entry.isLink ? own.folder->linkTarget(entry.name) : std::nullopt;
-        if (target && target->starts_with(origin) &&
-            !there.contains(std::string_view(*target).substr(origin.size())) &&
-            !own.folder->existsFollowingLinks(entry.name))
-            broken.push_back(entry.name);
+    for (const auto& [name, target] : sharedItems(own, origin)) {
+        if (!there.contains(target) && !own.folder->isPresent(name))
+            broken.push_back(name);
     }
     return broken;
+}
+
+/// Whether the source's folder is there with something in it. If its disk isn't mounted, it is missing or
+/// empty, and so is everything that links lead to.
+bool isReachable(const Profile& source) {
+    return !FileManager().entriesIfPresent(source.configDir).empty();
 }
 
 std::vector<std::string> missingItems(const ItemListing& own, const ItemListing& offered,
@@ -56,7 +68,7 @@ std::vector<std::string> missingItems(const ItemListing& own, const ItemListing&
     for (const FolderEntry& entry : offered.entries) {
         // A link to a dangling link would be removed again by the next run.
         if (!present.contains(entry.name) && !excluded.contains(entry.name) &&
-            (!entry.isLink || offered.folder->existsFollowingLinks(entry.name)))
+            (!entry.isLink || offered.folder->isPresent(entry.name)))
             missing.push_back(entry.name);
     }
     return missing;
@@ -93,7 +105,9 @@ void ProfileStore::syncCollection(Component component, const Profile& profile, c
     if (m_files.linkTarget(folder))
         return; // what is in it isn't the profile's
     const std::string origin = source.url(component).native() + "/";
-    const ItemListing offered(component, origin);
+    const ItemListing offered(component, source.url(component));
+    if (!offered.folder && !isReachable(source))
+        return; // its items may come back, and with them what the links lead to
     const ItemListing own(component, folder);
     for (const std::string& name : text::sorted(brokenLinks(own, offered, origin))) {
         if (own.folder->removeLink(name))
@@ -147,21 +161,23 @@ void ProfileStore::setCollectionMode(ShareMode mode, Component component, Profil
         syncLinks(profile);
         return;
     }
-    const std::vector<ComponentItem> present = items(component, profile);
-    if (mode == ShareMode::separate) {
-        for (const ComponentItem& item : present) {
-            if (!item.isBroken && isLinked(item, source, component))
-                announce(m_files.resolved(item.url));
-        }
-    }
     FileBatch batch(m_progress);
-    for (const ComponentItem& item : present) {
-        if (!isLinked(item, source, component))
-            continue;
+    const std::string origin = source.url(component).native() + "/";
+    const ItemListing own(component, profile.url(component));
+    const auto shared = sharedItems(own, origin);
+    if (mode == ShareMode::separate) {
+        for (const auto& [name, target] : shared)
+            announce(origin + target);
+    }
+    for (const auto& [name, target] : shared) {
+        const fs::path link = profile.url(component) / name;
         if (mode == ShareMode::none)
-            m_files.removeLink(item.url);
-        else if (!item.isBroken) // a dangling link has nothing to copy, and may lead somewhere again
-            batch.copyOverLink(m_files.resolved(item.url), item.url);
+            own.folder->removeLink(name);
+        else if (own.folder->isPresent(name))
+            batch.copyOverLink(m_files.resolved(link), link);
+        else if (!isReachable(source)) // otherwise there is nothing to copy, and it may lead somewhere again
+            throw fs::filesystem_error("look up", source.configDir,
+                                       std::make_error_code(std::errc::no_such_file_or_directory));
     }
     if (mode == ShareMode::separate && profile.mode(component) == ShareMode::none)
         copyMissing(component, profile, source, batch);
@@ -183,17 +199,13 @@ void ProfileStore::makeOwn(const ComponentItem& item, const Profile& profile) {
 
 void ProfileStore::copyMissing(Component component, const Profile& to, const Profile& from,
                                FileBatch& batch) {
-    const auto present = namesOf(items(component, to));
-    const auto excluded = to.excluded(component);
-    std::vector<ComponentItem> missing;
-    for (ComponentItem& item : items(component, from)) {
-        if (!present.contains(item.name) && !excluded.contains(item.name) && !item.isBroken) {
-            announce(item.url);
-            missing.push_back(std::move(item));
-        }
-    }
-    for (const ComponentItem& item : missing)
-        addCopy(item, to, component, batch);
+    const ItemListing own(component, to.url(component));
+    const ItemListing offered(component, from.url(component));
+    const auto missing = text::sorted(missingItems(own, offered, to.excluded(component)));
+    for (const std::string& name : missing)
+        announce(from.url(component) / name);
+    for (const std::string& name : missing)
+        addCopy(from.url(component) / name, to, component, batch);
 }
 
 Profile ProfileStore::remove(const ComponentItem& item, const Profile& from, Component component) {
@@ -220,29 +232,31 @@ Profile ProfileStore::remove(const ComponentItem& item, const Profile& from, Com
 Profile ProfileStore::importItems(const std::set<std::string>& names, const Profile& source,
                                   const Profile& into, Component component, bool link) {
     const FolderLock lock = locked(into);
-    const std::vector<ComponentItem> offered = items(component, source);
-    for (const ComponentItem& item : offered) {
-        if (!link && names.contains(item.name))
-            announce(item.url);
-    }
     FileBatch batch(m_progress);
-    std::set<std::string> imported;
-    for (const ComponentItem& item : offered) {
-        if (!names.contains(item.name))
+    std::vector<std::string> imported;
+    for (const FolderEntry& entry : ItemListing(component, source.url(component)).entries) {
+        if (!names.contains(entry.name))
             continue;
+        imported.push_back(entry.name);
+        if (!link)
+            announce(source.url(component) / entry.name);
+    }
+    for (const std::string& name : text::sorted(imported)) {
+        const fs::path item = source.url(component) / name;
         if (link)
-            m_files.createLink(item.url, freePlace(item.name, into, component));
+            m_files.createLink(item, freePlace(name, into, component));
         else
             addCopy(item, into, component, batch);
-        imported.insert(item.name);
     }
     batch.finish();
-    if (link)
+    if (link && !imported.empty())
         m_files.waitForNames(into.url(component));
     Profile changed = current(into);
     const auto excluded = changed.meta.excluded.find(std::string(rawValue(component)));
     if (excluded != changed.meta.excluded.end())
-        std::erase_if(excluded->second, [&](const std::string& name) { return imported.contains(name); });
+        std::erase_if(excluded->second, [&](const std::string& name) {
+            return std::find(imported.begin(), imported.end(), name) != imported.end();
+        });
     saveMeta(changed);
     return changed;
 }

@@ -181,7 +181,7 @@ void ProfileStore::repair(const std::string& id) {
 FolderLock ProfileStore::locked(const Profile& profile) const {
     FolderLock lock(profile.configDir);
     // Writing would create the folder again, with nothing else in it.
-    if (!profile.isDefault() && !m_files.existsFollowingLinks(profile.configDir))
+    if (!profile.isDefault() && !m_files.isPresent(profile.configDir))
         throw LauncherError("Il profilo \"" + profile.meta.name + "\" è stato eliminato nel frattempo");
     return lock;
 }

@@ -111,6 +111,9 @@ public:
     // Items, links and share modes (Items.cpp, Links.cpp, ClaudeMd.cpp)
     std::vector<ComponentItem> items(Component component, const Profile& profile) const;
     bool isLinked(const ComponentItem& item, const Profile& to, Component component) const;
+    /// The dangling links among the source's items that a `separate` collection has no copy of, because there
+    /// is nothing to copy; each as "title: item".
+    std::vector<std::string> uncopiedItems(const Profile& profile) const;
     /// Never overwrites: fails if the name is taken.
     void addItem(const ComponentItem& item, const Profile& to, Component component, bool link);
     SyncReport sync(const Profile& profile);
@@ -126,10 +129,12 @@ public:
 
     // Desktop data folders (DesktopData.cpp). An account that isn't a plain name throws.
     std::filesystem::path desktopStore() const;
+    // Whose data is where decides what is moved, so these throw if it can't be read.
     std::string desktopLiveOwner() const; ///< as recorded; it may not be a valid account
     std::filesystem::path desktopDataDir(const Profile& profile) const;
     bool hasDesktopData(const Profile& profile) const;
-    DataFolders dataFolders() const; ///< the normal one and every account's, used or not
+    /// The normal one and every account's, used or not.
+    DataFolders dataFolders(Unreadable unreadable = Unreadable::fails) const;
     bool desktopDataInUse(const std::filesystem::path& folder) const;
     std::vector<ClaudeApp::Instance> claudeInstances() const;
     std::optional<ClaudeApp::Instance> instance(const Profile& usingAccountOf) const;
@@ -144,9 +149,11 @@ public:
     void seedDesktopData(const Profile& profile, const Profile& source);
 
     // Code sessions (Sessions.cpp)
-    std::vector<CodeSession> codeSessions(const Profile& profile) const; ///< newest activity first
-    TranscriptIndex transcripts(const Profile& profile) const;
-    int pendingSessionCount(const Profile& profile) const;
+    /// Newest activity first.
+    std::vector<CodeSession> codeSessions(const Profile& profile,
+                                          Unreadable unreadable = Unreadable::leftOut) const;
+    TranscriptIndex transcripts(const Profile& profile, Unreadable unreadable = Unreadable::leftOut) const;
+    int pendingSessionCount(const Profile& profile) const; ///< throws if the queue can't be read
     ImportCount importSessions(const std::vector<CodeSession>& sessions, const Profile& source,
                                const Profile& target);
     int flushPendingSessions(const Profile& profile); ///< returns how many were placed
@@ -198,7 +205,7 @@ private:
                         SyncReport& report);
     void requireOwnFolder(Component component, const Profile& profile) const;
     std::filesystem::path freePlace(const std::string& name, const Profile& in, Component component);
-    void addCopy(const ComponentItem& item, const Profile& to, Component component, FileBatch& batch);
+    void addCopy(const std::filesystem::path& item, const Profile& to, Component component, FileBatch& batch);
     void setCollectionMode(ShareMode mode, Component component, Profile& profile, const Profile& source);
     void copyMissing(Component component, const Profile& to, const Profile& from, FileBatch& batch);
     std::string profileNote(const Profile& profile) const;
@@ -210,7 +217,8 @@ private:
     void swapLiveData(const std::string& owner);
     void returnBuiltInData(const std::string& owner);
 
-    std::vector<std::filesystem::path> sessionFolders(const std::filesystem::path& dataDir) const;
+    std::vector<std::filesystem::path> sessionFolders(const std::filesystem::path& dataDir,
+                                                      Unreadable unreadable) const;
     std::optional<std::filesystem::path> sessionPlace(const std::filesystem::path& dataDir) const;
     std::vector<std::string> queuedSessions(const Profile& profile) const;
     void copyTranscripts(const CodeSession& session, const TranscriptIndex& from, const Profile& target,

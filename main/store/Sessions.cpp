@@ -23,12 +23,6 @@ bool isHidden(const std::string& name) {
     return name.starts_with('.');
 }
 
-fs::file_time_type modDate(const fs::path& path) {
-    std::error_code failure;
-    const auto time = fs::last_write_time(path, failure);
-    return failure ? fs::file_time_type::min() : time;
-}
-
 std::optional<CodeSession> parseSession(const std::string& file, SessionRecordReader& reader) {
     auto record = reader.read(file);
     if (!record || record->isArchived)
@@ -51,16 +45,21 @@ std::optional<CodeSession> parseSession(const std::string& file, SessionRecordRe
 } // namespace
 
 /// The folders that hold session records, the most recently changed first.
-std::vector<fs::path> ProfileStore::sessionFolders(const fs::path& dataDir) const {
+std::vector<fs::path> ProfileStore::sessionFolders(const fs::path& dataDir, Unreadable unreadable) const {
     std::vector<std::pair<fs::file_time_type, fs::path>> dated;
     const fs::path top = dataDir / kSessionsFolder;
-    for (const std::string& account : m_files.entriesIfReadable(top)) {
+    for (const std::string& account : m_files.entriesIfPresent(top, unreadable)) {
         if (isHidden(account))
             continue;
-        for (const std::string& organisation : m_files.entriesIfReadable(top / account)) {
+        for (const std::string& organisation : m_files.entriesIfPresent(top / account, unreadable)) {
             const fs::path folder = top / account / organisation;
-            if (!isHidden(organisation) && m_files.isFolder(folder))
-                dated.emplace_back(modDate(folder), folder);
+            try {
+                if (!isHidden(organisation) && m_files.isFolder(folder))
+                    dated.emplace_back(fs::last_write_time(folder), folder);
+            } catch (const fs::filesystem_error&) {
+                if (unreadable == Unreadable::fails)
+                    throw;
+            }
         }
     }
     std::stable_sort(dated.begin(), dated.end(),
@@ -71,17 +70,20 @@ std::vector<fs::path> ProfileStore::sessionFolders(const fs::path& dataDir) cons
     return folders;
 }
 
-std::vector<CodeSession> ProfileStore::codeSessions(const Profile& profile) const {
+std::vector<CodeSession> ProfileStore::codeSessions(const Profile& profile, Unreadable unreadable) const {
     std::vector<CodeSession> sessions;
     SessionRecordReader reader;
-    for (const fs::path& folder : sessionFolders(desktopDataDir(profile))) {
-        const std::vector<std::string> names = m_files.entriesIfReadable(folder);
+    for (const fs::path& folder : sessionFolders(desktopDataDir(profile), unreadable)) {
+        const std::vector<std::string> names = m_files.entriesIfPresent(folder, unreadable);
         sessions.reserve(sessions.size() + names.size());
         for (const std::string& name : names) {
             if (!name.starts_with("local_") || !name.ends_with(".json"))
                 continue;
-            if (auto session = parseSession(folder.native() + "/" + name, reader))
+            const std::string file = folder.native() + "/" + name;
+            if (auto session = parseSession(file, reader))
                 sessions.push_back(std::move(*session));
+            else if (unreadable == Unreadable::fails)
+                static_cast<void>(m_files.readIfPresent(file)); // throws if that was the reason
         }
     }
     const auto activity = [](const CodeSession& session) {
@@ -92,8 +94,8 @@ std::vector<CodeSession> ProfileStore::codeSessions(const Profile& profile) cons
     return sessions;
 }
 
-TranscriptIndex ProfileStore::transcripts(const Profile& profile) const {
-    return TranscriptIndex(profile.configDir);
+TranscriptIndex ProfileStore::transcripts(const Profile& profile, Unreadable unreadable) const {
+    return TranscriptIndex(profile.configDir, unreadable);
 }
 
 int ProfileStore::pendingSessionCount(const Profile& profile) const {
@@ -105,12 +107,12 @@ int ProfileStore::pendingSessionCount(const Profile& profile) const {
 /// The names in the queue; none if it is a link, which leads to what isn't the profile's.
 std::vector<std::string> ProfileStore::queuedSessions(const Profile& profile) const {
     const fs::path queue = profile.configDir / kQueueFolder;
-    return m_files.isFolder(queue) ? m_files.entriesIfReadable(queue) : std::vector<std::string>();
+    return m_files.isFolder(queue) ? m_files.entriesIfPresent(queue) : std::vector<std::string>();
 }
 
 /// The folder for new session records: the most recently changed one that no link leads to, if there is any.
 std::optional<fs::path> ProfileStore::sessionPlace(const fs::path& dataDir) const {
-    for (const fs::path& folder : sessionFolders(dataDir)) {
+    for (const fs::path& folder : sessionFolders(dataDir, Unreadable::fails)) {
         if (!m_files.linkBelow(dataDir, folder))
             return folder;
     }
@@ -142,7 +144,7 @@ ImportCount ProfileStore::importSessions(const std::vector<CodeSession>& session
     const std::optional<fs::path> open = sessionPlace(data);
     const bool canPlace = open && !desktopDataInUse(data);
     const fs::path destination = canPlace ? *open : target.configDir / kQueueFolder;
-    const TranscriptIndex index = transcripts(source);
+    const TranscriptIndex index = transcripts(source, Unreadable::fails);
 
     for (const CodeSession& session : sessions) {
         if (!sameAccount)

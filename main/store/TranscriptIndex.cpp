@@ -5,16 +5,14 @@
 
 #include <algorithm>
 
-#include "platform/files/FileManager.h"
-
 namespace selvane {
 
-TranscriptIndex::TranscriptIndex(const std::filesystem::path& configDir) {
+TranscriptIndex::TranscriptIndex(const std::filesystem::path& configDir, Unreadable unreadable) {
     constexpr std::string_view kExtension = ".jsonl";
     const FileManager files;
     const std::filesystem::path projects = configDir / "projects";
-    for (const std::string& project : files.entriesIfReadable(projects)) {
-        for (const std::string& name : files.entriesIfReadable(projects / project)) {
+    for (const std::string& project : files.entriesIfPresent(projects, unreadable)) {
+        for (const std::string& name : files.entriesIfPresent(projects / project, unreadable)) {
             if (name.ends_with(kExtension))
                 m_folderOfSession.emplace(name.substr(0, name.size() - kExtension.size()), m_folders.size());
         }

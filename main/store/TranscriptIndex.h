@@ -10,14 +10,15 @@
 #include <vector>
 
 #include "model/CodeSession.h"
+#include "platform/files/FileManager.h"
 
 namespace selvane {
 
 /// Where a configuration folder's transcripts are. It reads the folders once, so lookups need no file access.
 class TranscriptIndex {
 public:
-    /// Reads `configDir`/projects; whatever can't be read counts as empty.
-    explicit TranscriptIndex(const std::filesystem::path& configDir);
+    /// Reads `configDir`/projects.
+    TranscriptIndex(const std::filesystem::path& configDir, Unreadable unreadable);
 
     /// The project folder that holds a Claude Code session's transcript: the first one listed.
     std::optional<std::filesystem::path> transcriptFolder(const std::string& cliSessionID) const;

@@ -36,7 +36,10 @@ TEST(CommandUnprivileged, WhatCannotBeReadIsLeftOutOrNamed) {
     writeFile(secret, "x");
     writeFile(state, "{}");
     writeFile(records / "local_1.json", R"({"sessionId": "s1"})");
+    writeFile(home / ".claude/CLAUDE.md", "regole");
+    writeFile(home / ".claude/projects/p/c1.jsonl", "");
     home.output({"create", "Lavoro", "--from", "default"});
+    const fs::path own = home / ".claude-profiles/lavoro";
     const auto denied = [](const fs::path& path) { return failure(path.string() + ": permesso negato"); };
     const struct {
         fs::path closed;
@@ -49,6 +52,22 @@ TEST(CommandUnprivileged, WhatCannotBeReadIsLeftOutOrNamed) {
         {secret, {"create", "A", "--from", "default", "--mode", "skills=separate"}, denied(secret)},
         {secret, {"set-mode", "lavoro", "skills=separate"}, denied(secret)},
         {state, {"create", "A", "--from", "default"}, denied(state)},
+        // Nobody knows what is there, so nothing is taken for empty or missing.
+        {home / ".claude/skills",
+         {"create", "A", "--from", "default", "--mode", "skills=separate"},
+         denied(home / ".claude/skills")},
+        {own / "skills", {"set-mode", "lavoro", "skills=none"}, denied(own / "skills")},
+        {home / ".claude", {"sync", "lavoro"}, denied(home / ".claude/skills")},
+        {home / ".claude/CLAUDE.md",
+         {"set-mode", "lavoro", "CLAUDE.md=separate"},
+         denied(home / ".claude/CLAUDE.md")},
+        {own / "CLAUDE.md", {"set-mode", "lavoro", "CLAUDE.md=separate"}, denied(own / "CLAUDE.md")},
+        {records / "local_1.json",
+         {"import-sessions", "default", "lavoro"},
+         denied(records / "local_1.json")},
+        {home / ".claude/projects/p",
+         {"import-sessions", "default", "lavoro"},
+         denied(home / ".claude/projects/p")},
     };
     const auto before = treeOf(home.path());
     for (const auto& [path, arguments, outcome] : cases) {
@@ -58,6 +77,16 @@ TEST(CommandUnprivileged, WhatCannotBeReadIsLeftOutOrNamed) {
         }
         EXPECT_EQ(treeOf(home.path()), before);
     }
+    const fs::path marker = home / ".claude-profiles/.desktop-data/.live";
+    writeFile(marker, "lavoro");
+    writeFile(marker.parent_path() / "default/config.json", "{}");
+    const auto swapped = treeOf(home.path());
+    {
+        const Closed closed(marker, fs::perms::none);
+        EXPECT_EQ(home.runUnprivileged({"restore-desktop"}), denied(marker));
+    }
+    EXPECT_EQ(treeOf(home.path()), swapped);
+    fs::remove_all(marker.parent_path());
     // zip itself silently skips an unreadable folder.
     for (const fs::path& path : {secret, secret.parent_path()}) {
         const Closed closed(path, fs::perms::none);

@@ -141,9 +141,21 @@ TEST(Creation, create_Selection_ExcludesTheOtherItems) {
     EXPECT_TRUE(home.store.sync(*home.store.profile(profile.id)).isEmpty());
 }
 
+TEST(Creation, create_DanglingItems_AreLeftOutAndListed) {
+    Home home;
+    writeTree(home / ".claude/skills", {{"uno.md", "uno"}, {"perso.md", "-> /nowhere"}, {"x.md", "-> x.md"}});
+    NewProfile wanted = request("Lavoro", home.builtIn());
+    wanted.modes = kSeparate;
+    wanted.selection = {{Component::skills, {"uno.md", "perso.md"}}};
+    const Profile profile = home.store.create(wanted);
+    EXPECT_EQ(treeOf(profile.url(Component::skills)), (Tree{{"uno.md", "uno"}}));
+    EXPECT_EQ(home.store.uncopiedItems(profile), std::vector<std::string>{"Skill: perso.md"});
+    EXPECT_TRUE(home.store.uncopiedItems(home.make("Unito")).empty());
+}
+
 TEST(Creation, create_FailureMidway_LeavesNoTrace) {
     for (const auto& [file, content] :
-         Tree{{".claude.json", "{"}, {".claude/rules/rotto", "-> x"}, {".claude/plugins", "x"}}) {
+         Tree{{".claude.json", "{"}, {".claude/rules", "-> /nowhere"}, {".claude/plugins", "x"}}) {
         Home home;
         writeTree(home.path, {{".claude/skills/uno.md", "uno"}, {file, content}});
         const Tree before = treeOf(home.path);

@@ -100,6 +100,19 @@ TEST_F(Links, sync_OtherEntries_AreLeftAlone) {
     EXPECT_TRUE(home.store.sync(profile).isEmpty());
 }
 
+TEST_F(Links, changes_WhileTheSourceIsOutOfReach_KeepTheLinks) {
+    const Tree before = skills();
+    fs::rename(home / ".claude", home / "smontata");
+    EXPECT_TRUE(home.store.sync(profile).isEmpty());
+    fs::create_directory(home / ".claude"); // as an empty mount point
+    EXPECT_TRUE(home.store.sync(profile).isEmpty());
+    EXPECT_THROW(setMode(separate), fs::filesystem_error);
+    fs::create_directory_symlink("/nowhere", home / ".claude/skills");
+    EXPECT_THROW(home.store.sync(profile), fs::filesystem_error);
+    EXPECT_EQ(skills(), before);
+    EXPECT_EQ(home.store.profile("lavoro"), profile);
+}
+
 TEST_F(Links, setMode_Collection_MakesEachTransition) {
     const Tree kept = {{"mio", "mio"}, {"altrove", "-> /nowhere"}};
     writeTree(own(""), kept);
@@ -272,18 +285,18 @@ TEST_F(Links, remove_ThenImport_ExcludesAndTakesBack) {
 TEST_F(Links, changes_OfAProfile_LockItOnce) {
     writeTree(home.path,
               {{".claude/settings.json", "{}"}, {".claude/plugins/a", ""}, {".claude.json", "{}"}});
-    const Profile source = home.builtIn();
+    const Profile builtIn = home.builtIn();
     const ComponentItem linked = item("due");
-    ComponentItem fresh = linked;
-    fresh.name = "nuovo";
+    const ComponentItem uno = home.store.items(Component::skills, builtIn).back();
+    fs::remove(own("uno.md"));
     Paths locked;
     const WaitWatch watch(WaitWatch::For::lock, [&](const fs::path& folder) { locked.push_back(folder); });
-    home.store.importSettings(profile, source);
-    home.store.importPlugins(profile, source);
-    home.store.importMCP(profile, source);
-    home.store.reimport(Component::settings, profile, source);
+    home.store.importSettings(profile, builtIn);
+    home.store.importPlugins(profile, builtIn);
+    home.store.importMCP(profile, builtIn);
+    home.store.reimport(Component::settings, profile, builtIn);
     home.store.makeOwn(linked, profile);
-    home.store.addItem(fresh, profile, Component::skills, true);
+    home.store.addItem(uno, profile, Component::skills, true);
     EXPECT_EQ(locked, Paths(6, profile.configDir));
     takeTrash();
 }

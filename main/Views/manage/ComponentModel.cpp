@@ -67,9 +67,12 @@ ComponentModel::Content ComponentModel::read(const ProfileStore& store, const Pr
     }
     const FileManager files;
     const fs::path place = profile.url(component);
-    content.exists = files.existsFollowingLinks(place);
-    if (const auto target = files.linkTarget(place))
-        content.linkTarget = target->string();
+    try {
+        content.exists = files.isPresent(place);
+        if (const auto target = files.linkTarget(place))
+            content.linkTarget = target->string();
+    } catch (const fs::filesystem_error&) { // shown as missing
+    }
     if (kind(component) == ComponentKind::servers)
         content.serverCount = serversIn(place);
     return content;
@@ -185,8 +188,7 @@ void ComponentModel::setMode(int index) {
 void ComponentModel::reveal() {
     if (!m_profile)
         return;
-    const fs::path item = place();
-    m_app->reveal(FileManager().exists(item) ? item : m_profile->configDir);
+    m_app->perform([this] { m_app->reveal(FileManager().exists(place()) ? place() : m_profile->configDir); });
 }
 
 void ComponentModel::open() {

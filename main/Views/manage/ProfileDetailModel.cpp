@@ -146,8 +146,13 @@ QString ProfileDetailModel::account() const {
         return tr("Usa l'account di «%1»")
             .arg(qtText(owner == nullptr ? m_profile->accountOwner() : owner->meta.name));
     }
-    return m_app->store().hasDesktopData(*m_profile) ? tr("Cartella dati propria nel launcher") + open
-                                                     : tr("Account proprio — login al primo avvio");
+    bool hasData = true;
+    try {
+        hasData = m_app->store().hasDesktopData(*m_profile);
+    } catch (const std::exception&) { // it may well be there
+    }
+    return hasData ? tr("Cartella dati propria nel launcher") + open
+                   : tr("Account proprio — login al primo avvio");
 }
 
 /// The other profiles with an account that this one can use, always including the one in use.

@@ -24,9 +24,11 @@ namespace {
 
 std::optional<struct stat> statusOf(const std::filesystem::path& path) {
     struct stat status = {};
-    if (::lstat(path.c_str(), &status) != 0)
-        return std::nullopt;
-    return status;
+    if (::lstat(path.c_str(), &status) == 0)
+        return status;
+    if (!files::meansMissing(errno))
+        fail("look up", path, errno);
+    return std::nullopt;
 }
 
 Descriptor openFolder(const std::filesystem::path& folder) {
@@ -71,16 +73,11 @@ bool FileManager::exists(const std::filesystem::path& path) const {
     return statusOf(path).has_value();
 }
 
-bool FileManager::existsFollowingLinks(const std::filesystem::path& path) const {
-    struct stat status = {};
-    return ::stat(path.c_str(), &status) == 0;
-}
-
 bool FileManager::isPresent(const std::filesystem::path& path) const {
     struct stat status = {};
     if (::stat(path.c_str(), &status) == 0)
         return true;
-    if (errno != ENOENT && errno != ENOTDIR && errno != ELOOP)
+    if (!files::meansMissing(errno))
         fail("look up", path, errno);
     return false;
 }
@@ -98,6 +95,8 @@ bool FileManager::isRegularFile(const std::filesystem::path& path) const {
 std::optional<std::filesystem::path> FileManager::linkTarget(const std::filesystem::path& path) const {
     std::array<char, PATH_MAX> text;
     const ssize_t size = ::readlink(path.c_str(), text.data(), text.size());
+    if (size < 0 && errno != EINVAL && !files::meansMissing(errno))
+        fail("look up", path, errno);
     if (size < 0)
         return std::nullopt;
     return std::filesystem::path(std::string_view(text.data(), static_cast<std::size_t>(size)));
@@ -119,10 +118,13 @@ std::vector<std::string> FileManager::entries(const std::filesystem::path& folde
     return names;
 }
 
-std::vector<std::string> FileManager::entriesIfReadable(const std::filesystem::path& folder) const {
+std::vector<std::string> FileManager::entriesIfPresent(const std::filesystem::path& folder,
+                                                       Unreadable unreadable) const {
     try {
         return entries(folder);
-    } catch (const std::filesystem::filesystem_error&) {
+    } catch (const std::filesystem::filesystem_error& error) {
+        if (unreadable == Unreadable::fails && !files::meansMissing(error.code().value()))
+            throw;
         return {};
     }
 }
@@ -146,10 +148,9 @@ std::optional<std::string> FileManager::readIfPresent(const std::filesystem::pat
     try {
         return read(file, longest);
     } catch (const std::filesystem::filesystem_error& error) {
-        if (error.code() == std::errc::no_such_file_or_directory ||
-            error.code() == std::errc::not_a_directory)
-            return std::nullopt;
-        throw;
+        if (!files::meansMissing(error.code().value()))
+            throw;
+        return std::nullopt;
     }
 }
 

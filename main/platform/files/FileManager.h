@@ -24,6 +24,12 @@ enum class Privacy {
     ownerOnly, ///< the owner at most: for files that can hold secrets
 };
 
+/// What a listing does about what it can't read.
+enum class Unreadable {
+    leftOut, ///< for display
+    fails,   ///< where what is missing from the listing would be lost, hidden or replaced
+};
+
 /// The user's files. Names are bytes; nothing here interprets them.
 ///
 /// Failures throw `std::filesystem::filesystem_error` with the path and the system's error code. New things
@@ -50,31 +56,41 @@ public:
     explicit FileManager(files::DiskSync& written, Progress* progress = nullptr)
         : m_written(&written), m_progress(progress) {}
 
-    /// Whether anything is at `path`, even a dangling link; false on any error.
+    // Whether something is there decides what is changed. So only what is certainly missing counts as
+    // missing; if that can't be determined, for lack of permission or with a broken disk, these throw.
+
+    /// Whether anything is at `path`, even a dangling link.
     bool exists(const std::filesystem::path& path) const;
-    /// Whether something exists after following links; false on any error.
-    bool existsFollowingLinks(const std::filesystem::path& path) const;
-    /// The same, but throws if that can't be determined, for example for lack of permission.
+    /// Whether something exists after following links.
     bool isPresent(const std::filesystem::path& path) const;
     bool isFolder(const std::filesystem::path& path) const;      ///< a real folder, not a link to one
     bool isRegularFile(const std::filesystem::path& path) const; ///< a real file, not a link to one
-
+    /// The permission bits at `path`, without following a link; nothing if nothing is there.
+    std::optional<mode_t> mode(const std::filesystem::path& path) const;
     /// The text of the symbolic link at `path`; nothing if there is no link.
     std::optional<std::filesystem::path> linkTarget(const std::filesystem::path& path) const;
+    /// The first link on the way from `top` down to `folder`, the latter included; nothing if there is none.
+    std::optional<std::filesystem::path> linkBelow(const std::filesystem::path& top,
+                                                   const std::filesystem::path& folder) const;
     /// `path` with all symbolic links resolved. Throws if it doesn't exist.
     std::filesystem::path resolved(const std::filesystem::path& path) const;
 
     /// The names of a folder's entries in listing order, including hidden ones.
     std::vector<std::string> entries(const std::filesystem::path& folder) const;
-    /// The same, but empty if the folder is missing or can't be read.
-    std::vector<std::string> entriesIfReadable(const std::filesystem::path& folder) const;
+    /// The same, but empty if there is no folder, or if it is `Unreadable::leftOut`.
+    std::vector<std::string> entriesIfPresent(const std::filesystem::path& folder,
+                                              Unreadable unreadable = Unreadable::fails) const;
+    /// The same, for display: empty on any failure.
+    std::vector<std::string> entriesIfReadable(const std::filesystem::path& folder) const {
+        return entriesIfPresent(folder, Unreadable::leftOut);
+    }
 
     /// The bytes of a file, following links. Throws unless it is a regular file of at most `longest` bytes.
     std::string read(const std::filesystem::path& file, std::size_t longest = kLongestText) const;
-    /// The same, but nothing if there is no such file.
+    /// The same, but nothing if nothing is there, or only a dangling link.
     std::optional<std::string> readIfPresent(const std::filesystem::path& file,
                                              std::size_t longest = kLongestText) const;
-    /// The same, but nothing on any failure.
+    /// The same, for display: nothing on any failure.
     std::optional<std::string> readIfPossible(const std::filesystem::path& file,
                                               std::size_t longest = kLongestText) const;
     /// Replaces `file` whole or leaves it as it was. The new file keeps the mode of the one it replaces;
@@ -87,8 +103,6 @@ public:
     bool writeIfUnchanged(const std::filesystem::path& file, const std::optional<std::string>& expected,
                           std::string_view bytes) const;
     void setMode(const std::filesystem::path& file, mode_t mode) const;
-    /// The permission bits at `path`, without following a link; nothing on failure.
-    std::optional<mode_t> mode(const std::filesystem::path& path) const;
 
     /// Creates all missing parents too. An existing folder is left as it is.
     void createFolders(const std::filesystem::path& folder, Privacy privacy = Privacy::inherited) const;
@@ -97,9 +111,6 @@ public:
     /// Creates `folder` and what is missing between it and `top`, one of the folders above it, which must
     /// exist. Follows no link below `top`: fails with ENOTDIR if anything but a folder is there.
     void createFoldersBelow(const std::filesystem::path& top, const std::filesystem::path& folder) const;
-    /// The first link on the way from `top` down to `folder`, the latter included; nothing if there is none.
-    std::optional<std::filesystem::path> linkBelow(const std::filesystem::path& top,
-                                                   const std::filesystem::path& folder) const;
     /// Removes a folder if it is empty; a link to one stays. Returns whether it did.
     bool removeEmptyFolder(const std::filesystem::path& folder) const;
     /// Creates a symbolic link whose text is `target`. Fails if anything is at `link`.

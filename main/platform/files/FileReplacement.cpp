@@ -118,7 +118,9 @@ void replaceLinkInSteps(const std::filesystem::path& link, Temporary& temporary)
 void FileManager::write(const std::filesystem::path& file, std::string_view bytes, Privacy privacy) const {
     Temporary temporary(file);
     struct stat old = {};
-    const bool replaces = isAnything(file, old) && S_ISREG(old.st_mode);
+    if (!isAnything(file, old) && !files::meansMissing(errno))
+        fail("write", file, errno);
+    const bool replaces = S_ISREG(old.st_mode);
     const mode_t mode = replaces || privacy == Privacy::ownerOnly ? 0600 : 0644;
     Descriptor open(
         ::open(temporary.path().c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode));

@@ -18,11 +18,6 @@ namespace {
 
 constexpr int kFolderFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
 
-bool isLink(int folder, const char* name) {
-    struct stat status = {};
-    return ::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) == 0 && S_ISLNK(status.st_mode);
-}
-
 } // namespace
 
 OpenFolder::OpenFolder(std::filesystem::path path, Descriptor folder)
@@ -34,29 +29,56 @@ OpenFolder::OpenFolder(const std::filesystem::path& folder)
         fail("open", folder, errno);
 }
 
-std::optional<OpenFolder> OpenFolder::ifReadable(const std::filesystem::path& folder) {
+std::optional<OpenFolder> OpenFolder::ifPresent(const std::filesystem::path& folder) {
     Descriptor open(::open(folder.c_str(), kFolderFlags));
-    return open ? std::optional(OpenFolder(folder, std::move(open))) : std::nullopt;
+    if (open)
+        return OpenFolder(folder, std::move(open));
+    const int error = errno;
+    struct stat status = {};
+    const bool isThere = ::lstat(folder.c_str(), &status) == 0;
+    if (!files::meansMissing(error) || (isThere && S_ISLNK(status.st_mode)))
+        fail("list", folder, error);
+    if (!isThere && !files::meansMissing(errno))
+        fail("list", folder, errno);
+    return std::nullopt;
 }
 
-std::vector<FolderEntry> OpenFolder::entriesIfReadable() const {
+std::vector<FolderEntry> OpenFolder::entries() const {
     std::vector<FolderEntry> entries;
+    std::vector<std::size_t> unknown; // not every file system tells what its entries are
     const int error = files::forEachEntry(m_folder.get(), [&](const char* name, unsigned char type) {
-        const bool link = type == DT_LNK || (type == DT_UNKNOWN && isLink(m_folder.get(), name));
-        entries.push_back({name, link});
+        if (type == DT_UNKNOWN)
+            unknown.push_back(entries.size());
+        entries.push_back({name, type == DT_LNK});
     });
-    return error == 0 ? entries : std::vector<FolderEntry>();
+    if (error != 0)
+        fail("list", m_path, error);
+    for (const std::size_t position : unknown) {
+        struct stat status = {};
+        FolderEntry& entry = entries[position];
+        if (::fstatat(m_folder.get(), entry.name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0 &&
+            errno != ENOENT)
+            fail("list", m_path / entry.name, errno);
+        entry.isLink = S_ISLNK(status.st_mode);
+    }
+    return entries;
 }
 
 std::optional<std::string> OpenFolder::linkTarget(const std::string& name) const {
     std::array<char, PATH_MAX> text;
     const ssize_t size = ::readlinkat(m_folder.get(), name.c_str(), text.data(), text.size());
+    if (size < 0 && errno != EINVAL && !files::meansMissing(errno))
+        fail("look up", m_path / name, errno);
     return size < 0 ? std::nullopt : std::optional(std::string(text.data(), static_cast<std::size_t>(size)));
 }
 
-bool OpenFolder::existsFollowingLinks(const std::string& name) const {
+bool OpenFolder::isPresent(const std::string& name) const {
     struct stat status = {};
-    return ::fstatat(m_folder.get(), name.c_str(), &status, 0) == 0;
+    if (::fstatat(m_folder.get(), name.c_str(), &status, 0) == 0)
+        return true;
+    if (!files::meansMissing(errno))
+        fail("look up", m_path / name, errno);
+    return false;
 }
 
 void OpenFolder::createLink(const std::string& target, const std::string& name) const {

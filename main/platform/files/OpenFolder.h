@@ -25,15 +25,16 @@ class OpenFolder {
 public:
     /// Throws unless it is a folder; a link to one throws too.
     explicit OpenFolder(const std::filesystem::path& folder);
-    /// Follows a link to a folder. Nothing if there is no folder or it can't be read.
-    static std::optional<OpenFolder> ifReadable(const std::filesystem::path& folder);
+    /// Follows a link to a folder. Nothing if there is no folder. A link that leads nowhere throws: what it
+    /// leads to may be on a disk that isn't there just now.
+    static std::optional<OpenFolder> ifPresent(const std::filesystem::path& folder);
 
-    /// In listing order, including hidden ones; empty on failure.
-    std::vector<FolderEntry> entriesIfReadable() const;
+    /// In listing order, including hidden ones.
+    std::vector<FolderEntry> entries() const;
     /// The text of the symbolic link `name`; nothing if there is no link.
     std::optional<std::string> linkTarget(const std::string& name) const;
-    /// Whether something exists after following links; false on any error.
-    bool existsFollowingLinks(const std::string& name) const;
+    /// Whether something exists after following links. Throws if that can't be determined.
+    bool isPresent(const std::string& name) const;
 
     /// Creates a symbolic link whose text is `target`. Fails if the name is taken.
     void createLink(const std::string& target, const std::string& name) const;
