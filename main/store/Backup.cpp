@@ -192,7 +192,7 @@ BackupResult ProfileStore::backup(BackupScope scope, const fs::path& archive) {
     if (scope.contains(BackupScope::profiles())) {
         ownFolders.push_back(desktopStore());
         for (const std::string& name : m_files.entriesIfReadable(m_root)) {
-            if (m_files.existsFollowingLinks(m_root / name / kMetaFileName))
+            if (m_files.isPresent(m_root / name / kMetaFileName))
                 ownFolders.push_back(m_root / name);
         }
     }

@@ -39,8 +39,7 @@ fs::path ProfileStore::desktopFolder(const std::string& owner) const {
 }
 
 std::string ProfileStore::desktopLiveOwner() const {
-    const auto content =
-        m_files.readIfPresent(desktopStore() / kLiveMarkerName, FileManager::kLongestRecord);
+    const auto content = m_files.readIfPresent(desktopStore() / kLiveMarkerName, FileManager::kLongestRecord);
     const std::string owner(text::trimmed(content.value_or("")));
     return owner.empty() || !isUtf8(owner) ? std::string(Profile::kDefaultId) : owner;
 }

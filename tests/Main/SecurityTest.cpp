@@ -195,7 +195,7 @@ TEST_F(Hostile, WhatRootDoesInTheHomeOfAUserStaysTheirs) {
         GTEST_SKIP() << "takes root";
     writeFile(home / ".claude/skills/pdf/SKILL.md", "testo");
     home.output({"create", "Lavoro", "--from", "default"});
-    for (const std::string program : {"selvane", "libselvane-services.so"})
+    for (const std::string program : {"selvane", "libselvane-services.so", "libselvane-archives.so"})
         fs::copy_file(fs::path(SELVANE_EXECUTABLE).parent_path() / program, home / program);
     home.runUnprivileged({"list"}); // gives the user the whole home
     const Outcome outcome = home.shell(R"(

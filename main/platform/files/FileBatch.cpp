@@ -15,16 +15,12 @@ namespace selvane {
 
 using files::Descriptor;
 using files::fail;
+using files::isLink;
 
 namespace {
 
 /// With so many, their names take about a megabyte.
 constexpr std::size_t kMost = 4096;
-
-bool isLink(const std::filesystem::path& path) {
-    struct stat status = {};
-    return ::lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
-}
 
 /// What has become of a replacement: the error, if any, and whether something of the user's has the temporary
 /// name.

@@ -21,6 +21,7 @@ using files::Descriptor;
 using files::fail;
 using files::inherit;
 using files::isAnything;
+using files::isLink;
 using files::newSibling;
 using files::requireOutside;
 using files::Temporary;
@@ -30,11 +31,6 @@ namespace {
 /// A path that ends in "/" names a folder; its siblings are those of that folder.
 std::filesystem::path withoutEndingSlash(const std::filesystem::path& path) {
     return path.has_filename() ? path : path.parent_path();
-}
-
-bool isLink(const std::filesystem::path& path) {
-    struct stat status = {};
-    return isAnything(path, status) && S_ISLNK(status.st_mode);
 }
 
 void copyBeside(const std::filesystem::path& from, const std::filesystem::path& to,

@@ -36,7 +36,7 @@ Identity identityOf(const struct stat& status) {
 }
 
 /// An open folder; none if there is nothing of that name or it isn't a folder.
-files::Descriptor openFolder(const std::filesystem::path& folder) {
+files::Descriptor folderToLock(const std::filesystem::path& folder) {
     files::Descriptor open(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!open && errno != ENOENT && errno != ENOTDIR)
         files::fail("lock", folder, errno);
@@ -76,7 +76,7 @@ bool isAt(const std::filesystem::path& path, const struct stat& folder) {
 FolderLock::FolderLock(const std::filesystem::path& folder, std::chrono::milliseconds patience) {
     constexpr auto kPause = std::chrono::milliseconds(5);
     const auto deadline = std::chrono::steady_clock::now() + patience;
-    while ((m_folder = openFolder(folder))) {
+    while ((m_folder = folderToLock(folder))) {
         const struct stat status = statusOf(m_folder.get(), folder);
         if (std::find(heldHere.begin(), heldHere.end(), identityOf(status)) != heldHere.end())
             throw LauncherError(text::singleLine(folder.string()) +
@@ -104,7 +104,7 @@ FolderLock::~FolderLock() {
 
 std::optional<FolderLock> FolderLock::ifFree(const std::filesystem::path& folder) {
     FolderLock lock;
-    lock.m_folder = openFolder(folder);
+    lock.m_folder = folderToLock(folder);
     if (!lock.m_folder)
         return std::nullopt;
     const struct stat status = statusOf(lock.m_folder.get(), folder);

@@ -95,6 +95,11 @@ bool isAnything(const std::filesystem::path& path, struct stat& status) {
     return ::lstat(path.c_str(), &status) == 0;
 }
 
+bool isLink(const std::filesystem::path& path) {
+    struct stat status = {};
+    return isAnything(path, status) && S_ISLNK(status.st_mode);
+}
+
 void inherit(int file, const std::filesystem::path& old, mode_t mode, Privacy privacy) {
     dropInheritedAccess(file);
     std::optional<mode_t> known = mode & ALLPERMS;

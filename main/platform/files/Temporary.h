@@ -50,6 +50,8 @@ void build(const Temporary& temporary, const std::filesystem::path& target,
 
 /// Whether there is anything at `path`, even a dangling link, which `status` then describes; else with errno.
 bool isAnything(const std::filesystem::path& path, struct stat& status);
+/// Whether a symbolic link is at `path`; false if that can't be told.
+bool isLink(const std::filesystem::path& path);
 
 /// Gives a new file the mode, access list and attributes of the one it replaces.
 void inherit(int file, const std::filesystem::path& old, mode_t mode, Privacy privacy);
