@@ -124,10 +124,10 @@ int main(int argc, char** argv) {
     const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
     WindowsModule windows;
     try {
-        becomeOwnerOf(homeFolder(currentEnvironment()));
         const auto answer = arguments.empty() ? std::nullopt : CLI::answer(arguments.front());
         if (answer)
             return writeAll(STDOUT_FILENO, *answer) ? 0 : 1;
+        becomeOwnerOf(homeFolder(currentEnvironment()));
         if (!arguments.empty() && CLI::isCommand(arguments.front()))
             return runCommand(arguments, windows);
         return windows.runWindows(argc, argv);

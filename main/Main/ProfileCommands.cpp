@@ -63,10 +63,11 @@ void list(const Call& call) {
 void create(const Call& call) {
     requireArguments(call, 2);
     const NewProfile request = newProfile(call);
-    Progress progress;
+    Progress own;
+    Progress& progress = call.store.progress() != nullptr ? *call.store.progress() : own;
     Interruption interruption(progress);
     try {
-        call.out << call.store.create(request, &progress).id << '\n';
+        call.out << ProfileStore(call.store, progress).create(request).id << '\n';
     } catch (...) { // an interrupted profile is removed by now
         interruption.endIfRequested();
         throw;

@@ -105,20 +105,18 @@ void ProfileStore::completeFolder(const Profile& profile) {
     m_files.move(unfinished, profile.configDir / kMetaFileName);
 }
 
-Profile ProfileStore::create(const NewProfile& request, Progress* progress) {
+Profile ProfileStore::create(const NewProfile& request) {
     const std::string name = checkedName(request.name);
     if (request.account && !Profile::isPossibleId(*request.account))
         throw LauncherError("Account non valido: " + text::singleLine(*request.account));
     auto [profile, lock] = createFolder(request, name);
-    if (progress == nullptr)
-        progress = m_progress;
     try {
         files::DiskSync written;
-        fill(profile, request, FileManager(written, progress));
+        fill(profile, request, FileManager(written, m_progress));
         writeProfileNote(profile);
         // The record comes last: without it, the folder is no profile.
         written.waitFor(profile.configDir);
-        if (progress != nullptr && progress->isCancelled())
+        if (m_progress != nullptr && m_progress->isCancelled())
             throw fs::filesystem_error("create", profile.configDir,
                                        std::make_error_code(std::errc::operation_canceled));
         completeFolder(profile);

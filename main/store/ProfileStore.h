@@ -65,6 +65,7 @@ public:
     ProfileStore(const Environment& environment, const ClaudeApp& claude);
     /// The same profiles, for one long operation: what is copied is told to `progress`, which can cancel it.
     ProfileStore(const ProfileStore& other, Progress& progress);
+    Progress* progress() const { return m_progress; } ///< null if it tells nobody
 
     // Locations (ProfileStore.cpp)
     const std::filesystem::path& home() const { return m_home; }
@@ -96,9 +97,9 @@ public:
     bool exists(const std::filesystem::path& path) const { return m_files.exists(path); }
 
     // Creation and deletion (Creation.cpp, Imports.cpp, Deletion.cpp)
-    /// On failure, and when `progress` is cancelled, removes what it created, unless only seeding the
+    /// On failure, and when it is cancelled, removes what it created, unless only seeding the
     /// account's data failed. What a killed run has left makes way for the next profile of that name.
-    Profile create(const NewProfile& request, Progress* progress = nullptr);
+    Profile create(const NewProfile& request);
     /// Copies a component that is copied as a whole again; what the profile had of it goes to the Trash.
     void reimport(Component component, const Profile& to, const Profile& from);
     void importSettings(const Profile& to, const Profile& from) { reimport(Component::settings, to, from); }
