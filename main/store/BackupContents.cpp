@@ -32,8 +32,8 @@ BackupContents::BackupContents(const ZipList& list, fs::path home) : m_home(std:
     }
     const auto name = [](const Expected& entry) { return archivedName(entry.path); };
     std::ranges::sort(m_entries, {}, name);
-    const auto repeated = std::ranges::unique(m_entries, {}, name);
-    m_entries.erase(repeated.begin(), repeated.end());
+    const auto areSame = [&](const Expected& a, const Expected& b) { return name(a) == name(b); };
+    m_entries.erase(std::unique(m_entries.begin(), m_entries.end(), areSame), m_entries.end());
 }
 
 void BackupContents::add(const std::string& top, const ZipList& list) {
@@ -86,8 +86,7 @@ std::vector<std::string> BackupContents::missing() const {
             paths.push_back(entry.path);
     }
     std::ranges::sort(paths);
-    const auto repeated = std::ranges::unique(paths);
-    paths.erase(repeated.begin(), repeated.end());
+    paths.erase(std::unique(paths.begin(), paths.end()), paths.end());
     return paths;
 }
 

@@ -127,9 +127,14 @@ void FileManager::write(const std::filesystem::path& file, std::string_view byte
     if (replaces)
         inherit(open.get(), file, old.st_mode, privacy);
     // A power cut must not leave the name with half the content.
-    int error = m_written != nullptr ? m_written->add(std::move(open)) : files::syncOne(open.get());
-    if (const int closing = open.closeReporting(); error == 0)
-        error = closing;
+    int error = 0;
+    if (m_written != nullptr) {
+        error = m_written->add(std::move(open));
+    } else {
+        error = files::syncOne(open.get());
+        if (const int closing = open.closeReporting(); error == 0)
+            error = closing;
+    }
     if (error == 0 && ::rename(temporary.path().c_str(), file.c_str()) != 0)
         error = errno;
     if (error != 0)

@@ -3,6 +3,7 @@
 
 #include "platform/process/ProcInfo.h"
 
+#include <fcntl.h>
 #include <sys/sysctl.h>
 #include <unistd.h>
 
