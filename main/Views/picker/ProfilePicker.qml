@@ -143,6 +143,8 @@ FocusScope {
     }
 
     DamagedProfiles {
+        id: damaged
+
         x: view.columnLeft
         y: strip.y + strip.height - Theme.picker.stripSpare + Theme.space8
         width: view.columnWidth
@@ -150,6 +152,7 @@ FocusScope {
         app: view.app
     }
     PickerHint {
+        visible: !view.isCompact || !damaged.visible // a small window has no room for both
         x: view.columnLeft
         y: view.height - view.places.footer - height
     }
