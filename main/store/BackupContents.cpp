@@ -75,7 +75,8 @@ bool BackupContents::isMissing(const Expected& entry) const {
         return errno != ENOENT && errno != ENOTDIR;
     if (!entry.archivedSize)
         return true;
-    const auto [least, most] = std::minmax(entry.size, static_cast<std::uint64_t>(now.st_size));
+    const auto size = static_cast<std::uint64_t>(now.st_size);
+    const auto [least, most] = std::minmax(entry.size, size);
     return *entry.archivedSize < least || *entry.archivedSize > most;
 }
 

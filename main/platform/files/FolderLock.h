@@ -16,12 +16,13 @@ namespace selvane {
 /// if the file system has no locks.
 class FolderLock {
 public:
-    /// How long an operation waits for others.
-    static constexpr std::chrono::milliseconds kPatience = std::chrono::seconds(10);
+    /// How long an operation waits for others. Only tests change it.
+    static inline std::chrono::milliseconds usualPatience = std::chrono::seconds(10);
 
     /// Waits while somebody else has locked the folder, at most for `patience`; then throws a `LauncherError`
     /// that names them. If this thread has already locked it, perhaps under another name, throws at once.
-    explicit FolderLock(const std::filesystem::path& folder, std::chrono::milliseconds patience = kPatience);
+    explicit FolderLock(const std::filesystem::path& folder,
+                        std::chrono::milliseconds patience = usualPatience);
     FolderLock(FolderLock&& other) noexcept = default;
     FolderLock& operator=(FolderLock&& other) = delete;
     ~FolderLock();
