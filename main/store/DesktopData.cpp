@@ -209,6 +209,10 @@ void ProfileStore::returnBuiltInData(const std::string& owner) {
         m_files.createFolders(normal.parent_path());
         m_files.move(builtIn, normal);
     } catch (const fs::filesystem_error&) {
+        // The data may be back, and only waiting for the disk has failed: then the next run has nothing to
+        // do.
+        if (m_files.exists(normal) && !m_files.exists(builtIn))
+            throw;
         try {
             if (!m_files.exists(marker))
                 m_files.write(marker, owner);
