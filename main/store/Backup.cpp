@@ -108,6 +108,20 @@ void requireUsable(const fs::path& target, const std::vector<fs::path>& sources)
         throw fs::filesystem_error("archive folder", folder, std::error_code(errno, std::generic_category()));
 }
 
+/// The names in a folder; none if it isn't there or can't be read: then zip can't read it either, and it
+/// counts as skipped.
+std::vector<std::string> entriesToSave(const fs::path& folder) {
+    try {
+        return FileManager().entries(folder);
+    } catch (const fs::filesystem_error& failure) {
+        if (failure.code() == std::errc::permission_denied ||
+            failure.code() == std::errc::no_such_file_or_directory ||
+            failure.code() == std::errc::not_a_directory)
+            return {};
+        throw;
+    }
+}
+
 int runZip(const std::vector<std::string>& arguments, Environment environment, const fs::path& folder) {
     // zip reads more options from these, such as "-m", which deletes what it has stored.
     environment.erase("ZIP");
@@ -163,9 +177,11 @@ std::vector<fs::path> ProfileStore::backupSources(BackupScope scope) const {
 /// The folders with Claude Desktop data among the sources and inside them.
 std::vector<fs::path> ProfileStore::desktopFolders(const std::vector<fs::path>& in) const {
     std::vector<fs::path> folders = {liveDesktopDir()};
-    for (const std::string& account : m_files.entriesIfReadable(desktopStore())) {
+    for (const std::string& account : entriesToSave(desktopStore())) {
         std::error_code failure;
-        if (Profile::isPossibleId(account) && fs::is_directory(desktopStore() / account, failure))
+        const fs::file_type type = fs::status(desktopStore() / account, failure).type();
+        const bool isFolder = type == fs::file_type::directory || type == fs::file_type::none;
+        if (Profile::isPossibleId(account) && isFolder)
             folders.push_back(desktopStore() / account);
     }
     std::erase_if(folders, [&](const fs::path& folder) {
@@ -191,8 +207,10 @@ BackupResult ProfileStore::backup(BackupScope scope, const fs::path& archive) {
     std::vector<fs::path> ownFolders = dataFolders;
     if (scope.contains(BackupScope::profiles())) {
         ownFolders.push_back(desktopStore());
-        for (const std::string& name : m_files.entriesIfReadable(m_root)) {
-            if (m_files.isPresent(m_root / name / kMetaFileName))
+        for (const std::string& name : entriesToSave(m_root)) {
+            std::error_code failure;
+            const fs::file_type record = fs::status(m_root / name / kMetaFileName, failure).type();
+            if (record != fs::file_type::not_found)
                 ownFolders.push_back(m_root / name);
         }
     }

@@ -41,13 +41,20 @@ void follow(const std::string& link, ZipList& list) {
     list.exclusions.emplace_back(link + "/");
 }
 
+/// Whether a link leads nowhere. One that can't be followed for another reason may well lead to something,
+/// which must not be left out unnoticed.
+bool isDangling(const std::error_code& failure) {
+    return failure == std::errc::no_such_file_or_directory || failure == std::errc::not_a_directory ||
+           failure == std::errc::too_many_symbolic_link_levels;
+}
+
 /// For a source that is a link, the user wants to keep what it leads to.
 void addTarget(const fs::path& link, const fs::path& home, ZipList& list) {
     std::error_code failure;
     const fs::path target = fs::canonical(link, failure);
-    if (failure)
+    if (isDangling(failure))
         return;
-    if (fs::is_directory(target)) {
+    if (failure || fs::is_directory(target)) {
         follow(list.paths.back(), list);
         list.paths.back() += '/';
     } else {
@@ -65,9 +72,10 @@ void addLinked(const fs::path& folder, const std::vector<fs::path>& sources, con
     std::error_code failure;
     const fs::path target = fs::canonical(folder, failure);
     const bool leadsInside = std::any_of(sources.begin(), sources.end(), [&](const fs::path& source) {
-        return liesIn(fs::weakly_canonical(source, failure), target);
+        std::error_code ignored;
+        return liesIn(fs::weakly_canonical(source, ignored), target);
     });
-    if (failure || leadsInside || !fs::is_directory(target, failure))
+    if (failure ? isDangling(failure) : leadsInside || !fs::is_directory(target))
         return;
     const std::string path = relativeToHome(folder, home);
     follow(path, list);

@@ -87,11 +87,15 @@ TEST(CommandUnprivileged, WhatCannotBeReadIsLeftOutOrNamed) {
     }
     EXPECT_EQ(treeOf(home.path()), swapped);
     fs::remove_all(marker.parent_path());
-    // zip itself silently skips an unreadable folder.
-    for (const fs::path& path : {secret, secret.parent_path()}) {
+    // zip itself silently skips an unreadable folder, and a profile behind a link that can't be followed.
+    writeFile(home / "altrove/due/.launcher.json", "{}");
+    fs::create_directory_symlink(home / "altrove/due", home / ".claude-profiles/due");
+    for (const fs::path& path : {secret, secret.parent_path(), own, home / "altrove"}) {
         const Closed closed(path, fs::perms::none);
         const Outcome outcome = home.runUnprivileged({"backup", home / "b.zip"});
-        EXPECT_TRUE(outcome.out.ends_with("\talcuni file non leggibili sono stati saltati\n")) << outcome;
+        EXPECT_TRUE(outcome.out.ends_with("\talcuni file non leggibili sono stati saltati\n"))
+            << path << outcome;
+        fs::remove(home / "b.zip");
     }
 }
 
