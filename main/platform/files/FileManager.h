@@ -124,8 +124,8 @@ public:
     /// Moves, even across file systems: then the original is removed once the copy is on the disk. Fails if
     /// anything is at `to`.
     void move(const std::filesystem::path& from, const std::filesystem::path& to) const;
-    /// If `to` is a complete copy of `from`, as a move to another file system leaves it when it is interrupted,
-    /// removes `from`. Otherwise changes nothing and returns false.
+    /// If `to` is a complete copy of `from`, as a move to another file system leaves it when it is
+    /// interrupted, removes `from`. Otherwise changes nothing and returns false.
     bool completeMove(const std::filesystem::path& from, const std::filesystem::path& to) const;
 
     /// Replaces `path` by what `make` builds at the path it is given, once that is complete. The old content
