@@ -171,10 +171,12 @@ private:
         return isElsewhere ? "" : normal;
     }
 
-    /// A copy whose open files we can see would also show some in its data folder.
+    /// A copy whose open files we can see would also show some in its data folder. Devices tell nothing.
     bool showsFiles(std::int32_t pid) const {
-        return std::ranges::any_of(m_evidence.openFiles(pid, FileUse::any),
-                                   [](const std::string& file) { return !file.starts_with("/dev/"); });
+        const auto isFile = [](const std::string& path) {
+            return !path.starts_with("/dev/") || path.starts_with("/dev/shm/");
+        };
+        return std::ranges::any_of(m_evidence.openFiles(pid, FileUse::any), isFile);
     }
 
     /// Files held by descendants count only if the process itself holds none.

@@ -146,6 +146,14 @@ TEST(OpenCopies, EachKindOfEvidence_Alone_TellsTheDataFolder) {
         {"joined, a longer name", [](Machine& m) { m.addMain(kSwitch + kLavoro2); }, {copy(kLavoro2, "?")}},
         {"joined, a slash", [](Machine& m) { m.addMain(kSwitch + kLavoro2 + "/ x"); }, {copy(kLavoro2, "?")}},
         {"no argument", [](Machine& m) { m.addMain(" --a=b"); }, {copy(kNormal, "?")}},
+        {"no argument, only devices open",
+         [](Machine& m) { m.addMain(""), m.files[100] = {"/dev/null"}; },
+         {copy(kNormal, "?")}},
+        {"no argument, files of another home in memory",
+         [](Machine& m) {
+             m.addMain(""), m.files[100] = {"/dev/null", "/dev/shm/b/.config/Claude/main.log"};
+         },
+         {copy("?", "?")}},
         {"no argument, another home",
          [](Machine& m) {
              m.addMain("").env = {{"HOME", "/home/b"}};
