@@ -220,4 +220,13 @@ std::optional<std::string> ProfileStore::activeID() const {
     return content ? std::optional(std::string(text::trimmed(*content))) : std::nullopt;
 }
 
+std::vector<fs::path> ProfileStore::recordPlaces() const {
+    std::vector<fs::path> places = {m_root, m_root / kDefaultMetaFileName};
+    for (const std::string& name : m_files.entriesIfReadable(m_root)) {
+        if (const fs::path folder = m_root / name; Profile::isPossibleId(name) && m_files.isFolder(folder))
+            places.insert(places.end(), {folder, folder / kMetaFileName});
+    }
+    return places;
+}
+
 } // namespace selvane

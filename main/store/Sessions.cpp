@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "model/LauncherError.h"
 #include "platform/files/FileBatch.h"
 #include "platform/json/SessionRecord.h"
 #include "store/OwnFolder.h"
@@ -68,6 +69,20 @@ std::vector<fs::path> ProfileStore::sessionFolders(const fs::path& dataDir, Unre
     for (auto& [date, folder] : dated)
         folders.push_back(std::move(folder));
     return folders;
+}
+
+std::vector<fs::path> ProfileStore::listedPlaces(const Profile& profile) const {
+    std::vector<fs::path> places = {profile.configDir, profile.configDir / kQueueFolder};
+    for (const Component component : kComponents)
+        places.push_back(profile.url(component));
+    try {
+        const fs::path top = desktopDataDir(profile) / kSessionsFolder;
+        places.push_back(top);
+        for (const fs::path& folder : sessionFolders(desktopDataDir(profile), Unreadable::leftOut))
+            places.insert(places.end(), {folder.parent_path(), folder});
+    } catch (const LauncherError&) { // an invalid account has no sessions
+    }
+    return places;
 }
 
 std::vector<CodeSession> ProfileStore::codeSessions(const Profile& profile, Unreadable unreadable) const {

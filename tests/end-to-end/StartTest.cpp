@@ -26,6 +26,72 @@ TEST_F(Windows, AStartCanAskForANewProfile) {
     selvane.waitForFocus("Nome");
 }
 
+TEST_F(Windows, AStartAfterACrashIsAFirstOne) {
+    {
+        auto crashed = start();
+        crashed.crash();
+        EXPECT_EQ(crashed.status(), 128 + SIGKILL);
+    }
+    auto selvane = start();
+    press({XK_Control_L, ','});
+    selvane.waitForWindow("Impostazioni");
+    EXPECT_EQ(home.execute({}), Outcome{});
+    selvane.waitForWindow("Selvane");
+}
+
+TEST_F(Windows, WhatHappensOutsideShowsAtOnce) {
+    auto selvane = start();
+    const auto waitForTile = [&](const std::string& name, const std::string& status) {
+        waitUntil(
+            [&] {
+                const auto all = selvane.everything();
+                return std::any_of(all.begin(), all.end(), [&](const Seen& seen) {
+                    return seen.name() == name && seen.description().starts_with(status);
+                });
+            },
+            name + ": " + status);
+    };
+    home.output({"create", "Lavoro"});
+    waitForTile("Lavoro", "Mai avviato, profilo 2 di 2");
+    selvane.waitForFocus("Principale");
+    for (int i = 0; i < 2; ++i) {
+        const Json copy = launch("lavoro", lavoroData);
+        waitForTile("Lavoro", "Aperto");
+        quit(copy);
+        waitForTile("Lavoro", "ora");
+    }
+}
+
+TEST_F(Manage, WhatIsToldShowsInTheWindowInFront_AndComingBackLooksAgain) {
+    writeFile(home / "altrove.md", "x");
+    fs::create_symlink(home / "altrove.md", profile("lavoro") / "agents/altrove.md");
+    fs::remove(program);
+    auto selvane = start();
+    selectLavoro(selvane);
+    const auto waitForOrigin = [&](const std::string& origin) {
+        waitUntil(
+            [&] {
+                const auto all = selvane.everything();
+                return std::any_of(all.begin(), all.end(), [&](const Seen& seen) {
+                    return seen.name() == "altrove.md" && seen.description() == origin;
+                });
+            },
+            origin);
+    };
+    waitForOrigin("collegata");
+    focus("");
+    waitUntil([&] { return selvane.everything().empty(); }, "no window in front");
+    fs::remove(home / "altrove.md"); // in no folder that is watched
+    focus("Impostazioni");
+    selvane.waitForWindow("Impostazioni");
+    waitForOrigin("collegamento interrotto");
+
+    focus("Selvane");
+    selvane.waitForWindow("Selvane");
+    press({'1'});
+    selvane.find(ATSPI_ROLE_ALERT, "Errore");
+}
+
 TEST_F(Windows, ADisplayThatIsMissingIsNoCrash) {
     const Outcome expected =
         failure("Nessuno schermo disponibile: senza, Selvane si usa con i suoi comandi (selvane --help)");

@@ -52,6 +52,20 @@ Item {
             cursor.nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
     }
 
+    Connections {
+        target: list.component.items
+
+        // The cursor stays with its item, unless the list was empty.
+        function onRowsInserted(parent: var, first: int, last: int): void {
+            const added = last - first + 1
+            if (first <= list.currentRow && added < list.component.items.count)
+                list.currentRow += added
+        }
+        function onRowsRemoved(parent: var, first: int, last: int): void {
+            if (first <= list.currentRow)
+                list.currentRow = Math.max(first, list.currentRow - (last - first + 1))
+        }
+    }
     ListView {
         id: rows
 

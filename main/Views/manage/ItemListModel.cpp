@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "AppModel/RowUpdate.h"
 #include "platform/text/Text.h"
 
 namespace selvane {
@@ -13,9 +14,10 @@ namespace selvane {
 void ItemListModel::setEntries(std::vector<Entry> entries) {
     if (entries == m_entries)
         return;
-    beginResetModel();
-    m_entries = std::move(entries);
-    endResetModel();
+    RowUpdate::apply(*this, m_entries, std::move(entries),
+                     [](const Entry& entry) { return entry.item.name; });
+    if (!m_entries.empty())
+        emit dataChanged(index(0), index(count() - 1));
     emit countChanged();
 }
 
@@ -26,6 +28,11 @@ const ComponentItem* ItemListModel::item(int row) const {
 int ItemListModel::linkCount() const {
     return static_cast<int>(std::count_if(m_entries.begin(), m_entries.end(),
                                           [](const Entry& entry) { return entry.item.isLinked(); }));
+}
+
+bool ItemListModel::isLink(int row) const {
+    const ComponentItem* found = item(row);
+    return found != nullptr && found->isLinked();
 }
 
 int ItemListModel::rowCount(const QModelIndex& parent) const {

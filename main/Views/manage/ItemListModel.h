@@ -39,12 +39,13 @@ public:
 
     using QAbstractListModel::QAbstractListModel;
 
-    /// Resets the rows only if something has changed.
+    /// Rows of items that stay keep their place in views.
     void setEntries(std::vector<Entry> entries);
     const ComponentItem* item(int row) const; ///< null outside the list
 
     int count() const { return static_cast<int>(m_entries.size()); }
     int linkCount() const;
+    Q_INVOKABLE bool isLink(int row) const; ///< false outside the list
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
@@ -54,6 +55,8 @@ signals:
     void countChanged();
 
 private:
+    friend struct RowUpdate;
+
     std::vector<Entry> m_entries;
 };
 

@@ -25,9 +25,19 @@ ContextMenu {
     Connections {
         target: menu.component?.items ?? null
 
-        // The row may belong to another item now.
-        function onModelReset(): void {
-            menu.close()
+        // The menu stays with its item.
+        function onRowsInserted(parent: var, first: int, last: int): void {
+            if (first <= menu.row)
+                menu.row += last - first + 1
+        }
+        function onRowsRemoved(parent: var, first: int, last: int): void {
+            if (last < menu.row)
+                menu.row -= last - first + 1
+            else if (first <= menu.row)
+                menu.close()
+        }
+        function onDataChanged(): void {
+            menu.isLink = menu.component.items.isLink(menu.row)
         }
     }
     MenuEntry {

@@ -5,8 +5,10 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 #include "AppModel/Following.h"
+#include "AppModel/RowUpdate.h"
 #include "platform/text/Text.h"
 
 namespace selvane {
@@ -31,10 +33,6 @@ QString sourceName(const Profile& profile, const AppModel& app) {
     return source == nullptr ? id : QString::fromStdString(source->meta.name);
 }
 
-bool haveSameIds(const std::vector<Profile>& some, const std::vector<Profile>& others) {
-    return std::ranges::equal(some, others, {}, &Profile::id, &Profile::id);
-}
-
 } // namespace
 
 ProfileListModel::ProfileListModel(QObject* parent) : QAbstractListModel(parent) {
@@ -57,15 +55,9 @@ void ProfileListModel::setApp(AppModel* app) {
 void ProfileListModel::update() {
     std::vector<Profile> profiles = m_app == nullptr ? std::vector<Profile>{} : m_app->profiles();
     m_activeID = m_app == nullptr ? std::nullopt : m_app->activeID();
-    // If the rows are the same, update them in place, so that a list keeps its position.
-    if (!profiles.empty() && haveSameIds(profiles, m_profiles)) {
-        m_profiles = std::move(profiles);
-        changed({});
-        return;
-    }
-    beginResetModel();
-    m_profiles = std::move(profiles);
-    endResetModel();
+    RowUpdate::apply(*this, m_profiles, std::move(profiles),
+                     [](const Profile& profile) { return profile.id; });
+    changed({});
     emit countChanged();
 }
 

@@ -52,6 +52,8 @@ signals:
     void countChanged();
 
 private:
+    friend struct RowUpdate;
+
     void update();
     void changed(const QList<int>& roles);
 

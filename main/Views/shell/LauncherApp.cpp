@@ -14,6 +14,7 @@
 #include <cstdlib>
 #include <utility>
 
+#include "AppModel/FolderWatch.h"
 #include "AppModel/Preferences.h"
 #include "Views/shell/QmlModule.h"
 #include "Views/shell/SingleInstance.h"
@@ -174,11 +175,13 @@ int runLauncherApp(int argc, char** argv) {
     Brand::registerFonts();
     serveLoading();
     AppModel model(store, claude, bridge, preferences);
+    FolderWatch watch(model);
     Updates updates(makeUpdater());
     LauncherApp launcher(engine, model, updates);
     const std::unique_ptr<QObject> shell = makeSystemShell(launcher);
     serveLoading();
 
+    QObject::connect(&launcher, &LauncherApp::begun, &watch, &FolderWatch::start);
     QObject::connect(&instance, &SingleInstance::startedAgain, &launcher, &LauncherApp::answerStart);
     QObject::connect(&launcher, &LauncherApp::shownChanged, &bridge, &SystemBridge::setWatching);
     QObject::connect(&bridge, &SystemBridge::archiveWanted, &launcher, &LauncherApp::askForArchive);

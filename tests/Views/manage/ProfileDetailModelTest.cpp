@@ -215,12 +215,22 @@ TEST_F(ProfileDetailModelTest, profileList_KeepsItsRowsWhileTheProfilesStay) {
     EXPECT_TRUE(role(ProfileListModel::SubtitleRole).startsWith("Avviato "));
     EXPECT_EQ(role(ProfileListModel::WasLaunchedRole), "true");
     EXPECT_EQ(role(ProfileListModel::SourceNameRole), "Principale");
-    EXPECT_EQ(resets, 0);
+    const QPersistentModelIndex row = list.index(list.indexOf("lavoro"));
     home.make("Altro");
+    home.store.changeMeta(work, [](ProfileMeta& meta) {
+        meta.name = "A";
+        *meta.lastLaunched -= std::chrono::days(8);
+    });
     model().reload();
-    EXPECT_EQ(resets, 1);
+    EXPECT_EQ(row.row(), 1) << "before «Altro»";
+    EXPECT_EQ(role(ProfileListModel::SubtitleRole), "Avviato la settimana scorsa");
     EXPECT_EQ(list.idNear(-1), "default");
-    EXPECT_EQ(list.idNear(99), "lavoro");
+    EXPECT_EQ(list.idNear(99), "altro");
+    fs::remove_all(work.configDir);
+    model().reload();
+    EXPECT_FALSE(row.isValid());
+    EXPECT_EQ(list.count(), 2);
+    EXPECT_EQ(resets, 0);
 }
 
 } // namespace

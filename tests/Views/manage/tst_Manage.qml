@@ -125,7 +125,8 @@ Item {
             home.app.reload()
             tryCompare(items, "count", 2001)
             verify(hasFocus(items))
-            compare(items.currentRow, 1999)
+            compare(items.currentRow, 2000)
+            compare(items.currentItem.name, "n1999.md")
             checkRows(items, ["a.md"].concat(names))
             press(Qt.Key_Home)
             verify(isInSight(items.currentItem))
@@ -163,17 +164,29 @@ Item {
             compare(home.app.errorMessage, "")
         }
 
-        function test_itemMenu_ClosesWhenTheItemsChange(): void {
-            home.write(".claude/agents/b.md")
+        function test_itemMenu_StaysWithItsItem(): void {
+            home.write(".claude/agents/b.md", "b")
+            home.write(".claude/agents/c.md", "c")
             show("default")
             const items = list("Agenti")
             enter(items)
-            press(Qt.Key_Space)
+            press(Qt.Key_Down, Qt.Key_Space)
             verify(items.menu.isOpen)
-            home.write(".claude/agents/a.md")
+            home.write(".claude/agents/a.md", "a")
+            home.remove(".claude/agents/b.md")
+            home.write(".claude/agents/b2.md", "b")
             home.app.reload()
+            tryCompare(items, "count", 3)
+            verify(items.menu.isOpen)
+            press(Qt.Key_Return) // Sposta nel Cestino
+            compare(home.what(".claude/agents/c.md"), "")
+            compare(home.what(".claude/agents/b2.md"), "b")
             tryCompare(items, "count", 2)
-            verify(!items.menu.isOpen)
+            verify(hasFocus(items))
+            press(Qt.Key_Space)
+            home.remove(".claude/agents/b2.md")
+            home.app.reload()
+            tryVerify(() => !items.menu.isOpen)
             verify(hasFocus(items))
         }
 
