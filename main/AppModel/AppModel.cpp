@@ -5,10 +5,27 @@
 
 #include <utility>
 
-#include "platform/text/ErrorText.h"
+#include "AppModel/Wording.h"
 #include "platform/text/Text.h"
 
 namespace selvane {
+namespace {
+
+QString changedLinks(qsizetype added, qsizetype removed) {
+    const QString both = added > 0 && removed > 0
+                             ? counted(added, AppModel::tr("Aggiunto 1, "), AppModel::tr("Aggiunti %1, "))
+                             : QString();
+    if (removed > 0)
+        return both.isEmpty() ? counted(removed, AppModel::tr("Rimosso 1 collegamento"),
+                                        AppModel::tr("Rimossi %1 collegamenti"))
+                              : both + counted(removed, AppModel::tr("rimosso 1 collegamento"),
+                                               AppModel::tr("rimossi %1 collegamenti"));
+    return added == 0 ? AppModel::tr("Già sincronizzato")
+                      : counted(added, AppModel::tr("Aggiunto 1 collegamento"),
+                                AppModel::tr("Aggiunti %1 collegamenti"));
+}
+
+} // namespace
 
 AppModel::AppModel(ProfileStore& store, const ClaudeApp& claude, DesktopBridge& desktop,
                    Preferences& preferences, QObject* parent)
@@ -50,7 +67,7 @@ void AppModel::setText(QString& member, const QString& value, void (AppModel::*c
 }
 
 void AppModel::report(const std::exception& error) {
-    setText(m_errorMessage, QString::fromStdString(describe(error)), &AppModel::errorMessageChanged);
+    setText(m_errorMessage, explained(error), &AppModel::errorMessageChanged);
 }
 
 void AppModel::setNotice(const QString& text) {
@@ -128,10 +145,8 @@ void AppModel::sync(const QString& id) {
         return;
     perform([&] {
         const SyncReport report = m_store.sync(*current);
-        setNotice(report.isEmpty() ? tr("Già sincronizzato")
-                                   : tr("Aggiunti %1, rimossi %2 collegamenti")
-                                         .arg(report.added.size())
-                                         .arg(report.removed.size()));
+        setNotice(changedLinks(static_cast<qsizetype>(report.added.size()),
+                               static_cast<qsizetype>(report.removed.size())));
     });
 }
 

@@ -154,6 +154,7 @@ private:
     bool quitAll(const LaunchPlan& plan, bool force) const;
     void finishLaunch(const Profile& profile, const LaunchResult& result);
     void endIfWanted();
+    bool isFree();
     void runBackup(BackupScope scope, const std::filesystem::path& archive);
     void report(const std::exception& error);
     void setText(QString& member, const QString& value, void (AppModel::*changed)());

@@ -12,15 +12,31 @@
 
 #include "AppModel/Background.h"
 #include "AppModel/QtText.h"
+#include "AppModel/Wording.h"
 #include "platform/text/Text.h"
 
 namespace selvane {
+namespace {
+
+QString copiedSessions(const ImportCount& count) {
+    return counted(count.copied, AppModel::tr("1 sessione copiata"), AppModel::tr("%1 sessioni copiate"));
+}
+
+} // namespace
+
+/// Whether nothing else is going on; otherwise tells so.
+bool AppModel::isFree() {
+    if (m_busyMessage.isEmpty())
+        return true;
+    setText(m_errorMessage,
+            tr("Selvane sta già lavorando (%1): riprova quando ha finito.").arg(m_busyMessage),
+            &AppModel::errorMessageChanged);
+    return false;
+}
 
 void AppModel::performLong(const QString& message, Work work, Done succeeded) {
-    if (!m_busyMessage.isEmpty()) {
-        setNotice(tr("Selvane sta già lavorando: riprova quando ha finito"));
+    if (!isFree())
         return;
-    }
     struct Outcome {
         QString notice;
         Failure failure;
@@ -59,11 +75,11 @@ void AppModel::importSessions(const std::vector<CodeSession>& sessions, const Pr
     const Work work = [sessions, source, target](ProfileStore& store) {
         const ImportCount count = store.importSessions(sessions, source, target);
         if (count.pending < 1)
-            return tr("%1 sessioni copiate").arg(count.copied);
-        return tr("%1 copiate, %2 aggiunte al prossimo avvio di «%3»")
-            .arg(count.copied)
-            .arg(count.pending)
-            .arg(QString::fromStdString(target.meta.name));
+            return copiedSessions(count);
+        return tr("%1, %2 al prossimo avvio di «%3»")
+            .arg(counted(count.copied, tr("1 copiata"), tr("%1 copiate")),
+                 counted(count.pending, tr("1 aggiunta"), tr("%1 aggiunte")),
+                 QString::fromStdString(target.meta.name));
     };
     performLong(tr("Copia delle sessioni…"), work, std::move(succeeded));
 }
@@ -78,8 +94,9 @@ void AppModel::create(const ProfileRequest& request, Done succeeded) {
         const Profile& source = *request.profile.from;
         const ImportCount count =
             store.importSessions(store.codeSessions(source, Unreadable::fails), source, profile);
-        return count.pending < 1 ? tr("%1 sessioni copiate").arg(count.copied)
-                                 : tr("%1 sessioni verranno aggiunte dopo il primo login").arg(count.pending);
+        return count.pending < 1 ? copiedSessions(count)
+                                 : counted(count.pending, tr("1 sessione verrà aggiunta dopo il primo login"),
+                                           tr("%1 sessioni verranno aggiunte dopo il primo login"));
     };
     const QString name = qtText(text::trimmed(request.profile.name));
     performLong(tr("Creazione di «%1»…").arg(name), work, [this, made, succeeded = std::move(succeeded)] {

@@ -11,7 +11,7 @@
 #include <optional>
 #include <utility>
 
-#include "platform/text/ErrorText.h"
+#include "AppModel/Wording.h"
 
 namespace selvane {
 
@@ -23,7 +23,7 @@ inline Failure failureOf(const std::function<void()>& work) {
         work();
         return std::nullopt;
     } catch (const std::exception& error) {
-        return QString::fromStdString(describe(error));
+        return explained(error);
     }
 }
 

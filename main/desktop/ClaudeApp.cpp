@@ -80,7 +80,7 @@ std::optional<Application> ClaudeApp::application() const {
 Application ClaudeApp::requireApplication() const {
     auto installed = application();
     if (!installed)
-        throw LauncherError("Claude.app non trovata. Installala in /Applications.");
+        throw NotInstalledError("Claude.app non trovata. Installala in /Applications.");
     return std::move(*installed);
 }
 

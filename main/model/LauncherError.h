@@ -14,4 +14,21 @@ public:
     explicit LauncherError(const std::string& message) : std::runtime_error(message) {}
 };
 
+/// Claude Desktop isn't installed.
+class NotInstalledError : public LauncherError {
+public:
+    using LauncherError::LauncherError;
+};
+
+/// The program that writes archives has failed.
+class ZipError : public LauncherError {
+public:
+    /// `status`: its exit status, or 128 plus the signal that ended it.
+    ZipError(const std::string& message, int status) : LauncherError(message), m_status(status) {}
+    int status() const { return m_status; }
+
+private:
+    int m_status;
+};
+
 } // namespace selvane

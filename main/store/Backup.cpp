@@ -131,7 +131,7 @@ int runZip(const std::vector<std::string>& arguments, Environment environment, c
 
 void requireSuccess(int status) {
     if (status != 0)
-        throw LauncherError("Backup non riuscito (zip: errore " + std::to_string(status) + ")");
+        throw ZipError("Backup non riuscito (zip: errore " + std::to_string(status) + ")", status);
 }
 
 /// Lets the system write the archive to the disk while it is read back.

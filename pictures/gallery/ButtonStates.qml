@@ -86,7 +86,7 @@ Grid {
         delegate: GhostButton {
             required property int index
 
-            text: "Mostra nel Finder"
+            text: Theme.revealText
             symbol: "folder"
             size: GhostButton.Small
             bare: true

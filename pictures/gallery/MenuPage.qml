@@ -20,7 +20,7 @@ Item {
         MenuEntry { text: "Scollega da questo profilo"; icon: "link-break" }
         MenuEntry { text: "Rendi propria (copia indipendente)"; icon: "copy" }
         MenuDivider {}
-        MenuEntry { text: "Mostra nel Finder"; symbol: "folder" }
+        MenuEntry { text: Theme.revealText; symbol: "folder" }
     }
     GhostButton {
         x: 400

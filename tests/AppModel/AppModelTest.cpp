@@ -5,6 +5,9 @@
 
 #include <QDate>
 
+#include <sys/stat.h>
+
+#include "AppModel/Wording.h"
 #include "support/RunningProcess.h"
 
 namespace selvane::test {
@@ -75,7 +78,13 @@ TEST_F(AppModelTest, actions_TellWhatTheyDid) {
     fs::rename(home / ".claude/skills/uno.md", home / ".claude/skills/tre.md");
     writeFile(home / ".claude/skills/quattro.md", "");
     model().sync("lavoro");
-    EXPECT_EQ(model().notice(), "Aggiunti 2, rimossi 1 collegamenti");
+    EXPECT_EQ(model().notice(), "Aggiunti 2, rimosso 1 collegamento");
+    fs::remove(home / ".claude/skills/tre.md");
+    model().sync("lavoro");
+    EXPECT_EQ(model().notice(), "Rimosso 1 collegamento");
+    writeFile(home / ".claude/skills/tre.md", "");
+    model().sync("lavoro");
+    EXPECT_EQ(model().notice(), "Aggiunto 1 collegamento");
 
     model().copyTerminalCommand("lavoro");
     EXPECT_EQ(bridge.clipboard.toStdString(),
@@ -195,6 +204,10 @@ TEST_F(AppModelTest, exportBackup_EachEnd_LeavesNothingBusy) {
     model().exportBackup(BackupScope::all());
     waitUntilIdle();
     EXPECT_TRUE(model().errorMessage().contains("è una cartella"));
+    EXPECT_TRUE(
+        explained(ZipError("Backup non riuscito (zip: errore 15)", 15)).contains("non si è potuto scrivere"));
+    EXPECT_TRUE(
+        explained(ZipError("Backup non riuscito (zip: errore 137)", 137)).startsWith("Backup interrotto"));
 }
 
 TEST_F(AppModelLaunch, launch_NothingOpen_StartsAndEndsIfWanted) {
@@ -207,7 +220,8 @@ TEST_F(AppModelLaunch, launch_NothingOpen_StartsAndEndsIfWanted) {
     home.workspace.installed.reset();
     model().launch("ospite");
     waitUntilIdle();
-    EXPECT_EQ(model().errorMessage(), "Claude.app non trovata. Installala in /Applications.");
+    EXPECT_TRUE(
+        model().errorMessage().startsWith("Claude Desktop non è installato. Scarica il suo pacchetto"));
     EXPECT_EQ(bridge.ends, 1);
 }
 

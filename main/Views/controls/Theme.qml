@@ -73,6 +73,10 @@ QtObject {
         return Qt.platform.os === "osx" ? hint : hint.replace(/⌘/g, "Ctrl+")
     }
 
+    /// The command that shows something in the system's file manager.
+    readonly property string revealText: Qt.platform.os === "osx" ? qsTr("Mostra nel Finder")
+                                                                  : qsTr("Mostra nella cartella")
+
     function hasPaths(sentence: string): bool {
         return /(^|[\s(«])~?\/[^\s]/.test(sentence)
     }

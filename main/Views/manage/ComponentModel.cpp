@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "AppModel/QtText.h"
+#include "AppModel/Wording.h"
 #include "model/LauncherError.h"
 #include "platform/json/Json.h"
 
@@ -137,11 +138,12 @@ QString ComponentModel::count() const {
     const int total = m_items.count();
     if (total == 0)
         return tr("Nessun elemento");
-    const QString elements = total == 1 ? tr("1 elemento") : tr("%1 elementi").arg(total);
+    const QString elements = counted(total, tr("1 elemento"), tr("%1 elementi"));
     if (m_profile->isDefault())
         return elements;
     const int links = m_items.linkCount();
-    return elements + tr(" · %1 unificati, %2 propri").arg(links).arg(total - links);
+    return elements + " · " + counted(links, tr("1 unificato"), tr("%1 unificati")) + ", " +
+           counted(total - links, tr("1 proprio"), tr("%1 propri"));
 }
 
 QString ComponentModel::description() const {

@@ -48,7 +48,7 @@ Item {
             onClicked: bar.duplicateAsked()
         }
         DetailToolButton {
-            title: qsTr("Mostra nel Finder")
+            title: Theme.revealText
             symbol: "folder"
             isIconAlone: bar.isNarrow
             onClicked: bar.revealAsked()

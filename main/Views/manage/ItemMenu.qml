@@ -54,7 +54,7 @@ ContextMenu {
     }
     MenuDivider {}
     MenuEntry {
-        text: qsTr("Mostra nel Finder")
+        text: Theme.revealText
         symbol: "folder"
         onTriggered: menu.component.revealItem(menu.row)
     }

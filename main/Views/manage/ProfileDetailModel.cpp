@@ -7,6 +7,7 @@
 
 #include "AppModel/Following.h"
 #include "AppModel/QtText.h"
+#include "AppModel/Wording.h"
 
 namespace selvane {
 
@@ -191,14 +192,16 @@ int ProfileDetailModel::accountIndex() const {
 QString ProfileDetailModel::sessions() const {
     if (!m_profile || m_sessions.present < 0)
         return {};
-    return m_sessions.present == 0 ? tr("Nessuna sessione")
-                                   : tr("%1 sessioni nell'account").arg(m_sessions.present);
+    return m_sessions.present == 0
+               ? tr("Nessuna sessione")
+               : counted(m_sessions.present, tr("1 sessione nell'account"), tr("%1 sessioni nell'account"));
 }
 
 QString ProfileDetailModel::pendingSessions() const {
     return m_sessions.pending == 0
                ? QString()
-               : tr("%1 in attesa: verranno aggiunte al prossimo avvio").arg(m_sessions.pending);
+               : counted(m_sessions.pending, tr("1 in attesa: verrà aggiunta al prossimo avvio"),
+                         tr("%1 in attesa: verranno aggiunte al prossimo avvio"));
 }
 
 void ProfileDetailModel::change(const std::function<void(ProfileMeta&)>& edit) {

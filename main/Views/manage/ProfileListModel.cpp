@@ -20,9 +20,17 @@ QString lastLaunch(const Profile& profile) {
     return QString::fromStdString(text::relativeDate(currentTimestamp() - *profile.meta.lastLaunched));
 }
 
+/// With the article that Italian wants before "settimana scorsa" and the like.
 QString subtitle(const Profile& profile) {
     const QString last = lastLaunch(profile);
-    return profile.meta.lastLaunched ? ProfileListModel::tr("Avviato %1").arg(last) : last;
+    if (!profile.meta.lastLaunched)
+        return last;
+    const std::pair<QString, QString> articles[] = {{"settimana ", "la "}, {"mese ", "il "}, {"anno ", "l'"}};
+    for (const auto& [start, article] : articles) {
+        if (last.startsWith(start))
+            return ProfileListModel::tr("Avviato %1").arg(article + last);
+    }
+    return ProfileListModel::tr("Avviato %1").arg(last);
 }
 
 QString sourceName(const Profile& profile, const AppModel& app) {

@@ -22,7 +22,7 @@ ContextMenu {
         onTriggered: menu.launched(menu.profileId)
     }
     MenuEntry {
-        text: qsTr("Mostra nel Finder")
+        text: Theme.revealText
         symbol: "folder"
         onTriggered: menu.revealed(menu.profileId)
     }

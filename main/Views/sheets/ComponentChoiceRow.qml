@@ -84,8 +84,11 @@ Item {
             Disclosure {
                 id: count
 
+                readonly property int chosen: row.items?.chosenCount ?? 0
+
                 x: row.inset
-                text: qsTr("%1 di %2 selezionati").arg(row.items?.chosenCount ?? 0).arg(row.items?.total ?? 0)
+                text: (chosen === 1 ? qsTr("%1 di %2 selezionato") : qsTr("%1 di %2 selezionati"))
+                      .arg(chosen).arg(row.items?.total ?? 0)
                 label: row.title + ": " + text
                 expandable: (row.items?.total ?? 0) > 0
                 expanded: row.expanded

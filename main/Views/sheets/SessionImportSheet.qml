@@ -70,7 +70,8 @@ Sheet {
             StyledText {
                 anchors.verticalCenter: parent.verticalCenter
                 look: Theme.type.small
-                text: qsTr("%1 di %2 selezionate").arg(form.sessions.chosenCount).arg(form.sessions.total)
+                text: (form.sessions.chosenCount === 1 ? qsTr("%1 di %2 selezionata") : qsTr("%1 di %2 selezionate"))
+                      .arg(form.sessions.chosenCount).arg(form.sessions.total)
                 color: Theme.textSoft
                 Accessible.role: Accessible.StaticText
                 Accessible.name: text

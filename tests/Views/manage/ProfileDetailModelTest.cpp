@@ -60,8 +60,8 @@ TEST_F(ProfileDetailModelTest, count_SaysHowManyAreLinked) {
     EXPECT_EQ(shown(Component::agents).count(), "Nessun elemento");
     EXPECT_FALSE(shown(Component::skills).hasModes());
     show("lavoro");
-    EXPECT_EQ(shown(Component::skills).count(), "3 elementi · 2 unificati, 1 propri");
-    EXPECT_EQ(shown(Component::rules).count(), "1 elemento · 1 unificati, 0 propri");
+    EXPECT_EQ(shown(Component::skills).count(), "3 elementi · 2 unificati, 1 proprio");
+    EXPECT_EQ(shown(Component::rules).count(), "1 elemento · 1 unificato, 0 propri");
     EXPECT_TRUE(shown(Component::skills).hasModes());
 }
 
@@ -198,6 +198,26 @@ TEST_F(ProfileDetailModelTest, names_AreTrimmedAndNeverEmpty) {
     const qint64 revision = model().revision();
     detail.setSymbol(detail.symbol());
     EXPECT_EQ(model().revision(), revision) << "nothing to save";
+}
+
+TEST_F(ProfileDetailModelTest, sessions_AreCountedInWords) {
+    const Profile work = home.make("Lavoro");
+    const auto add = [&](const std::string& id) {
+        writeFile(home.store.desktopDataDir(work) / ("claude-code-sessions/a/b/local_" + id + ".json"),
+                  R"({"sessionId": ")" + id + "\"}");
+        writeFile(work.configDir / ".pending-sessions" / ("local_" + id + ".json"), "{}");
+    };
+    add("1");
+    show("lavoro");
+    EXPECT_EQ(detail.sessions(), "1 sessione nell'account");
+    EXPECT_EQ(detail.pendingSessions(), "1 in attesa: verrà aggiunta al prossimo avvio");
+    const Mirror seen(detail);
+    add("2");
+    model().reload();
+    waitUntilRead();
+    EXPECT_EQ(detail.sessions(), "2 sessioni nell'account");
+    EXPECT_EQ(detail.pendingSessions(), "2 in attesa: verranno aggiunte al prossimo avvio");
+    seen.expectUpToDate();
 }
 
 TEST_F(ProfileDetailModelTest, profileList_KeepsItsRowsWhileTheProfilesStay) {

@@ -149,7 +149,7 @@ Item {
             press(Qt.Key_Space, Qt.Key_Down, Qt.Key_Return) // Rendi propria
             compare(home.what(".claude-profiles/lavoro/agents/a.md"), "a")
             tryVerify(() => !items.currentItem.isLink)
-            press(Qt.Key_Down, Qt.Key_Return, Qt.Key_Down, Qt.Key_Return) // Mostra nel Finder
+            press(Qt.Key_Down, Qt.Key_Return, Qt.Key_Down, Qt.Key_Return) // Mostra nella cartella
             compare(home.asked().revealed, ["~/.claude-profiles/lavoro/agents/own.md"])
             keyClick(Qt.Key_F10, Qt.ShiftModifier)
             keyClick(Qt.Key_Return) // Sposta nel Cestino
@@ -309,7 +309,7 @@ Item {
             show("default")
             const toolButtons = all(item => item instanceof DetailToolButton)
             compare(toolButtons.map(found => found.text + found.help),
-                    ["Comando terminale", "Nuovo profilo da questo", "Mostra nel Finder", "Elimina"])
+                    ["Comando terminale", "Nuovo profilo da questo", "Mostra nella cartella", "Elimina"])
             scene.width = 1000
             compare(toolButtons[3].text, "Elimina")
         }

@@ -135,7 +135,25 @@ TEST_F(FormsTest, sessionImport_SearchNarrowsWhatIsChosen) {
     EXPECT_EQ(sessions.chosenCount(), 1) << "what was chosen stays chosen when the search ends";
     form.submit();
     waitUntilIdle();
-    EXPECT_EQ(model().notice(), "0 copiate, 1 aggiunte al prossimo avvio di «Lavoro»");
+    EXPECT_EQ(model().notice(), "0 copiate, 1 aggiunta al prossimo avvio di «Lavoro»");
+
+    home.store.create(request("Ospite", {}, "default"));
+    model().reload();
+    sessions.setSearch("note");
+    form.setSource("ospite");
+    EXPECT_TRUE(form.isLoading());
+    EXPECT_EQ(sessions.total(), 0) << "those of the other profile can't be chosen meanwhile";
+    EXPECT_EQ(sessions.chosenCount(), 0);
+    seen.expectUpToDate();
+    seenForm.expectUpToDate();
+    waitUntilRead();
+    EXPECT_EQ(sessions.total(), 3);
+    EXPECT_EQ(titles(sessions), std::vector<std::string>{"Note"}) << "the search still holds";
+    form.setSource("nessuno");
+    EXPECT_FALSE(form.isLoading());
+    EXPECT_EQ(sessions.total(), 0);
+    seen.expectUpToDate();
+    seenForm.expectUpToDate();
 }
 
 TEST_F(FormsTest, backup_SavesWhatIsSwitchedOn) {

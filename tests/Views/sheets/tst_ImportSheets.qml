@@ -117,9 +117,9 @@ Item {
             tabTo("Cerca")
             press(Qt.Key_Backspace, Qt.Key_Z)
             verify(shows("Nessuna sessione"))
-            verify(shows("1 di 3 selezionate"))
+            verify(shows("1 di 3 selezionata"))
             confirm()
-            compare(home.app.notice, "0 copiate, 1 aggiunte al prossimo avvio di «Lavoro»")
+            compare(home.app.notice, "0 copiate, 1 aggiunta al prossimo avvio di «Lavoro»")
         }
 
         function test_escapeImportsNothing(): void {

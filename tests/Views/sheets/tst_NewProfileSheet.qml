@@ -91,7 +91,7 @@ Item {
             press(Qt.Key_Space, Qt.Key_V, Qt.Key_Return)
             tabTo("due.md")
             press(Qt.Key_Right, Qt.Key_Space)
-            verify(shows("1 di 2 selezionati"))
+            verify(shows("1 di 2 selezionato"))
             tabTo("Descrizione")
             write("Prove")
             tabTo("Nome")
