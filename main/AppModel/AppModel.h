@@ -31,7 +31,8 @@ struct ProfileRequest {
 
 /// The one object behind every window: the loaded profiles, what the interface shows about actions in
 /// progress, and the actions. It lives on the main thread; slow work runs on another one, on copies, and
-/// returns its result. No action throws: a failure ends up in `errorMessage`.
+/// returns its result. Slow work is done one piece at a time: what is asked for meanwhile is refused. No
+/// action throws: a failure or refusal ends up in `errorMessage`.
 class AppModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -177,6 +178,8 @@ private:
     QString m_offerForceQuit;
     qint64 m_revision = 0;
     WorkProgress m_workProgress;
+    QString m_launching;        ///< id of the profile that is being launched; empty for none
+    int m_archiveQuestions = 0; ///< how many save dialogs haven't been answered
     QFuture<void> m_work;
 };
 

@@ -11,6 +11,7 @@
 #include "AppModel/Background.h"
 
 namespace selvane {
+
 /// What a launch has to do, worked out on the main thread.
 struct AppModel::LaunchPlan {
     Profile profile;
@@ -82,7 +83,7 @@ AppModel::LaunchPlan AppModel::planFor(const Profile& profile) const {
 
 void AppModel::startLaunch(const QString& id, LaunchStep step) {
     const Profile* wanted = profile(id);
-    if (wanted == nullptr || !m_busyMessage.isEmpty())
+    if (wanted == nullptr || m_launching == id || !isFree())
         return;
     try {
         LaunchPlan plan = planFor(*wanted);
@@ -145,6 +146,7 @@ bool AppModel::quitAll(const LaunchPlan& plan, bool force) const {
 }
 
 void AppModel::finishLaunch(const Profile& profile, const LaunchResult& result) {
+    m_launching.clear();
     setText(m_busyMessage, {}, &AppModel::busyMessageChanged);
     if (!result.hasQuit) {
         setText(m_offerForceQuit, QString::fromStdString(profile.id), &AppModel::offerForceQuitChanged);
@@ -156,8 +158,9 @@ void AppModel::finishLaunch(const Profile& profile, const LaunchResult& result) 
     }
 }
 
+/// With the save dialog open, a backup is still wanted; and what was refused meanwhile must be read.
 void AppModel::endIfWanted() {
-    if (closeAfterLaunch())
+    if (closeAfterLaunch() && m_archiveQuestions == 0 && m_errorMessage.isEmpty())
         m_desktop.endApplication();
 }
 

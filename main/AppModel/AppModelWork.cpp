@@ -107,7 +107,9 @@ void AppModel::create(const ProfileRequest& request, Done succeeded) {
 
 void AppModel::exportBackup(BackupScope scope) {
     const QString name = tr("Backup Claude %1.zip").arg(QDate::currentDate().toString(Qt::ISODate));
+    ++m_archiveQuestions;
     m_desktop.askForArchive(name, [this, scope](const std::optional<std::filesystem::path>& archive) {
+        --m_archiveQuestions;
         if (archive)
             runBackup(scope, *archive);
     });

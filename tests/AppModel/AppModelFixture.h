@@ -11,6 +11,7 @@
 
 #include "AppModel/AppModel.h"
 #include "AppModel/FakeBridge.h"
+#include "AppModel/Mirror.h"
 #include "support/Home.h"
 
 namespace selvane::test {
@@ -22,9 +23,15 @@ protected:
     explicit AppModelTest(Home::Processes processes = Home::Processes::ignored) : home(processes) {}
 
     AppModel& model() {
-        if (!m_model)
+        if (!m_model) {
             m_model = std::make_unique<AppModel>(home.store, home.claude, bridge, preferences);
+            m_mirror = std::make_unique<Mirror>(*m_model);
+        }
         return *m_model;
+    }
+    void TearDown() override {
+        if (m_mirror)
+            m_mirror->expectUpToDate();
     }
     void waitUntilIdle() {
         const QDeadlineTimer limit(20'000);
@@ -32,6 +39,7 @@ protected:
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
         QCoreApplication::processEvents();
         ASSERT_EQ(model().busyMessage(), "");
+        m_mirror->expectUpToDate();
     }
 
     Home home;
@@ -40,6 +48,7 @@ protected:
 
 private:
     std::unique_ptr<AppModel> m_model;
+    std::unique_ptr<Mirror> m_mirror;
 };
 
 } // namespace selvane::test

@@ -99,6 +99,10 @@ TEST_F(AppModelTest, actions_TellWhatTheyDid) {
     model().open(profile.configDir / "CLAUDE.local.md");
     EXPECT_TRUE(fs::is_regular_file(profile.configDir / "CLAUDE.local.md"));
     EXPECT_EQ(bridge.opened, std::vector{profile.configDir / "CLAUDE.local.md"});
+    fs::create_symlink("/nowhere", profile.configDir / "dead.md");
+    model().open(profile.configDir / "dead.md");
+    EXPECT_TRUE(fs::is_regular_file(profile.configDir / "dead.md")) << "never opened as it is";
+    bridge.opened.pop_back();
     model().open(profile.configDir / "manca/file.md");
     EXPECT_TRUE(model().errorMessage().contains("manca")) << model().errorMessage().toStdString();
     EXPECT_EQ(bridge.opened.size(), 1U);
@@ -115,9 +119,11 @@ TEST_F(AppModelTest, create_WithSessions_TellsWhatWaitsAndSelects) {
     model().create({request("Ospite", home.builtIn(), "default"), true});
     waitUntilIdle();
     EXPECT_EQ(model().notice(), "3 sessioni copiate");
+    home.make("Altrove");
     model().create({request("  "), false});
     waitUntilIdle();
     EXPECT_EQ(model().errorMessage(), "Il nome del profilo è obbligatorio");
+    EXPECT_NE(model().profile("altrove"), nullptr) << "what is there is shown all the same";
     EXPECT_EQ(model().selection(), "ospite");
 
     const Profile work = *home.store.profile("lavoro");
@@ -136,7 +142,8 @@ TEST_F(AppModelTest, performLong_IsOneAtATimeAndCanBeCancelled) {
     model().create({wanted}, [&] { hasSucceeded = true; });
     EXPECT_EQ(model().busyMessage(), "Creazione di «Lavoro»…");
     model().create({request("Altro")});
-    EXPECT_EQ(model().notice(), "Selvane sta già lavorando: riprova quando ha finito");
+    EXPECT_TRUE(model().errorMessage().startsWith("Selvane sta già lavorando (Creazione di"));
+    model().clearError();
     model().work()->cancel();
     EXPECT_EQ(model().work()->headline(), "Annullamento…");
     waitUntilIdle();
@@ -198,7 +205,12 @@ TEST_F(AppModelTest, exportBackup_EachEnd_LeavesNothingBusy) {
     EXPECT_EQ(model().busyMessage(), "Backup in corso…");
     waitUntilIdle();
     EXPECT_TRUE(model().notice().startsWith("Backup creato (")) << model().errorMessage().toStdString();
+    EXPECT_FALSE(model().notice().contains("saltati"));
     EXPECT_EQ(bridge.revealed, std::vector{home / "b.zip"});
+    ASSERT_EQ(::mknod((home / ".claude/socket").c_str(), S_IFSOCK | 0600, 0), 0);
+    model().exportBackup(BackupScope::all());
+    waitUntilIdle();
+    EXPECT_TRUE(model().notice().endsWith("alcuni file non leggibili sono stati saltati"));
 
     bridge.archive = home / ".claude";
     model().exportBackup(BackupScope::all());
@@ -213,6 +225,8 @@ TEST_F(AppModelTest, exportBackup_EachEnd_LeavesNothingBusy) {
 TEST_F(AppModelLaunch, launch_NothingOpen_StartsAndEndsIfWanted) {
     model().launch("ospite");
     EXPECT_EQ(model().busyMessage(), "Avvio di Claude con «Ospite»…");
+    model().launch("ospite");
+    EXPECT_EQ(model().errorMessage(), "") << "pressed twice";
     waitUntilIdle();
     EXPECT_EQ(home.workspace.openings.size(), 1U);
     EXPECT_EQ(bridge.ends, 1);
@@ -223,6 +237,33 @@ TEST_F(AppModelLaunch, launch_NothingOpen_StartsAndEndsIfWanted) {
     EXPECT_TRUE(
         model().errorMessage().startsWith("Claude Desktop non è installato. Scarica il suo pacchetto"));
     EXPECT_EQ(bridge.ends, 1);
+}
+
+TEST_F(AppModelLaunch, slowActions_OneAtATime_TheSecondIsRefused) {
+    writeFile(home / ".claude/CLAUDE.md", "x");
+    const QString refusal = "Selvane sta già lavorando (%1): riprova quando ha finito.";
+    bridge.answersLater = true;
+    model().exportBackup(BackupScope::profiles());
+    model().launch("ospite");
+    const QString launching = model().busyMessage();
+    bridge.answer(home / "b.zip");
+    EXPECT_EQ(model().errorMessage(), refusal.arg(launching));
+    EXPECT_EQ(model().busyMessage(), launching);
+    waitUntilIdle();
+    EXPECT_EQ(home.workspace.openings.size(), 1U);
+    EXPECT_EQ(bridge.ends, 0) << "the refusal is still to be read";
+
+    model().clearError();
+    model().exportBackup(BackupScope::profiles());
+    model().launch("ospite");
+    waitUntilIdle();
+    EXPECT_EQ(bridge.ends, 0) << "a backup is still wanted";
+    bridge.answer(home / "b.zip");
+    model().launch("default");
+    EXPECT_EQ(model().errorMessage(), refusal.arg("Backup in corso…"));
+    waitUntilIdle();
+    EXPECT_TRUE(model().notice().startsWith("Backup creato (")) << model().errorMessage().toStdString();
+    EXPECT_EQ(home.workspace.openings.size(), 2U);
 }
 
 TEST_F(AppModelLaunch, launch_AlreadyOpen_OnlyComesForward) {

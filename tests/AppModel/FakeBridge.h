@@ -3,6 +3,9 @@
 
 #pragma once
 
+#include <functional>
+#include <optional>
+#include <utility>
 #include <vector>
 
 #include "AppModel/DesktopBridge.h"
@@ -17,6 +20,8 @@ struct FakeBridge final : DesktopBridge {
     std::vector<std::filesystem::path> opened;
     QString proposedName;
     std::optional<std::filesystem::path> archive; ///< the answer of the save dialog
+    bool answersLater = false;                    ///< when `answer` is called
+    std::function<void(std::optional<std::filesystem::path>)> answer;
 
     void endApplication() override { ++ends; }
     void copyToClipboard(const QString& text) override { clipboard = text; }
@@ -25,7 +30,9 @@ struct FakeBridge final : DesktopBridge {
     void askForArchive(const QString& name,
                        std::function<void(std::optional<std::filesystem::path>)> done) override {
         proposedName = name;
-        done(archive);
+        answer = std::move(done);
+        if (!answersLater)
+            answer(archive);
     }
 };
 

@@ -121,10 +121,15 @@ TEST_F(FormsTest, sessionImport_SearchNarrowsWhatIsChosen) {
     prepare(form, {{"target", "lavoro"}});
     form.componentComplete();
     EXPECT_TRUE(form.isLoading());
-    const QDeadlineTimer limit(20'000);
-    while (form.isLoading() && !limit.hasExpired())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+    const auto waitUntilRead = [&] {
+        const QDeadlineTimer limit(20'000);
+        while (form.isLoading() && !limit.hasExpired())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+    };
+    waitUntilRead();
     ChoiceListModel& sessions = *form.sessions();
+    const Mirror seenForm(form);
+    const Mirror seen(sessions);
     EXPECT_EQ(sessions.total(), 3);
     sessions.setSearch("negozio");
     EXPECT_EQ(sessions.rowCount(), 2);
