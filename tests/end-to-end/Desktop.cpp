@@ -17,6 +17,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
+template <typename T>
+using Reply = std::unique_ptr<T, decltype(&std::free)>;
+
 /// No service of this machine may answer on the bus except the one that screen readers use.
 std::string busConfiguration(const fs::path& services) {
     const fs::path accessibility = "/usr/share/dbus-1/services/org.a11y.Bus.service";
@@ -91,6 +94,28 @@ void Desktop::press(const std::vector<xcb_keysym_t>& keys) const {
 void Desktop::type(const std::string& text) const {
     for (const char letter : text)
         press({static_cast<xcb_keysym_t>(letter)});
+}
+
+void Desktop::focus(const std::string& title) const {
+    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data->root;
+    const Reply<xcb_query_tree_reply_t> tree(
+        xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, root), nullptr), &std::free);
+    xcb_window_t wanted = XCB_NONE;
+    for (int i = 0; i < xcb_query_tree_children_length(tree.get()); ++i) {
+        const xcb_window_t window = xcb_query_tree_children(tree.get())[i];
+        const Reply<xcb_get_property_reply_t> name(
+            xcb_get_property_reply(m_connection,
+                                   xcb_get_property(m_connection, 0, window, XCB_ATOM_WM_NAME,
+                                                    XCB_GET_PROPERTY_TYPE_ANY, 0, 100),
+                                   nullptr),
+            &std::free);
+        const std::string_view text(static_cast<const char*>(xcb_get_property_value(name.get())),
+                                    static_cast<std::size_t>(xcb_get_property_value_length(name.get())));
+        if (!title.empty() && text == title)
+            wanted = window;
+    }
+    xcb_set_input_focus(m_connection, XCB_INPUT_FOCUS_NONE, wanted, XCB_CURRENT_TIME);
+    xcb_flush(m_connection);
 }
 
 Desktop::Key Desktop::find(xcb_keysym_t symbol) const {

@@ -29,6 +29,8 @@ public:
     void press(const std::vector<xcb_keysym_t>& keys) const;
     /// Types plain letters, digits and punctuation.
     void type(const std::string& text) const;
+    /// Gives the keyboard to the window with this title, or to none if it is empty.
+    void focus(const std::string& title) const;
 
 private:
     struct Key {

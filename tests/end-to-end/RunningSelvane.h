@@ -5,6 +5,7 @@
 
 #include <atspi/atspi.h>
 
+#include <csignal>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -71,6 +72,7 @@ public:
 
     /// Waits until the program ends.
     int status() { return m_program.waitForEnd(); }
+    void crash() { kill(m_program.pid(), SIGKILL); }
 
 private:
     static void hear(AtspiEvent* event, void* self);

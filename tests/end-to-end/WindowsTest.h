@@ -26,6 +26,7 @@ protected:
     }
     static void press(const std::vector<xcb_keysym_t>& keys) { desktop().press(keys); }
     static void type(const std::string& text) { desktop().type(text); }
+    static void focus(const std::string& title) { desktop().focus(title); }
     /// Each object that Tab stops at, from the one with the focus until that has it again.
     static std::vector<Seen> tabAround(
         const RunningSelvane& selvane, const std::function<void(const Seen&)>& atStop = [](const Seen&) {}) {

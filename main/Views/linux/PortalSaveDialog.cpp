@@ -83,7 +83,7 @@ void PortalSaveDialog::ask(const QWindow* parent, const QString& title, const QS
     qDBusRegisterMetaType<QList<FilterRule>>();
     qDBusRegisterMetaType<FileFilter>();
     qDBusRegisterMetaType<QList<FileFilter>>();
-    forget();
+    giveUp();
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected()) {
         QMetaObject::invokeMethod(this, &PortalSaveDialog::unavailable, Qt::QueuedConnection);
@@ -109,10 +109,16 @@ void PortalSaveDialog::ask(const QWindow* parent, const QString& title, const QS
                         // A path is bytes with a NUL at the end.
                         {"current_folder", QByteArray(QFile::encodeName(folder)).append('\0')}};
     auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(call), this);
+    m_isAnnounced = true;
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, request = m_request] {
         const QDBusPendingReply<QDBusObjectPath> reply = *watcher;
         watcher->deleteLater();
-        if (!reply.isError() || request != m_request)
+        if (request != m_request) {
+            closeDialog(request);
+            return;
+        }
+        m_isAnnounced = false;
+        if (!reply.isError())
             return;
         forget();
         emit unavailable();
@@ -132,10 +138,8 @@ void PortalSaveDialog::respond(uint response, const QVariantMap& results) {
     const QStringList places = results.value("uris").toStringList();
     if (response == 0 && !places.isEmpty())
         emit chosen(QUrl(places.first()));
-    else if (response <= 1)
-        emit cancelled();
     else
-        emit unavailable();
+        emit cancelled(); // some portals report Escape as an end of another kind
 }
 
 } // namespace selvane

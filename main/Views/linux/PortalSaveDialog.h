@@ -23,9 +23,14 @@ private slots:
     void respond(uint response, const QVariantMap& results);
 
 private:
-    void forget();
+    QString handleOf(QWindow* window);
+    void giveUp();
+    static void closeDialog(const QString& request);
+    QString forget(); ///< returns the path of the request that was open
 
-    QString m_request; ///< path of the open request; empty if there is none
+    QString m_request;                        ///< path of the open request; empty if there is none
+    bool m_isAnnounced = false;               ///< whether the portal hasn't answered the call for it yet
+    std::unique_ptr<ExportedWindow> m_parent; ///< while its dialog is open
     int m_count = 0;
 };
 

@@ -131,16 +131,28 @@ void LauncherApp::tryToShow(WindowName name) {
     m_app.perform([&] { show(name); });
 }
 
+/// Opens a sheet or an alert over the key window. It goes when it closes.
+QObject* LauncherApp::makeLayer(const char* type, QVariantMap properties) {
+    QQuickItem* parent = window(m_keyWindow)->contentItem();
+    properties.insert("parent", QVariant::fromValue(parent));
+    QObject* layer = make(m_engine, type, properties).release();
+    QQmlEngine::setObjectOwnership(layer, QQmlEngine::CppOwnership);
+    layer->setParent(parent);
+    connect(layer, SIGNAL(closed()), layer, SLOT(deleteLater()));
+    return layer;
+}
+
 void LauncherApp::askForArchive(const QString& proposedPlace) {
     m_app.perform([&] {
-        QQuickItem* parent = window(m_keyWindow)->contentItem();
-        QObject* sheet = make(m_engine, "ArchiveSheet",
-                              {{"parent", QVariant::fromValue(parent)}, {"place", proposedPlace}})
-                             .release();
-        QQmlEngine::setObjectOwnership(sheet, QQmlEngine::CppOwnership);
-        sheet->setParent(parent);
+        QObject* sheet = makeLayer("ArchiveSheet", {{"place", proposedPlace}});
         connect(sheet, SIGNAL(chosen(QString)), this, SIGNAL(archiveChosen(QString)));
-        connect(sheet, SIGNAL(closed()), sheet, SLOT(deleteLater()));
+    });
+}
+
+void LauncherApp::askToReplace(const QString& place) {
+    m_app.perform([&] {
+        QObject* alert = makeLayer("ReplaceAlert", {{"place", place}});
+        connect(alert, SIGNAL(answered(bool)), this, SIGNAL(replacementAnswered(bool)));
     });
 }
 
@@ -186,6 +198,8 @@ int runLauncherApp(int argc, char** argv) {
     QObject::connect(&launcher, &LauncherApp::shownChanged, &bridge, &SystemBridge::setWatching);
     QObject::connect(&bridge, &SystemBridge::archiveWanted, &launcher, &LauncherApp::askForArchive);
     QObject::connect(&launcher, &LauncherApp::archiveChosen, &bridge, &SystemBridge::answerArchive);
+    QObject::connect(&bridge, &SystemBridge::replacementWanted, &launcher, &LauncherApp::askToReplace);
+    QObject::connect(&launcher, &LauncherApp::replacementAnswered, &bridge, &SystemBridge::answerReplacement);
     launcher.start(request);
     const int status = QGuiApplication::exec();
     QThreadPool::globalInstance()->waitForDone(); // tasks that are still reading use the store

@@ -53,6 +53,8 @@ public slots:
     void answerStart(const QByteArray& request);
     /// Asks for a path in the key window; `archiveChosen` follows.
     void askForArchive(const QString& proposedPlace);
+    /// Asks in the key window whether the file there may be replaced; `replacementAnswered` follows.
+    void askToReplace(const QString& place);
 
 signals:
     /// "Nuovo profilo…" was chosen; the key window responds.
@@ -64,12 +66,14 @@ signals:
     void shownChanged(bool isShown);
     /// As typed; empty if cancelled.
     void archiveChosen(const QString& place);
+    void replacementAnswered(bool replaces);
 
 private:
     void show(WindowName name);
     void offerNewProfile();
     void tryToShow(WindowName name);
     std::unique_ptr<QQuickWindow> makeWindow(WindowName name);
+    QObject* makeLayer(const char* type, QVariantMap properties);
     void setKeyWindow(WindowName name);
     bool isShown() const;
 

@@ -73,7 +73,20 @@ void SystemBridge::answerArchive(const QString& typed) {
         place.remove(0, 2);
     if (!place.endsWith(".zip", Qt::CaseInsensitive))
         place += ".zip";
-    finishArchive(pathOf(QDir::home().absoluteFilePath(place)));
+    place = QDir::home().absoluteFilePath(place);
+    if (const QFileInfo there(place); there.isSymLink() || (there.exists() && !there.isDir())) {
+        m_replaced = place;
+        emit replacementWanted(place);
+        return;
+    }
+    finishArchive(pathOf(place));
+}
+
+void SystemBridge::answerReplacement(bool replaces) {
+    if (replaces)
+        finishArchive(pathOf(m_replaced));
+    else
+        emit archiveWanted(m_replaced);
 }
 
 void SystemBridge::finishArchive(std::optional<fs::path> place) {

@@ -29,11 +29,14 @@ public:
     /// Whether to report copies of Claude Desktop that start or end: on while a window is shown.
     void setWatching(bool watches) { m_watch->setWatching(watches); }
     /// The answer to `archiveWanted`: a path as typed, relative to the home folder unless absolute; empty if
-    /// the user cancelled.
+    /// the user cancelled. If a file is there already, `replacementWanted` follows.
     void answerArchive(const QString& typed);
+    /// The answer to `replacementWanted`; if no, `archiveWanted` follows with the same place.
+    void answerReplacement(bool replaces);
 
 signals:
     void archiveWanted(const QString& proposedPlace);
+    void replacementWanted(const QString& place);
 
 private:
     void finishArchive(std::optional<std::filesystem::path> place);
@@ -41,6 +44,7 @@ private:
     const std::unique_ptr<ApplicationWatch> m_watch;
     const std::unique_ptr<SaveDialog> m_saveDialog;
     QString m_proposedArchive;
+    QString m_replaced; ///< the place that `replacementWanted` named
     std::function<void(std::optional<std::filesystem::path>)> m_archiveDone;
 };
 

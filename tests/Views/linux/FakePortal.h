@@ -8,11 +8,33 @@
 #include <QDBusMessage>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
+#include <QStringList>
 #include <QVariantMap>
+
+#include <functional>
+#include <utility>
 
 namespace selvane::test {
 
 inline constexpr auto kPortalPath = "/org/freedesktop/portal/desktop";
+
+/// A dialog that is open, or has been.
+class FakeRequest : public QDBusAbstractAdaptor {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Request")
+
+public:
+    FakeRequest(QObject* dialog, std::function<void()> whenClosed)
+        : QDBusAbstractAdaptor(dialog), m_whenClosed(std::move(whenClosed)) {}
+
+    // NOLINTBEGIN(readability-identifier-naming): the portal's own names
+public slots:
+    void Close() { m_whenClosed(); }
+    // NOLINTEND(readability-identifier-naming)
+
+private:
+    std::function<void()> m_whenClosed;
+};
 
 /// The desktop's side of the file dialog: records requests and answers when told to.
 class FakeFileChooser : public QDBusAbstractAdaptor {
@@ -24,25 +46,35 @@ public:
 
     QString title;
     QVariantMap options;
-    QString sender;
+    QString window;
+    QStringList requests; ///< paths, the newest last
+    QStringList closed;   ///< those given up
 
     void answer(uint response, const QVariantMap& results) const {
-        const QString path = QStringLiteral("%1/request/%2/%3")
-                                 .arg(kPortalPath, QString(sender).mid(1).replace('.', '_'),
-                                      options.value("handle_token").toString());
-        QDBusMessage signal = QDBusMessage::createSignal(path, "org.freedesktop.portal.Request", "Response");
+        answer(requests.last(), response, results);
+    }
+    static void answer(const QString& request, uint response, const QVariantMap& results) {
+        QDBusMessage signal =
+            QDBusMessage::createSignal(request, "org.freedesktop.portal.Request", "Response");
         signal << response << results;
         QDBusConnection("desktop").send(signal);
     }
 
     // NOLINTBEGIN(readability-identifier-naming): the portal's own names
 public slots:
-    QDBusObjectPath SaveFile(const QString& /*parent*/, const QString& itsTitle,
-                             const QVariantMap& itsOptions, const QDBusMessage& call) {
+    QDBusObjectPath SaveFile(const QString& itsWindow, const QString& itsTitle, const QVariantMap& itsOptions,
+                             const QDBusMessage& call) {
+        window = itsWindow;
         title = itsTitle;
         options = itsOptions;
-        sender = call.service();
-        return QDBusObjectPath("/as/announced");
+        const QString path = QStringLiteral("%1/request/%2/%3")
+                                 .arg(kPortalPath, call.service().mid(1).replace('.', '_'),
+                                      options["handle_token"].toString());
+        auto* dialog = new QObject(this);
+        new FakeRequest(dialog, [this, path] { closed += path; });
+        QDBusConnection("desktop").registerObject(path, dialog);
+        requests += path;
+        return QDBusObjectPath(path);
     }
     // NOLINTEND(readability-identifier-naming)
 };
