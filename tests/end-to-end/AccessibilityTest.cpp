@@ -50,8 +50,8 @@ TEST_F(Windows, ThePickerIsToldAndReachedByTheKeyboard) {
     auto selvane = start();
     expectNames(selvane);
     const std::vector<std::pair<std::string, std::string>> tiles = {
-        {"Principale", "Aperto, profilo 1 di 3"},
-        {"Lavoro", "Mai avviato, profilo 2 di 3"},
+        {"Principale", "Aperto, profilo 1 di 3, La configurazione standard di Claude (~/.claude)"},
+        {"Lavoro", "Mai avviato, profilo 2 di 3, Account Claude separato"},
         {"Ospite", "Mai avviato, profilo 3 di 3"},
     };
     for (const auto& [name, description] : tiles) {
@@ -98,7 +98,7 @@ TEST_F(Manage, SheetsKeepTheKeyboardInside) {
     };
     for (const auto& [button, title] : sheets) {
         SCOPED_TRACE(title);
-        tabTo(selvane, button);
+        const Seen behind = tabTo(selvane, button);
         press({XK_space});
         const Seen sheet = selvane.find(ATSPI_ROLE_DIALOG, title);
         expectNames(selvane);
@@ -107,6 +107,11 @@ TEST_F(Manage, SheetsKeepTheKeyboardInside) {
         const auto inside = sheet.withDescendants();
         for (const Seen& stop : stops)
             EXPECT_TRUE(contains(inside, stop)) << stop;
+        for (const Seen& seen : selvane.everything()) {
+            const bool canBeUsed = seen.canBePressed() && seen.is(ATSPI_STATE_ENABLED);
+            EXPECT_TRUE(!canBeUsed || contains(inside, seen)) << seen << " lies behind";
+        }
+        behind.press();
         press({XK_Escape});
         selvane.waitUntilGone(ATSPI_ROLE_DIALOG, title);
         selvane.waitForFocus(button);

@@ -20,6 +20,7 @@ FocusScope {
     property int delay: Theme.motion.busyDelay
 
     readonly property bool isBusy: message !== ""
+    property bool covers: false ///< busy, and it has the focus
     readonly property bool hasProgress: work !== null && work.detail !== ""
     readonly property string headline: work !== null && work.headline !== "" ? work.headline : lastMessage
 
@@ -33,8 +34,10 @@ FocusScope {
         if (isBusy) {
             previousFocus = Window.activeFocusItem
             forceActiveFocus(Qt.OtherFocusReason)
+            covers = true
             delayTimer.start()
         } else {
+            covers = false
             delayTimer.stop()
             if (!least.running)
                 isShown = false

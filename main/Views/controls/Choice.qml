@@ -15,10 +15,13 @@ Pressable {
 
     answersReturn: false
     takesFocusOnClick: true
-    opacity: enabled ? 1 : Theme.disabledOpacity
+    opacity: available ? 1 : Theme.disabledOpacity
 
     Accessible.role: Accessible.CheckBox
     Accessible.checkable: true
     Accessible.checked: checked
-    Accessible.onToggleAction: choice.clicked()
+    Accessible.onToggleAction: {
+        if (choice.enabled)
+            choice.clicked()
+    }
 }

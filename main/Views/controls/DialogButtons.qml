@@ -36,7 +36,7 @@ Row {
 
         size: LaunchButton.Medium
         text: buttons.confirmText
-        enabled: buttons.confirmEnabled
+        available: buttons.confirmEnabled
         destructive: buttons.destructive
         onClicked: buttons.confirmed()
     }

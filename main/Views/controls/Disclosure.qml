@@ -18,7 +18,7 @@ Pressable {
 
     label: text
     tabStop: expandable
-    enabled: expandable
+    available: expandable
     implicitWidth: caret.width + caption.anchors.leftMargin + caption.implicitWidth
     implicitHeight: Theme.controls.rowTarget
 

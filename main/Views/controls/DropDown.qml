@@ -33,7 +33,7 @@ Pressable {
     implicitWidth: Theme.controls.modeWidth
     implicitHeight: size === DropDown.Small ? Theme.controls.smallHeight
                   : size === DropDown.Large ? Theme.controls.largeHeight : Theme.controls.height
-    opacity: enabled ? 1 : Theme.disabledOpacity
+    opacity: available ? 1 : Theme.disabledOpacity
 
     Accessible.role: Accessible.ComboBox
     Accessible.name: label !== "" ? label + ": " + currentText : currentText

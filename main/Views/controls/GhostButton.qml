@@ -28,7 +28,7 @@ Pressable {
     implicitHeight: small ? Theme.controls.smallHeight : size === GhostButton.Large ? Theme.controls.largeHeight
                                                                            : Theme.controls.height
     implicitWidth: iconOnly ? implicitHeight : Math.ceil(content.implicitWidth) + 2 * (padding + Theme.hairline)
-    opacity: enabled ? 1 : Theme.disabledOpacity
+    opacity: available ? 1 : Theme.disabledOpacity
 
     Rectangle {
         anchors.fill: parent

@@ -19,9 +19,9 @@ Pressable {
     readonly property bool large: size === LaunchButton.Large
     readonly property real padding: large ? Theme.controls.launchPadding : Theme.controls.confirmPadding
     readonly property bool hasArrow: text.endsWith("→")
-    readonly property color labelColor: enabled ? Theme.onFill : Theme.textFaint
+    readonly property color labelColor: available ? Theme.onFill : Theme.textFaint
     readonly property color fill: {
-        if (!button.enabled)
+        if (!button.available)
             return Theme.raised
         if (button.pressed)
             return button.destructive ? Theme.accent2Pressed : Theme.accentPressed

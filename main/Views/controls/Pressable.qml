@@ -14,6 +14,7 @@ Item {
     property string label ///< accessible name
     property string help ///< shown beside the control after a moment
     property bool tabStop: true
+    property bool available: true ///< what lies behind a sheet can't be pressed either, but doesn't look it
     /// Whether Return presses it too; a choice leaves Return to the sheet around it.
     property bool answersReturn: true
     /// Whether a click gives it the focus: yes for a choice, no for a command.
@@ -41,13 +42,17 @@ Item {
     }
 
     activeFocusOnTab: tabStop
+    enabled: available
 
     Accessible.role: Accessible.Button
     Accessible.name: label
     Accessible.description: help
     Accessible.focusable: tabStop
     Accessible.pressed: pressed
-    Accessible.onPressAction: control.clicked()
+    Accessible.onPressAction: {
+        if (control.enabled)
+            control.clicked()
+    }
 
     Keys.onPressed: event => {
         const isSpace = event.key === Qt.Key_Space

@@ -15,7 +15,7 @@ Pressable {
     label: text
     implicitWidth: Math.ceil(caption.implicitWidth)
     implicitHeight: Theme.controls.rowTarget
-    opacity: enabled ? 1 : Theme.disabledOpacity
+    opacity: available ? 1 : Theme.disabledOpacity
 
     Accessible.role: Accessible.Link
 

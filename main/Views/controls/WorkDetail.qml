@@ -63,7 +63,7 @@ Column {
             anchors.horizontalCenter: parent.horizontalCenter
             anchors.bottom: parent.bottom
             text: qsTr("Annulla")
-            enabled: detail.canCancel && !detail.work.isCancelling
+            available: detail.canCancel && !detail.work.isCancelling
             onClicked: detail.work.cancel()
         }
     }

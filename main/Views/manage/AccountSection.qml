@@ -45,6 +45,8 @@ Card {
             text: section.profile.account
             color: Theme.textSoft
             wrapMode: Text.Wrap
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
     }
     StyledText {

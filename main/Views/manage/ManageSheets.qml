@@ -13,6 +13,7 @@ Item {
     required property AppModel app
     property ModalLayer current: null
     readonly property bool isOpen: current !== null
+    readonly property bool covers: current !== null && current.isOpen ///< not while it fades
 
     function newProfile(source: string): void {
         sheets.open(newProfileSheet, {initialSource: source})

@@ -13,7 +13,9 @@ FocusScope {
     required property AppModel app
     required property Updates updates
 
+    property bool isCovered: false ///< whether something lies over the whole view
     readonly property bool hasSheet: sheets.isOpen
+    readonly property bool canBeUsed: !view.isCovered && !sheets.covers
     /// Whether the application is busy or waiting for an answer.
     readonly property bool isOccupied: app.busyMessage !== "" || app.errorMessage !== "" || app.pendingLaunch !== ""
                                        || app.offerForceQuit !== ""
@@ -32,6 +34,7 @@ FocusScope {
         width: Theme.manage.sidebarWidth
         height: view.height
         focus: true
+        enabled: view.canBeUsed
         app: view.app
         updates: view.updates
         onNewProfileAsked: source => sheets.newProfile(source)
@@ -42,6 +45,7 @@ FocusScope {
         anchors { left: sidebar.right; right: parent.right }
         height: view.height
         visible: profile.profileId !== ""
+        enabled: view.canBeUsed
         app: view.app
         profile: detail
         answersShortcut: visible && !view.hasSheet && !view.isOccupied
@@ -60,6 +64,7 @@ FocusScope {
         id: sheets
 
         anchors.fill: parent
+        enabled: !view.isCovered
         app: view.app
     }
     ProfileDetailModel {

@@ -80,6 +80,8 @@ Item {
                 color: Theme.linked
                 width: Math.min(implicitWidth, header.width / 2)
                 elide: Text.ElideRight
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
             }
         }
         FolderPath {

@@ -33,7 +33,10 @@ Item {
     Accessible.selected: isSelected
     Accessible.focusable: true
     Accessible.focused: isRinged
-    Accessible.onPressAction: row.pressed()
+    Accessible.onPressAction: {
+        if (row.enabled)
+            row.pressed()
+    }
 
     HoverHandler {
         id: pointer

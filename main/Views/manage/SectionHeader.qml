@@ -37,6 +37,8 @@ Item {
         text: header.note
         color: Theme.textFaint
         elide: Text.ElideRight
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
     }
     DropDown {
         id: mode

@@ -55,6 +55,9 @@ Card {
             look: Theme.type.small
             text: section.profile.sessions
             elide: Text.ElideRight
+            Accessible.ignored: text === ""
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
         StyledText {
             width: parent.width
@@ -63,6 +66,8 @@ Card {
             text: section.profile.pendingSessions
             color: Theme.lit
             wrapMode: Text.Wrap
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
         StyledText {
             width: parent.width
@@ -71,6 +76,8 @@ Card {
             text: qsTr("Le chat di claude.ai restano nel loro account; le sessioni Code si possono copiare tra profili")
             color: Theme.textFaint
             wrapMode: Text.Wrap
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
     }
 }

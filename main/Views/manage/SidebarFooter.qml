@@ -82,7 +82,7 @@ Item {
                     soft: true
                     size: GhostButton.Small
                     text: qsTr("Verifica aggiornamenti")
-                    enabled: footer.updates.canCheck
+                    available: footer.updates.canCheck
                     onClicked: footer.updates.checkNow()
                 }
             }

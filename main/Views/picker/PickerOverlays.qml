@@ -21,6 +21,11 @@ Item {
         isKey: overlays.launcher.keyWindow === LauncherApp.Picker
         onNewProfileAsked: overlays.view.newProfile(overlays.view.picker.focused)
     }
+    Binding {
+        target: overlays.view
+        property: "isCovered"
+        value: feedback.covers
+    }
     MenuCommands {
         launcher: overlays.launcher
         target: overlays.target

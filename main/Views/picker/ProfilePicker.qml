@@ -20,7 +20,9 @@ FocusScope {
     /// How much of the unused height goes above the heading and the tiles.
     readonly property real spareAbove: Math.max(0, height - places.height) * Theme.picker.spareAbove
 
+    property bool isCovered: false ///< whether something lies over the whole view
     property ModalLayer sheet: null
+    readonly property bool canBeUsed: !view.isCovered && !(view.sheet && view.sheet.isOpen)
 
     signal manageAsked
 
@@ -33,7 +35,7 @@ FocusScope {
         if (view.sheet)
             return
         const component = Qt.createComponent("NewProfileSheet.qml")
-        view.sheet = component.createObject(view, {app: view.app, initialSource: source}) as ModalLayer
+        view.sheet = component.createObject(layers, {app: view.app, initialSource: source}) as ModalLayer
     }
 
     function move(step: int): bool {
@@ -73,6 +75,7 @@ FocusScope {
         anchors.rightMargin: view.columnLeft
         y: view.places.barTop + (Theme.picker.bar - height) / 2
         spacing: Theme.space8
+        enabled: view.canBeUsed
 
         GhostButton {
             text: qsTr("Gestisci profili")
@@ -129,6 +132,7 @@ FocusScope {
 
         objectName: "strip"
         focus: true
+        enabled: view.canBeUsed
         anchors { left: parent.left; right: parent.right }
         y: view.places.tiles + view.spareAbove - Theme.picker.stripSpare
         height: (view.isCompact ? Theme.picker.tileHeightCompact : Theme.picker.tileHeight) + 2 * Theme.picker.stripSpare
@@ -165,6 +169,12 @@ FocusScope {
         visible: !view.isCompact
     }
 
+    Item {
+        id: layers
+
+        anchors.fill: parent
+        enabled: !view.isCovered
+    }
     Connections {
         target: view.sheet
 

@@ -38,9 +38,19 @@ Item {
 
     Accessible.role: Accessible.Button
     Accessible.name: name
-    Accessible.description: qsTr("%1, profilo %2 di %3").arg(status).arg(position).arg(count)
+    Accessible.description: {
+        const told = [qsTr("%1, profilo %2 di %3").arg(status).arg(position).arg(count)]
+        if (tile.hasOwnAccount)
+            told.push(qsTr("Account Claude separato"))
+        if (tile.summary !== "")
+            told.push(tile.summary)
+        return told.join(", ")
+    }
     Accessible.focusable: true
-    Accessible.onPressAction: tile.launched()
+    Accessible.onPressAction: {
+        if (tile.enabled)
+            tile.launched()
+    }
 
     Behavior on scale {
         NumberAnimation { duration: Theme.motion.tileFocus; easing.type: Easing.OutCubic }

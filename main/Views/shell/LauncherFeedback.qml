@@ -17,6 +17,8 @@ Item {
     property AlertDialog alert: null
     property string alertKind
 
+    /// Whether a message or a question lies over the window, so that nothing behind it can be used.
+    readonly property bool covers: busy.covers || (alert !== null && alert.isOpen)
     readonly property bool isBusy: app.busyMessage !== ""
     readonly property string wantedAlert: !isKey ? "" : app.errorMessage !== "" ? "error"
                                         : app.pendingLaunch !== "" ? "launch"
@@ -54,6 +56,8 @@ Item {
         target: feedback.app
 
         function onNoticeShown(): void {
+            if (feedback.isKey)
+                Announcer.announce(toast, feedback.app.notice)
             if (noticeTimer.running)
                 noticeTimer.restart()
         }
@@ -77,7 +81,13 @@ Item {
         text: feedback.isKey ? feedback.app.notice : ""
     }
     BusyOverlay {
+        id: busy
+
         message: feedback.app.busyMessage
+        onMessageChanged: {
+            if (feedback.isKey)
+                Announcer.announce(busy, feedback.app.busyMessage)
+        }
         work: feedback.app.work
     }
 
