@@ -27,6 +27,9 @@ Item {
     function backUp(): void {
         sheets.open(backupSheet, {})
     }
+    function tellAbout(version: string): void {
+        sheets.open(aboutAlert, {title: qsTr("Selvane %1").arg(version)})
+    }
     function askToDelete(profile: ProfileDetailModel): void {
         sheets.open(deleteAlert, {
             profile: profile,
@@ -93,6 +96,19 @@ Item {
             confirmText: qsTr("Sposta nel Cestino")
             destructive: true
             onConfirmed: profile.remove(profileId)
+            onClosed: sheets.drop()
+        }
+    }
+    Component {
+        id: aboutAlert
+
+        AlertDialog {
+            message: qsTr("Profili di Claude Desktop e Claude Code. © 2026 The Selvane developers, licenza MIT.\n\n"
+                          + "Caratteri, sotto la SIL Open Font License 1.1: Bricolage Grotesque e Instrument Serif "
+                          + "(© 2022) e JetBrains Mono (© 2020), dei rispettivi Project Authors. Icone, sotto la "
+                          + "licenza MIT: Phosphor (© 2023 Phosphor Icons).\n\n"
+                          + "I testi delle licenze sono installati con Selvane.")
+            cancelText: ""
             onClosed: sheets.drop()
         }
     }

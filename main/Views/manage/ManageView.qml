@@ -40,6 +40,7 @@ FocusScope {
         onNewProfileAsked: source => sheets.newProfile(source)
         onBackupAsked: sheets.backUp()
         onPickerAsked: view.pickerAsked()
+        onAboutAsked: sheets.tellAbout(view.updates.version)
     }
     ProfileDetail {
         anchors { left: sidebar.right; right: parent.right }

@@ -17,6 +17,7 @@ FocusScope {
     signal newProfileAsked(string source)
     signal backupAsked
     signal pickerAsked
+    signal aboutAsked
 
     /// Opens a profile's menu at a point in its row.
     function openMenu(profileId: string, row: Item, x: real, y: real): void {
@@ -134,6 +135,7 @@ FocusScope {
         onNewProfileAsked: sidebar.newProfileAsked("")
         onBackupAsked: sidebar.backupAsked()
         onPickerAsked: sidebar.pickerAsked()
+        onAboutAsked: sidebar.aboutAsked()
     }
     Component {
         id: menuComponent

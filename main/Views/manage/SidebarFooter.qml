@@ -18,6 +18,7 @@ Item {
     signal newProfileAsked
     signal backupAsked
     signal pickerAsked
+    signal aboutAsked
 
     /// The space around a bare button's text.
     readonly property real barePadding: checkButton.padding + Theme.hairline
@@ -123,6 +124,15 @@ Item {
                     onClicked: footer.newProfileAsked()
                 }
             }
+        }
+        GhostButton {
+            x: -footer.barePadding
+            visible: Qt.platform.os !== "osx" // which has a menu for that
+            bare: true
+            soft: true
+            size: GhostButton.Small
+            text: qsTr("Selvane %1 · Licenze").arg(footer.updates.version)
+            onClicked: footer.aboutAsked()
         }
     }
 }
