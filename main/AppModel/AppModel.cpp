@@ -153,8 +153,10 @@ void AppModel::sync(const QString& id) {
 void AppModel::copyTerminalCommand(const QString& id) {
     perform([&] {
         const std::filesystem::path helper = m_store.installTerminalHelper();
-        m_desktop.copyToClipboard(QString::fromStdString(text::quotedForShell(helper.string())) + ' ' + id);
-        setNotice(tr("Comando copiato negli appunti"));
+        const QString command = QString::fromStdString(text::quotedForShell(helper.string())) + ' ' + id;
+        setNotice(m_desktop.copyToClipboard(command)
+                      ? tr("Comando copiato negli appunti")
+                      : tr("Comando copiato: incollalo prima di chiudere Selvane"));
     });
 }
 

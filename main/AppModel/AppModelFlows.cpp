@@ -88,8 +88,11 @@ void AppModel::startLaunch(const QString& id, LaunchStep step) {
     try {
         LaunchPlan plan = planFor(*wanted);
         if (plan.alreadyOpen) {
-            m_claude.activate(*plan.alreadyOpen);
-            endIfWanted();
+            if (m_claude.activate(*plan.alreadyOpen))
+                endIfWanted();
+            else
+                setNotice(tr("«%1» è già aperto: la sua finestra è tra quelle di Claude")
+                              .arg(QString::fromStdString(wanted->meta.name)));
         } else if (!plan.toClose.empty() && step == LaunchStep::asked) {
             setText(m_pendingLaunch, id, &AppModel::pendingLaunchChanged);
         } else {
@@ -108,7 +111,8 @@ void AppModel::runLaunch(LaunchPlan plan, LaunchStep step) {
     m_workProgress.clear();
     setText(m_busyMessage, plan.toClose.empty() ? launching : tr("Chiusura di Claude…"),
             &AppModel::busyMessageChanged);
-    const auto work = [this, plan, step, launching]() -> LaunchResult {
+    m_launching = QString::fromStdString(plan.profile.id);
+    const auto work = [this, plan, step, launching, start = m_desktop.startVariables()]() -> LaunchResult {
         LaunchResult result;
         result.failure = failureOf([&] {
             if (!plan.toClose.empty())
@@ -123,7 +127,7 @@ void AppModel::runLaunch(LaunchPlan plan, LaunchStep step) {
                         setText(m_busyMessage, launching, &AppModel::busyMessageChanged);
                 },
                 Qt::QueuedConnection);
-            m_claude.launch(plan.profile, m_store);
+            m_claude.launch(plan.profile, m_store, start);
         });
         return result;
     };

@@ -11,6 +11,8 @@
 #include <functional>
 #include <optional>
 
+#include "platform/process/Process.h"
+
 namespace selvane {
 
 /// What the windows need from the desktop apart from running Claude Desktop.
@@ -21,7 +23,10 @@ public:
     using QObject::QObject;
 
     virtual void endApplication() = 0;
-    virtual void copyToClipboard(const QString& text) = 0;
+    /// Returns whether the text stays there when the application has ended.
+    virtual bool copyToClipboard(const QString& text) = 0;
+    /// Variables with which a program started now may come to the front; empty where the desktop has none.
+    virtual Environment startVariables() = 0;
     /// Shows the item selected in the file manager.
     virtual void reveal(const std::filesystem::path& item) = 0;
     /// Opens a file with its default application.

@@ -20,7 +20,7 @@ void launch(const Call& call) {
     ProfileStore& store = call.store;
     if (const auto open = store.instance(target)) {
         if (store.runs(*open, target)) {
-            call.claude.activate(*open);
+            call.claude.activate(*open); // where that can't be had, it stays where it is
             return;
         }
         call.claude.requireApplication(); // don't close anything unless Claude can be opened again

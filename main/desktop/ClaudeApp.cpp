@@ -167,8 +167,8 @@ std::vector<ProcInfo> ClaudeApp::allProcesses(const DataFolders& folders) const 
     return result;
 }
 
-void ClaudeApp::activate(const Instance& instance) const {
-    m_workspace.activate(instance.app);
+bool ClaudeApp::activate(const Instance& instance) const {
+    return m_workspace.activate(instance.app);
 }
 
 bool ClaudeApp::quit(const std::vector<Instance>& instances, QuitKind kind, std::chrono::milliseconds timeout,
@@ -196,7 +196,7 @@ bool ClaudeApp::quit(const std::vector<Instance>& instances, QuitKind kind, std:
     return true;
 }
 
-void ClaudeApp::launch(const Profile& profile, ProfileStore& store) const {
+void ClaudeApp::launch(const Profile& profile, ProfileStore& store, const Environment& start) const {
     const Application installed = requireApplication();
     store.restoreDesktopData();
     // One launch at a time: the next one must find this copy among the processes.
@@ -208,7 +208,9 @@ void ClaudeApp::launch(const Profile& profile, ProfileStore& store) const {
     note.dataDir = normalizedPath(dataDir);
     if (!profile.isDefault())
         note.config = normalizedPath(profile.configDir);
-    note.opened = m_workspace.open(installed, configuration(profile, dataDir, store.liveDesktopDir()));
+    OpenConfiguration opening = configuration(profile, dataDir, store.liveDesktopDir());
+    opening.environment.insert(start.begin(), start.end());
+    note.opened = m_workspace.open(installed, opening);
     if (!store.testMode()) {
         m_notes.add(note);
         awaitCopy(note, profile, store, installed.executable);

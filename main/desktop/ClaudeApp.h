@@ -57,15 +57,17 @@ public:
     /// Every process whose executable is Claude Desktop's or is inside a data folder.
     std::vector<ProcInfo> allProcesses(const DataFolders& folders) const;
 
-    void activate(const Instance& instance) const;
+    /// Asks for the copy's window to come to the front. False if the window system doesn't allow that.
+    bool activate(const Instance& instance) const;
     /// Asks the copies to end, then waits until they all have and `until` holds, for `timeout` at most (three
     /// seconds if forced). Returns false if time runs out. Blocks.
     bool quit(const std::vector<Instance>& instances, QuitKind kind, std::chrono::milliseconds timeout,
               const std::function<bool()>& until) const;
     /// Brings the profile up to date, opens a new copy with it and waits up to three seconds for the copy to
     /// show its data folder. Throws if nothing was opened, or if the copy uses another data folder or
-    /// configuration; that copy stays open. Blocks.
-    void launch(const Profile& profile, ProfileStore& store) const;
+    /// configuration; that copy stays open. `start` holds variables for this one start, such as what lets the
+    /// new window come to the front. Blocks.
+    void launch(const Profile& profile, ProfileStore& store, const Environment& start = {}) const;
 
 private:
     /// The state of the machine at one moment.

@@ -90,6 +90,9 @@ TEST_F(AppModelTest, actions_TellWhatTheyDid) {
     EXPECT_EQ(bridge.clipboard.toStdString(),
               '"' + (home.store.root() / "bin/claude-profile").string() + "\" lavoro");
     EXPECT_EQ(model().notice(), "Comando copiato negli appunti");
+    bridge.keepsClipboard = false;
+    model().copyTerminalCommand("lavoro");
+    EXPECT_EQ(model().notice(), "Comando copiato: incollalo prima di chiudere Selvane");
 
     model().setAccount("default", "lavoro");
     EXPECT_EQ(home.store.profile("lavoro")->meta.account, "default");
@@ -228,7 +231,8 @@ TEST_F(AppModelLaunch, launch_NothingOpen_StartsAndEndsIfWanted) {
     model().launch("ospite");
     EXPECT_EQ(model().errorMessage(), "") << "pressed twice";
     waitUntilIdle();
-    EXPECT_EQ(home.workspace.openings.size(), 1U);
+    ASSERT_EQ(home.workspace.openings.size(), 1U);
+    EXPECT_EQ(home.workspace.openings[0].environment.at("XDG_ACTIVATION_TOKEN"), "fresh");
     EXPECT_EQ(bridge.ends, 1);
     model().setCloseAfterLaunch(false);
     home.workspace.installed.reset();
@@ -275,6 +279,10 @@ TEST_F(AppModelLaunch, launch_AlreadyOpen_OnlyComesForward) {
     model().setCloseAfterLaunch(true);
     model().launch("default");
     EXPECT_EQ(bridge.ends, 1);
+    home.workspace.canActivate = false;
+    model().launch("default");
+    EXPECT_EQ(bridge.ends, 1) << "nothing would show where it is";
+    EXPECT_TRUE(model().notice().startsWith("«Principale» è già aperto"));
     EXPECT_TRUE(home.workspace.openings.empty() && home.workspace.terminated.empty());
 }
 

@@ -16,6 +16,7 @@ namespace selvane::test {
 struct FakeBridge final : DesktopBridge {
     int ends = 0;
     QString clipboard;
+    bool keepsClipboard = true;
     std::vector<std::filesystem::path> revealed;
     std::vector<std::filesystem::path> opened;
     QString proposedName;
@@ -24,7 +25,11 @@ struct FakeBridge final : DesktopBridge {
     std::function<void(std::optional<std::filesystem::path>)> answer;
 
     void endApplication() override { ++ends; }
-    void copyToClipboard(const QString& text) override { clipboard = text; }
+    bool copyToClipboard(const QString& text) override {
+        clipboard = text;
+        return keepsClipboard;
+    }
+    Environment startVariables() override { return {{"XDG_ACTIVATION_TOKEN", "fresh"}}; }
     void reveal(const std::filesystem::path& item) override { revealed.push_back(item); }
     void open(const std::filesystem::path& file) override { opened.push_back(file); }
     void askForArchive(const QString& name,

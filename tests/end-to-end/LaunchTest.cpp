@@ -14,6 +14,7 @@ const std::string kAccountIsOpen = "Account già aperto in Claude";
 
 TEST_F(Windows, AProfileIsChosenByItsKeysAndLaunched) {
     home.output({"create", "Lavoro", "--from", "default"});
+    home.environment["XDG_ACTIVATION_TOKEN"] = "used by Selvane's own window";
     auto selvane = start();
     selvane.waitForFocus("Principale");
     press({XK_Right});
@@ -22,6 +23,7 @@ TEST_F(Windows, AProfileIsChosenByItsKeysAndLaunched) {
     EXPECT_EQ(selvane.status(), 0);
     const Json report = opened(lavoroData);
     EXPECT_EQ(report["claudeConfigDir"], profile("lavoro").string());
+    EXPECT_EQ(report["environment"]["XDG_ACTIVATION_TOKEN"], Json());
     EXPECT_EQ(report["arguments"],
               Json({"--password-store=basic", "--user-data-dir=" + lavoroData.string()}));
 }

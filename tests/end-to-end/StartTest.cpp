@@ -1,10 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
+#include <algorithm>
+
 #include "end-to-end/WindowsTest.h"
 
 namespace selvane::test {
 namespace {
+
+namespace fs = std::filesystem;
 
 TEST_F(Windows, ASecondStartShowsThePickerOfTheFirst) {
     auto selvane = start();
@@ -99,6 +103,14 @@ TEST_F(Windows, ADisplayThatIsMissingIsNoCrash) {
     EXPECT_EQ(home.execute({}), expected);
     home.environment.erase("DISPLAY");
     EXPECT_EQ(home.execute({}), expected);
+}
+
+TEST_F(Windows, AMissingPackageForWaylandIsNamed) {
+    if (fs::exists(QT_PLUGINS "/platforms/libqwayland-generic.so"))
+        GTEST_SKIP() << "qt6-wayland is installed here";
+    home.environment.erase("DISPLAY");
+    home.environment["WAYLAND_DISPLAY"] = "wayland-9";
+    EXPECT_TRUE(home.execute({}).err.find("manca il pacchetto qt6-wayland") != std::string::npos);
 }
 
 } // namespace

@@ -19,7 +19,7 @@ struct EmptyWorkspace final : Workspace {
     void terminate(const RunningApplication&) override {}
     void forceTerminate(const RunningApplication&) override {}
     bool isTerminated(const RunningApplication&) override { return true; }
-    void activate(const RunningApplication&) override {}
+    bool activate(const RunningApplication&) override { return false; }
 };
 
 /// The files that name accounts and profiles: who is in the normal folder, who was launched last, whose

@@ -42,6 +42,7 @@ struct FakeWorkspace final : Workspace {
     std::vector<std::int32_t> terminated;
     std::vector<std::int32_t> forced;
     std::vector<std::int32_t> activated;
+    bool canActivate = true;
 
     std::optional<Application> application() override { return installed; }
     std::vector<RunningApplication> running(const std::vector<ProcInfo>&) override { return apps; }
@@ -49,7 +50,10 @@ struct FakeWorkspace final : Workspace {
     void terminate(const RunningApplication& app) override;
     void forceTerminate(const RunningApplication& app) override;
     bool isTerminated(const RunningApplication& app) override;
-    void activate(const RunningApplication& app) override { activated.push_back(app.pid); }
+    bool activate(const RunningApplication& app) override {
+        activated.push_back(app.pid);
+        return canActivate;
+    }
 };
 
 /// Time that passes only by sleeping, and then `speed` times as fast.

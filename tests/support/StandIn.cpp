@@ -255,6 +255,7 @@ Json report(const Words& arguments) {
         {"claudeConfigDir", textOrNull(variable("CLAUDE_CONFIG_DIR"))},
         {"environment",
          {{"DBUS_SESSION_BUS_ADDRESS", textOrNull(variable("DBUS_SESSION_BUS_ADDRESS"))},
+          {"XDG_ACTIVATION_TOKEN", textOrNull(variable("XDG_ACTIVATION_TOKEN"))},
           {"XDG_CURRENT_DESKTOP", textOrNull(variable("XDG_CURRENT_DESKTOP"))}}},
         {"launcherVariables", launcherVariables},
         {"streamsAreNull", streamsAreNull()},

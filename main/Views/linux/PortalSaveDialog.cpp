@@ -58,13 +58,6 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, FileFilter& filte
     return argument;
 }
 
-/// Tells the portal which window the dialog belongs to; empty on Wayland.
-QString handleOf(const QWindow* window) {
-    if (window == nullptr || QGuiApplication::platformName() != QStringLiteral("xcb"))
-        return {};
-    return "x11:" + QString::number(window->winId(), 16);
-}
-
 } // namespace
 } // namespace selvane
 
@@ -77,7 +70,7 @@ std::unique_ptr<SaveDialog> makeSaveDialog() {
     return std::make_unique<PortalSaveDialog>();
 }
 
-void PortalSaveDialog::ask(const QWindow* parent, const QString& title, const QString& folder,
+void PortalSaveDialog::ask(QWindow* parent, const QString& title, const QString& folder,
                            const QString& name) {
     qDBusRegisterMetaType<FilterRule>();
     qDBusRegisterMetaType<QList<FilterRule>>();
@@ -125,12 +118,37 @@ void PortalSaveDialog::ask(const QWindow* parent, const QString& title, const QS
     });
 }
 
-void PortalSaveDialog::forget() {
-    if (m_request.isEmpty())
-        return;
-    QDBusConnection::sessionBus().disconnect(portalService(), std::exchange(m_request, {}), kRequest,
-                                             QStringLiteral("Response"), this,
-                                             SLOT(respond(uint, QVariantMap)));
+/// Tells the portal which window the dialog belongs to; empty if that can't be told.
+QString PortalSaveDialog::handleOf(QWindow* window) {
+    if (window == nullptr)
+        return {};
+    if (QGuiApplication::platformName() == QStringLiteral("xcb"))
+        return "x11:" + QString::number(window->winId(), 16);
+    m_parent = std::make_unique<ExportedWindow>(window);
+    return m_parent->name().isEmpty() ? QString() : "wayland:" + m_parent->name();
+}
+
+void PortalSaveDialog::giveUp() {
+    // The portal doesn't know a request before it has answered the call.
+    const bool isKnown = !m_isAnnounced;
+    if (const QString request = forget(); !request.isEmpty() && isKnown)
+        closeDialog(request);
+}
+
+void PortalSaveDialog::closeDialog(const QString& request) {
+    QDBusConnection::sessionBus().asyncCall(
+        QDBusMessage::createMethodCall(portalService(), request, kRequest, QStringLiteral("Close")));
+}
+
+QString PortalSaveDialog::forget() {
+    m_isAnnounced = false;
+    m_parent.reset();
+    const QString request = std::exchange(m_request, {});
+    if (!request.isEmpty())
+        QDBusConnection::sessionBus().disconnect(portalService(), request, kRequest,
+                                                 QStringLiteral("Response"), this,
+                                                 SLOT(respond(uint, QVariantMap)));
+    return request;
 }
 
 void PortalSaveDialog::respond(uint response, const QVariantMap& results) {

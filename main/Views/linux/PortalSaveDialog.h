@@ -5,6 +5,9 @@
 
 #include <QVariantMap>
 
+#include <memory>
+
+#include "Views/linux/WaylandWindow.h"
 #include "Views/shell/SaveDialog.h"
 
 namespace selvane {
@@ -16,8 +19,7 @@ class PortalSaveDialog final : public SaveDialog {
 public:
     using SaveDialog::SaveDialog;
 
-    void ask(const QWindow* parent, const QString& title, const QString& folder,
-             const QString& name) override;
+    void ask(QWindow* parent, const QString& title, const QString& folder, const QString& name) override;
 
 private slots:
     void respond(uint response, const QVariantMap& results);

@@ -15,8 +15,7 @@ class PanelSaveDialog final : public SaveDialog {
 public:
     ~PanelSaveDialog() override { forget(); }
 
-    void ask(const QWindow* parent, const QString& title, const QString& folder,
-             const QString& name) override;
+    void ask(QWindow* parent, const QString& title, const QString& folder, const QString& name) override;
 
 private:
     /// Closes a panel that is still open and ignores its answer.
@@ -37,8 +36,7 @@ NSWindow* systemWindow(const QWindow* window) {
     return view.window;
 }
 
-void PanelSaveDialog::ask(const QWindow* parent, const QString& title, const QString& folder,
-                          const QString& name) {
+void PanelSaveDialog::ask(QWindow* parent, const QString& title, const QString& folder, const QString& name) {
     forget();
     NSSavePanel* panel = [NSSavePanel savePanel];
     m_panel = panel;

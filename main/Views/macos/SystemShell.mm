@@ -12,6 +12,7 @@
 #import "Views/macos/MenuBar.h"
 #include "Views/shell/LauncherApp.h"
 #include "artwork/Brand.h"
+#include "model/LauncherError.h"
 #import "platform/macos/FoundationTypes.h"
 
 /// Called when the user opens the application again from the Dock or the Finder; the system doesn't start a
@@ -81,12 +82,27 @@ private:
 
 } // namespace
 
-/// There is none over ssh alone, for example.
-bool hasDisplay() {
+/// There is no display over ssh alone, for example.
+void requireDisplay() {
     const CFDictionaryRef session = CGSessionCopyCurrentDictionary();
-    if (session == nullptr)
-        return qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
-    CFRelease(session);
+    if (session != nullptr)
+        CFRelease(session);
+    else if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        throw LauncherError(kNoDisplay);
+}
+
+// The system itself decides which application comes to the front, and keeps what was copied.
+QByteArray takeStartToken(Environment& /*environment*/) {
+    return {};
+}
+
+void useStartToken(const QByteArray& /*token*/) {}
+
+Environment startVariables() {
+    return {};
+}
+
+bool keepsClipboard() {
     return true;
 }
 

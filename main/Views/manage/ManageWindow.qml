@@ -19,14 +19,20 @@ Window {
     title: qsTr("Impostazioni")
     color: Theme.windowFill
 
-    ManageView {
-        id: view
-
+    LeastPane {
         anchors.fill: parent
-        app: window.launcher.app
-        updates: window.launcher.updates
-        focus: true
-        onPickerAsked: window.launcher.showPicker()
+        least: Theme.manage.minimum
+
+        ManageView {
+            id: view
+
+            anchors.fill: parent
+            app: window.launcher.app
+            updates: window.launcher.updates
+            focus: true
+            isCovered: feedback.covers
+            onPickerAsked: window.launcher.showPicker()
+        }
     }
     LauncherFeedback {
         id: feedback

@@ -29,16 +29,21 @@ Window {
 
         app: window.launcher.app
     }
-    ProfilePicker {
-        id: view
-
+    LeastPane {
         // The size that the content will have once the window is shown; otherwise everything is laid out
         // twice.
         width: window.width
         height: window.height
-        app: window.launcher.app
-        picker: model
-        onManageAsked: window.launcher.showManage()
+        least: Theme.picker.minimum
+
+        ProfilePicker {
+            id: view
+
+            anchors.fill: parent
+            app: window.launcher.app
+            picker: model
+            onManageAsked: window.launcher.showManage()
+        }
     }
     Loader {
         id: overlays

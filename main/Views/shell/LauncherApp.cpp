@@ -28,8 +28,6 @@ namespace selvane {
 namespace {
 
 constexpr auto kNewProfileOption = "--new-profile";
-constexpr auto kNoDisplay =
-    "Nessuno schermo disponibile: senza, Selvane si usa con i suoi comandi (selvane --help)";
 
 /// If a display is named but doesn't answer, Qt would abort the process.
 void endWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& /*message*/) {
@@ -109,8 +107,9 @@ void LauncherApp::offerNewProfile() {
         connect(picker, SIGNAL(isCompleteChanged()), this, SIGNAL(newProfile()), Qt::UniqueConnection);
 }
 
-void LauncherApp::answerStart(const QByteArray& request) {
+void LauncherApp::answerStart(const QByteArray& request, const QByteArray& token) {
     m_app.perform([&] {
+        useStartToken(token);
         show(Picker);
         if (request == kNewProfileOption)
             offerNewProfile();
@@ -157,8 +156,9 @@ void LauncherApp::askToReplace(const QString& place) {
 }
 
 int runLauncherApp(int argc, char** argv) {
-    if (!hasDisplay())
-        throw LauncherError(kNoDisplay);
+    Environment environment = currentEnvironment();
+    const QByteArray token = takeStartToken(environment);
+    requireDisplay();
     const QtMessageHandler usual = qInstallMessageHandler(endWithoutDisplay);
     QGuiApplication application(argc, argv);
     qInstallMessageHandler(usual);
@@ -166,7 +166,7 @@ int runLauncherApp(int argc, char** argv) {
     QGuiApplication::setDesktopFileName(QStringLiteral("org.selvane.Selvane"));
     const QByteArray request = argc > 1 ? argv[1] : "";
     SingleInstance instance;
-    if (!instance.claim(request))
+    if (!instance.claim(request, token))
         return 0;
     qml_register_types_Selvane();
     QQmlEngine engine;
@@ -176,7 +176,6 @@ int runLauncherApp(int argc, char** argv) {
                                 QUrl(QStringLiteral("qrc:/qt-project.org/imports/Selvane/PickerWindow.qml")),
                                 QQmlComponent::Asynchronous);
     const auto serveLoading = [] { QCoreApplication::sendPostedEvents(); };
-    const Environment environment = currentEnvironment();
     const auto workspace = makeWorkspace(ClaudeApp::identity(), environment);
     SystemClock clock;
     const ClaudeApp claude(*workspace, clock, environment);

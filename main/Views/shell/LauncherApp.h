@@ -49,8 +49,9 @@ public slots:
     // These open a window or bring it to the front, showing what is on disk now.
     void showPicker() { tryToShow(Picker); }
     void showManage() { tryToShow(Manage); }
-    /// Does what starting Selvane with this argument asks for: "--new-profile", or anything else.
-    void answerStart(const QByteArray& request);
+    /// Does what starting Selvane with this argument asks for: "--new-profile", or anything else. `token`
+    /// lets the window come to the front, where that takes one.
+    void answerStart(const QByteArray& request, const QByteArray& token = {});
     /// Asks for a path in the key window; `archiveChosen` follows.
     void askForArchive(const QString& proposedPlace);
     /// Asks in the key window whether the file there may be replaced; `replacementAnswered` follows.

@@ -20,9 +20,8 @@ public:
     using QObject::QObject;
 
     /// Shows the dialog for `parent`, which may be null. Emits exactly one of the signals, always later. A
-    /// new call drops the question that is still open, which then gets no answer.
-    virtual void ask(const QWindow* parent, const QString& title, const QString& folder,
-                     const QString& name) = 0;
+    /// new call closes the dialog that is still open, whose question then gets no answer.
+    virtual void ask(QWindow* parent, const QString& title, const QString& folder, const QString& name) = 0;
 
 signals:
     void chosen(const QUrl& file);

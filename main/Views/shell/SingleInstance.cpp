@@ -23,19 +23,20 @@ QString socketName() {
 
 void SingleInstance::hear(QLocalSocket* caller) {
     connect(caller, &QLocalSocket::disconnected, this, [this, caller] {
-        emit startedAgain(caller->read(kLongestRequest));
+        const QByteArrayList lines = caller->read(kLongestRequest).split('\n');
+        emit startedAgain(lines.first(), lines.value(1));
         caller->deleteLater();
     });
 }
 
-bool SingleInstance::claim(const QByteArray& request) {
+bool SingleInstance::claim(const QByteArray& request, const QByteArray& token) {
     const QString name = socketName();
     if (name.isEmpty())
         return true;
     QLocalSocket other;
     other.connectToServer(name);
     if (other.waitForConnected(kAnswerMilliseconds)) {
-        other.write(request);
+        other.write(request + '\n' + token);
         while (other.bytesToWrite() > 0 && other.waitForBytesWritten(kAnswerMilliseconds)) {
         }
         return false;

@@ -16,12 +16,13 @@ class SingleInstance : public QObject {
 public:
     using QObject::QObject;
 
-    /// Whether this process is the first. If not, it has passed `request` to the other one.
-    bool claim(const QByteArray& request);
+    /// Whether this process is the first. If not, it has passed `request` to the other one, with `token`,
+    /// which lets a window come to the front and may be empty.
+    bool claim(const QByteArray& request, const QByteArray& token);
 
 signals:
-    /// The user has started Selvane again, with this request.
-    void startedAgain(const QByteArray& request);
+    /// The user has started Selvane again, with this request and token.
+    void startedAgain(const QByteArray& request, const QByteArray& token);
 
 private:
     void hear(QLocalSocket* caller);

@@ -41,8 +41,13 @@ void SystemBridge::endApplication() {
     QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
 }
 
-void SystemBridge::copyToClipboard(const QString& text) {
+bool SystemBridge::copyToClipboard(const QString& text) {
     QGuiApplication::clipboard()->setText(text);
+    return keepsClipboard();
+}
+
+Environment SystemBridge::startVariables() {
+    return selvane::startVariables();
 }
 
 void SystemBridge::reveal(const fs::path& item) {

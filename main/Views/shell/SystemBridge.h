@@ -20,7 +20,8 @@ public:
     explicit SystemBridge(std::function<std::vector<OpenCopy>()> look);
 
     void endApplication() override;
-    void copyToClipboard(const QString& text) override;
+    bool copyToClipboard(const QString& text) override;
+    Environment startVariables() override;
     void reveal(const std::filesystem::path& item) override;
     void open(const std::filesystem::path& file) override;
     void askForArchive(const QString& proposedName,

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QByteArray>
 #include <QObject>
 #include <QSettings>
 #include <QString>
@@ -10,12 +11,29 @@
 #include <filesystem>
 #include <memory>
 
+#include "platform/process/Process.h"
+
 namespace selvane {
 
 class LauncherApp;
 
-/// Whether windows can be shown at all.
-bool hasDisplay();
+/// What the user is told without a display.
+inline constexpr auto kNoDisplay =
+    "Nessuno schermo disponibile: senza, Selvane si usa con i suoi comandi (selvane --help)";
+
+/// Throws `LauncherError` if no windows can be shown here. Call it before anything else of Qt.
+void requireDisplay();
+
+/// Takes from `environment` what the desktop has given to this start alone, and returns what lets a window of
+/// it come to the front; empty if it has given nothing.
+QByteArray takeStartToken(Environment& environment);
+/// Lets the next window that asks come to the front by the token of another start.
+void useStartToken(const QByteArray& token);
+/// Variables with which a program started now may come to the front; empty where the system has none.
+Environment startVariables();
+
+/// Whether copied text stays in the clipboard when the application has ended.
+bool keepsClipboard();
 
 /// Where this system keeps the user's preferences.
 std::unique_ptr<QSettings> openSettings();

@@ -31,6 +31,8 @@ struct DesktopServices {
     bool (*desktopEntry)(const char* id, EntryReceiver found, void* context) noexcept;
     /// Raises a window of this process on an X11 display; false if there is none.
     bool (*raiseWindow)(std::int32_t pid) noexcept;
+    /// Whether something keeps what was copied on an X11 display when its owner ends.
+    bool (*hasClipboardManager)() noexcept;
 };
 
 /// Like `services()`.

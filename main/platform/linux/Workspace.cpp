@@ -69,12 +69,12 @@ public:
     void forceTerminate(const RunningApplication& app) override { sendSignal(app, SIGKILL); }
     bool isTerminated(const RunningApplication& app) override { return !isAlive(app); }
 
-    void activate(const RunningApplication& app) override {
+    bool activate(const RunningApplication& app) override {
         try {
-            desktopServices().raiseWindow(app.pid);
+            return desktopServices().raiseWindow(app.pid);
         } catch (const LauncherError&) {
             // Without the services the window stays where it is, as on a display that can't raise windows.
-            return;
+            return false;
         }
     }
 

@@ -146,14 +146,14 @@ public:
 
     bool isTerminated(const RunningApplication& app) override { return !isAlive(app); }
 
-    void activate(const RunningApplication& app) override {
+    bool activate(const RunningApplication& app) override {
         @autoreleasepool {
             NSRunningApplication* target = systemApplication(app);
             // The frontmost application has to give way. NSApp is null in a command, which is never
             // frontmost.
             if (target != nil && NSApp != nil && NSThread.isMainThread)
                 [NSApp yieldActivationToApplication:target];
-            [target activateWithOptions:0];
+            return [target activateWithOptions:0] == YES;
         }
     }
 

@@ -75,8 +75,8 @@ public:
     virtual void terminate(const RunningApplication& app) = 0;      ///< asks it to quit
     virtual void forceTerminate(const RunningApplication& app) = 0; ///< ends it at once
     virtual bool isTerminated(const RunningApplication& app) = 0;
-    /// Brings its window to the front if the window system allows that.
-    virtual void activate(const RunningApplication& app) = 0;
+    /// Asks for its window to come to the front. False if the window system doesn't allow that.
+    virtual bool activate(const RunningApplication& app) = 0;
 };
 
 /// The implementation for this platform. `environment` is that of the session, which the application

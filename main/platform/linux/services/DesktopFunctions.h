@@ -11,5 +11,6 @@ namespace selvane::module {
 int trash(const char* path, ByteSink message, void* context) noexcept;
 bool desktopEntry(const char* id, EntryReceiver found, void* context) noexcept;
 bool raiseWindow(std::int32_t pid) noexcept;
+bool hasClipboardManager() noexcept;
 
 } // namespace selvane::module

@@ -15,6 +15,7 @@ __attribute__((visibility("default"))) const selvane::DesktopServices* selvane_d
         .trash = selvane::module::trash,
         .desktopEntry = selvane::module::desktopEntry,
         .raiseWindow = selvane::module::raiseWindow,
+        .hasClipboardManager = selvane::module::hasClipboardManager,
     };
     return &kTable;
 }

@@ -6,6 +6,8 @@
 #include <cstring>
 #include <memory>
 #include <optional>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 #include <xcb/xcb.h>
@@ -105,12 +107,33 @@ void askToActivate(xcb_connection_t* connection, const Atoms& atoms, xcb_window_
         xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
 }
 
-bool raise(std::int32_t pid) {
+using Connection = std::unique_ptr<xcb_connection_t, Disconnect>;
+
+/// Null without a display that answers.
+Connection connect() {
     const char* const display = std::getenv("DISPLAY");
     if (display == nullptr || *display == '\0')
+        return nullptr;
+    Connection connection(xcb_connect(display, nullptr));
+    return xcb_connection_has_error(connection.get()) == 0 ? std::move(connection) : nullptr;
+}
+
+/// Whether a program owns the selection of that name.
+bool hasOwner(xcb_connection_t* connection, std::string_view selection) {
+    const OwnedReply<xcb_intern_atom_reply_t> atom(xcb_intern_atom_reply(
+        connection,
+        xcb_intern_atom(connection, 1, static_cast<std::uint16_t>(selection.size()), selection.data()),
+        nullptr));
+    if (!atom || atom->atom == XCB_ATOM_NONE)
         return false;
-    const std::unique_ptr<xcb_connection_t, Disconnect> connection(xcb_connect(display, nullptr));
-    if (xcb_connection_has_error(connection.get()) != 0)
+    const OwnedReply<xcb_get_selection_owner_reply_t> owner(
+        xcb_get_selection_owner_reply(connection, xcb_get_selection_owner(connection, atom->atom), nullptr));
+    return owner && owner->owner != XCB_WINDOW_NONE;
+}
+
+bool raise(std::int32_t pid) {
+    const Connection connection = connect();
+    if (!connection)
         return false;
     const auto atoms = findAtoms(connection.get());
     if (!atoms)
@@ -131,6 +154,15 @@ bool raise(std::int32_t pid) {
 bool raiseWindow(std::int32_t pid) noexcept {
     try {
         return raise(pid);
+    } catch (...) {
+        return false;
+    }
+}
+
+bool hasClipboardManager() noexcept {
+    try {
+        const Connection connection = connect();
+        return connection && hasOwner(connection.get(), "CLIPBOARD_MANAGER");
     } catch (...) {
         return false;
     }
