@@ -73,6 +73,8 @@ std::vector<fs::path> ProfileStore::sessionFolders(const fs::path& dataDir, Unre
 
 std::vector<fs::path> ProfileStore::listedPlaces(const Profile& profile) const {
     std::vector<fs::path> places = {profile.configDir, profile.configDir / kQueueFolder};
+    if (!m_files.isFolder(profile.configDir))
+        places.push_back(profile.configDir.parent_path());
     for (const Component component : kComponents)
         places.push_back(profile.url(component));
     try {

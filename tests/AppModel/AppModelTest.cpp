@@ -8,6 +8,7 @@
 #include <sys/stat.h>
 
 #include "AppModel/Wording.h"
+#include "model/LauncherError.h"
 #include "support/RunningProcess.h"
 
 namespace selvane::test {

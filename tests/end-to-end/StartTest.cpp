@@ -56,7 +56,7 @@ TEST_F(Windows, WhatHappensOutsideShowsAtOnce) {
             name + ": " + status);
     };
     home.output({"create", "Lavoro"});
-    waitForTile("Lavoro", "Mai avviato, profilo 2 di 2");
+    waitForTile("Lavoro", "Mai avviato");
     selvane.waitForFocus("Principale");
     for (int i = 0; i < 2; ++i) {
         const Json copy = launch("lavoro", lavoroData);

@@ -47,7 +47,7 @@ Item {
     Accessible.role: Accessible.Button
     Accessible.name: label
     Accessible.description: help
-    Accessible.focusable: tabStop
+    Accessible.focusable: tabStop && enabled
     Accessible.pressed: pressed
     Accessible.onPressAction: {
         if (control.enabled)

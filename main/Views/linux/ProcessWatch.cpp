@@ -37,6 +37,8 @@ public:
         QTimer::singleShot(kFirstLookMilliseconds, this, &ProcessWatch::look);
     }
 
+    void lookAnew() override { m_copies.reset(); }
+
 private:
     void look() {
         if (!m_watcher.isRunning())
@@ -53,7 +55,7 @@ private:
     const std::function<Copies()> m_look;
     QTimer m_timer;
     QFutureWatcher<Copies> m_watcher;
-    std::optional<Copies> m_copies; ///< nothing before the first check
+    std::optional<Copies> m_copies; ///< those reported last; nothing before
 };
 
 } // namespace

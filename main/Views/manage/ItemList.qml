@@ -17,6 +17,7 @@ Item {
     required property real visibleTop
     required property real visibleHeight
     property int currentRow: 0
+    property string currentName ///< that of the current item while the rows are read anew
 
     readonly property int count: component.items.count
     readonly property ItemRow currentItem: rows.currentItem as ItemRow
@@ -55,15 +56,14 @@ Item {
     Connections {
         target: list.component.items
 
-        // The cursor stays with its item, unless the list was empty.
-        function onRowsInserted(parent: var, first: int, last: int): void {
-            const added = last - first + 1
-            if (first <= list.currentRow && added < list.component.items.count)
-                list.currentRow += added
+        // The cursor stays with its item.
+        function onModelAboutToBeReset(): void {
+            list.currentName = list.currentItem?.name ?? ""
         }
-        function onRowsRemoved(parent: var, first: int, last: int): void {
-            if (first <= list.currentRow)
-                list.currentRow = Math.max(first, list.currentRow - (last - first + 1))
+        function onModelReset(): void {
+            const row = list.component.items.rowOf(list.currentName)
+            if (row >= 0)
+                list.currentRow = row
         }
     }
     ListView {

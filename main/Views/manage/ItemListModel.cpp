@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "AppModel/RowUpdate.h"
 #include "platform/text/Text.h"
 
 namespace selvane {
@@ -14,15 +13,20 @@ namespace selvane {
 void ItemListModel::setEntries(std::vector<Entry> entries) {
     if (entries == m_entries)
         return;
-    RowUpdate::apply(*this, m_entries, std::move(entries),
-                     [](const Entry& entry) { return entry.item.name; });
-    if (!m_entries.empty())
-        emit dataChanged(index(0), index(count() - 1));
+    beginResetModel();
+    m_entries = std::move(entries);
+    endResetModel();
     emit countChanged();
 }
 
 const ComponentItem* ItemListModel::item(int row) const {
     return row >= 0 && row < count() ? &m_entries[static_cast<std::size_t>(row)].item : nullptr;
+}
+
+int ItemListModel::rowOf(const QString& name) const {
+    const auto found =
+        std::ranges::find(m_entries, name.toStdString(), [](const Entry& entry) { return entry.item.name; });
+    return found == m_entries.end() ? -1 : static_cast<int>(found - m_entries.begin());
 }
 
 int ItemListModel::linkCount() const {

@@ -39,13 +39,14 @@ public:
 
     using QAbstractListModel::QAbstractListModel;
 
-    /// Rows of items that stay keep their place in views.
+    /// Resets the rows only if something has changed.
     void setEntries(std::vector<Entry> entries);
     const ComponentItem* item(int row) const; ///< null outside the list
 
     int count() const { return static_cast<int>(m_entries.size()); }
     int linkCount() const;
-    Q_INVOKABLE bool isLink(int row) const; ///< false outside the list
+    Q_INVOKABLE int rowOf(const QString& name) const; ///< -1 without such an item
+    Q_INVOKABLE bool isLink(int row) const;           ///< false outside the list
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
@@ -55,8 +56,6 @@ signals:
     void countChanged();
 
 private:
-    friend struct RowUpdate;
-
     std::vector<Entry> m_entries;
 };
 

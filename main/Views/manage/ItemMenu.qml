@@ -12,12 +12,14 @@ ContextMenu {
 
     property ComponentModel component: null
     property int row: -1
+    property string item ///< its name
     property bool isLink: false
 
     /// Opens for a row of the component, at a point in `at`.
     function openFor(component: ComponentModel, row: ItemRow, at: Item, x: real, y: real, height: real): void {
         menu.component = component
         menu.row = row.index
+        menu.item = row.name
         menu.isLink = row.isLink
         menu.openAt(at, x, y, height)
     }
@@ -26,18 +28,11 @@ ContextMenu {
         target: menu.component?.items ?? null
 
         // The menu stays with its item.
-        function onRowsInserted(parent: var, first: int, last: int): void {
-            if (first <= menu.row)
-                menu.row += last - first + 1
-        }
-        function onRowsRemoved(parent: var, first: int, last: int): void {
-            if (last < menu.row)
-                menu.row -= last - first + 1
-            else if (first <= menu.row)
-                menu.close()
-        }
-        function onDataChanged(): void {
+        function onModelReset(): void {
+            menu.row = menu.component.items.rowOf(menu.item)
             menu.isLink = menu.component.items.isLink(menu.row)
+            if (menu.row < 0)
+                menu.close()
         }
     }
     MenuEntry {

@@ -44,9 +44,13 @@ Item {
             title: qsTr("Reimportare da «%1»?").arg(component.sourceName)
         })
     }
+    /// One that fades is in nobody's way.
     function open(kind: Component, values: var): void {
-        if (!sheets.isOpen)
-            sheets.current = kind.createObject(sheets, values) as ModalLayer
+        if (sheets.covers)
+            return
+        if (sheets.current)
+            sheets.drop()
+        sheets.current = kind.createObject(sheets, values) as ModalLayer
     }
     function drop(): void {
         sheets.current.destroy()

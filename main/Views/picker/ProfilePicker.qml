@@ -32,10 +32,16 @@ FocusScope {
     }
     /// The sheet is a third of everything the picker can show, so it is loaded only when first needed.
     function newProfile(source: string): void {
-        if (view.sheet)
+        if (view.sheet && view.sheet.isOpen)
             return
+        view.dropSheet()
         const component = Qt.createComponent("NewProfileSheet.qml")
         view.sheet = component.createObject(layers, {app: view.app, initialSource: source}) as ModalLayer
+    }
+
+    function dropSheet(): void {
+        view.sheet?.destroy()
+        view.sheet = null
     }
 
     function move(step: int): bool {
@@ -179,8 +185,7 @@ FocusScope {
         target: view.sheet
 
         function onClosed(): void {
-            view.sheet.destroy()
-            view.sheet = null
+            view.dropSheet()
         }
     }
 }

@@ -21,6 +21,9 @@ public:
     using QObject::QObject;
 
     virtual void setWatching(bool watches) = 0;
+    /// For those who have looked themselves, perhaps at a copy that has ended since: if this watch looks at
+    /// intervals, it reports after the next look, even without a change.
+    virtual void lookAnew() {}
 
 signals:
     void changed();

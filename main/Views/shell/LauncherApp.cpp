@@ -195,6 +195,7 @@ int runLauncherApp(int argc, char** argv) {
     QObject::connect(&launcher, &LauncherApp::begun, &watch, &FolderWatch::start);
     QObject::connect(&instance, &SingleInstance::startedAgain, &launcher, &LauncherApp::answerStart);
     QObject::connect(&launcher, &LauncherApp::shownChanged, &bridge, &SystemBridge::setWatching);
+    QObject::connect(&model, &AppModel::reloaded, &bridge, &SystemBridge::lookForCopiesAnew);
     QObject::connect(&bridge, &SystemBridge::archiveWanted, &launcher, &LauncherApp::askForArchive);
     QObject::connect(&launcher, &LauncherApp::archiveChosen, &bridge, &SystemBridge::answerArchive);
     QObject::connect(&bridge, &SystemBridge::replacementWanted, &launcher, &LauncherApp::askToReplace);

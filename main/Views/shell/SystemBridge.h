@@ -29,6 +29,7 @@ public:
 
     /// Whether to report copies of Claude Desktop that start or end: on while a window is shown.
     void setWatching(bool watches) { m_watch->setWatching(watches); }
+    void lookForCopiesAnew() { m_watch->lookAnew(); }
     /// The answer to `archiveWanted`: a path as typed, relative to the home folder unless absolute; empty if
     /// the user cancelled. If a file is there already, `replacementWanted` follows.
     void answerArchive(const QString& typed);

@@ -102,7 +102,7 @@ Item {
             compare(home.what(".claude-profiles/studio/skills/due.md"), "2")
             compare(home.what(".claude-profiles/studio/skills/uno.md"), "")
             compare(home.what(".claude-profiles/studio/CLAUDE.md"), "")
-            compare(home.app.notice, "1 sessioni verranno aggiunte dopo il primo login")
+            compare(home.app.notice, "1 sessione verrà aggiunta dopo il primo login")
         }
 
         function test_radioButtonIsChosenByAssistiveTechnology(): void {
