@@ -8,7 +8,7 @@ import Selvane
 
 /// A panel over the dimmed window, shown from its creation until `closed`. Escape cancels and Return
 /// confirms; both close it, but for a confirmation that `closesWhenDone`. The focus stays inside and then returns to
-/// where it was.
+/// where it was, and no key reaches what lies behind.
 FocusScope {
     id: layer
 
@@ -67,6 +67,8 @@ FocusScope {
     Keys.onEscapePressed: cancel()
     Keys.onReturnPressed: confirm()
     Keys.onEnterPressed: confirm()
+    // Tab belongs to the window, which moves the focus.
+    Keys.onPressed: event => event.accepted = event.key !== Qt.Key_Tab && event.key !== Qt.Key_Backtab
 
     states: State {
         name: "open"

@@ -4,8 +4,19 @@
 #include "Views/picker/PickerModel.h"
 
 #include <algorithm>
+#include <utility>
+
+#include "AppModel/Following.h"
 
 namespace selvane {
+
+void PickerModel::setApp(AppModel* app) {
+    const auto connectTo = [this](AppModel& followed) {
+        connect(&followed, &AppModel::selectionChanged, this, [this] { setFocused(m_app->selection()); });
+    };
+    if (follow(app, m_app, this, connectTo))
+        emit appChanged();
+}
 
 void PickerModel::setFocused(const QString& id) {
     if (m_focused == id)
@@ -15,7 +26,10 @@ void PickerModel::setFocused(const QString& id) {
 }
 
 void PickerModel::begin() {
-    setFocused(m_app->selection());
+    const auto launchedLast = m_app->activeID();
+    const bool isFirst = !std::exchange(m_hasBegun, true);
+    const QString launched = isFirst && launchedLast ? QString::fromStdString(*launchedLast) : QString();
+    setFocused(m_app->profile(launched) != nullptr ? launched : m_app->selection());
 }
 
 bool PickerModel::move(int step) {
@@ -45,7 +59,8 @@ bool PickerModel::launchNumber(const QString& digits) {
     const std::vector<Profile>& profiles = m_app->profiles();
     if (!isNumber || number < 1 || number > static_cast<int>(profiles.size()))
         return false;
-    m_app->launch(QString::fromStdString(profiles[static_cast<std::size_t>(number - 1)].id));
+    setFocused(QString::fromStdString(profiles[static_cast<std::size_t>(number - 1)].id));
+    m_app->launch(m_focused);
     return true;
 }
 

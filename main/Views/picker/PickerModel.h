@@ -15,24 +15,28 @@ class PickerModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
 
-    Q_PROPERTY(selvane::AppModel* app MEMBER m_app NOTIFY appChanged REQUIRED)
-    /// Id of the focused profile; empty for none.
+    Q_PROPERTY(selvane::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
+    /// Id of the focused profile; empty for none. It follows the application's selection, which a new profile
+    /// gets, too.
     Q_PROPERTY(QString focused READ focused WRITE setFocused NOTIFY focusedChanged)
 
 public:
     using QObject::QObject;
 
+    AppModel* app() const { return m_app; }
+    void setApp(AppModel* app);
     QString focused() const { return m_focused; }
     void setFocused(const QString& id);
 
-    /// Starts with the profile selected in the application. Called each time the picker is shown.
+    /// Focuses the profile launched last when called first, later the one selected in the application. Called
+    /// each time the picker is shown.
     Q_INVOKABLE void begin();
     /// Moves one tile back or forward and wraps around. False if there are no profiles.
     Q_INVOKABLE bool move(int step);
     /// If no profile is focused, does nothing and returns false.
     Q_INVOKABLE bool launchFocused();
-    /// Launches the profile at the position given by the typed digits, counted from 1. False if there is
-    /// none.
+    /// Focuses and launches the profile at the position given by the typed digits, counted from 1. False if
+    /// there is none.
     Q_INVOKABLE bool launchNumber(const QString& digits);
 
 signals:
@@ -42,6 +46,7 @@ signals:
 private:
     AppModel* m_app = nullptr;
     QString m_focused;
+    bool m_hasBegun = false;
 };
 
 } // namespace selvane

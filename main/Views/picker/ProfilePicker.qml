@@ -20,9 +20,16 @@ FocusScope {
     /// How much of the unused height goes above the heading and the tiles.
     readonly property real spareAbove: Math.max(0, height - places.height) * Theme.picker.spareAbove
 
+    /// Whether a button shows the focus, so that the tiles mustn't.
+    readonly property bool isFocusElsewhere: {
+        const button = Window.activeFocusItem as Pressable
+        return button !== null && button.ringed && !(button instanceof MenuEntry)
+    }
+
     property bool isCovered: false ///< whether something lies over the whole view
     property ModalLayer sheet: null
     readonly property bool canBeUsed: !view.isCovered && !(view.sheet && view.sheet.isOpen)
+    property string focusedBelow ///< the tile that had the focus when the sheet opened
 
     signal manageAsked
 
@@ -36,6 +43,7 @@ FocusScope {
             return
         view.dropSheet()
         const component = Qt.createComponent("NewProfileSheet.qml")
+        view.focusedBelow = view.picker.focused
         view.sheet = component.createObject(layers, {app: view.app, initialSource: source}) as ModalLayer
     }
 
@@ -50,6 +58,11 @@ FocusScope {
         return moved
     }
 
+    function moveTo(row: int): void {
+        view.picker.focused = strip.profiles.idNear(row)
+        strip.takeFocus()
+    }
+
     focus: true
 
     Keys.onLeftPressed: event => event.accepted = view.move(-1)
@@ -58,8 +71,13 @@ FocusScope {
     Keys.onEnterPressed: event => event.accepted = view.picker.launchFocused()
     Keys.onMenuPressed: strip.openMenu()
     Keys.onPressed: event => {
+        event.accepted = true
         if (event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier)
             strip.openMenu()
+        else if (event.key === Qt.Key_Home)
+            view.moveTo(0)
+        else if (event.key === Qt.Key_End)
+            view.moveTo(strip.count - 1)
         else
             event.accepted = view.picker.launchNumber(event.text)
     }
@@ -144,11 +162,12 @@ FocusScope {
         height: (view.isCompact ? Theme.picker.tileHeightCompact : Theme.picker.tileHeight) + 2 * Theme.picker.stripSpare
         profiles: ProfileListModel { app: view.app }
         focused: view.picker.focused
+        showsFocused: !view.isFocusElsewhere
         isCompact: view.isCompact
         margin: view.columnLeft
         onLaunched: profileId => view.app.launch(profileId)
         onSettingsAsked: profileId => view.manage(profileId)
-        onHovered: profileId => view.picker.focused = profileId
+        onPointedAt: profileId => view.picker.focused = profileId
         onNewProfileAsked: source => view.newProfile(source)
     }
 
@@ -186,6 +205,8 @@ FocusScope {
 
         function onClosed(): void {
             view.dropSheet()
+            if (view.picker.focused !== view.focusedBelow) // it is the new one now
+                strip.takeFocus()
         }
     }
 }

@@ -20,6 +20,7 @@ Item {
     required property int index
     required property int count
     required property bool isFocused
+    required property bool isLit ///< looks focused
     required property bool isCompact
 
     readonly property int position: index + 1
@@ -27,13 +28,12 @@ Item {
 
     signal launched
     signal settingsAsked
-    signal hovered
     signal menuAsked(real x, real y)
 
     width: Theme.picker.tileWidth
     height: isCompact ? Theme.picker.tileHeightCompact : Theme.picker.tileHeight
-    scale: isFocused ? Theme.motion.focusedScale : 1
-    z: isFocused ? 1 : 0
+    scale: isLit ? Theme.motion.focusedScale : 1
+    z: isLit ? 1 : 0
     activeFocusOnTab: isFocused
 
     Accessible.role: Accessible.Button
@@ -59,9 +59,9 @@ Item {
     Rectangle {
         anchors.fill: parent
         radius: Theme.radiusTile
-        color: tile.isFocused ? Theme.raised : Theme.surface
-        border.width: tile.isFocused ? Theme.thickLine : Theme.hairline
-        border.color: tile.isFocused ? Theme.lit : Theme.separator
+        color: tile.isLit ? Theme.raised : Theme.surface
+        border.width: tile.isLit ? Theme.thickLine : Theme.hairline
+        border.color: tile.isLit ? Theme.lit : Theme.separator
 
         Behavior on color {
             ColorAnimation { duration: Theme.motion.tileFocus }
@@ -72,7 +72,6 @@ Item {
 
         anchors.fill: parent
         hoverEnabled: true
-        onEntered: tile.hovered()
         onClicked: tile.launched()
     }
     TapHandler {
@@ -90,7 +89,7 @@ Item {
         isRunning: tile.isRunning
         wasLaunched: tile.wasLaunched
         hasOwnAccount: tile.hasOwnAccount
-        isFocused: tile.isFocused
+        isFocused: tile.isLit
         isCompact: tile.isCompact
 
         Behavior on scale {
@@ -100,7 +99,7 @@ Item {
     TileGear {
         anchors { right: parent.right; top: parent.top; margins: Theme.picker.tileGearMargin }
         help: qsTr("Impostazioni di «%1»").arg(tile.name)
-        isOnFocusedTile: tile.isFocused
+        isOnFocusedTile: tile.isLit
         onClicked: tile.settingsAsked()
     }
 }

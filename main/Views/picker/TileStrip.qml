@@ -12,19 +12,26 @@ ListView {
 
     required property ProfileListModel profiles
     required property string focused
+    required property bool showsFocused ///< lights the focused tile
     required property bool isCompact
     required property real margin
     property TileMenu menu: null ///< created when first opened
 
     signal launched(string profileId)
     signal settingsAsked(string profileId)
-    signal hovered(string profileId)
+    signal pointedAt(string profileId)
     signal newProfileAsked(string source)
 
-    /// Opens the focused tile's menu at a point in the tile, by default below its glyph.
-    function openMenu(tile = strip.itemAtIndex(strip.currentIndex), x = Theme.space16, y = Theme.picker.tileNameTop): void {
+    /// Opens the focused tile's menu below its glyph, for the keyboard.
+    function openMenu(): void {
+        const tile = strip.itemAtIndex(strip.currentIndex)
         if (!tile)
             return
+        strip.openMenuAt(tile, Theme.space16, Theme.picker.tileNameTop)
+        strip.menu.move(1)
+    }
+    /// Opens the focused tile's menu at a point in the tile.
+    function openMenuAt(tile: Item, x: real, y: real): void {
         if (!strip.menu)
             strip.menu = menuComponent.createObject(strip) as TileMenu
         strip.menu.profileId = strip.focused
@@ -88,6 +95,23 @@ ListView {
         easing.type: Easing.OutCubic
     }
 
+    // Only a pointer that moves focuses a tile, not one that rests where a tile appears or scrolls to. Where
+    // the pointer comes in isn't yet a movement.
+    HoverHandler {
+        id: pointer
+
+        readonly property point place: point.scenePosition
+        property bool isInside: false
+
+        onHoveredChanged: pointer.isInside = false
+        onPlaceChanged: {
+            const place = strip.mapFromItem(null, pointer.place.x, pointer.place.y)
+            const tile = strip.itemAt(strip.contentX + place.x, strip.contentY) as ProfileTile
+            if (pointer.isInside && pointer.hovered && tile)
+                strip.pointedAt(tile.profileId)
+            pointer.isInside = pointer.hovered
+        }
+    }
     // A mouse wheel turns only one way, so it moves one tile per notch (120 units).
     WheelHandler {
         orientation: Qt.Vertical
@@ -114,13 +138,13 @@ ListView {
         transform: Translate { y: Theme.picker.stripSpare }
         count: strip.profiles.count
         isFocused: profileId === strip.focused
+        isLit: isFocused && strip.showsFocused
         isCompact: strip.isCompact
         onLaunched: strip.launched(tile.profileId)
         onSettingsAsked: strip.settingsAsked(tile.profileId)
-        onHovered: strip.hovered(tile.profileId)
         onMenuAsked: (x, y) => {
-            strip.hovered(tile.profileId)
-            strip.openMenu(tile, x, y)
+            strip.pointedAt(tile.profileId)
+            strip.openMenuAt(tile, x, y)
         }
     }
     Component {

@@ -45,6 +45,14 @@ TEST_F(PickerModelTest, keys_LaunchOnlyWhatIsThere) {
     EXPECT_TRUE(picker.launchFocused());
     waitUntilIdle();
     EXPECT_EQ(home.store.activeID(), "alfa");
+    PickerModel next;
+    next.setApp(&model());
+    next.begin();
+    EXPECT_EQ(next.focused(), "alfa") << "the profile launched last";
+    next.begin();
+    EXPECT_EQ(next.focused(), "default") << "the selected one";
+    model().select("bea");
+    EXPECT_EQ(next.focused(), "bea");
     EXPECT_TRUE(home.store.profile("bea")->meta.lastLaunched);
 }
 

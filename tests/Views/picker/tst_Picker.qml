@@ -58,6 +58,10 @@ Item {
             }
             return null
         }
+        function point(name: string): void {
+            mouseMove(tile(name), 60, 60)
+            mouseMove(tile(name), 61, 60)
+        }
         function launchedInto(): string {
             tryCompare(home.app, "busyMessage", "")
             return home.asked().launches + " " + (home.app.errorMessage || "")
@@ -74,10 +78,18 @@ Item {
             keyClick(Qt.Key_Return)
             compare(launchedInto(), "1 ")
             keyClick(Qt.Key_3)
+            compare(view.picker.focused, "studio")
             compare(launchedInto(), "2 ")
             keyClick(Qt.Key_0)
             keyClick(Qt.Key_4)
             compare(launchedInto(), "2 ")
+            keyClick(Qt.Key_Home)
+            compare(view.picker.focused, "default")
+            keyClick(Qt.Key_End)
+            compare(view.picker.focused, "studio")
+            verify(tile("Studio").isLit && tile("Studio").activeFocus)
+            keyClick(Qt.Key_Tab)
+            verify(!tile("Studio").isLit) // one frame at a time
             compare(home.app.selection, "default")
         }
 
@@ -85,7 +97,7 @@ Item {
             show()
             const work = tile("Lavoro")
             compare(work.mapToItem(findChild(view, "strip"), 0, 0).y, Theme.picker.stripSpare)
-            mouseMove(work)
+            point("Lavoro")
             compare(view.picker.focused, "lavoro")
             mouseClick(work, work.width - Theme.picker.tileGearMargin - 10, Theme.picker.tileGearMargin + 10)
             compare(manageAsked.count, 1)
@@ -99,7 +111,6 @@ Item {
             show()
             keyClick(Qt.Key_Right)
             keyClick(Qt.Key_F10, Qt.ShiftModifier)
-            keyClick(Qt.Key_Down)
             keyClick(Qt.Key_Down)
             keyClick(Qt.Key_Return)
             compare(manageAsked.count, 1)
@@ -125,6 +136,47 @@ Item {
             tryVerify(() => view.sheet === null)
             keyClick(Qt.Key_Left)
             compare(view.picker.focused, "default")
+        }
+
+        function test_sheet_OwnsAllKeys_ThenTheNewTileHasTheFocus(): void {
+            show()
+            keyClick(Qt.Key_Right)
+            view.newProfile("default")
+            const sheet = view.sheet
+            for (const key of [Qt.Key_C, Qt.Key_L, Qt.Key_Right, Qt.Key_Menu, Qt.Key_Left, Qt.Key_Left, Qt.Key_Left])
+                keyClick(key)
+            keyClick(Qt.Key_F10, Qt.ShiftModifier)
+            verify(sheet.activeFocus && !findChild(view, "strip").menu)
+            mouseClick(sheet, sheet.width / 2, sheet.height / 2)
+            keyClick(Qt.Key_Tab)
+            keyClick(Qt.Key_Tab)
+            keyClick(Qt.Key_2)
+            compare(launchedInto(), "0 ")
+            compare(view.picker.focused, "lavoro")
+            sheet.confirm()
+            tryVerify(() => view.sheet === null)
+            compare(view.picker.focused, "cl")
+            tryVerify(() => tile("cl") && tile("cl").activeFocus)
+        }
+
+        function test_restingPointer_LeavesTheFocus(): void {
+            for (let i = 0; i < 6; ++i)
+                home.makeProfile("p" + i, {source: ""})
+            show()
+            mouseMove(view, 10, 10)
+            mouseMove(tile("Lavoro"), 60, 60)
+            compare(view.picker.focused, "default")
+            mouseMove(tile("Lavoro"), 62, 60)
+            compare(view.picker.focused, "lavoro")
+            const strip = findChild(view, "strip")
+            const last = strip.profiles.idNear(8)
+            keyClick(Qt.Key_Left)
+            keyClick(Qt.Key_Left)
+            compare(view.picker.focused, last)
+            tryVerify(() => strip.contentX > strip.lastX - 1)
+            waitForRendering(view)
+            waitForRendering(view)
+            compare(view.picker.focused, last)
         }
 
         function test_manyProfiles_FewTiles_TheFocusedOneInSight(): void {
