@@ -20,7 +20,7 @@ Item {
     visible: plate.opacity > 0
 
     onTextChanged: {
-        if (isShown)
+        if (text !== "") // `isShown` may not have followed yet
             lastText = text
     }
 

@@ -7,12 +7,14 @@ import QtQuick
 import Selvane
 
 /// The application's messages and questions over a window. Every window shows that work is in progress; only
-/// the key window shows notices, errors and the questions of a launch, one at a time.
+/// the key window shows notices, errors and the questions of a launch, one at a time. A notice stays until the
+/// user can have seen it: its time runs only while the application is the active one.
 Item {
     id: feedback
 
     required property AppModel app
     required property bool isKey
+    property bool isActive: Application.state === Qt.ApplicationActive
     property int noticeDuration: Theme.motion.noticeDuration
     property AlertDialog alert: null
     property string alertKind
@@ -70,7 +72,7 @@ Item {
         id: noticeTimer
 
         interval: feedback.noticeDuration
-        running: toast.isShown
+        running: toast.isShown && feedback.isActive
         onTriggered: feedback.app.clearNotice()
     }
 

@@ -44,6 +44,7 @@ Item {
             }
         }
     }
+    Component { id: busy; BusyOverlay { message: "" } }
     SignalSpy { id: newProfile; signalName: "newProfileAsked" }
 
     TestCase {
@@ -82,6 +83,33 @@ Item {
             compare(home.app.notice, "")
         }
 
+        /// Whether pixels of this text's colour are on the screen.
+        function isPainted(root: Item, text: string): bool {
+            const captions = [root]
+            for (let i = 0; i < captions.length; ++i)
+                captions.push(...captions[i].children)
+            const caption = captions.find(item => item instanceof Text && item.text === text)
+            if (!caption)
+                return false
+            const image = grabImage(caption)
+            let inked = 0
+            for (let x = 0; x < image.width; ++x) {
+                for (let y = 0; y < image.height; ++y) {
+                    const far = ["r", "g", "b"].map(part => Math.abs(image.pixel(x, y)[part] - caption.color[part]))
+                    inked += Math.max(...far) < 0.1 ? 1 : 0
+                }
+            }
+            return inked > 20
+        }
+        function test_noticeAndBusyText_ArePainted(): void {
+            home.makeProfile("Lavoro")
+            home.app.sync("lavoro")
+            tryVerify(() => isPainted(findChild(key, "toast"), "Già sincronizzato"))
+            const overlay = createTemporaryObject(busy, scene)
+            overlay.message = "Backup in corso…"
+            tryVerify(() => isPainted(overlay, "Backup in corso…"))
+        }
+
         function test_alerts_OneAtATime_ErrorFirst(): void {
             home.makeProfile("Lavoro", {account: "default"})
             home.openClaude("default")
@@ -95,6 +123,7 @@ Item {
             compare(key.alert.title, "Errore")
             keyClick(Qt.Key_Return)
             compare(home.app.errorMessage, "")
+            compare(key.children.filter(item => item instanceof AlertDialog && item.isOpen).length, 1)
             compare(key.alert.title, "Account già aperto in Claude")
             keyClick(Qt.Key_Escape)
             compare(home.app.pendingLaunch, "")
@@ -130,6 +159,43 @@ Item {
             keyClick(Qt.Key_Return)
             tryVerify(() => home.asked().launches === 1)
             verify(home.asked().forced > 0)
+        }
+
+        function test_secondError_ReplacesTheFirst(): void {
+            home.makeProfile("Lavoro")
+            home.makeProfile("Studio")
+            home.app.setAccount("..", "lavoro")
+            home.app.launch("lavoro")
+            const first = key.alert.message
+            home.write(".claude-profiles/studio/.launcher.json", "{")
+            home.app.sync("studio")
+            verify(home.app.errorMessage !== first)
+            compare(key.alert.message, home.app.errorMessage)
+        }
+
+        function test_notice_StaysUntilTheApplicationIsActive(): void {
+            key.isActive = false
+            home.makeProfile("Lavoro")
+            home.app.sync("lavoro")
+            wait(500)
+            compare(notice(key), "Già sincronizzato")
+            key.isActive = true
+            tryVerify(() => notice(key) === "")
+        }
+
+        function test_busy_TakesAllKeys(): void {
+            home.makeProfile("Lavoro", {account: "default"})
+            home.openClaude("default")
+            home.ignoreTerminations(1000)
+            home.app.launch("lavoro")
+            home.app.confirmLaunch()
+            verify(home.app.busyMessage !== "")
+            verify(scene.Window.activeFocusItem instanceof BusyOverlay)
+            newProfile.target = key
+            newProfile.clear()
+            key.offerNewProfile()
+            compare(newProfile.count, 0)
+            tryCompare(home.app, "busyMessage", "")
         }
 
         function test_newProfile_KeyWindowAnswers_NotOverAQuestion(): void {
