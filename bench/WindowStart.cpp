@@ -100,7 +100,7 @@ public:
 class LogWatcher final : public Watcher {
 public:
     LogWatcher() {
-        setenv("QT_QPA_PLATFORM", "offscreen", 1);
+        setenv("QT_QPA_PLATFORM", "offscreen:configfile=" SELVANE_SCREEN, 1);
         setenv("QT_LOGGING_RULES", "qt.scenegraph.time.renderloop=true", 1);
         setenv("QT_FORCE_STDERR_LOGGING", "1", 1);
     }

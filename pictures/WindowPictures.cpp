@@ -254,7 +254,7 @@ int takeAll(const std::optional<QDir>& folder, const std::string& place) {
 int main(int argc, char** argv) {
     const selvane::test::OwnHome home;
     // The same picture everywhere, without a display or a graphics card.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" SELVANE_SCREEN);
     qputenv("QT_QUICK_BACKEND", "software");
     qInstallMessageHandler(selvane::test::noteWarnings);
     const QGuiApplication application(argc, argv);

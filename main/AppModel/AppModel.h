@@ -64,6 +64,7 @@ public:
     const std::vector<Profile>& profiles() const { return m_profiles; }
     const std::set<std::string>& running() const { return m_running; }
     ProfileStore& store() const { return m_store; }
+    Preferences& preferences() const { return m_preferences; }
     std::optional<std::string> activeID() const { return m_store.activeID(); }
     const Profile* profile(const QString& id) const; ///< null if no loaded profile has that id
     const Profile* selected() const { return profile(m_selection); }
@@ -127,7 +128,7 @@ public slots:
     void revealDamaged(int index); ///< in `damaged`
     void repairDamaged(int index);
     void reveal(const std::filesystem::path& item);
-    /// Creates an empty file first if there is none.
+    /// If there is none, creates it first: empty, or, for JSON, with an empty object.
     void open(const std::filesystem::path& file);
 
 signals:
@@ -158,6 +159,7 @@ private:
     bool isFree();
     void runBackup(BackupScope scope, const std::filesystem::path& archive);
     void report(const std::exception& error);
+    std::function<void()> sayUnreached(const QString& problem, const std::filesystem::path& item);
     void setText(QString& member, const QString& value, void (AppModel::*changed)());
     const Profile* openProfile(const Profile& sameAccount) const;
     QString pendingCloseMessage() const;

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QRect>
 #include <QSettings>
 #include <QString>
 
@@ -24,6 +25,12 @@ public:
 
     QString lastSelection() const { return m_settings->value(kLastSelection, "default").toString(); }
     void setLastSelection(const QString& id) { m_settings->setValue(kLastSelection, id); }
+
+    /// Where a window was, without its frame, when it was last closed; empty if it never was.
+    QRect windowPlace(const QString& window) const { return m_settings->value(window + "Place").toRect(); }
+    void setWindowPlace(const QString& window, const QRect& place) {
+        m_settings->setValue(window + "Place", place);
+    }
 
 private:
     static constexpr auto kCloseAfterLaunch = "closeAfterLaunch";

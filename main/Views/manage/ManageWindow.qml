@@ -12,10 +12,10 @@ Window {
 
     required property LauncherApp launcher
 
-    width: Theme.manage.window.width
-    height: Theme.manage.window.height
-    minimumWidth: Theme.manage.minimum.width
-    minimumHeight: Theme.manage.minimum.height
+    width: Math.min(Theme.manage.window.width, launcher.room.width)
+    height: Math.min(Theme.manage.window.height, launcher.room.height)
+    minimumWidth: Math.min(Theme.manage.minimum.width, launcher.room.width)
+    minimumHeight: Math.min(Theme.manage.minimum.height, launcher.room.height)
     title: qsTr("Impostazioni")
     color: Theme.windowFill
 

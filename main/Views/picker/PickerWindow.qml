@@ -13,10 +13,10 @@ Window {
     required property LauncherApp launcher
     readonly property bool isComplete: overlays.status === Loader.Ready
 
-    width: Theme.picker.window.width
-    height: Theme.picker.window.height
-    minimumWidth: Theme.picker.minimum.width
-    minimumHeight: Theme.picker.minimum.height
+    width: Math.min(Theme.picker.window.width, launcher.room.width)
+    height: Math.min(Theme.picker.window.height, launcher.room.height)
+    minimumWidth: Math.min(Theme.picker.minimum.width, launcher.room.width)
+    minimumHeight: Math.min(Theme.picker.minimum.height, launcher.room.height)
     title: Theme.brand.name
     color: Theme.windowFill
     onVisibleChanged: {

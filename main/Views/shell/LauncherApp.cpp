@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 #include <QQmlComponent>
 #include <QQuickItem>
+#include <QScreen>
 #include <QThreadPool>
 #include <QTimer>
 
@@ -21,6 +22,7 @@
 #include "Views/shell/SystemAppearance.h"
 #include "Views/shell/SystemBridge.h"
 #include "Views/shell/SystemShell.h"
+#include "Views/shell/WindowPlace.h"
 #include "artwork/Brand.h"
 #include "model/LauncherError.h"
 
@@ -35,6 +37,11 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/, co
         return;
     std::fprintf(stderr, "Errore: %s\n", kNoDisplay);
     std::_Exit(EXIT_FAILURE);
+}
+
+/// Under which name the preferences know a window.
+QString keyOf(LauncherApp::WindowName name) {
+    return name == LauncherApp::Picker ? QStringLiteral("picker") : QStringLiteral("manage");
 }
 
 /// Creates a type through its module: a file loaded by its URL alone doesn't see the module's own types.
@@ -64,11 +71,28 @@ LauncherApp::LauncherApp(QQmlEngine& engine, AppModel& app, Updates& updates)
 
 LauncherApp::~LauncherApp() = default;
 
+QSize LauncherApp::room() const {
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen == nullptr ? QSize() : roomIn(screen->availableSize());
+}
+
 std::unique_ptr<QQuickWindow> LauncherApp::makeWindow(WindowName name) {
-    const QVariantMap properties = {{"launcher", QVariant::fromValue(this)}};
+    std::vector<QRect> screens;
+    for (const QScreen* screen : QGuiApplication::screens())
+        screens.push_back(screen->availableGeometry());
+    QVariantMap properties = placeAgain(m_app.preferences().windowPlace(keyOf(name)), screens);
+    properties["launcher"] = QVariant::fromValue(this);
     auto made = make(m_engine, name == Picker ? "PickerWindow" : "ManageWindow", properties);
     std::unique_ptr<QQuickWindow> window(static_cast<QQuickWindow*>(made.release()));
-    connect(window.get(), &QWindow::visibleChanged, this, [this] { emit shownChanged(isShown()); });
+    connect(window.get(), &QWindow::visibleChanged, this,
+            [this, name, window = window.get()](bool isVisible) {
+                if (const QRect place = placeOf(*window); !isVisible && !place.isEmpty())
+                    m_app.preferences().setWindowPlace(keyOf(name), place);
+                const WindowName other = name == Picker ? Manage : Picker;
+                if (!isVisible && this->window(other) != nullptr && this->window(other)->isVisible())
+                    setKeyWindow(other);
+                emit shownChanged(isShown());
+            });
     connect(window.get(), &QWindow::activeChanged, this, [this, name, shown = window.get()] {
         if (shown->isActive())
             setKeyWindow(name);

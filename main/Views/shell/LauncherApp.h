@@ -25,6 +25,8 @@ class LauncherApp : public QObject {
     Q_PROPERTY(selvane::AppModel* app READ app CONSTANT)
     Q_PROPERTY(selvane::Updates* updates READ updates CONSTANT)
     /// The window that was active last; only this one shows notices, errors and questions.
+    /// The largest size that a new window can have on the main screen.
+    Q_PROPERTY(QSize room READ room CONSTANT)
     Q_PROPERTY(WindowName keyWindow READ keyWindow NOTIFY keyWindowChanged)
 
 public:
@@ -38,6 +40,7 @@ public:
 
     AppModel* app() const { return &m_app; }
     Updates* updates() const { return &m_updates; }
+    QSize room() const;
     WindowName keyWindow() const { return m_keyWindow; }
     /// Opens the picker and follows the desktop's settings. Throws `LauncherError` if the picker can't be
     /// created. `request` is as for `answerStart`.
