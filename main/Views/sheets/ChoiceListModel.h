@@ -35,6 +35,7 @@ public:
     using QAbstractListModel::QAbstractListModel;
 
     void setEntries(std::vector<Entry> entries);
+    const std::vector<Entry>& entries() const { return m_entries; }
     std::set<std::string> chosenKeys() const;
 
     int total() const { return static_cast<int>(m_entries.size()); }

@@ -21,10 +21,11 @@ ShareMode nearestMode(ShareMode wanted, Component component) {
                                                                                : ShareMode::separate;
 }
 
-std::unique_ptr<ChoiceListModel> choices(const std::vector<ComponentItem>& items) {
+std::unique_ptr<ChoiceListModel> choices(const std::vector<ComponentItem>& items,
+                                         const std::set<std::string>& leftOut) {
     std::vector<ChoiceListModel::Entry> entries;
     for (const ComponentItem& item : items)
-        entries.push_back({item.name, QString::fromStdString(item.name), {}, true});
+        entries.push_back({item.name, QString::fromStdString(item.name), {}, !leftOut.contains(item.name)});
     auto model = std::make_unique<ChoiceListModel>();
     QQmlEngine::setObjectOwnership(model.get(), QQmlEngine::CppOwnership);
     model->setEntries(std::move(entries));
@@ -62,7 +63,22 @@ void NewProfileForm::setSource(const QString& id) {
     emit sourceChanged();
 }
 
+void NewProfileForm::rememberChoices() {
+    for (const Row& row : m_rows) {
+        if (!row.items)
+            continue;
+        std::set<std::string>& leftOut = m_leftOut[row.component];
+        for (const ChoiceListModel::Entry& entry : row.items->entries()) {
+            if (entry.isChosen)
+                leftOut.erase(entry.key);
+            else
+                leftOut.insert(entry.key);
+        }
+    }
+}
+
 void NewProfileForm::listComponents() {
+    rememberChoices();
     beginResetModel();
     // Views use the items of the old rows until the reset has ended.
     const std::vector<Row> old = std::exchange(m_rows, {});
@@ -71,9 +87,10 @@ void NewProfileForm::listComponents() {
         m_source.clear();
     if (source != nullptr) {
         for (const Component component : kComponents) {
-            Row row{component, defaultMode(component), nullptr};
+            const auto chosen = m_modes.find(component);
+            Row row{component, chosen == m_modes.end() ? defaultMode(component) : chosen->second, nullptr};
             if (isCollection(component))
-                row.items = choices(m_app->store().items(component, *source));
+                row.items = choices(m_app->store().items(component, *source), m_leftOut[component]);
             m_rows.push_back(std::move(row));
         }
     }
@@ -93,6 +110,7 @@ void NewProfileForm::setMode(int row, int modeIndex) {
     if (modeIndex < 0 || modeIndex >= static_cast<int>(modes.size()))
         return;
     changed.mode = modes[static_cast<std::size_t>(modeIndex)];
+    m_modes[changed.component] = changed.mode;
     emit dataChanged(index(row), index(row), {ModeIndexRole});
 }
 
@@ -100,7 +118,7 @@ void NewProfileForm::setAll(ShareMode mode) {
     if (m_rows.empty())
         return;
     for (Row& row : m_rows)
-        row.mode = nearestMode(mode, row.component);
+        row.mode = m_modes[row.component] = nearestMode(mode, row.component);
     emit dataChanged(index(0), index(rowCount() - 1), {ModeIndexRole});
 }
 

@@ -6,7 +6,10 @@
 #include <QAbstractListModel>
 #include <QQmlEngine>
 
+#include <map>
 #include <memory>
+#include <set>
+#include <string>
 #include <vector>
 
 #include "AppModel/AppModel.h"
@@ -24,7 +27,8 @@ class NewProfileForm : public QAbstractListModel {
     Q_PROPERTY(QString name MEMBER m_name NOTIFY nameChanged)
     Q_PROPERTY(QString summary MEMBER m_summary NOTIFY summaryChanged)
     Q_PROPERTY(QString symbol MEMBER m_symbol NOTIFY symbolChanged)
-    /// Id of the profile to start from; empty for none. Becomes empty if that profile is deleted.
+    /// Id of the profile to start from; empty for none. Becomes empty if that profile is deleted. Modes that
+    /// were chosen stay with another source, and so do items that were left out, by their names.
     Q_PROPERTY(QString source READ source WRITE setSource NOTIFY sourceChanged)
     Q_PROPERTY(QString sourceName READ sourceName NOTIFY sourceChanged)
     Q_PROPERTY(bool sharesAccount MEMBER m_sharesAccount NOTIFY sharesAccountChanged)
@@ -80,6 +84,7 @@ private:
     };
 
     void listComponents();
+    void rememberChoices();
     void setAll(ShareMode mode);
     ProfileRequest request() const;
 
@@ -91,6 +96,9 @@ private:
     bool m_sharesAccount = true;
     bool m_copiesSessions = false;
     std::vector<Row> m_rows;
+    // What the user has chosen so far. It applies to every source that has the like.
+    std::map<Component, ShareMode> m_modes;
+    std::map<Component, std::set<std::string>> m_leftOut; ///< names of items
 };
 
 } // namespace selvane

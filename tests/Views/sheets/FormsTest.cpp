@@ -45,13 +45,35 @@ TEST_F(FormsTest, newProfile_SetAll_TakesTheNearestModeWhereNeeded) {
         return result;
     };
     EXPECT_EQ(modes(), "UUUUUESSS");
+    std::string told; // which rows the views hear of
+    QObject::connect(&form, &NewProfileForm::dataChanged,
+                     [&](const QModelIndex& from, const QModelIndex& to) {
+                         told += std::to_string(from.row()) + '-' + std::to_string(to.row()) + ' ';
+                     });
     form.separateAll();
     EXPECT_EQ(modes(), "SSSSSSSSS");
     form.setMode(6, 2); // settings have two modes
     form.setMode(0, 2);
     EXPECT_EQ(modes(), "VSSSSSSSS");
+    EXPECT_EQ(told, "0-8 0-0 ");
     form.shareAll();
     EXPECT_EQ(modes(), "UUUUUUSSS");
+
+    writeFile(home / ".claude/rules/uno.md", "1");
+    writeFile(home.make("Lavoro", {{Component::rules, ShareMode::none}}).configDir / "rules/uno.md", "2");
+    model().reload();
+    form.setSource("");
+    form.setSource("default");
+    form.setMode(0, 2);
+    const auto rules = [&] { // their number and how many of them are chosen
+        const auto* items = form.data(form.index(4), NewProfileForm::ItemsRole).value<ChoiceListModel*>();
+        return std::pair(items->total(), items->chosenCount());
+    };
+    EXPECT_EQ(rules(), std::pair(1, 1));
+    form.data(form.index(4), NewProfileForm::ItemsRole).value<ChoiceListModel*>()->toggle(0);
+    form.setSource("lavoro");
+    EXPECT_EQ(modes(), "VUUUUUSSS") << "what was chosen stays chosen";
+    EXPECT_EQ(rules(), std::pair(1, 0));
 }
 
 TEST_F(FormsTest, newProfile_Create_MakesWhatWasChosen) {
@@ -86,6 +108,12 @@ TEST_F(FormsTest, newProfile_Create_MakesWhatWasChosen) {
     form.create();
     waitUntilIdle();
     EXPECT_FALSE(home.store.profile("vuoto")->meta.source || home.store.profile("vuoto")->meta.account);
+
+    writeSession("1", "Sito", "/srv");
+    prepare(form, {{"name", "Gemello"}, {"source", "default"}, {"copiesSessions", true}});
+    form.create();
+    waitUntilIdle();
+    EXPECT_EQ(model().notice(), "") << "the same account has its sessions already";
 }
 
 TEST_F(FormsTest, import_OffersWhatIsMissingByName) {
