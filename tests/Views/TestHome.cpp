@@ -4,6 +4,8 @@
 #include "Views/TestHome.h"
 
 #include <QAccessible>
+#include <QCoreApplication>
+#include <QKeyEvent>
 
 #include "AppModel/FakeBridge.h"
 #include "support/Home.h"
@@ -156,6 +158,11 @@ QVariantMap TestHome::asked() const {
 
 void TestHome::act(QObject* control, const QString& action) {
     QAccessible::queryAccessibleInterface(control)->actionInterface()->doAction(action);
+}
+
+void TestHome::repeatKey(QObject* window, int key) {
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
+    QCoreApplication::sendEvent(window, &press);
 }
 
 } // namespace selvane::test

@@ -59,6 +59,8 @@ public:
 
     /// Does with a control what assistive technology can do with it, such as "Toggle".
     Q_INVOKABLE static void act(QObject* control, const QString& action);
+    /// What a key that is held down sends again and again.
+    Q_INVOKABLE static void repeatKey(QObject* window, int key);
 
 signals:
     void begun();

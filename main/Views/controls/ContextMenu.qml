@@ -41,6 +41,13 @@ Popover {
     }
     Keys.onUpPressed: move(-1)
     Keys.onDownPressed: move(1)
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_Home || event.key === Qt.Key_End
+        if (event.key === Qt.Key_Home)
+            focusFrom(0, 1)
+        else if (event.key === Qt.Key_End)
+            focusFrom(column.children.length - 1, -1)
+    }
 
     Column {
         id: column

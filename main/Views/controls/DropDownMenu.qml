@@ -6,8 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// The open list of a `DropDown`. Arrows, Home and End move; a letter goes to the next label that begins with
-/// it.
+/// The open list of a `DropDown`. Arrows, Home and End move; typing goes to the label that begins so.
 Popover {
     id: menu
 
@@ -32,15 +31,11 @@ Popover {
         menu.close()
         menu.chosen(index)
     }
-    function findLabel(start: string): bool {
-        for (let i = 1; i <= menu.labels.length; ++i) {
-            const index = (list.currentIndex + i) % menu.labels.length
-            if (menu.labels[index].toLocaleLowerCase().startsWith(start.toLocaleLowerCase())) {
-                list.currentIndex = index
-                return true
-            }
-        }
-        return false
+    function findLabel(letter: string): bool {
+        const found = typeAhead.find(letter, list.currentIndex, menu.labels)
+        if (found >= 0)
+            list.currentIndex = found
+        return found >= 0
     }
 
     Accessible.role: Accessible.PopupMenu
@@ -80,10 +75,13 @@ Popover {
                 list.currentIndex = 0
             else if (event.key === Qt.Key_End)
                 list.currentIndex = list.count - 1
-            else if (event.text.trim() === "" || !menu.findLabel(event.text))
+            else if (!menu.findLabel(event.text))
                 return
             event.accepted = true
         }
+    }
+    TypeAhead {
+        id: typeAhead
     }
     ThinScrollBar {
         flickable: list

@@ -6,12 +6,13 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// Lets the user pick a profile's symbol. It is one Tab stop: arrows move, Space picks a symbol, and so does
-/// Return unless that symbol is already chosen.
+/// Lets the user pick a profile's symbol. It is one Tab stop: arrows, Home and End move, Space picks a symbol,
+/// and so does Return unless that symbol is already chosen.
 ListWell {
     id: grid
 
     required property string selection ///< symbol name
+    property bool picksOnMove: false ///< the arrows pick too, as among radio buttons
 
     signal picked(string symbol)
 
@@ -41,6 +42,13 @@ ListWell {
             return
         cell.forceActiveFocus(Qt.TabFocusReason)
         grid.current = index
+    }
+    function step(index: int): void {
+        if (index < 0 || index >= grid.symbols.length)
+            return
+        grid.moveTo(index)
+        if (grid.picksOnMove)
+            grid.picked(grid.symbols[index])
     }
 
     onSelectionChanged: current = Math.max(0, symbols.indexOf(selection))
@@ -74,10 +82,15 @@ ListWell {
                 answersReturn: !chosen
 
                 onClicked: grid.picked(modelData)
-                Keys.onLeftPressed: grid.moveTo(index - 1)
-                Keys.onRightPressed: grid.moveTo(index + 1)
-                Keys.onUpPressed: grid.moveTo(index - grid.columns)
-                Keys.onDownPressed: grid.moveTo(index + grid.columns)
+                Keys.onLeftPressed: grid.step(index - 1)
+                Keys.onRightPressed: grid.step(index + 1)
+                Keys.onUpPressed: grid.step(index - grid.columns)
+                Keys.onDownPressed: grid.step(index + grid.columns)
+                Keys.onPressed: event => {
+                    event.accepted = event.key === Qt.Key_Home || event.key === Qt.Key_End
+                    if (event.accepted)
+                        grid.step(event.key === Qt.Key_Home ? 0 : grid.symbols.length - 1)
+                }
             }
         }
     }

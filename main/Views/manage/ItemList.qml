@@ -7,7 +7,7 @@ import QtQuick
 import Selvane
 
 /// The items of a component. It is as tall as all its rows, but only the visible ones exist. It is one Tab
-/// stop; arrows move from row to row.
+/// stop; arrows move from row to row, typing to the item whose name begins so.
 Item {
     id: list
 
@@ -28,6 +28,12 @@ Item {
     function moveTo(row: int): void {
         list.currentRow = Math.max(0, Math.min(row, list.count - 1))
         list.rowReached(cursor)
+    }
+    function moveToText(letter: string): bool {
+        const found = typeAhead.findRow(letter, list.currentRow, list.component.items, "name")
+        if (found >= 0)
+            list.moveTo(found)
+        return found >= 0
     }
     function openMenu(x: real, y: real, height: real): void {
         if (list.currentItem)
@@ -65,6 +71,9 @@ Item {
             if (row >= 0)
                 list.currentRow = row
         }
+    }
+    TypeAhead {
+        id: typeAhead
     }
     ListView {
         id: rows
@@ -133,7 +142,7 @@ Item {
             else if (event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier)
                 list.openMenuByKey()
             else
-                event.accepted = false
+                event.accepted = list.moveToText(event.text)
         }
 
         Rectangle {

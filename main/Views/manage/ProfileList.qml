@@ -54,6 +54,12 @@ FocusScope {
         function go(row: int): void {
             sidebar.app.select(list.profiles.idNear(row))
         }
+        function goToText(letter: string): bool {
+            const found = typeAhead.findRow(letter, list.currentIndex, list.profiles, "name")
+            if (found >= 0)
+                go(found)
+            return found >= 0
+        }
         function openCurrentMenu(): void {
             sidebar.openMenu(sidebar.app.selection, list.currentItem, Theme.manage.listInset, Theme.manage.profileHeight)
             sidebar.menu?.move(1)
@@ -94,7 +100,7 @@ FocusScope {
             else if (event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier)
                 openCurrentMenu()
             else
-                event.accepted = false
+                event.accepted = goToText(event.text)
         }
 
         delegate: ProfileRow {
@@ -113,6 +119,9 @@ FocusScope {
             }
             onMenuAsked: (x, y) => sidebar.openMenu(row.profileId, row, x, y)
         }
+    }
+    TypeAhead {
+        id: typeAhead
     }
     ThinScrollBar {
         flickable: list

@@ -7,7 +7,7 @@ import QtQuick
 import Selvane
 
 /// Choices to tick; only the visible rows exist. It is one Tab stop: arrows, Home, End and the Page keys
-/// move, Space ticks.
+/// move, typing goes to the title that begins so, Space ticks.
 Item {
     id: checklist
 
@@ -24,6 +24,16 @@ Item {
         view.currentIndex = Math.max(0, Math.min(index, view.count - 1))
     }
 
+    function moveToText(letter: string): bool {
+        const found = typeAhead.findRow(letter, view.currentIndex, checklist.choices, "title")
+        if (found >= 0)
+            checklist.moveTo(found)
+        return found >= 0
+    }
+
+    TypeAhead {
+        id: typeAhead
+    }
     // Clips the rows, but not the focus ring of the first column.
     Item {
         anchors.fill: parent
@@ -69,6 +79,7 @@ Item {
                     checklist.moveTo(view.currentIndex + view.page)
                     break
                 default:
+                    event.accepted = checklist.moveToText(event.text)
                     return
                 }
                 event.accepted = true

@@ -65,6 +65,7 @@ Sheet {
             SymbolGrid {
                 width: parent.width
                 selection: form.symbol
+                picksOnMove: true
                 onPicked: symbol => form.symbol = symbol
             }
         }

@@ -6,6 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtTest
 import Selvane
+import SelvaneTest
 
 Item {
     id: scene
@@ -13,6 +14,7 @@ Item {
     width: 700
     height: 500
 
+    TestHome { id: home }
     DropDown {
         id: modes
 
@@ -92,6 +94,7 @@ Item {
         function test_switchAsksBySpaceAndMouseOnly() {
             toggle.forceActiveFocus()
             keyClick(Qt.Key_Space)
+            home.repeatKey(scene.Window.window, Qt.Key_Space)
             keyClick(Qt.Key_Return)
             compare(toggled.count, 1)
             compare(toggled.signalArguments[0][0], true)
@@ -106,6 +109,8 @@ Item {
                 { tag: "down", keys: [Qt.Key_Down], symbol: "atom" },
                 { tag: "stays in the last row", keys: [Qt.Key_Down, Qt.Key_Down, Qt.Key_Down], symbol: "star" },
                 { tag: "stays in the first row", keys: [Qt.Key_Up, Qt.Key_Left], symbol: "house" },
+                { tag: "end", keys: [Qt.Key_End], symbol: "sparkles" },
+                { tag: "home", keys: [Qt.Key_End, Qt.Key_Home], symbol: "person.crop.circle" },
                 { tag: "no cell there", keys: Array(9).fill(Qt.Key_Right).concat(Qt.Key_Down, Qt.Key_Down), symbol: "car" }
             ]
         }
@@ -127,6 +132,10 @@ Item {
             keyClick(Qt.Key_Down)
             verify(last.activeFocus)
             keyClick(Qt.Key_Down)
+            verify(first.activeFocus)
+            keyClick(Qt.Key_End)
+            verify(last.activeFocus)
+            keyClick(Qt.Key_Home)
             verify(first.activeFocus)
             keyClick(Qt.Key_Up)
             keyClick(Qt.Key_Return)
