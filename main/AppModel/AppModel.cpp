@@ -3,6 +3,8 @@
 
 #include "AppModel/AppModel.h"
 
+#include <QPointer>
+
 #include <utility>
 
 #include "AppModel/Wording.h"
@@ -184,16 +186,27 @@ void AppModel::repairDamaged(int index) {
     });
 }
 
+/// For the desktop to call when no program shows or opens this item.
+std::function<void()> AppModel::sayUnreached(const QString& problem, const std::filesystem::path& item) {
+    const QString place = QString::fromStdString(text::singleLine(item.string()));
+    return [model = QPointer(this), sentence = problem.arg(place)] {
+        if (model)
+            model->setText(model->m_errorMessage, sentence, &AppModel::errorMessageChanged);
+    };
+}
+
 void AppModel::reveal(const std::filesystem::path& item) {
-    m_desktop.reveal(item);
+    m_desktop.reveal(item,
+                     sayUnreached(tr("Nessun programma può mostrare la cartella. Si trova qui: %1"), item));
 }
 
 void AppModel::open(const std::filesystem::path& file) {
+    const auto unreached = sayUnreached(tr("Nessun programma può aprire il file. Si trova qui: %1"), file);
     perform([&] {
         const FileManager files;
         if (!files.isPresent(file))
-            files.write(file, "");
-        m_desktop.open(file);
+            files.write(file, file.extension() == ".json" ? "{}\n" : "");
+        m_desktop.open(file, unreached);
     });
 }
 

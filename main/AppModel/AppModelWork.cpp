@@ -125,7 +125,9 @@ void AppModel::runBackup(BackupScope scope, const std::filesystem::path& archive
                    ? tr("Backup creato (%1); alcuni file non leggibili sono stati saltati").arg(size)
                    : tr("Backup creato (%1)").arg(size);
     };
-    performLong(tr("Backup in corso…"), work, [this, made] { m_desktop.reveal(*made); });
+    performLong(tr("Backup in corso…"), work, [this, made] {
+        m_desktop.reveal(*made, [] {}); // the notice has told enough
+    });
 }
 
 } // namespace selvane

@@ -27,10 +27,10 @@ public:
     virtual bool copyToClipboard(const QString& text) = 0;
     /// Variables with which a program started now may come to the front; empty where the desktop has none.
     virtual Environment startVariables() = 0;
-    /// Shows the item selected in the file manager.
-    virtual void reveal(const std::filesystem::path& item) = 0;
-    /// Opens a file with its default application.
-    virtual void open(const std::filesystem::path& file) = 0;
+    /// Shows the item selected in the file manager. Calls `failed`, perhaps later, if there is none.
+    virtual void reveal(const std::filesystem::path& item, std::function<void()> failed) = 0;
+    /// Opens a file with its default application. Calls `failed`, perhaps later, if there is none.
+    virtual void open(const std::filesystem::path& file, std::function<void()> failed) = 0;
     /// Asks where to save a zip archive; `done` gets nothing if the user cancels. Doesn't block.
     virtual void askForArchive(const QString& proposedName,
                                std::function<void(std::optional<std::filesystem::path>)> done) = 0;

@@ -110,6 +110,18 @@ TEST_F(AppModelTest, actions_TellWhatTheyDid) {
     model().open(profile.configDir / "manca/file.md");
     EXPECT_TRUE(model().errorMessage().contains("manca")) << model().errorMessage().toStdString();
     EXPECT_EQ(bridge.opened.size(), 1U);
+    model().open(profile.configDir / "settings.json");
+    EXPECT_EQ(readFile(profile.configDir / "settings.json"), "{}\n");
+    fs::create_symlink("/nowhere/file.md", profile.configDir / "dead.md");
+    model().open(profile.configDir / "dead.md");
+    EXPECT_TRUE(fs::exists(profile.configDir / "dead.md")) << "a dead link can't be opened";
+
+    bridge.hasPrograms = false;
+    model().open(profile.configDir / "settings.json");
+    EXPECT_TRUE(model().errorMessage().startsWith("Nessun programma può aprire il file"));
+    model().revealProfile("lavoro");
+    EXPECT_TRUE(model().errorMessage().startsWith("Nessun programma può mostrare la cartella"));
+    EXPECT_TRUE(model().errorMessage().endsWith(QString::fromStdString(profile.configDir.string())));
 }
 
 TEST_F(AppModelTest, create_WithSessions_TellsWhatWaitsAndSelects) {
@@ -320,8 +332,11 @@ TEST_F(AppModelLaunch, launch_CopyThatStays_IsOfferedToBeForced) {
     EXPECT_EQ(model().offerForceQuit(), "ospite");
     EXPECT_EQ(model().errorMessage(), "");
     EXPECT_TRUE(home.workspace.openings.empty());
+    int told = 0;
+    QObject::connect(&model(), &AppModel::offerForceQuitChanged, [&] { ++told; });
     model().forceLaunch();
     EXPECT_EQ(model().offerForceQuit(), "");
+    EXPECT_EQ(told, 1);
     waitUntilIdle();
     EXPECT_EQ(home.workspace.forced.size(), 1U);
     EXPECT_EQ(home.workspace.openings.size(), 1U);

@@ -19,6 +19,7 @@ struct FakeBridge final : DesktopBridge {
     bool keepsClipboard = true;
     std::vector<std::filesystem::path> revealed;
     std::vector<std::filesystem::path> opened;
+    bool hasPrograms = true; ///< that show and open files
     QString proposedName;
     std::optional<std::filesystem::path> archive; ///< the answer of the save dialog
     bool answersLater = false;                    ///< when `answer` is called
@@ -30,8 +31,19 @@ struct FakeBridge final : DesktopBridge {
         return keepsClipboard;
     }
     Environment startVariables() override { return {{"XDG_ACTIVATION_TOKEN", "fresh"}}; }
-    void reveal(const std::filesystem::path& item) override { revealed.push_back(item); }
-    void open(const std::filesystem::path& file) override { opened.push_back(file); }
+    void reveal(const std::filesystem::path& item, std::function<void()> failed) override {
+        reach(revealed, item, failed);
+    }
+    void open(const std::filesystem::path& file, std::function<void()> failed) override {
+        reach(opened, file, failed);
+    }
+    void reach(std::vector<std::filesystem::path>& reached, const std::filesystem::path& item,
+               const std::function<void()>& failed) const {
+        if (hasPrograms)
+            reached.push_back(item);
+        else
+            failed();
+    }
     void askForArchive(const QString& name,
                        std::function<void(std::optional<std::filesystem::path>)> done) override {
         proposedName = name;

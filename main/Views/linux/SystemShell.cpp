@@ -16,6 +16,7 @@
 #include <QStandardPaths>
 
 #include <algorithm>
+#include <utility>
 
 #include "Views/linux/WaylandWindow.h"
 #include "Views/shell/FileUrl.h"
@@ -106,9 +107,12 @@ std::unique_ptr<QObject> makeSystemShell(LauncherApp& launcher) {
     return shell;
 }
 
-void revealItem(const std::filesystem::path& item) {
+void revealItem(const std::filesystem::path& item, std::function<void()> failed) {
     QDBusConnection bus = QDBusConnection::sessionBus();
-    const auto openFolder = [folder = item.parent_path()] { QDesktopServices::openUrl(fileUrl(folder)); };
+    const auto openFolder = [folder = item.parent_path(), failed = std::move(failed)] {
+        if (!QDesktopServices::openUrl(fileUrl(folder)))
+            failed();
+    };
     if (!bus.isConnected()) {
         openFolder();
         return;

@@ -116,7 +116,8 @@ std::unique_ptr<QObject> makeSystemShell(LauncherApp& launcher) {
     return std::make_unique<MacShell>(launcher);
 }
 
-void revealItem(const std::filesystem::path& item) {
+/// The Finder is always there.
+void revealItem(const std::filesystem::path& item, std::function<void()> /*failed*/) {
     struct stat status = {};
     const bool isFolder = ::lstat(item.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
     [NSWorkspace.sharedWorkspace activateFileViewerSelectingURLs:@[ macos::urlOf(item, isFolder) ]];

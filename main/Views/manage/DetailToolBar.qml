@@ -11,6 +11,7 @@ Item {
     id: bar
 
     required property bool isNarrow
+    required property string deletionRefusal ///< shown instead of the button to delete; empty if it can be used
 
     signal commandAsked
     signal duplicateAsked
@@ -53,7 +54,22 @@ Item {
             isIconAlone: bar.isNarrow
             onClicked: bar.revealAsked()
         }
+        StyledText {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: bar.deletionRefusal !== ""
+            leftPadding: Theme.space10
+            width: Math.min(implicitWidth, Theme.manage.toolBarNote)
+            look: Theme.type.small
+            text: bar.deletionRefusal
+            color: Theme.textFaint
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
+            elide: Text.ElideRight
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
+        }
         DetailToolButton {
+            visible: bar.deletionRefusal === ""
             title: qsTr("Elimina")
             symbol: "trash"
             isIconAlone: bar.isNarrow

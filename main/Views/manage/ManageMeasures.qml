@@ -34,6 +34,7 @@ Measures {
     readonly property real toolBarHeight: scaled(48)
     readonly property real toolBarInset: 14
     readonly property real toolBarInsetNarrow: 20
+    readonly property real toolBarNote: scaled(156)
     readonly property real glyph: 88
     readonly property real glyphNarrow: 72
     readonly property real glyphTopNarrow: 12

@@ -35,6 +35,7 @@ FocusScope {
 
         width: detail.width
         isNarrow: detail.isNarrow
+        deletionRefusal: detail.profile.deletionRefusal
         onCommandAsked: detail.app.copyTerminalCommand(detail.profile.profileId)
         onDuplicateAsked: detail.duplicateAsked()
         onRevealAsked: detail.app.revealProfile(detail.profile.profileId)

@@ -5,6 +5,8 @@
 
 #include <QtConcurrent>
 
+#include <algorithm>
+
 #include "AppModel/Following.h"
 #include "AppModel/QtText.h"
 #include "AppModel/Wording.h"
@@ -187,6 +189,21 @@ int ProfileDetailModel::accountIndex() const {
             return static_cast<int>(i) + 1;
     }
     return -1;
+}
+
+QString ProfileDetailModel::deletionRefusal() const {
+    if (!m_profile)
+        return {};
+    if (m_profile->isDefault())
+        return tr("Il profilo principale non si elimina");
+    const auto any = [this](auto&& depends) { return std::ranges::any_of(m_app->profiles(), depends); };
+    if (any([this](const Profile& other) { return other.meta.source == m_profile->id; }))
+        return tr("Non si elimina: altri profili ereditano da questo");
+    if (any([this](const Profile& other) { return other.meta.account == m_profile->id; }))
+        return tr("Non si elimina: altri profili usano il suo account");
+    return isRunning() && m_profile->accountOwner() == m_profile->id
+               ? tr("Aperto in Claude: chiudilo per eliminarlo")
+               : QString();
 }
 
 QString ProfileDetailModel::sessions() const {

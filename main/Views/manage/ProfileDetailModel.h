@@ -43,6 +43,9 @@ class ProfileDetailModel : public QObject {
     Q_PROPERTY(QList<QString> accountChoices READ accountChoices NOTIFY accountChanged)
     Q_PROPERTY(int accountIndex READ accountIndex NOTIFY accountChanged)
 
+    /// Why the profile can't be deleted now; empty if it can.
+    Q_PROPERTY(QString deletionRefusal READ deletionRefusal NOTIFY accountChanged)
+
     Q_PROPERTY(QString sessions READ sessions NOTIFY sessionsChanged) ///< empty until counted
     Q_PROPERTY(
         QString pendingSessions READ pendingSessions NOTIFY sessionsChanged) ///< empty if there are none
@@ -69,6 +72,7 @@ public:
     QString account() const;
     QStringList accountChoices() const;
     int accountIndex() const;
+    QString deletionRefusal() const;
     QString sessions() const;
     QString pendingSessions() const;
     QQmlListProperty<ComponentModel> collections() { return {this, &m_collections}; }

@@ -3,9 +3,30 @@
 
 #include "Views/sheets/BackupForm.h"
 
+#include <algorithm>
+
 #include "AppModel/Following.h"
+#include "platform/files/NormalizedPath.h"
 
 namespace selvane {
+
+BackupForm::BackupForm(QObject* parent) : QObject(parent) {
+    connect(this, &BackupForm::scopeChanged, this, &BackupForm::canSaveChanged);
+    connect(this, &BackupForm::claudeRunsChanged, this, &BackupForm::canSaveChanged);
+}
+
+/// Whether a copy of Claude Desktop uses an account that would be saved.
+bool BackupForm::isOpen() const {
+    if (m_app == nullptr)
+        return false;
+    const ProfileStore& store = m_app->store();
+    const std::string principal = normalizedPath(store.liveDesktopDir());
+    const std::string profiles = normalizedPath(store.desktopStore()) + '/';
+    return std::ranges::any_of(store.claudeInstances(), [&](const ClaudeApp::Instance& copy) {
+        return (m_savesPrincipal && copy.dataDir == principal) ||
+               (m_savesProfiles && copy.dataDir.starts_with(profiles));
+    });
+}
 
 void BackupForm::setApp(AppModel* app) {
     const auto connectTo = [this](AppModel& followed) {

@@ -18,25 +18,29 @@ class BackupForm : public QObject {
     Q_PROPERTY(selvane::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
     Q_PROPERTY(bool savesPrincipal MEMBER m_savesPrincipal NOTIFY scopeChanged)
     Q_PROPERTY(bool savesProfiles MEMBER m_savesProfiles NOTIFY scopeChanged)
-    Q_PROPERTY(bool canSave READ canSave NOTIFY scopeChanged)
+    /// Whether anything is chosen and Claude Desktop has none of it open.
+    Q_PROPERTY(bool canSave READ canSave NOTIFY canSaveChanged)
     Q_PROPERTY(bool claudeRuns READ claudeRuns NOTIFY claudeRunsChanged)
 
 public:
-    using QObject::QObject;
+    explicit BackupForm(QObject* parent = nullptr);
 
     AppModel* app() const { return m_app; }
     void setApp(AppModel* app);
-    bool canSave() const { return m_savesPrincipal || m_savesProfiles; }
+    bool canSave() const { return (m_savesPrincipal || m_savesProfiles) && !isOpen(); }
     bool claudeRuns() const;
-    /// Does nothing if nothing is chosen.
+    /// Does nothing unless it can save.
     Q_INVOKABLE void submit();
 
 signals:
     void appChanged();
     void scopeChanged();
     void claudeRunsChanged();
+    void canSaveChanged();
 
 private:
+    bool isOpen() const;
+
     AppModel* m_app = nullptr;
     bool m_savesPrincipal = true;
     bool m_savesProfiles = true;

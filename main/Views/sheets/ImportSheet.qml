@@ -14,6 +14,8 @@ Sheet {
     required property string target ///< id of the profile that gets them
     required property string component ///< raw value
 
+    readonly property bool hasOthers: form.source !== ""
+
     title: qsTr("Aggiungi da un altro profilo")
     confirmText: qsTr("Aggiungi %1").arg(form.items.chosenCount)
     confirmEnabled: form.items.chosenCount > 0
@@ -31,10 +33,17 @@ Sheet {
         component: sheet.component
         onSucceeded: sheet.close()
     }
+    IconNote {
+        width: parent.width
+        visible: !sheet.hasOthers
+        symbol: "leaf"
+        text: qsTr("C'è solo questo profilo: per prendere elementi da un altro, prima creane uno.")
+    }
     ProfileDropDown {
         id: source
 
         width: parent.width
+        visible: sheet.hasOthers
         label: qsTr("Profilo")
         app: sheet.app
         except: sheet.target
@@ -43,6 +52,7 @@ Sheet {
     }
     Column {
         width: parent.width
+        visible: sheet.hasOthers
         spacing: Theme.sheets.titleGap
 
         SectionTitle {
@@ -67,6 +77,7 @@ Sheet {
         id: way
 
         width: parent.width
+        visible: sheet.hasOthers
         spacing: Theme.space4
 
         SectionTitle {

@@ -13,12 +13,14 @@ Sheet {
     required property AppModel app
     required property string target ///< id of the profile that gets them
 
+    readonly property bool hasOthers: form.source !== ""
+
     title: qsTr("Sessioni del tab Code")
     confirmText: qsTr("Importa %1").arg(form.sessions.chosenCount)
     confirmEnabled: form.sessions.chosenCount > 0
     plateWidth: Theme.sheets.sessionImportWidth
     spacing: Theme.space12
-    firstFocus: search
+    firstFocus: hasOthers ? search : null
     closesWhenDone: true
     onConfirmed: form.submit()
 
@@ -29,10 +31,17 @@ Sheet {
         target: sheet.target
         onSucceeded: sheet.close()
     }
+    IconNote {
+        width: parent.width
+        visible: !sheet.hasOthers
+        symbol: "leaf"
+        text: qsTr("C'è solo questo profilo: per importare sessioni da un altro, prima creane uno.")
+    }
     Row {
         id: inputs
 
         width: parent.width
+        visible: sheet.hasOthers
         spacing: Theme.space12
 
         ProfileDropDown {
@@ -59,6 +68,7 @@ Sheet {
     }
     Column {
         width: parent.width
+        visible: sheet.hasOthers
         spacing: Theme.space4
 
         Item {
@@ -99,6 +109,7 @@ Sheet {
         id: note
 
         width: parent.width
+        visible: sheet.hasOthers
         look: Theme.type.small
         text: qsTr("Vengono copiate le conversazioni e la voce nell'elenco di Claude.")
         color: Theme.textSoft

@@ -50,12 +50,13 @@ Environment SystemBridge::startVariables() {
     return selvane::startVariables();
 }
 
-void SystemBridge::reveal(const fs::path& item) {
-    revealItem(item);
+void SystemBridge::reveal(const fs::path& item, std::function<void()> failed) {
+    revealItem(item, std::move(failed));
 }
 
-void SystemBridge::open(const fs::path& file) {
-    QDesktopServices::openUrl(fileUrl(file));
+void SystemBridge::open(const fs::path& file, std::function<void()> failed) {
+    if (!QDesktopServices::openUrl(fileUrl(file)))
+        failed();
 }
 
 void SystemBridge::askForArchive(const QString& proposedName,

@@ -22,8 +22,8 @@ public:
     void endApplication() override;
     bool copyToClipboard(const QString& text) override;
     Environment startVariables() override;
-    void reveal(const std::filesystem::path& item) override;
-    void open(const std::filesystem::path& file) override;
+    void reveal(const std::filesystem::path& item, std::function<void()> failed) override;
+    void open(const std::filesystem::path& file, std::function<void()> failed) override;
     void askForArchive(const QString& proposedName,
                        std::function<void(std::optional<std::filesystem::path>)> done) override;
 

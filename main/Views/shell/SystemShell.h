@@ -9,6 +9,7 @@
 #include <QString>
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 
 #include "platform/process/Process.h"
@@ -42,7 +43,7 @@ std::unique_ptr<QSettings> openSettings();
 /// `launcher` must outlive it.
 std::unique_ptr<QObject> makeSystemShell(LauncherApp& launcher);
 
-/// Shows the item selected in the file manager.
-void revealItem(const std::filesystem::path& item);
+/// Shows the item selected in the file manager. Calls `failed`, perhaps later, if nothing can show it.
+void revealItem(const std::filesystem::path& item, std::function<void()> failed);
 
 } // namespace selvane

@@ -49,8 +49,14 @@ Item {
             home.openClaude("default")
             openSheet(backup)
             verify(shows(warning))
+            verify(!sheet.confirmEnabled) // it would be refused
+            tabTo("Profilo Principale")
+            press(Qt.Key_Space)
+            verify(sheet.confirmEnabled)
+            press(Qt.Key_Space)
             home.closeClaude()
             verify(!shows(warning))
+            verify(sheet.confirmEnabled)
         }
     }
 }

@@ -16,6 +16,8 @@ Item {
 
     TestHome { id: home }
     Component { id: items; ImportSheet { app: home.app; target: "lavoro"; component: "skills" } }
+    Component { id: onlyItems; ImportSheet { app: home.app; target: "default"; component: "skills" } }
+    Component { id: onlySessions; SessionImportSheet { app: home.app; target: "default" } }
     Component { id: sessions; SessionImportSheet { app: home.app; target: "lavoro" } }
 
     SheetTestCase {
@@ -69,6 +71,17 @@ Item {
             verify(shows("nuova.md") && !shows("Niente da aggiungere"))
         }
 
+        function test_noOtherProfile_IsExplained_data(): var {
+            return [{ tag: "items", sheet: onlyItems, what: "prendere elementi" },
+                    { tag: "sessions", sheet: onlySessions, what: "importare sessioni" }]
+        }
+        function test_noOtherProfile_IsExplained(row: var): void {
+            openSheet(row.sheet)
+            verify(shows(`C'è solo questo profilo: per ${row.what} da un altro, prima creane uno.`))
+            verify(!itemsOf(sheet).some(item => item instanceof DropDown && item.visible))
+            compare(nameOf(focused()), "Annulla")
+        }
+
         function test_longListIsOneStop(): void {
             for (let i = 1000; i < 1500; ++i)
                 home.write(`.claude/skills/${i}.md`)
@@ -79,6 +92,14 @@ Item {
             tryVerify(() => isInSight(focused()))
             press(Qt.Key_Space, Qt.Key_Up, Qt.Key_Space)
             compare(sheet.confirmText, "Aggiungi 3")
+            verify(focused().Accessible.checked)
+            const third = itemsOf(sheet).find(item => item instanceof CheckBoxRow && item.text === "1490.md")
+            verify(!third.Accessible.checked)
+            mouseClick(third)
+            verify(third.Accessible.checked)
+            mouseClick(third)
+            write("1498")
+            compare(nameOf(focused()), "1498.md")
             verify(itemsOf(sheet).filter(item => item instanceof CheckBoxRow).length < 40)
             press(Qt.Key_Backtab)
             compare(nameOf(focused()), "Profilo: Principale")
