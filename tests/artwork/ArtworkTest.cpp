@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "artwork/Brand.h"
+#include "artwork/Icons.h"
 #include "support/Command.h"
 #include "support/Home.h"
 
@@ -78,6 +79,11 @@ TEST(Artwork, renderDMGBackground_TwoResolutionsOfOneSize_TheSameEachTime) {
     }
     ASSERT_EQ(home.execute({"render-dmg-background", folder.string()}), (Outcome{0, "", ""}));
     EXPECT_EQ(treeOf(folder), first);
+}
+
+TEST(Artwork, iconForSymbol_Unknown_IsAPerson) {
+    EXPECT_EQ(iconForSymbol("briefcase"), "briefcase");
+    EXPECT_EQ(iconForSymbol("nessuno.cosi"), "user-circle");
 }
 
 TEST(Artwork, render_WhereNothingCanBeWritten_SaysSo) {

@@ -6,7 +6,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// The text line inside a field: colours, cursor and placeholder.
+/// The text line inside a field: colours, cursor and placeholder. A text that is too long shows its beginning
+/// unless it is being edited.
 TextInput {
     id: input
 
@@ -27,6 +28,12 @@ TextInput {
         width: Theme.hairline
         color: Theme.lit
     }
+
+    onTextChanged: {
+        if (!activeFocus)
+            cursorPosition = 0
+    }
+    onActiveFocusChanged: cursorPosition = activeFocus ? text.length : 0
 
     Accessible.role: Accessible.EditableText
     Accessible.name: label

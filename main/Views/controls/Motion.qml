@@ -25,6 +25,9 @@ QtObject {
     readonly property int sheetOut: fading(120)
     readonly property int toastIn: fading(200)
     readonly property int toastOut: fading(160)
+    readonly property int savedIn: fading(120)
+    readonly property int savedOut: fading(160)
+    readonly property int savedDuration: 1600
     readonly property int busyFade: fading(150)
     readonly property int busyCross: 900
     readonly property int busyDelay: 200 ///< before quick work is shown at all

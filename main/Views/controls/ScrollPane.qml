@@ -6,7 +6,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A column that scrolls if it is too tall. It scrolls the item with the focus into view.
+/// A column that scrolls if it is too tall. It scrolls an item that gets the focus into view, but not one
+/// that gets it back from another window or from a layer that covered the column.
 FocusScope {
     id: pane
 
@@ -21,6 +22,7 @@ FocusScope {
     readonly property real visibleTop: view.contentY - topMargin
     readonly property real visibleHeight: view.height
     readonly property Item focusItem: Window.activeFocusItem
+    property bool wasAway: true ///< whether the last item with the focus was such a layer's or none
 
     function showTop(): void {
         view.contentY = 0
@@ -43,9 +45,27 @@ FocusScope {
             view.contentY = Math.min(view.contentHeight, bottom) - view.height
     }
 
+    function isInside(item: Item, ancestor: Item): bool {
+        while (item && item !== ancestor)
+            item = item.parent
+        return item !== null
+    }
+    /// Whether an item (null for none) lies outside this window or in a layer that covers the pane.
+    function isAway(item: Item): bool {
+        for (let layer = item; layer; layer = layer.parent) {
+            if (layer instanceof ModalLayer || layer instanceof Popover || layer instanceof BusyOverlay)
+                return !pane.isInside(pane, layer)
+        }
+        return item === null
+    }
+
     implicitHeight: column.implicitHeight + topMargin + bottomMargin
 
-    onFocusItemChanged: reveal(focusItem)
+    onFocusItemChanged: {
+        if (!pane.wasAway)
+            reveal(focusItem)
+        pane.wasAway = pane.isAway(focusItem)
+    }
 
     Flickable {
         id: view

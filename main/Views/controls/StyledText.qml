@@ -6,7 +6,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// Text in one of the theme's styles. It is plain text, so a profile's name is never read as markup.
+/// Text in one of the theme's styles. It is plain text, so a profile's name is never read as markup. It
+/// begins at the left whichever way it is written, so that it stays in line with what is above and below.
 Text {
     required property TextStyle look
 
@@ -14,6 +15,7 @@ Text {
     color: Theme.text
     lineHeight: look.lineHeight
     lineHeightMode: Text.FixedHeight
+    horizontalAlignment: Text.AlignLeft
     verticalAlignment: Text.AlignVCenter
     textFormat: Text.PlainText
 }

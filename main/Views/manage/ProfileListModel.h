@@ -61,7 +61,7 @@ private:
     // A copy: the application's own list may change before the views are told.
     std::vector<Profile> m_profiles;
     std::optional<std::string> m_activeID;
-    QTimer m_minute; ///< refreshes texts such as "2 minuti fa"
+    QTimer m_minute{this}; ///< refreshes texts such as "2 minuti fa"
 };
 
 } // namespace selvane

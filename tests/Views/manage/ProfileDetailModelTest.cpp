@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "Views/manage/ProfileDetailModel.h"
+
+#include <QTimer>
+
 #include "AppModel/AppModelFixture.h"
 #include "Views/manage/ProfileListModel.h"
 
@@ -96,6 +99,8 @@ TEST_F(ProfileDetailModelTest, files_AreDescribedAsTheyAre) {
         return all;
     };
     show("default");
+    shown(Component::claudeMd).reveal();
+    EXPECT_EQ(bridge.revealed.back(), home / ".claude") << "the folder while there is no file";
     EXPECT_EQ(descriptions(),
               (QStringList{"Nessun CLAUDE.md|Crea", "Nessuna impostazione personalizzata|Crea",
                            "Nessun plugin|", "Nessun server MCP configurato|"}));
@@ -108,6 +113,11 @@ TEST_F(ProfileDetailModelTest, files_AreDescribedAsTheyAre) {
     EXPECT_EQ(descriptions(), (QStringList{"File CLAUDE.md del profilo|Apri",
                                            "settings.json del profilo (permessi, hook, plugin attivi)|Apri",
                                            "Plugin e marketplace installati|", "2 server MCP|Apri"}));
+
+    shown(Component::claudeMd).reveal();
+    shown(Component::settings).open();
+    EXPECT_EQ(bridge.revealed.back(), home / ".claude/CLAUDE.md");
+    EXPECT_EQ(bridge.opened.back(), home / ".claude/settings.json");
 
     const Profile work = home.make("Lavoro", {{Component::claudeMd, ShareMode::shared}});
     show("lavoro");
@@ -125,6 +135,10 @@ TEST_F(ProfileDetailModelTest, accountChoices_AreTheProfilesWithAnAccount) {
     home.store.create(request("Alfa", home.builtIn(), "default"));
     show("default");
     EXPECT_EQ(detail.account(), "Cartella dati normale di Claude Desktop");
+    int opened = 0;
+    QObject::connect(&detail, &ProfileDetailModel::accountChanged, [&] { ++opened; });
+    emit model().runningChanged();
+    EXPECT_EQ(opened, 1) << "it tells when its account is open";
     EXPECT_EQ(detail.accountChoices(), QStringList());
     show("alfa");
     EXPECT_EQ(detail.account(), "Usa l'account di «Principale»");
@@ -142,6 +156,37 @@ TEST_F(ProfileDetailModelTest, accountChoices_AreTheProfilesWithAnAccount) {
     model().reload();
     EXPECT_EQ(detail.account(), "Cartella dati propria nel launcher");
     EXPECT_EQ(detail.sessions(), "Nessuna sessione");
+    int told = 0;
+    QObject::connect(&detail, &ProfileDetailModel::sessionsChanged, [&] { ++told; });
+    writeFile(home.store.desktopDataDir(*home.store.profile("alfa")) /
+                  "claude-code-sessions/a/b/local_1.json",
+              R"({"sessionId": "1"})");
+    writeFile(home.store.profile("alfa")->configDir / ".pending-sessions/local_2.json", "{}");
+    model().reload();
+    waitUntilRead();
+    EXPECT_TRUE(detail.sessions().startsWith("1 ")) << detail.sessions().toStdString();
+    EXPECT_TRUE(detail.pendingSessions().startsWith("1 in attesa")) << detail.pendingSessions().toStdString();
+    EXPECT_EQ(told, 2) << "when the profiles are read and when they are counted";
+}
+
+TEST_F(ProfileDetailModelTest, deletion_IsRefusedWithAReason) {
+    home.store.create(request("Bea", home.builtIn()));
+    home.store.create(request("Alfa", *home.store.profile("bea")));
+    home.store.create(request("Zeta", {}, "alfa"));
+    show("default");
+    EXPECT_EQ(detail.deletionRefusal(), "Il profilo principale non si elimina");
+    model().select("bea");
+    EXPECT_EQ(detail.deletionRefusal(), "Non si elimina: altri profili ereditano da questo");
+    model().select("alfa");
+    EXPECT_EQ(detail.deletionRefusal(), "Non si elimina: altri profili usano il suo account");
+    model().select("zeta");
+    EXPECT_EQ(detail.deletionRefusal(), "");
+    for (const char* id : {"zeta", "alfa", "bea"}) {
+        detail.remove(id);
+        waitUntilIdle();
+    }
+    EXPECT_EQ(model().errorMessage(), "") << "what isn't refused succeeds";
+    EXPECT_EQ(model().profiles().size(), 1U);
 }
 
 TEST_F(ProfileDetailModelTest, selection_ChangedMeanwhile_DropsWhatIsReadOfTheOther) {
@@ -162,15 +207,33 @@ TEST_F(ProfileDetailModelTest, selection_ChangedMeanwhile_DropsWhatIsReadOfTheOt
 }
 
 TEST_F(ProfileDetailModelTest, answers_ConcernTheProfileThatWasAskedAbout) {
-    writeFile(home / ".claude/settings.json", R"({"model": "opus"})");
-    const Profile work = home.make("Lavoro", {{Component::settings, ShareMode::none}});
-    const Profile other = home.make("Altro", {{Component::settings, ShareMode::none}});
+    writeTree(home.path, {{".claude/settings.json", R"({"model": "opus"})"},
+                          {".claude/plugins/installed_plugins.json", "{}"},
+                          {".claude.json", R"({"mcpServers": {"a": {}}})"}});
+    const std::map<Component, ShareMode> nothing = {{Component::settings, ShareMode::none},
+                                                    {Component::plugins, ShareMode::none},
+                                                    {Component::mcp, ShareMode::none}};
+    const Profile work = home.make("Lavoro", nothing);
+    const Profile other = home.make("Altro", nothing);
     show("altro");
+    const auto there = [&](const Profile& profile) {
+        const bool hasServers =
+            readFile(profile.configDir / ".claude.json").find("mcpServers") != std::string::npos;
+        return std::string(fs::exists(profile.configDir / "settings.json") ? "settings " : "") +
+               (fs::exists(profile.configDir / "plugins/installed_plugins.json") ? "plugins " : "") +
+               (hasServers ? "mcp " : "");
+    };
     shown(Component::settings).reimport("lavoro");
     waitUntilIdle();
     EXPECT_EQ(model().notice(), "Impostazioni e hook: reimportati");
-    EXPECT_TRUE(fs::exists(work.configDir / "settings.json"));
-    EXPECT_FALSE(fs::exists(other.configDir / "settings.json"));
+    EXPECT_EQ(there(work), "settings ");
+    shown(Component::plugins).reimport("lavoro");
+    waitUntilIdle();
+    EXPECT_EQ(there(work), "settings plugins ");
+    shown(Component::mcp).reimport("lavoro");
+    waitUntilIdle();
+    EXPECT_EQ(there(work), "settings plugins mcp ");
+    EXPECT_EQ(there(other), "");
     detail.remove("lavoro");
     waitUntilIdle();
     EXPECT_FALSE(fs::exists(work.configDir));
@@ -236,6 +299,15 @@ TEST_F(ProfileDetailModelTest, profileList_KeepsItsRowsWhileTheProfilesStay) {
     EXPECT_EQ(role(ProfileListModel::WasLaunchedRole), "true");
     EXPECT_EQ(role(ProfileListModel::SourceNameRole), "Principale");
     const QPersistentModelIndex row = list.index(list.indexOf("lavoro"));
+    EXPECT_EQ(resets, 0);
+    const auto* minute = list.findChild<QTimer*>();
+    ASSERT_TRUE(minute != nullptr && minute->isActive());
+    QList<int> told;
+    QObject::connect(&list, &QAbstractItemModel::dataChanged,
+                     [&](const auto&, const auto&, const QList<int>& roles) { told += roles; });
+    QTimerEvent passed(minute->timerId());
+    QCoreApplication::sendEvent(const_cast<QTimer*>(minute), &passed);
+    EXPECT_TRUE(told.contains(ProfileListModel::SubtitleRole)) << "the texts age";
     home.make("Altro");
     home.store.changeMeta(work, [](ProfileMeta& meta) {
         meta.name = "A";

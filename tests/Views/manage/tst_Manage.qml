@@ -57,8 +57,8 @@ Item {
                 found = found.concat(all(accepts, item.children[i]))
             return found
         }
-        function the(accepts: var): Item {
-            const found = all(accepts)
+        function the(accepts: var, item = view): Item {
+            const found = all(accepts, item)
             compare(found.length, 1)
             return found[0]
         }
@@ -157,8 +157,23 @@ Item {
             tryCompare(items, "count", 1)
             verify(hasFocus(items))
             compare(items.currentRow, 0)
-            press(Qt.Key_Menu, Qt.Key_Return)
-            tryCompare(items, "count", 0)
+            for (const name of ["due.md", "tre.md", "uno.md"])
+                home.write(".claude-profiles/lavoro/agents/" + name, name)
+            home.app.reload()
+            tryCompare(items, "count", 4)
+            settle()
+            mouseClick(button("Azioni per «tre.md»"))
+            mouseClick(the(item => item instanceof MenuEntry && item.text === "Sposta nel Cestino", scene.Window.contentItem))
+            compare(home.what(".claude-profiles/lavoro/agents/tre.md"), "")
+            compare(home.what(".claude-profiles/lavoro/agents/due.md"), "due.md")
+            tryCompare(items, "count", 3)
+            enter(items)
+            press(Qt.Key_T, Qt.Key_U)
+            compare(items.currentItem.name, "uno.md")
+            for (let left = 3; left > 0; --left) {
+                press(Qt.Key_Home, Qt.Key_Menu, Qt.Key_Return)
+                tryCompare(items, "count", left - 1)
+            }
             verify(hasFocus(view))
             verify(!hasFocus(items))
             compare(home.app.errorMessage, "")
@@ -206,6 +221,9 @@ Item {
             press(Qt.Key_Down, Qt.Key_Down)
             compare(home.app.selection, "p001")
             verify(selected().isRinged)
+            for (const letter of "P15")
+                keyClick(letter)
+            compare(home.app.selection, "p150")
             press(Qt.Key_End)
             compare(home.app.selection, "p199")
             tryVerify(() => isInSight(selected()))
@@ -218,6 +236,8 @@ Item {
             press(Qt.Key_Menu, Qt.Key_Down, Qt.Key_Return)
             compare(home.asked().revealed, ["~/.claude-profiles/p199"])
             verify(hasFocus(selected().ListView.view))
+            press(Qt.Key_Up, Qt.Key_Menu, Qt.Key_Down, Qt.Key_Return)
+            compare(home.asked().revealed[1], "~/.claude-profiles/p198")
             keyClick(Qt.Key_F10, Qt.ShiftModifier)
             press(Qt.Key_Up, Qt.Key_Return)
             verify(view.hasSheet)
@@ -231,6 +251,13 @@ Item {
             compare(all(item => item instanceof DropDown).length, 0)
             compare(buttons("Apri"), 0)
             compare(buttons("Crea"), 2)
+            mouseClick(all(item => item instanceof Pressable && item.label === "Mostra")[0])
+            compare(home.asked().revealed, ["~/.claude"])
+            all(item => item instanceof Pressable && item.label === "Crea")[1].press()
+            compare(home.asked().opened, ["~/.claude/settings.json"])
+            home.remove(".claude/settings.json")
+            home.app.reload()
+            tryVerify(() => buttons("Crea") === 2)
             verify(button("Verifica aggiornamenti").enabled)
             home.app.select("lavoro")
             compare(buttons("Sincronizza"), 1)
@@ -254,9 +281,32 @@ Item {
             keyClick(Qt.Key_Return, Qt.ControlModifier)
             tryVerify(() => home.asked().launches === 1)
             tryCompare(home.app, "busyMessage", "")
+
+            home.makeProfile("Lavoro", {account: "default"})
+            home.openClaude("default")
+            home.ignoreTerminations(1000)
+            home.app.launch("lavoro")
+            home.app.confirmLaunch()
+            tryCompare(home.app, "offerForceQuit", "lavoro")
+            keyClick(Qt.Key_Return, Qt.ControlModifier)
+            compare(home.asked().activated, 0) // not while a question is open
         }
 
-        function test_names_AreSavedOnReturnAlone(): void {
+        function test_sheets_OneAtATime_OverTheRightProfile(): void {
+            home.makeProfile("Lavoro")
+            show("lavoro")
+            mouseClick(button("Nuovo profilo da questo"))
+            const sheet = the(item => item instanceof NewProfileSheet)
+            compare(sheet.initialSource, "lavoro")
+            view.newProfile("")
+            compare(the(item => item instanceof NewProfileSheet), sheet)
+            for (const key of [Qt.Key_Right, Qt.Key_Down, Qt.Key_End, Qt.Key_Menu])
+                keyClick(key)
+            verify(sheet.activeFocus)
+            compare(home.app.selection, "lavoro")
+        }
+
+        function test_names_AreSavedOnReturnAndOnLeaving(): void {
             home.makeProfile("Lavoro")
             show("lavoro")
             const field = the(item => item instanceof HeaderField && item.label === "Nome")
@@ -264,16 +314,52 @@ Item {
             input.forceActiveFocus()
             press(Qt.Key_A, Qt.Key_Escape)
             compare(input.text, "Lavoro")
+            verify(!field.saysSaved)
             press(Qt.Key_B, Qt.Key_Return)
             compare(field.value, "Lavorob")
+            verify(field.saysSaved)
             press(Qt.Key_C, Qt.Key_Tab)
             compare(home.app.selection, "lavoro")
-            compare(field.value, "Lavorob")
+            compare(field.value, "Lavorobc")
+            compare(JSON.parse(home.what(".claude-profiles/lavoro/.launcher.json")).name, "Lavorobc")
+            // The description has the focus now. What is typed for one profile never reaches another.
+            press(Qt.Key_X)
             home.app.select("default")
+            const summary = the(item => item instanceof TextInput && item.label === "Descrizione")
+            verify(summary.activeFocus)
+            compare(summary.text, "")
+            press(Qt.Key_Tab)
             compare(input.text, "Principale")
+            compare(home.what(".claude-profiles/default.json"), "")
+            input.forceActiveFocus()
             input.text = "  "
-            input.accepted()
+            press(Qt.Key_Tab)
             compare(input.text, "Principale")
+            verify(!field.saysSaved)
+            input.forceActiveFocus()
+            input.text = "Un nome lungo ".repeat(20)
+            press(Qt.Key_Tab)
+            compare(input.positionAt(0), 0) // it shows its beginning
+        }
+
+        function test_scroll_StaysWhenAnAlertCloses(): void {
+            for (let i = 0; i < 30; ++i)
+                home.write(`.claude/skills/n${i}.md`)
+            home.makeProfile("Lavoro")
+            show("lavoro")
+            const mode = all(item => item instanceof DropDown).find(item => item.label === "Skill")
+            mode.forceActiveFocus()
+            const last = button("Crea")
+            const pane = the(item => item instanceof ScrollPane)
+            pane.reveal(last)
+            const top = pane.visibleTop
+            verify(top > 500)
+            mouseClick(button("Elimina"))
+            keyClick(Qt.Key_Escape)
+            tryVerify(() => mode.activeFocus)
+            compare(pane.visibleTop, top)
+            keyClick(Qt.Key_Tab)
+            verify(pane.visibleTop < top) // what Tab reaches comes into view
         }
 
         function test_delete_AsksFirst(): void {
@@ -291,10 +377,8 @@ Item {
             compare(home.what(".claude-profiles/lavoro"), "")
             tryVerify(() => !view.hasSheet)
 
-            mouseClick(button("Elimina"))
-            mouseClick(button("Sposta nel Cestino"))
-            tryVerify(() => home.app.errorMessage !== "")
-            compare(home.what(".claude/CLAUDE.md"), "x")
+            compare(buttons("Elimina"), 0)
+            verify(the(item => item instanceof StyledText && item.text === "Il profilo principale non si elimina"))
         }
 
         function test_symbol_IsPickedInThePopover(): void {
@@ -306,7 +390,8 @@ Item {
 
         function test_narrow_LosesLabelsNotButtons(): void {
             scene.width = 880
-            show("default")
+            home.makeProfile("Lavoro")
+            show("lavoro")
             const toolButtons = all(item => item instanceof DetailToolButton)
             compare(toolButtons.map(found => found.text + found.help),
                     ["Comando terminale", "Nuovo profilo da questo", "Mostra nella cartella", "Elimina"])
@@ -317,9 +402,9 @@ Item {
         function test_noSelection_ShowsTheEmptyDetail(): void {
             show("")
             verify(the(item => item instanceof EmptyDetail))
-            compare(buttons("Elimina"), 0)
+            compare(buttons("Mostra nel Finder"), 0)
             home.app.select("default")
-            compare(buttons("Elimina"), 1)
+            compare(buttons("Mostra nel Finder"), 1)
             compare(all(item => item instanceof EmptyDetail).length, 0)
         }
     }
