@@ -204,8 +204,10 @@ void AppModel::open(const std::filesystem::path& file) {
     const auto unreached = sayUnreached(tr("Nessun programma può aprire il file. Si trova qui: %1"), file);
     perform([&] {
         const FileManager files;
-        if (!files.isPresent(file))
+        if (!files.isPresent(file)) {
+            files.createFolders(file.parent_path(), Privacy::ownerOnly);
             files.write(file, file.extension() == ".json" ? "{}\n" : "");
+        }
         m_desktop.open(file, unreached);
     });
 }

@@ -107,14 +107,12 @@ TEST_F(AppModelTest, actions_TellWhatTheyDid) {
     model().open(profile.configDir / "dead.md");
     EXPECT_TRUE(fs::is_regular_file(profile.configDir / "dead.md")) << "never opened as it is";
     bridge.opened.pop_back();
-    model().open(profile.configDir / "manca/file.md");
-    EXPECT_TRUE(model().errorMessage().contains("manca")) << model().errorMessage().toStdString();
+    writeFile(profile.configDir / "testo", "");
+    model().open(profile.configDir / "testo/file.md");
+    EXPECT_TRUE(model().errorMessage().contains("testo")) << model().errorMessage().toStdString();
     EXPECT_EQ(bridge.opened.size(), 1U);
     model().open(profile.configDir / "settings.json");
     EXPECT_EQ(readFile(profile.configDir / "settings.json"), "{}\n");
-    fs::create_symlink("/nowhere/file.md", profile.configDir / "dead.md");
-    model().open(profile.configDir / "dead.md");
-    EXPECT_TRUE(fs::exists(profile.configDir / "dead.md")) << "a dead link can't be opened";
 
     bridge.hasPrograms = false;
     model().open(profile.configDir / "settings.json");

@@ -56,7 +56,7 @@ TEST_F(Windows, ACopyThatUsesAnotherAccountIsAnError) {
     selvane.waitForFocus("OK");
     press({XK_Return}); // and Selvane stays open
     selvane.waitUntilGone(ATSPI_ROLE_ALERT, "Errore");
-    selvane.waitForFocus("Principale");
+    selvane.waitForFocus("Lavoro");
 }
 
 TEST_F(Windows, AnOpenAccountIsTakenOverOnceThatIsConfirmed) {

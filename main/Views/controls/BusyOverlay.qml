@@ -33,6 +33,7 @@ FocusScope {
     function update(): void {
         if (isBusy) {
             previousFocus = Window.activeFocusItem
+            enabled = true
             forceActiveFocus(Qt.OtherFocusReason)
             covers = true
             delayTimer.start()
@@ -43,6 +44,7 @@ FocusScope {
                 isShown = false
             if (previousFocus)
                 previousFocus.forceActiveFocus(Qt.OtherFocusReason)
+            enabled = false // only now: nothing else has the focus in between
         }
     }
 
@@ -50,7 +52,7 @@ FocusScope {
     z: Theme.busyLayer
     opacity: isShown ? 1 : 0
     visible: isBusy || isShown || opacity > 0
-    enabled: isBusy
+    enabled: false
 
     Accessible.role: Accessible.AlertMessage
     Accessible.name: headline

@@ -20,6 +20,7 @@ Popover {
 
     function begin(index: int, room: real): void {
         menu.room = room
+        typeAhead.reset()
         menu.fit()
         list.currentIndex = Math.max(0, index)
         list.positionViewAtIndex(list.currentIndex, ListView.Contain)

@@ -44,6 +44,7 @@ FocusScope {
         layer.isOpen = false
         if (layer.previousFocus)
             layer.previousFocus.forceActiveFocus(Qt.OtherFocusReason)
+        layer.enabled = false // only now: nothing else has the focus in between
     }
     function takeFocus(): void {
         if (layer.firstFocus)
@@ -54,7 +55,6 @@ FocusScope {
 
     anchors.fill: parent
     z: Theme.sheetLayer
-    enabled: isOpen
 
     Accessible.role: Accessible.Dialog
     Accessible.name: title

@@ -21,6 +21,8 @@ class TypeAhead : public QObject {
 public:
     using QObject::QObject;
 
+    /// Begins a new text.
+    Q_INVOKABLE void reset() { m_typed.clear(); }
     /// The position of the label that the letter leads to from `current`; -1 for none, and for a key that
     /// types nothing.
     Q_INVOKABLE int find(const QString& letter, int current, const QStringList& labels);

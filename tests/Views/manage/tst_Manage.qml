@@ -251,7 +251,7 @@ Item {
             compare(all(item => item instanceof DropDown).length, 0)
             compare(buttons("Apri"), 0)
             compare(buttons("Crea"), 2)
-            mouseClick(all(item => item instanceof Pressable && item.label === "Mostra")[0])
+            all(item => item instanceof Pressable && item.label === "Mostra")[0].press()
             compare(home.asked().revealed, ["~/.claude"])
             all(item => item instanceof Pressable && item.label === "Crea")[1].press()
             compare(home.asked().opened, ["~/.claude/settings.json"])
@@ -327,7 +327,7 @@ Item {
             home.app.select("default")
             const summary = the(item => item instanceof TextInput && item.label === "Descrizione")
             verify(summary.activeFocus)
-            compare(summary.text, "")
+            compare(summary.text, "La configurazione standard di Claude (~/.claude)")
             press(Qt.Key_Tab)
             compare(input.text, "Principale")
             compare(home.what(".claude-profiles/default.json"), "")
@@ -402,9 +402,9 @@ Item {
         function test_noSelection_ShowsTheEmptyDetail(): void {
             show("")
             verify(the(item => item instanceof EmptyDetail))
-            compare(buttons("Mostra nel Finder"), 0)
+            compare(buttons("Mostra nella cartella"), 0)
             home.app.select("default")
-            compare(buttons("Mostra nel Finder"), 1)
+            compare(buttons("Mostra nella cartella"), 1)
             compare(all(item => item instanceof EmptyDetail).length, 0)
         }
     }

@@ -173,7 +173,12 @@ Item {
             keyClick(Qt.Key_Left)
             keyClick(Qt.Key_Left)
             compare(view.picker.focused, last)
-            tryVerify(() => strip.contentX > strip.lastX - 1)
+            let before = 0
+            tryVerify(() => {
+                const rests = before > 0 && strip.contentX === before
+                before = strip.contentX
+                return rests
+            })
             waitForRendering(view)
             waitForRendering(view)
             compare(view.picker.focused, last)

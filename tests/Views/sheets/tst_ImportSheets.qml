@@ -93,7 +93,7 @@ Item {
             press(Qt.Key_Space, Qt.Key_Up, Qt.Key_Space)
             compare(sheet.confirmText, "Aggiungi 3")
             verify(focused().Accessible.checked)
-            const third = itemsOf(sheet).find(item => item instanceof CheckBoxRow && item.text === "1490.md")
+            const third = itemsOf(sheet).find(item => item instanceof CheckBoxRow && item.text === "1496.md")
             verify(!third.Accessible.checked)
             mouseClick(third)
             verify(third.Accessible.checked)

@@ -87,21 +87,24 @@ Item {
         function isPainted(root: Item, text: string): bool {
             const captions = [root]
             for (let i = 0; i < captions.length; ++i)
-                captions.push(...captions[i].children)
+                captions.push(...Array.from(captions[i].children))
             const caption = captions.find(item => item instanceof Text && item.text === text)
             if (!caption)
                 return false
-            const image = grabImage(caption)
+            const image = grabImage(scene)
+            const place = caption.mapToItem(scene, 0, 0)
+            const ink = caption.color
             let inked = 0
-            for (let x = 0; x < image.width; ++x) {
-                for (let y = 0; y < image.height; ++y) {
-                    const far = ["r", "g", "b"].map(part => Math.abs(image.pixel(x, y)[part] - caption.color[part]))
-                    inked += Math.max(...far) < 0.1 ? 1 : 0
+            for (let x = Math.ceil(place.x); x < place.x + caption.width; ++x) {
+                for (let y = Math.ceil(place.y); y < place.y + caption.height; ++y) {
+                    const far = [image.red(x, y) / 255 - ink.r, image.green(x, y) / 255 - ink.g, image.blue(x, y) / 255 - ink.b]
+                    inked += far.every(distance => Math.abs(distance) < 0.1) ? 1 : 0
                 }
             }
             return inked > 20
         }
         function test_noticeAndBusyText_ArePainted(): void {
+            key.noticeDuration = 60000
             home.makeProfile("Lavoro")
             home.app.sync("lavoro")
             tryVerify(() => isPainted(findChild(key, "toast"), "Già sincronizzato"))
@@ -123,7 +126,7 @@ Item {
             compare(key.alert.title, "Errore")
             keyClick(Qt.Key_Return)
             compare(home.app.errorMessage, "")
-            compare(key.children.filter(item => item instanceof AlertDialog && item.isOpen).length, 1)
+            compare(Array.from(key.children).filter(item => item instanceof AlertDialog && item.isOpen).length, 1)
             compare(key.alert.title, "Account già aperto in Claude")
             keyClick(Qt.Key_Escape)
             compare(home.app.pendingLaunch, "")
