@@ -71,8 +71,9 @@ void WorkProgress::look() {
         const auto whole = static_cast<double>(hasBytes ? expected->bytes : expected->entries);
         const auto done = static_cast<double>(hasBytes ? m_progress->bytes() : m_progress->entries());
         m_fraction = std::max(m_fraction, std::min(done / whole, 1.0));
-        m_headline = expected->entries == 1 ? tr("Copia di 1 elemento…")
-                                            : tr("Copia di %1 elementi…").arg(number(expected->entries));
+        if (expected->entries > 0)
+            m_headline = expected->entries == 1 ? tr("Copia di 1 elemento…")
+                                                : tr("Copia di %1 elementi…").arg(number(expected->entries));
     }
     showTime();
     m_detail = QString::fromStdString(progressText(*m_progress));

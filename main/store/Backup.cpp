@@ -16,6 +16,8 @@
 #include "platform/files/DiskSync.h"
 #include "platform/files/FolderLock.h"
 #include "platform/files/NormalizedPath.h"
+#include "platform/files/Progress.h"
+#include "platform/process/ProcInfo.h"
 #include "platform/text/Text.h"
 #include "store/BackupContents.h"
 #include "store/BackupReadme.h"
@@ -68,12 +70,12 @@ private:
 /// user's is, and the next backup of that name removes it.
 class WorkFolder {
 public:
-    explicit WorkFolder(const fs::path& archive)
+    WorkFolder(const fs::path& archive, const Progress* progress)
         : m_path(archive.parent_path() /
                  (std::string(FileManager::kTemporaryPrefix) + archive.filename().string())) {
         do { // another backup that held the lock has removed the folder
             m_files.createFolders(m_path, Privacy::ownerOnly);
-            m_lock.emplace(m_path);
+            m_lock.emplace(m_path, progress);
         } while (!m_files.isPresent(m_path));
         for (const std::string& name : m_files.entries(m_path))
             m_files.removeTree(m_path / name);
@@ -122,12 +124,44 @@ std::vector<std::string> entriesToSave(const fs::path& folder) {
     }
 }
 
-int runZip(const std::vector<std::string>& arguments, Environment environment, const fs::path& folder) {
+int runZip(const std::vector<std::string>& arguments, Environment environment, const fs::path& folder,
+           const std::function<void(std::int32_t)>& look = {}) {
     // zip reads more options from these, such as "-m", which deletes what it has stored.
     environment.erase("ZIP");
     environment.erase("ZIPOPT");
-    return process::run(kZip, arguments, environment, folder);
+    return process::run(kZip, arguments, environment, folder, process::kStopLimit, look);
 }
+
+/// Tells a progress how far a backup is, if there is one. Four fifths of the time go into writing the
+/// archive, the rest into reading it back.
+class BackupProgress {
+public:
+    BackupProgress(Progress* progress, fs::path archive, std::int64_t bytes)
+        : m_progress(progress), m_archive(std::move(archive)), m_bytes(bytes) {
+        if (m_progress != nullptr)
+            m_progress->expect({.entries = 0, .bytes = bytes});
+    }
+
+    /// To be called while zip writes; throws if it is to stop.
+    void look(std::int32_t zip) { reach(4 * std::min(ProcInfo::bytesRead(zip), m_bytes) / 5); }
+    void addReadBack(std::size_t bytes) {
+        m_readBack += static_cast<std::int64_t>(bytes);
+        reach((4 * m_bytes + std::min(m_readBack, m_bytes)) / 5);
+    }
+
+private:
+    void reach(std::int64_t bytes) {
+        if (m_progress == nullptr)
+            return;
+        m_progress->requireWanted(m_archive);
+        m_progress->advance(0, std::max<std::int64_t>(bytes - m_progress->bytes(), 0));
+    }
+
+    Progress* m_progress;
+    const fs::path m_archive;
+    const std::int64_t m_bytes;
+    std::int64_t m_readBack = 0;
+};
 
 void requireSuccess(int status) {
     if (status != 0)
@@ -142,11 +176,11 @@ void startWriting(const fs::path& archive) {
 }
 
 /// Reads all that is in the archive and throws unless it is whole and has this many entries.
-void requireWhole(const fs::path& archive, std::size_t entries) {
+void requireWhole(const fs::path& archive, std::size_t entries, BackupProgress& progress) {
     ArchiveReader reader(archive);
     std::size_t count = 0;
     for (; reader.next(); ++count)
-        reader.read([](std::string_view) {});
+        reader.read([&](std::string_view bytes) { progress.addReadBack(bytes.size()); });
     if (count != entries)
         throw LauncherError("Backup non riuscito: l'archivio riletto non è completo");
 }
@@ -218,14 +252,16 @@ BackupResult ProfileStore::backup(BackupScope scope, const fs::path& archive) {
     const fs::path partial = target.string() + ".partial";
     if (m_files.exists(partial))
         m_files.removeFile(partial);
-    const WorkFolder work(target);
+    const WorkFolder work(target, m_progress);
     ZipList list = zipList(sources, dataFolders, ownFolders, m_home);
     list.exclusions.emplace_back(relativeToHome(work.path(), m_home) + "/", "*");
 
     BackupResult result{.archive = target};
     try {
         BackupContents contents(list, m_home);
-        const int status = runZip(zipArguments(list, partial, work.path()), m_environment, m_home);
+        BackupProgress progress(m_progress, target, contents.bytes());
+        const auto look = [&](std::int32_t zip) { progress.look(zip); };
+        const int status = runZip(zipArguments(list, partial, work.path()), m_environment, m_home, look);
         requireSuccess(status == kZipSkippedFiles ? 0 : status);
         ArchiveReader reader(partial);
         contents.compare(reader);
@@ -239,7 +275,7 @@ BackupResult ProfileStore::backup(BackupScope scope, const fs::path& archive) {
                    m_environment, readmeFolder.path()));
         m_files.setMode(partial, 0600);
         startWriting(partial);
-        requireWhole(partial, contents.archived() + 1);
+        requireWhole(partial, contents.archived() + 1, progress);
         m_files.waitForContent(partial);
         result.size = static_cast<std::int64_t>(fs::file_size(partial));
         if (m_files.exists(target))

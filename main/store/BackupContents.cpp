@@ -54,6 +54,13 @@ void BackupContents::add(const std::string& top, const ZipList& list) {
     files::listTree(m_home / top, {visit, failed});
 }
 
+std::int64_t BackupContents::bytes() const {
+    std::int64_t bytes = 0;
+    for (const Expected& entry : m_entries)
+        bytes += entry.kind == Kind::file ? static_cast<std::int64_t>(entry.size) : 0;
+    return bytes;
+}
+
 void BackupContents::compare(ArchiveReader& archive) {
     while (const std::optional<ArchiveEntry> entry = archive.next()) {
         ++m_archived;

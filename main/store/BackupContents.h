@@ -18,6 +18,7 @@ public:
     /// Lists everything in `list` that isn't left out.
     BackupContents(const ZipList& list, std::filesystem::path home);
 
+    std::int64_t bytes() const; ///< contents of all the files
     /// Compares with the names, kinds and sizes in the archive. Call it once.
     void compare(ArchiveReader& archive);
     /// After that: what isn't in the archive as it was or, if it has changed meanwhile, as it is now. Paths

@@ -83,12 +83,12 @@ std::pair<Profile, FolderLock> ProfileStore::createFolder(const NewProfile& requ
     profile.meta.account = request.account;
 
     m_files.createFolders(m_root, Privacy::ownerOnly);
-    const FolderLock others(m_root);
+    const FolderLock others(m_root, m_progress);
     profile.id = freeSlug(name);
     profile.configDir = m_root / profile.id;
     m_files.createFolder(profile.configDir);
     try {
-        FolderLock lock(profile.configDir);
+        FolderLock lock(profile.configDir, m_progress);
         m_files.write(profile.configDir / kUnfinishedName, "");
         return {std::move(profile), std::move(lock)};
     } catch (...) {

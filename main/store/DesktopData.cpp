@@ -155,7 +155,7 @@ void ProfileStore::makeDesktopStore() {
 }
 
 void ProfileStore::restoreDesktopData() {
-    const FolderLock lock(m_root);
+    const FolderLock lock(m_root, m_progress);
     const std::string owner = desktopLiveOwner();
     desktopFolder(owner); // throws on an invalid marker before anything is touched
     makeDesktopStore();

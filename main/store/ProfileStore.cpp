@@ -165,7 +165,7 @@ void ProfileStore::saveMeta(const Profile& profile) {
 void ProfileStore::repair(const std::string& id) {
     if (!Profile::isPossibleId(id))
         throw LauncherError("Profilo sconosciuto: " + text::singleLine(id));
-    const FolderLock lock(m_root / id);
+    const FolderLock lock(m_root / id, m_progress);
     const fs::path file = m_root / id / kMetaFileName;
     try {
         if (readRecord(file)) // repaired meanwhile
@@ -179,7 +179,7 @@ void ProfileStore::repair(const std::string& id) {
 }
 
 FolderLock ProfileStore::locked(const Profile& profile) const {
-    FolderLock lock(profile.configDir);
+    FolderLock lock(profile.configDir, m_progress);
     // Writing would create the folder again, with nothing else in it.
     if (!profile.isDefault() && !m_files.isPresent(profile.configDir))
         throw LauncherError("Il profilo \"" + profile.meta.name + "\" è stato eliminato nel frattempo");

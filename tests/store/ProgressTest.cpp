@@ -48,6 +48,7 @@ TEST(StoreProgress, WhatIsAnnouncedIsWhatIsCopied) {
          }},
         {"reimport",
          [&](ProfileStore& store) { store.reimport(Component::plugins, shared, home.builtIn()); }},
+        {"backup", [&](ProfileStore& store) { store.backup(BackupScope::principal(), home / "b.zip"); }},
     };
     for (const auto& [name, operation] : operations) {
         SCOPED_TRACE(name);
@@ -59,6 +60,22 @@ TEST(StoreProgress, WhatIsAnnouncedIsWhatIsCopied) {
         EXPECT_EQ(progress.bytes(), all.bytes);
         EXPECT_GT(all.bytes, 0);
     }
+}
+
+TEST(StoreProgress, ACancelledBackupLeavesWhatWasThere) {
+    Home home;
+    writeFile(home / ".claude/grande", std::string(1 << 20, 'x'));
+    writeFile(home / "archivi/b.zip", "vecchio");
+    Progress progress;
+    progress.cancel();
+    ProfileStore store(home.store, progress);
+    try {
+        store.backup(BackupScope::principal(), home / "archivi/b.zip");
+        ADD_FAILURE() << "not cancelled";
+    } catch (const fs::filesystem_error& error) {
+        EXPECT_EQ(error.code(), std::errc::operation_canceled);
+    }
+    EXPECT_EQ(treeOf(home / "archivi"), (Tree{{"b.zip", "vecchio"}}));
 }
 
 } // namespace

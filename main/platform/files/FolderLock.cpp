@@ -13,6 +13,7 @@
 
 #include "model/LauncherError.h"
 #include "platform/files/LockHolder.h"
+#include "platform/files/Progress.h"
 #include "platform/text/Text.h"
 
 namespace selvane {
@@ -73,7 +74,8 @@ bool isAt(const std::filesystem::path& path, const struct stat& folder) {
 
 } // namespace
 
-FolderLock::FolderLock(const std::filesystem::path& folder, std::chrono::milliseconds patience) {
+FolderLock::FolderLock(const std::filesystem::path& folder, const Progress* progress,
+                       std::chrono::milliseconds patience) {
     constexpr auto kPause = std::chrono::milliseconds(5);
     const auto deadline = std::chrono::steady_clock::now() + patience;
     while ((m_folder = folderToLock(folder))) {
@@ -84,6 +86,8 @@ FolderLock::FolderLock(const std::filesystem::path& folder, std::chrono::millise
         while (!tryLock(m_folder.get(), folder)) {
             if (std::chrono::steady_clock::now() >= deadline)
                 throwOccupied(folder, status);
+            if (progress != nullptr)
+                progress->requireWanted(folder);
             std::this_thread::sleep_for(kPause);
         }
         if (isAt(folder, status)) {

@@ -11,6 +11,8 @@
 
 namespace selvane {
 
+class Progress;
+
 /// Locks a folder against other Selvanes for the lifetime of this object. It leaves nothing behind, not even
 /// after a crash. It does nothing if there is no such folder, even if that only turns out after waiting, or
 /// if the file system has no locks.
@@ -21,7 +23,8 @@ public:
 
     /// Waits while somebody else has locked the folder, at most for `patience`; then throws a `LauncherError`
     /// that names them. If this thread has already locked it, perhaps under another name, throws at once.
-    explicit FolderLock(const std::filesystem::path& folder,
+    /// Throws, too, when `progress` is cancelled while it waits.
+    explicit FolderLock(const std::filesystem::path& folder, const Progress* progress = nullptr,
                         std::chrono::milliseconds patience = usualPatience);
     FolderLock(FolderLock&& other) noexcept = default;
     FolderLock& operator=(FolderLock&& other) = delete;

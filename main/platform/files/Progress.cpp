@@ -25,9 +25,20 @@ void Progress::expect(const fs::path& tree) {
     m_announced.notify_one();
 }
 
+void Progress::expect(Amount amount) {
+    const std::lock_guard lock(m_mutex);
+    m_expected.entries += amount.entries;
+    m_expected.bytes += amount.bytes;
+}
+
+void Progress::requireWanted(const fs::path& path) const {
+    if (m_isCancelled)
+        throw fs::filesystem_error("work on", path, std::make_error_code(std::errc::operation_canceled));
+}
+
 std::optional<Progress::Amount> Progress::expected() const {
     const std::lock_guard lock(m_mutex);
-    const bool isCounted = m_trees.empty() && m_expected.entries > 0;
+    const bool isCounted = m_trees.empty() && (m_expected.entries > 0 || m_expected.bytes > 0);
     return isCounted ? std::optional(m_expected) : std::nullopt;
 }
 

@@ -39,11 +39,15 @@ public:
     /// Announces that everything at `tree` will be done. It is counted meanwhile, on another thread, without
     /// following links; what can't be read isn't counted.
     void expect(const std::filesystem::path& tree);
+    /// The same for what the caller has counted. Without entries, only bytes are told.
+    void expect(Amount amount);
     /// All that was announced; nothing while it is being counted, or if nothing was.
     std::optional<Amount> expected() const;
 
     void cancel() { m_isCancelled = true; }
     bool isCancelled() const { return m_isCancelled; }
+    /// Throws if it is cancelled; the error names the path.
+    void requireWanted(const std::filesystem::path& path) const;
 
 private:
     void count();

@@ -98,6 +98,16 @@ public:
         return info;
     }
 
+    std::int64_t bytesRead() {
+        constexpr std::string_view kField = "rchar: ";
+        const std::string_view fields = contents("io");
+        const std::size_t begin = fields.find(kField);
+        if (begin == std::string_view::npos)
+            return 0;
+        const std::string_view value = fields.substr(begin + kField.size());
+        return parseNumber<std::int64_t>(value.substr(0, value.find('\n'))).value_or(0);
+    }
+
     std::vector<std::string> openFiles(FileUse use) const {
         const files::Descriptor folder(::openat(m_process.get(), "fd", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
         std::vector<std::string> paths;
@@ -209,6 +219,11 @@ std::vector<ProcInfo> ProcInfo::all(std::span<const std::string_view> variables)
 std::vector<std::string> ProcInfo::openFiles(std::int32_t pid, FileUse use) {
     ProcReader reader;
     return reader.open(std::to_string(pid).c_str()) ? reader.openFiles(use) : std::vector<std::string>();
+}
+
+std::int64_t ProcInfo::bytesRead(std::int32_t pid) {
+    ProcReader reader;
+    return reader.open(std::to_string(pid).c_str()) ? reader.bytesRead() : 0;
 }
 
 std::uint64_t ProcInfo::startTimePerSecond() {

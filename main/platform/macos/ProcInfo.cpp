@@ -111,6 +111,12 @@ std::vector<std::string> ProcInfo::openFiles(std::int32_t pid, FileUse use) {
     return paths;
 }
 
+std::int64_t ProcInfo::bytesRead(std::int32_t pid) {
+    rusage_info_v2 usage = {};
+    const int error = ::proc_pid_rusage(pid, RUSAGE_INFO_V2, reinterpret_cast<rusage_info_t*>(&usage));
+    return error == 0 ? static_cast<std::int64_t>(usage.ri_diskio_bytesread) : 0;
+}
+
 std::uint64_t ProcInfo::startTimePerSecond() {
     return 1'000'000;
 }

@@ -36,6 +36,8 @@ struct ProcInfo {
     static std::vector<ProcInfo> all(std::span<const std::string_view> variables = {});
     /// The paths of the files that a process has open; empty if that can't be determined.
     static std::vector<std::string> openFiles(std::int32_t pid, FileUse use);
+    /// How many bytes a process has read so far from files and the like; 0 if that can't be determined.
+    static std::int64_t bytesRead(std::int32_t pid);
     /// How many units of `startTime` make a second.
     static std::uint64_t startTimePerSecond();
     /// The `startTime` of a process that starts at that moment.

@@ -3,6 +3,7 @@
 
 #include "platform/process/Process.h"
 
+#include <algorithm>
 #include <array>
 #include <csignal>
 #include <optional>
@@ -145,14 +146,34 @@ bool goesOn(pid_t child, int& status, std::chrono::milliseconds limit) {
     return false;
 }
 
+/// Waits until the child stops or ends, and looks meanwhile.
+pid_t waitLooking(pid_t child, int& status, const std::function<void(std::int32_t)>& look) {
+    constexpr int kLongestPause = 50; // milliseconds
+    for (int pause = 1;; pause = std::min(2 * pause, kLongestPause)) {
+        const pid_t changed = waitFor(child, status, WUNTRACED | WNOHANG);
+        if (changed != 0)
+            return changed;
+        try {
+            look(child);
+        } catch (...) {
+            ::kill(child, SIGKILL);
+            waitFor(child, status, 0);
+            throw;
+        }
+        ::poll(nullptr, 0, pause);
+    }
+}
+
 /// Waits for a child to end. Returns its status as the system gives it; nothing if it had to be killed
 /// because it stays stopped.
 std::optional<int> endOf(pid_t child, std::chrono::milliseconds stopLimit,
-                         const std::filesystem::path& executable) {
+                         const std::filesystem::path& executable,
+                         const std::function<void(std::int32_t)>& look) {
     int status = 0;
     bool isKilled = false;
     while (true) {
-        if (waitFor(child, status, WUNTRACED) < 0)
+        const pid_t changed = look ? waitLooking(child, status, look) : waitFor(child, status, WUNTRACED);
+        if (changed < 0)
             files::fail("wait", executable, errno);
         if (WIFSTOPPED(status) && !goesOn(child, status, stopLimit)) {
             ::kill(child, SIGKILL);
@@ -167,7 +188,7 @@ std::optional<int> endOf(pid_t child, std::chrono::milliseconds stopLimit,
 
 int run(const std::filesystem::path& executable, const std::vector<std::string>& arguments,
         const Environment& environment, const std::filesystem::path& folder,
-        std::chrono::milliseconds stopLimit) {
+        std::chrono::milliseconds stopLimit, const std::function<void(std::int32_t)>& look) {
     const Texts words(commandLine(executable, arguments));
     const Texts variables(environmentTexts(environment, {}));
     const Plan plan = {executable.c_str(), folder.c_str(), words.data(), variables.data(), nullptr};
@@ -180,7 +201,7 @@ int run(const std::filesystem::path& executable, const std::vector<std::string>&
     if (child < 0)
         files::fail("start", executable, errno);
     const std::optional<Message> failure = receive(pipe);
-    const std::optional<int> status = endOf(child, stopLimit, executable);
+    const std::optional<int> status = endOf(child, stopLimit, executable, look);
     if (failure)
         raise(*failure, executable, folder);
     if (!status)

@@ -6,6 +6,7 @@
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -28,10 +29,12 @@ inline constexpr std::chrono::milliseconds kStopLimit{10'000};
 /// Runs a program to its end and discards its output; only the owner can read the files it creates. Returns
 /// its exit status, or 128 plus the signal that ended it. The program ends if this process does. Throws
 /// `std::filesystem::filesystem_error` naming the executable if it can't be started, and `LauncherError` if
-/// somebody stops it and doesn't continue it within `stopLimit`; then it is ended.
+/// somebody stops it and doesn't continue it within `stopLimit`; then it is ended. While it runs, `look` is
+/// called several times a second with its pid; if that throws, the program is ended, too.
 int run(const std::filesystem::path& executable, const std::vector<std::string>& arguments,
         const Environment& environment, const std::filesystem::path& folder,
-        std::chrono::milliseconds stopLimit = kStopLimit);
+        std::chrono::milliseconds stopLimit = kStopLimit,
+        const std::function<void(std::int32_t pid)>& look = {});
 
 struct Started {
     std::int32_t pid = 0;        ///< also its session

@@ -43,6 +43,15 @@ struct proc_bsdinfo {
 };
 static_assert(sizeof(struct proc_bsdinfo) == 136, "the size that the kernel fills");
 
+typedef void* rusage_info_t;
+#define RUSAGE_INFO_V2 2
+
+struct rusage_info_v2 {
+    unsigned char ri_bytes[144]; // none of it is used
+    uint64_t ri_diskio_bytesread;
+    uint64_t ri_diskio_byteswritten;
+};
+
 struct proc_fdinfo {
     int32_t proc_fd;
     uint32_t proc_fdtype;
@@ -74,5 +83,6 @@ extern "C" {
 int proc_listallpids(void* buffer, int size);
 int proc_pidinfo(int pid, int flavor, uint64_t arg, void* buffer, int size);
 int proc_pidfdinfo(int pid, int fd, int flavor, void* buffer, int size);
+int proc_pid_rusage(int pid, int flavor, rusage_info_t* buffer);
 int proc_pidpath(int pid, void* buffer, uint32_t size);
 }

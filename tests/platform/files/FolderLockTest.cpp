@@ -8,6 +8,7 @@
 #include <thread>
 
 #include "model/LauncherError.h"
+#include "platform/files/Progress.h"
 #include "support/Files.h"
 #include "support/WaitWatch.h"
 
@@ -21,7 +22,7 @@ using namespace std::chrono_literals;
 /// The message with which locking the folder fails; "" if it doesn't.
 std::string messageOfLocking(const fs::path& folder) {
     try {
-        const FolderLock lock(folder, 30ms);
+        const FolderLock lock(folder, nullptr, 30ms);
     } catch (const LauncherError& error) {
         return error.what();
     }
@@ -57,6 +58,9 @@ TEST(FolderLock, NamesWhoHoldsItWhenItHasWaitedLongEnough) {
                                                    std::to_string(holder) +
                                                    ", fermo): riprova quando ha finito");
     EXPECT_FALSE(FolderLock::ifFree(folder.path()));
+    Progress progress;
+    progress.cancel();
+    EXPECT_THROW(FolderLock(folder.path(), &progress), fs::filesystem_error);
     ::kill(holder, SIGCONT);
     EXPECT_NO_THROW(FolderLock(folder.path()));
     ::waitpid(holder, &status, 0);
