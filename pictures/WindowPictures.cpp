@@ -190,7 +190,7 @@ void takeFeedback(Scene& scene) {
                     {"confirmText", "Sposta nel Cestino"},
                     {"destructive", true}},
                    "alert-delete");
-    scene.model.setNotice("Aggiunti 2, rimossi 1 collegamenti");
+    scene.model.setNotice("Aggiunti 2, rimosso 1 collegamento");
     scene.take(kManage, "notice");
     scene.model.clearNotice();
 
