@@ -134,10 +134,11 @@ void AppModel::setAccount(const QString& account, const QString& id) {
     const Profile* current = profile(id);
     if (current == nullptr)
         return;
-    perform([&] {
-        m_store.changeMeta(*current, [&](ProfileMeta& meta) {
-            meta.account = account.isEmpty() ? std::nullopt : std::optional(account.toStdString());
+    performSoon(tr("Cambio di account…"), [account = account.toStdString(), profile = *current](auto& store) {
+        store.changeMeta(profile, [&](ProfileMeta& meta) {
+            meta.account = account.empty() ? std::nullopt : std::optional(account);
         });
+        return QString();
     });
 }
 
@@ -145,10 +146,10 @@ void AppModel::sync(const QString& id) {
     const Profile* current = profile(id);
     if (current == nullptr)
         return;
-    perform([&] {
-        const SyncReport report = m_store.sync(*current);
-        setNotice(changedLinks(static_cast<qsizetype>(report.added.size()),
-                               static_cast<qsizetype>(report.removed.size())));
+    performSoon(tr("Sincronizzazione…"), [profile = *current](ProfileStore& store) {
+        const SyncReport report = store.sync(profile);
+        return changedLinks(static_cast<qsizetype>(report.added.size()),
+                            static_cast<qsizetype>(report.removed.size()));
     });
 }
 
@@ -180,9 +181,9 @@ void AppModel::revealDamaged(int index) {
 
 void AppModel::repairDamaged(int index) {
     const std::string id = m_damaged.at(static_cast<std::size_t>(index)).id;
-    perform([&] {
-        m_store.repair(id);
-        setNotice(tr("«%1» è di nuovo fra i profili").arg(QString::fromStdString(text::singleLine(id))));
+    performSoon(tr("Riparazione…"), [id](ProfileStore& store) {
+        store.repair(id);
+        return tr("«%1» è di nuovo fra i profili").arg(QString::fromStdString(text::singleLine(id)));
     });
 }
 

@@ -96,6 +96,8 @@ public:
 
     /// Runs a quick action, reports its failure, and always reloads.
     void perform(const std::function<void()>& action);
+    /// Does work that is quick, at once, unless it would have to wait for a lock; then as `performLong`.
+    void performSoon(const QString& message, const Work& work);
     /// Does work that may take long, while the windows show `message` and how far it is and let the user
     /// cancel it. Reports its failure, always reloads, and calls `succeeded` only after success. If there is
     /// other work in progress, says so and does nothing.

@@ -13,6 +13,7 @@
 #include "AppModel/Background.h"
 #include "AppModel/QtText.h"
 #include "AppModel/Wording.h"
+#include "platform/files/FolderLock.h"
 #include "platform/text/Text.h"
 
 namespace selvane {
@@ -32,6 +33,20 @@ bool AppModel::isFree() {
             tr("Selvane sta già lavorando (%1): riprova quando ha finito.").arg(m_busyMessage),
             &AppModel::errorMessageChanged);
     return false;
+}
+
+void AppModel::performSoon(const QString& message, const Work& work) {
+    try {
+        const FolderLock::Haste haste;
+        if (const QString notice = work(m_store); !notice.isEmpty())
+            setNotice(notice);
+    } catch (const FolderLock::Occupied&) {
+        performLong(message, work);
+        return;
+    } catch (const std::exception& error) {
+        report(error);
+    }
+    reload();
 }
 
 void AppModel::performLong(const QString& message, Work work, Done succeeded) {

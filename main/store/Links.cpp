@@ -194,6 +194,7 @@ void ProfileStore::makeOwn(const ComponentItem& item, const Profile& profile) {
     if (!m_files.linkTarget(item.url))
         return;
     const fs::path origin = m_files.resolved(item.url);
+    announce(origin);
     m_files.replaceLink(item.url, [&](const fs::path& temporary) { m_files.copy(origin, temporary); });
 }
 

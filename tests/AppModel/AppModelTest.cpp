@@ -5,10 +5,13 @@
 
 #include <QDate>
 
+#include <atomic>
 #include <sys/stat.h>
+#include <thread>
 
 #include "AppModel/Wording.h"
 #include "model/LauncherError.h"
+#include "platform/files/FolderLock.h"
 #include "support/RunningProcess.h"
 
 namespace selvane::test {
@@ -144,6 +147,29 @@ TEST_F(AppModelTest, create_WithSessions_TellsWhatWaitsAndSelects) {
     model().importSessions(home.store.codeSessions(home.builtIn()), home.builtIn(), work);
     waitUntilIdle();
     EXPECT_EQ(model().notice(), "0 copiate, 3 aggiunte al prossimo avvio di «Lavoro»");
+}
+
+TEST_F(AppModelTest, performSoon_WaitsForALockOnAnotherThread) {
+    home.make("Lavoro");
+    model().reload();
+    std::atomic<bool> isLocked = false;
+    std::atomic<bool> hasWaited = false;
+    std::thread other([&] {
+        const FolderLock lock(home.store.root() / "lavoro");
+        isLocked = true;
+        while (!hasWaited)
+            std::this_thread::yield();
+    });
+    while (!isLocked)
+        std::this_thread::yield();
+    model().sync("lavoro");
+    EXPECT_EQ(model().busyMessage(), "Sincronizzazione…");
+    EXPECT_EQ(model().notice(), "");
+    hasWaited = true;
+    other.join();
+    waitUntilIdle();
+    EXPECT_EQ(model().notice(), "Già sincronizzato");
+    EXPECT_EQ(model().errorMessage(), "");
 }
 
 TEST_F(AppModelTest, performLong_IsOneAtATimeAndCanBeCancelled) {

@@ -217,12 +217,21 @@ void ComponentModel::reimport(const QString& profileId) {
 
 void ComponentModel::remove(int row) {
     if (const ComponentItem* item = m_items.item(row))
-        m_app->perform([this, item = *item] { m_app->store().remove(item, *m_profile, m_component); });
+        m_app->performSoon(
+            tr("Rimozione di «%1»…").arg(qtText(item->name)),
+            [item = *item, profile = *m_profile, component = m_component](ProfileStore& store) {
+                store.remove(item, profile, component);
+                return QString();
+            });
 }
 
 void ComponentModel::makeOwn(int row) {
     if (const ComponentItem* item = m_items.item(row))
-        m_app->perform([this, item = *item] { m_app->store().makeOwn(item, *m_profile); });
+        m_app->performLong(tr("Copia di «%1»…").arg(qtText(item->name)),
+                           [item = *item, profile = *m_profile](ProfileStore& store) {
+                               store.makeOwn(item, profile);
+                               return QString();
+                           });
 }
 
 void ComponentModel::revealItem(int row) {

@@ -227,21 +227,24 @@ void ProfileDetailModel::change(const std::function<void(ProfileMeta&)>& edit) {
     Profile changed = *m_profile;
     edit(changed.meta);
     if (changed != *m_profile)
-        m_app->perform([&] { m_app->store().changeMeta(*m_profile, edit); });
+        m_app->performSoon(tr("Salvataggio…"), [profile = *m_profile, edit](ProfileStore& store) {
+            store.changeMeta(profile, edit);
+            return QString();
+        });
 }
 
 void ProfileDetailModel::setName(const QString& name) {
     const QString trimmed = name.trimmed();
     if (!trimmed.isEmpty())
-        change([&](ProfileMeta& meta) { meta.name = trimmed.toStdString(); });
+        change([name = trimmed.toStdString()](ProfileMeta& meta) { meta.name = name; });
 }
 
 void ProfileDetailModel::setSummary(const QString& summary) {
-    change([&](ProfileMeta& meta) { meta.summary = summary.trimmed().toStdString(); });
+    change([summary = summary.trimmed().toStdString()](ProfileMeta& meta) { meta.summary = summary; });
 }
 
 void ProfileDetailModel::setSymbol(const QString& symbol) {
-    change([&](ProfileMeta& meta) { meta.symbol = symbol.toStdString(); });
+    change([symbol = symbol.toStdString()](ProfileMeta& meta) { meta.symbol = symbol; });
 }
 
 void ProfileDetailModel::setAccount(int index) {

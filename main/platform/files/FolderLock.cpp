@@ -25,6 +25,8 @@ using Identity = std::pair<dev_t, ino_t>;
 /// What this thread has locked. A second lock on the same folder would wait for itself.
 thread_local std::vector<Identity> heldHere;
 
+thread_local bool isInHaste = false;
+
 struct stat statusOf(int folder, const std::filesystem::path& path) {
     struct stat status = {};
     if (::fstat(folder, &status) != 0)
@@ -69,10 +71,18 @@ bool isAt(const std::filesystem::path& path, const struct stat& folder) {
         message += " da " + (holder->name.empty() ? "un altro programma" : text::singleLine(holder->name)) +
                    " (processo " + std::to_string(holder->pid) + (holder->isStopped ? ", fermo)" : ")");
     }
-    throw LauncherError(message + ": riprova quando ha finito");
+    throw FolderLock::Occupied(message + ": riprova quando ha finito");
 }
 
 } // namespace
+
+FolderLock::Haste::Haste() {
+    isInHaste = true;
+}
+
+FolderLock::Haste::~Haste() {
+    isInHaste = false;
+}
 
 FolderLock::FolderLock(const std::filesystem::path& folder, const Progress* progress,
                        std::chrono::milliseconds patience) {
@@ -84,7 +94,7 @@ FolderLock::FolderLock(const std::filesystem::path& folder, const Progress* prog
             throw LauncherError(text::singleLine(folder.string()) +
                                 " porta a una cartella che questa stessa operazione sta già usando");
         while (!tryLock(m_folder.get(), folder)) {
-            if (std::chrono::steady_clock::now() >= deadline)
+            if (isInHaste || std::chrono::steady_clock::now() >= deadline)
                 throwOccupied(folder, status);
             if (progress != nullptr)
                 progress->requireWanted(folder);

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <optional>
 
+#include "model/LauncherError.h"
 #include "platform/files/Descriptor.h"
 
 namespace selvane {
@@ -21,9 +22,24 @@ public:
     /// How long an operation waits for others. Only tests change it.
     static inline std::chrono::milliseconds usualPatience = std::chrono::seconds(10);
 
-    /// Waits while somebody else has locked the folder, at most for `patience`; then throws a `LauncherError`
-    /// that names them. If this thread has already locked it, perhaps under another name, throws at once.
-    /// Throws, too, when `progress` is cancelled while it waits.
+    /// Somebody else has locked the folder for too long. The message names them.
+    class Occupied : public LauncherError {
+    public:
+        using LauncherError::LauncherError;
+    };
+
+    /// While one lives, this thread waits for nobody.
+    class Haste {
+    public:
+        Haste();
+        ~Haste();
+        Haste(const Haste&) = delete;
+        Haste& operator=(const Haste&) = delete;
+    };
+
+    /// Waits while somebody else has locked the folder, at most for `patience`; then throws `Occupied`. If
+    /// this thread has already locked it, perhaps under another name, throws at once. Throws, too, when
+    /// `progress` is cancelled while it waits.
     explicit FolderLock(const std::filesystem::path& folder, const Progress* progress = nullptr,
                         std::chrono::milliseconds patience = usualPatience);
     FolderLock(FolderLock&& other) noexcept = default;

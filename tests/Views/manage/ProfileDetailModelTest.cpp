@@ -84,6 +84,7 @@ TEST_F(ProfileDetailModelTest, items_TellWhereTheyComeFromAndCanBeRemoved) {
         waitUntilRead();
     }
     shown(Component::agents).makeOwn(rowOf(Component::agents, "linked.md"));
+    waitUntilIdle();
     waitUntilRead();
     EXPECT_EQ(model().errorMessage(), "");
     EXPECT_EQ(treeOf(work.configDir / "agents"), (Tree{{"linked.md", "x"}}));

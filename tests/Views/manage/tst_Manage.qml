@@ -147,7 +147,8 @@ Item {
             const items = list("Agenti")
             enter(items)
             press(Qt.Key_Space, Qt.Key_Down, Qt.Key_Return) // Rendi propria
-            compare(home.what(".claude-profiles/lavoro/agents/a.md"), "a")
+            tryVerify(() => home.what(".claude-profiles/lavoro/agents/a.md") === "a")
+            tryVerify(() => hasFocus(items))
             tryVerify(() => !items.currentItem.isLink)
             press(Qt.Key_Down, Qt.Key_Return, Qt.Key_Down, Qt.Key_Return) // Mostra nella cartella
             compare(home.asked().revealed, ["~/.claude-profiles/lavoro/agents/own.md"])
