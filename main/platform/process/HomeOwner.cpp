@@ -14,6 +14,12 @@
 namespace selvane {
 namespace {
 
+/// Calls `initgroups`, whose group has another type on macOS.
+template <typename Group>
+bool joinGroups(int (*join)(const char*, Group), const passwd& user) {
+    return join(user.pw_name, static_cast<Group>(user.pw_gid)) == 0;
+}
+
 /// Sets the groups of a user; `group` alone for one that the system has no record of.
 bool setGroups(uid_t user, gid_t group) {
     std::array<char, 16384> buffer = {};
@@ -22,7 +28,7 @@ bool setGroups(uid_t user, gid_t group) {
     ::getpwuid_r(user, &entry, buffer.data(), buffer.size(), &found);
     if (found == nullptr)
         return ::setgroups(1, &group) == 0 && ::setgid(group) == 0;
-    return ::initgroups(found->pw_name, found->pw_gid) == 0 && ::setgid(found->pw_gid) == 0;
+    return joinGroups(::initgroups, *found) && ::setgid(found->pw_gid) == 0;
 }
 
 } // namespace
