@@ -12,7 +12,7 @@ namespace selvane::files {
 namespace {
 
 /// How file systems answer a call that they don't know.
-bool isUnsupported(int error) {
+bool isUnknownCall(int error) {
     return error == EINVAL || error == ENOTSUP || error == ENOTTY;
 }
 
@@ -22,7 +22,7 @@ int syncOne(int file) {
     // The drive may keep what it was given in its own memory; this makes it write that too.
     if (::fcntl(file, F_FULLFSYNC) == 0)
         return 0;
-    return isUnsupported(errno) ? startWriting(file) : errno;
+    return isUnknownCall(errno) ? startWriting(file) : errno;
 }
 
 bool canSyncTogether(int /*file*/) {
@@ -30,7 +30,7 @@ bool canSyncTogether(int /*file*/) {
 }
 
 int startWriting(int file) {
-    return ::fsync(file) == 0 || isUnsupported(errno) ? 0 : errno;
+    return ::fsync(file) == 0 || isUnknownCall(errno) ? 0 : errno;
 }
 
 int syncTogether(int file) {

@@ -11,7 +11,7 @@ namespace selvane::files {
 namespace {
 
 /// How file systems answer a flag that they don't know.
-bool isUnsupported(int error) {
+bool isUnknownFlag(int error) {
     return error == ENOTSUP || error == EOPNOTSUPP || error == EINVAL || error == ENOSYS;
 }
 
@@ -21,7 +21,7 @@ int renameExclusively(int fromFolder, const std::filesystem::path& from, int toF
                       const std::filesystem::path& to) {
     if (::renameatx_np(fromFolder, from.c_str(), toFolder, to.c_str(), RENAME_EXCL) == 0)
         return 0;
-    if (!isUnsupported(errno))
+    if (!isUnknownFlag(errno))
         return errno;
     struct stat status = {};
     if (::fstatat(toFolder, to.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0)
@@ -34,7 +34,7 @@ int renameExclusively(int fromFolder, const std::filesystem::path& from, int toF
 int exchangeNames(const std::filesystem::path& first, const std::filesystem::path& second) {
     if (::renameatx_np(AT_FDCWD, first.c_str(), AT_FDCWD, second.c_str(), RENAME_SWAP) == 0)
         return 0;
-    return isUnsupported(errno) ? ENOTSUP : errno;
+    return isUnknownFlag(errno) ? ENOTSUP : errno;
 }
 
 } // namespace selvane::files
