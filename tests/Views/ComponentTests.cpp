@@ -4,6 +4,7 @@
 #include <QtQml>
 #include <QtQuickTest>
 
+#include "Views/Events.h"
 #include "Views/TestHome.h"
 #include "Views/shell/QmlModule.h"
 #include "support/OwnHome.h"
@@ -14,5 +15,7 @@ int main(int argc, char** argv) {
     qputenv("QT_QUICK_BACKEND", "software");
     qml_register_types_Selvane();
     qmlRegisterType<selvane::test::TestHome>("SelvaneTest", 1, 0, "TestHome");
+    qmlRegisterSingletonType<selvane::test::Events>(
+        "SelvaneTest", 1, 0, "Events", [](QQmlEngine*, QJSEngine*) { return new selvane::test::Events; });
     return quick_test_main(argc, argv, "components", QUICK_TEST_SOURCE_DIR);
 }

@@ -7,6 +7,7 @@ import QtQuick
 import QtTest
 import Selvane
 import SelvaneTest
+import ".."
 
 Item {
     id: scene
@@ -25,20 +26,14 @@ Item {
         }
     }
 
-    TestCase {
+    ViewTestCase {
         name: "Manage"
-        when: windowShown
 
         property ManageView view: null
 
         function init(): void {
             home.begin()
             home.app.closeAfterLaunch = false
-        }
-        /// Lets what layout and models owe the next frame be done.
-        function settle(): void {
-            scene.Window.window.update()
-            waitForRendering(scene)
         }
         function show(profileId: string): void {
             failOnWarning(/./)

@@ -7,6 +7,7 @@ import QtQuick
 import QtTest
 import Selvane
 import SelvaneTest
+import ".."
 
 Item {
     id: scene
@@ -29,11 +30,10 @@ Item {
     }
     SignalSpy { id: manageAsked; signalName: "manageAsked" }
 
-    TestCase {
+    ViewTestCase {
         id: test
 
         name: "Picker"
-        when: windowShown
 
         property ProfilePicker view: null
 

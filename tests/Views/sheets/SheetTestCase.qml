@@ -6,28 +6,21 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtTest
 import Selvane
+import ".."
 
-/// Common code for the tests of the sheets. The scene around it is the window; a warning is a failure.
-TestCase {
+/// Common code for the tests of the sheets. A warning is a failure.
+ViewTestCase {
     id: test
 
-    property Item scene: parent
     property Sheet sheet: null
 
     readonly property SignalSpy closed: SignalSpy { signalName: "closed" }
-
-    when: windowShown
 
     function openSheet(component: Component, properties): void {
         failOnWarning(/./)
         test.sheet = createTemporaryObject(component, test.scene, properties ?? {}) as Sheet
         closed.target = test.sheet
         closed.clear()
-    }
-    /// Lets layout and models do what they put off until the next frame.
-    function settle(): void {
-        test.scene.Window.window.update()
-        waitForRendering(test.scene)
     }
     function press(...keys): void {
         for (const key of keys)

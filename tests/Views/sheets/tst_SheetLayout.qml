@@ -52,9 +52,9 @@ Item {
             settle()
             for (let stops = 0; nameOf(focused()) !== "Annulla"; ++stops) {
                 verify(stops < 40)
-                tryVerify(() => isInSight(focused()), 5000, nameOf(focused()))
+                tryVerify(() => isInSight(focused()), nameOf(focused()))
                 press(Qt.Key_End)
-                tryVerify(() => isInSight(focused()), 5000, nameOf(focused()))
+                tryVerify(() => isInSight(focused()), nameOf(focused()))
                 press(Qt.Key_Tab)
             }
         }

@@ -7,6 +7,7 @@ import QtQuick
 import QtTest
 import Selvane
 import SelvaneTest
+import ".."
 
 /// The feedback of two windows over one application; one of them is the key window.
 Item {
@@ -47,11 +48,10 @@ Item {
     Component { id: busy; BusyOverlay { message: "" } }
     SignalSpy { id: newProfile; signalName: "newProfileAsked" }
 
-    TestCase {
+    ViewTestCase {
         id: test
 
         name: "Feedback"
-        when: windowShown
 
         property Item windows: null
         property LauncherFeedback key: null
