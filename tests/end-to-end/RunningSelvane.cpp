@@ -37,6 +37,17 @@ int pressAction(AtspiAction* actions) {
     return -1;
 }
 
+/// The first of an object and its descendants that fits. Looking at all of them costs hundreds of messages.
+std::optional<Seen> firstOf(const Seen& seen, const std::function<bool(const Seen&)>& fits) {
+    if (fits(seen))
+        return seen;
+    for (const Seen& child : seen.children()) {
+        if (const auto found = firstOf(child, fits))
+            return found;
+    }
+    return std::nullopt;
+}
+
 void collect(const Seen& seen, std::vector<Seen>& into) {
     into.push_back(seen);
     for (const Seen& child : seen.children())
@@ -152,9 +163,7 @@ RunningSelvane::RunningSelvane(const Environment& environment, const std::filesy
     // Shortcuts and messages come after the first frame; the layer of messages can be seen.
     const auto look = [&] {
         const auto window = activeWindow();
-        const auto all = window ? window->withDescendants() : std::vector<Seen>{};
-        return std::any_of(all.begin(), all.end(),
-                           [](const Seen& seen) { return seen.role() == ATSPI_ROLE_ALERT; });
+        return window && firstOf(*window, [](const Seen& seen) { return seen.role() == ATSPI_ROLE_ALERT; });
     };
     waitFor(look, "the picker");
 }
@@ -192,13 +201,17 @@ std::vector<Seen> RunningSelvane::everything() const {
     return result;
 }
 
+std::optional<Seen> RunningSelvane::shown(const Seen& window, AtspiRole role, const std::string& name) {
+    return firstOf(window, [&](const Seen& seen) {
+        return seen.role() == role && seen.name() == name && seen.is(ATSPI_STATE_SHOWING);
+    });
+}
+
 Seen RunningSelvane::find(AtspiRole role, const std::string& name) const {
     std::optional<Seen> found;
     const auto look = [&] {
-        for (const Seen& seen : everything()) {
-            if (seen.role() == role && seen.name() == name)
-                found = seen;
-        }
+        const auto window = activeWindow();
+        found = window ? shown(*window, role, name) : std::nullopt;
         return found.has_value();
     };
     waitFor(look, described(role, name));
@@ -209,10 +222,8 @@ void RunningSelvane::waitUntilGone(AtspiRole role, const std::string& name) cons
     const auto look = [&] {
         if (const auto status = m_program.status())
             return *status == 0;
-        const auto all = everything();
-        return !all.empty() && std::none_of(all.begin(), all.end(), [&](const Seen& seen) {
-            return seen.role() == role && seen.name() == name;
-        });
+        const auto window = activeWindow();
+        return window && !shown(*window, role, name);
     };
     waitUntil(look, "the end of " + described(role, name));
 }

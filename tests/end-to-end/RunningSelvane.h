@@ -80,6 +80,7 @@ private:
     Seen waitForFocus(const std::function<bool(const Seen&)>& isWanted, const std::string& what) const;
     std::optional<Seen> application() const;
     std::optional<Seen> activeWindow() const;
+    static std::optional<Seen> shown(const Seen& window, AtspiRole role, const std::string& name);
     std::string tree() const;
     void waitFor(const std::function<bool()>& holds, const std::string& what) const;
 
