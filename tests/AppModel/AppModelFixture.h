@@ -33,6 +33,8 @@ protected:
         if (m_mirror)
             m_mirror->expectUpToDate();
     }
+    /// Whether every property's change has been told so far.
+    void expectUpToDate() const { m_mirror->expectUpToDate(); }
     void waitUntilIdle() {
         const QDeadlineTimer limit(20'000);
         while (!model().busyMessage().isEmpty() && !limit.hasExpired())

@@ -334,6 +334,7 @@ TEST_F(AppModelLaunch, launch_AccountOpenElsewhere_AsksThenReplacesTheCopy) {
               "corso verranno interrotte.");
     model().cancelLaunch();
     EXPECT_EQ(model().pendingLaunch(), "");
+    expectUpToDate();
     EXPECT_TRUE(home.workspace.terminated.empty()) << "nothing happens before the answer";
 
     model().launch("ospite");
@@ -356,11 +357,16 @@ TEST_F(AppModelLaunch, launch_CopyThatStays_IsOfferedToBeForced) {
     EXPECT_EQ(model().offerForceQuit(), "ospite");
     EXPECT_EQ(model().errorMessage(), "");
     EXPECT_TRUE(home.workspace.openings.empty());
-    int told = 0;
-    QObject::connect(&model(), &AppModel::offerForceQuitChanged, [&] { ++told; });
+    model().cancelForceQuit();
+    EXPECT_EQ(model().offerForceQuit(), "");
+    expectUpToDate();
+    home.workspace.terminationsIgnored = 1;
+    model().launch("ospite");
+    model().confirmLaunch();
+    waitUntilIdle();
     model().forceLaunch();
     EXPECT_EQ(model().offerForceQuit(), "");
-    EXPECT_EQ(told, 1);
+    expectUpToDate();
     waitUntilIdle();
     EXPECT_EQ(home.workspace.forced.size(), 1U);
     EXPECT_EQ(home.workspace.openings.size(), 1U);

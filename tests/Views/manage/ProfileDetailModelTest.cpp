@@ -138,8 +138,9 @@ TEST_F(ProfileDetailModelTest, accountChoices_AreTheProfilesWithAnAccount) {
     EXPECT_EQ(detail.account(), "Cartella dati normale di Claude Desktop");
     int opened = 0;
     QObject::connect(&detail, &ProfileDetailModel::accountChanged, [&] { ++opened; });
+    QObject::connect(&detail, &ProfileDetailModel::runningChanged, [&] { ++opened; });
     emit model().runningChanged();
-    EXPECT_EQ(opened, 1) << "it tells when its account is open";
+    EXPECT_EQ(opened, 2) << "it tells when it is open, and when its account is";
     EXPECT_EQ(detail.accountChoices(), QStringList());
     show("alfa");
     EXPECT_EQ(detail.account(), "Usa l'account di «Principale»");
