@@ -26,20 +26,36 @@ void ImportForm::setSource(const QString& id) {
 
 /// Compares names only, not contents.
 void ImportForm::listItems() {
-    std::vector<ChoiceListModel::Entry> entries;
+    using Entries = std::vector<ChoiceListModel::Entry>;
     const Profile* source = m_app->profile(m_source);
     const Profile* target = m_app->profile(m_target);
     const auto part = component(m_component.toStdString());
-    if (source != nullptr && target != nullptr && part) {
+    m_items.setEntries({});
+    setLoading(source != nullptr && target != nullptr && part);
+    if (!m_isLoading)
+        return;
+    const auto read = [&store = m_app->store(), part = *part, from = *source, into = *target] {
         std::set<std::string> present;
-        for (const ComponentItem& item : m_app->store().items(*part, *target))
+        for (const ComponentItem& item : store.items(part, into))
             present.insert(item.name);
-        for (const ComponentItem& item : m_app->store().items(*part, *source)) {
+        Entries entries;
+        for (const ComponentItem& item : store.items(part, from)) {
             if (!present.contains(item.name))
                 entries.push_back({item.name, QString::fromStdString(item.name), {}, false});
         }
-    }
-    m_items.setEntries(std::move(entries));
+        return entries;
+    };
+    m_reading.begin(read, [this](Entries entries) {
+        setLoading(false);
+        m_items.setEntries(std::move(entries));
+    });
+}
+
+void ImportForm::setLoading(bool isLoading) {
+    if (m_isLoading == isLoading)
+        return;
+    m_isLoading = isLoading;
+    emit isLoadingChanged();
 }
 
 void ImportForm::submit() {

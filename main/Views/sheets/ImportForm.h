@@ -8,6 +8,7 @@
 #include <QQmlParserStatus>
 
 #include "AppModel/AppModel.h"
+#include "AppModel/Reading.h"
 #include "Views/sheets/ChoiceListModel.h"
 
 namespace selvane {
@@ -27,6 +28,7 @@ class ImportForm : public QObject, public QQmlParserStatus {
     /// The items that the target doesn't have yet.
     Q_PROPERTY(selvane::ChoiceListModel* items READ items CONSTANT)
     Q_PROPERTY(QString heading READ heading NOTIFY inputChanged)
+    Q_PROPERTY(bool isLoading READ isLoading NOTIFY isLoadingChanged)
 
 public:
     using QObject::QObject;
@@ -35,6 +37,7 @@ public:
     void setSource(const QString& id);
     ChoiceListModel* items() { return &m_items; }
     QString heading() const;
+    bool isLoading() const { return m_isLoading; }
 
     void classBegin() override {}
     void componentComplete() override { setSource(m_app->firstOther(m_target)); }
@@ -47,16 +50,20 @@ signals:
     void inputChanged();
     void sourceChanged();
     void linksChanged();
+    void isLoadingChanged();
 
 private:
     void listItems();
+    void setLoading(bool isLoading);
 
     AppModel* m_app = nullptr;
     QString m_target;
     QString m_component;
     QString m_source;
     bool m_links = true;
+    bool m_isLoading = false;
     ChoiceListModel m_items;
+    Reading<std::vector<ChoiceListModel::Entry>> m_reading;
 };
 
 } // namespace selvane

@@ -70,7 +70,7 @@ Sheet {
                   - Theme.sheets.titleGap
             choices: form.items
             label: form.heading
-            emptyText: qsTr("Niente da aggiungere")
+            emptyText: form.isLoading ? qsTr("Lettura degli elementi…") : qsTr("Niente da aggiungere")
         }
     }
     Column {

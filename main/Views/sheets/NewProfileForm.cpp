@@ -21,14 +21,9 @@ ShareMode nearestMode(ShareMode wanted, Component component) {
                                                                                : ShareMode::separate;
 }
 
-std::unique_ptr<ChoiceListModel> choices(const std::vector<ComponentItem>& items,
-                                         const std::set<std::string>& leftOut) {
-    std::vector<ChoiceListModel::Entry> entries;
-    for (const ComponentItem& item : items)
-        entries.push_back({item.name, QString::fromStdString(item.name), {}, !leftOut.contains(item.name)});
+std::unique_ptr<ChoiceListModel> noChoices() {
     auto model = std::make_unique<ChoiceListModel>();
     QQmlEngine::setObjectOwnership(model.get(), QQmlEngine::CppOwnership);
-    model->setEntries(std::move(entries));
     return model;
 }
 
@@ -40,6 +35,10 @@ QStringList texts(std::span<const ShareMode> modes, std::string_view (*textOf)(S
 }
 
 } // namespace
+
+NewProfileForm::NewProfileForm(QObject* parent) : QAbstractListModel(parent) {
+    connect(this, &NewProfileForm::nameChanged, this, &NewProfileForm::canCreateChanged);
+}
 
 void NewProfileForm::setApp(AppModel* app) {
     const auto connectTo = [this](AppModel& followed) {
@@ -90,11 +89,37 @@ void NewProfileForm::listComponents() {
             const auto chosen = m_modes.find(component);
             Row row{component, chosen == m_modes.end() ? defaultMode(component) : chosen->second, nullptr};
             if (isCollection(component))
-                row.items = choices(m_app->store().items(component, *source), m_leftOut[component]);
+                row.items = noChoices();
             m_rows.push_back(std::move(row));
         }
     }
     endResetModel();
+    if (source == nullptr)
+        return;
+    const auto read = [&store = m_app->store(), profile = *source] {
+        Items items;
+        for (const Component component : kComponents) {
+            if (isCollection(component))
+                items[component] = store.items(component, profile);
+        }
+        return items;
+    };
+    m_reading.begin(read, [this](const Items& items) { listItems(items); });
+    emit canCreateChanged();
+}
+
+void NewProfileForm::listItems(const Items& items) {
+    for (const Row& row : m_rows) {
+        if (!row.items)
+            continue;
+        const std::set<std::string>& leftOut = m_leftOut[row.component];
+        std::vector<ChoiceListModel::Entry> entries;
+        for (const ComponentItem& item : items.at(row.component))
+            entries.push_back(
+                {item.name, QString::fromStdString(item.name), {}, !leftOut.contains(item.name)});
+        row.items->setEntries(std::move(entries));
+    }
+    emit canCreateChanged();
 }
 
 QString NewProfileForm::sourceName() const {

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "AppModel/AppModel.h"
+#include "AppModel/Reading.h"
 #include "Views/sheets/ChoiceListModel.h"
 
 namespace selvane {
@@ -33,7 +34,7 @@ class NewProfileForm : public QAbstractListModel {
     Q_PROPERTY(QString sourceName READ sourceName NOTIFY sourceChanged)
     Q_PROPERTY(bool sharesAccount MEMBER m_sharesAccount NOTIFY sharesAccountChanged)
     Q_PROPERTY(bool copiesSessions MEMBER m_copiesSessions NOTIFY copiesSessionsChanged)
-    Q_PROPERTY(bool canCreate READ canCreate NOTIFY nameChanged)
+    Q_PROPERTY(bool canCreate READ canCreate NOTIFY canCreateChanged)
 
 public:
     enum Role {
@@ -45,21 +46,22 @@ public:
         ItemsRole, ///< a ChoiceListModel, or null unless it is a folder
     };
 
-    using QAbstractListModel::QAbstractListModel;
+    explicit NewProfileForm(QObject* parent = nullptr);
 
     AppModel* app() const { return m_app; }
     void setApp(AppModel* app);
     QString source() const { return m_source; }
     void setSource(const QString& id);
     QString sourceName() const;
-    bool canCreate() const { return !m_name.trimmed().isEmpty(); }
+    /// Not without a name, nor before the items of the source are known.
+    bool canCreate() const { return !m_name.trimmed().isEmpty() && !m_reading.isRunning(); }
 
     Q_INVOKABLE void setMode(int row, int modeIndex);
     // Sets this mode for every component that allows it, and the nearest one for the others.
     Q_INVOKABLE void shareAll() { setAll(ShareMode::shared); }
     Q_INVOKABLE void separateAll() { setAll(ShareMode::separate); }
     /// Passes the request to the application; `succeeded` follows once the profile is there. Does nothing if
-    /// the name is blank.
+    /// `canCreate` is false.
     Q_INVOKABLE void create();
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -70,6 +72,7 @@ signals:
     void succeeded(); ///< the profile is there
     void appChanged();
     void nameChanged();
+    void canCreateChanged();
     void summaryChanged();
     void symbolChanged();
     void sourceChanged();
@@ -83,7 +86,10 @@ private:
         std::unique_ptr<ChoiceListModel> items; ///< only for a collection
     };
 
+    using Items = std::map<Component, std::vector<ComponentItem>>;
+
     void listComponents();
+    void listItems(const Items& items);
     void rememberChoices();
     void setAll(ShareMode mode);
     ProfileRequest request() const;
@@ -96,6 +102,7 @@ private:
     bool m_sharesAccount = true;
     bool m_copiesSessions = false;
     std::vector<Row> m_rows;
+    Reading<Items> m_reading;
     // What the user has chosen so far. It applies to every source that has the like.
     std::map<Component, ShareMode> m_modes;
     std::map<Component, std::set<std::string>> m_leftOut; ///< names of items

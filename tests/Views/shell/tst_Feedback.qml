@@ -13,8 +13,11 @@ import ".."
 Item {
     id: scene
 
+    property int leaked: 0 ///< keys that nothing above has taken
+
     width: 800
     height: 600
+    Keys.onPressed: ++leaked
 
     TestHome { id: home }
     Component {
@@ -111,6 +114,9 @@ Item {
             const overlay = createTemporaryObject(busy, scene)
             overlay.message = "Backup in corso…"
             tryVerify(() => isPainted(overlay, "Backup in corso…"))
+            scene.leaked = 0
+            keyClick(Qt.Key_1)
+            compare(scene.leaked, 0)
         }
 
         function test_alerts_OneAtATime_ErrorFirst(): void {
