@@ -27,6 +27,19 @@ TestCase {
         Events.handleUntil(() => object[property] === value)
         compare(object[property], value, calledFrom())
     }
+    function press(...keys): void {
+        for (const key of keys)
+            keyClick(key)
+    }
+    /// The item itself and all below it that can be seen and that `accepts` returns true for.
+    function visibleItems(accepts: var, item: Item): var {
+        if (!item.visible)
+            return []
+        let found = accepts(item) ? [item] : []
+        for (let i = 0; i < item.children.length; ++i)
+            found = found.concat(visibleItems(accepts, item.children[i]))
+        return found
+    }
     function calledFrom(): string {
         return " at " + new Error().stack.split("\n")[2]
     }

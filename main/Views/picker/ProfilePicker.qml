@@ -119,27 +119,10 @@ FocusScope {
         y: view.places.overline + view.spareAbove
         text: qsTr("Scegli un profilo")
     }
-    Row {
+    PickerQuestion {
         x: view.columnLeft - Theme.picker.opticalMargin
         y: view.places.title + view.spareAbove
-
-        Accessible.role: Accessible.Heading
-        Accessible.name: qsTr("Chi usa Claude?")
-
-        StyledText {
-            id: question
-
-            look: view.isCompact ? Theme.type.titleCompact : Theme.type.title
-            text: qsTr("Chi usa ")
-            Accessible.ignored: true
-        }
-        StyledText {
-            anchors.baseline: question.baseline
-            look: view.isCompact ? Theme.type.titleSerifCompact : Theme.type.titleSerif
-            text: qsTr("Claude?")
-            color: Theme.lit
-            Accessible.ignored: true
-        }
+        isCompact: view.isCompact
     }
     StyledText {
         x: view.columnLeft

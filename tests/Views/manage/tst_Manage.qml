@@ -45,12 +45,7 @@ Item {
             settle()
         }
         function all(accepts: var, item = view): var {
-            if (!item.visible)
-                return []
-            let found = accepts(item) ? [item] : []
-            for (let i = 0; i < item.children.length; ++i)
-                found = found.concat(all(accepts, item.children[i]))
-            return found
+            return visibleItems(accepts, item)
         }
         function the(accepts: var, item = view): Item {
             const found = all(accepts, item)
@@ -65,10 +60,6 @@ Item {
         }
         function buttons(label: string): int {
             return all(item => item instanceof Pressable && item.label === label).length
-        }
-        function press(...keys): void {
-            for (const key of keys)
-                keyClick(key)
         }
         /// Presses Tab until an item of the list has the focus.
         function enter(items: ItemList): void {
