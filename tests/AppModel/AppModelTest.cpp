@@ -3,6 +3,8 @@
 
 #include "AppModel/AppModelFixture.h"
 
+#include <QDate>
+
 #include <atomic>
 #include <sys/stat.h>
 #include <thread>
