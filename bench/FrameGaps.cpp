@@ -47,7 +47,10 @@ public:
         window.update();
     }
 
-    void begin() { m_longest = m_frames = 0; }
+    void begin() {
+        m_longest = m_frames = 0;
+        m_sinceLast.start();
+    }
     double longest() const { return static_cast<double>(m_longest) / 1e6; } ///< milliseconds
     qint64 frames() const { return m_frames; }
 
