@@ -81,7 +81,7 @@ void ProfileStore::addItem(const ComponentItem& item, const Profile& to, Compone
         m_files.waitForNames(to.url(component));
         return;
     }
-    FileBatch batch(m_progress);
+    FileBatch batch(to.configDir, m_progress);
     addCopy(item.url, to, component, batch);
     batch.finish();
 }
@@ -93,7 +93,7 @@ void ProfileStore::addCopy(const fs::path& item, const Profile& to, Component co
 
 std::vector<std::string> ProfileStore::uncopiedItems(const Profile& profile) const {
     std::vector<std::string> lines;
-    const auto source = sourceOf(profile);
+    const auto source = profile.meta.source ? this->profile(*profile.meta.source) : std::nullopt;
     for (const Component component : kComponents) {
         if (!source || !isCollection(component) || profile.mode(component) != ShareMode::separate)
             continue;

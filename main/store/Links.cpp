@@ -74,6 +74,14 @@ std::vector<std::string> missingItems(const ItemListing& own, const ItemListing&
     return missing;
 }
 
+/// What a link to `target` leads to in the end; nothing if it dangles.
+std::optional<fs::path> contentOf(const fs::path& link, const std::string& target) {
+    const FileManager files;
+    if (files.isRegularFile(target)) // by far most, and nothing else needs to be resolved for them
+        return target;
+    return files.isPresent(link) ? std::optional(files.resolved(link)) : std::nullopt;
+}
+
 void record(ShareMode mode, Component component, Profile& profile) {
     profile.meta.modes[std::string(rawValue(component))] = mode;
 }
@@ -161,7 +169,7 @@ void ProfileStore::setCollectionMode(ShareMode mode, Component component, Profil
         syncLinks(profile);
         return;
     }
-    FileBatch batch(m_progress);
+    FileBatch batch(profile.configDir, m_progress);
     const std::string origin = source.url(component).native() + "/";
     const ItemListing own(component, profile.url(component));
     const auto shared = sharedItems(own, origin);
@@ -173,8 +181,8 @@ void ProfileStore::setCollectionMode(ShareMode mode, Component component, Profil
         const fs::path link = profile.url(component) / name;
         if (mode == ShareMode::none)
             own.folder->removeLink(name);
-        else if (own.folder->isPresent(name))
-            batch.copyOverLink(m_files.resolved(link), link);
+        else if (const auto content = contentOf(link, origin + target))
+            batch.copyOverLink(*content, link);
         else if (!isReachable(source)) // otherwise there is nothing to copy, and it may lead somewhere again
             throw fs::filesystem_error("look up", source.configDir,
                                        std::make_error_code(std::errc::no_such_file_or_directory));
@@ -233,7 +241,7 @@ Profile ProfileStore::remove(const ComponentItem& item, const Profile& from, Com
 Profile ProfileStore::importItems(const std::set<std::string>& names, const Profile& source,
                                   const Profile& into, Component component, bool link) {
     const FolderLock lock = locked(into);
-    FileBatch batch(m_progress);
+    FileBatch batch(into.configDir, m_progress);
     std::vector<std::string> imported;
     for (const FolderEntry& entry : ItemListing(component, source.url(component)).entries) {
         if (!names.contains(entry.name))

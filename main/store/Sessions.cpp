@@ -4,7 +4,10 @@
 #include "store/ProfileStore.h"
 
 #include <algorithm>
+#include <future>
+#include <iterator>
 #include <limits>
+#include <span>
 
 #include "model/LauncherError.h"
 #include "platform/files/FileBatch.h"
@@ -18,6 +21,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view kSessionsFolder = "claude-code-sessions";
+constexpr auto kAnyLaunch = std::launch::async | std::launch::deferred;
 constexpr std::string_view kQueueFolder = ".pending-sessions";
 
 bool isHidden(const std::string& name) {
@@ -41,6 +45,41 @@ std::optional<CodeSession> parseSession(const std::string& file, SessionRecordRe
     std::move(record->priorCliSessionIds.begin(), record->priorCliSessionIds.end(),
               std::back_inserter(session.cliSessionIDs));
     return session;
+}
+
+/// The sessions in these files of a folder.
+std::vector<CodeSession> parsedSessions(const fs::path& folder, std::span<const std::string> names,
+                                        Unreadable unreadable) {
+    std::vector<CodeSession> sessions;
+    SessionRecordReader reader;
+    for (const std::string& name : names) {
+        const std::string file = folder.native() + "/" + name;
+        auto session = parseSession(file, reader);
+        // If it couldn't be read, this throws, or it can be read now.
+        if (!session && unreadable == Unreadable::fails && FileManager().readIfPresent(file))
+            session = parseSession(file, reader);
+        if (session)
+            sessions.push_back(std::move(*session));
+    }
+    return sessions;
+}
+
+/// Adds the sessions in these files. Parsing is what takes the time, so another thread helps.
+void addSessions(const fs::path& folder, std::span<const std::string> names, Unreadable unreadable,
+                 std::vector<CodeSession>& sessions) {
+    constexpr std::size_t kAtATime = 1024; // so that memory isn't needed twice
+    constexpr std::size_t kFew = 128;
+    for (; !names.empty(); names = names.subspan(std::min(kAtATime, names.size()))) {
+        const auto some = names.first(std::min(kAtATime, names.size()));
+        const auto half = some.size() < kFew ? some.size() : some.size() / 2;
+        auto others = std::async(some.size() < kFew ? std::launch::deferred : kAnyLaunch, parsedSessions,
+                                 folder, some.subspan(half), unreadable);
+        const auto append = [&](std::vector<CodeSession> parsed) {
+            std::move(parsed.begin(), parsed.end(), std::back_inserter(sessions));
+        };
+        append(parsedSessions(folder, some.first(half), unreadable));
+        append(others.get());
+    }
 }
 
 } // namespace
@@ -89,19 +128,13 @@ std::vector<fs::path> ProfileStore::listedPlaces(const Profile& profile) const {
 
 std::vector<CodeSession> ProfileStore::codeSessions(const Profile& profile, Unreadable unreadable) const {
     std::vector<CodeSession> sessions;
-    SessionRecordReader reader;
     for (const fs::path& folder : sessionFolders(desktopDataDir(profile), unreadable)) {
-        const std::vector<std::string> names = m_files.entriesIfPresent(folder, unreadable);
+        std::vector<std::string> names = m_files.entriesIfPresent(folder, unreadable);
+        std::erase_if(names, [](const std::string& name) {
+            return !name.starts_with("local_") || !name.ends_with(".json");
+        });
         sessions.reserve(sessions.size() + names.size());
-        for (const std::string& name : names) {
-            if (!name.starts_with("local_") || !name.ends_with(".json"))
-                continue;
-            const std::string file = folder.native() + "/" + name;
-            if (auto session = parseSession(file, reader))
-                sessions.push_back(std::move(*session));
-            else if (unreadable == Unreadable::fails)
-                static_cast<void>(m_files.readIfPresent(file)); // throws if that was the reason
-        }
+        addSessions(folder, names, unreadable, sessions);
     }
     const auto activity = [](const CodeSession& session) {
         return session.lastActivity.value_or(-std::numeric_limits<double>::infinity());
@@ -144,7 +177,8 @@ void ProfileStore::copyTranscripts(const CodeSession& session, const TranscriptI
         if (!folder || !known.insert(id).second)
             continue;
         const fs::path place = target.configDir / "projects" / folder->filename();
-        createOwnFolder(target, place);
+        if (known.insert(place).second) // no id is a path
+            createOwnFolder(target, place);
         for (const std::string& name : {id + ".jsonl", id}) {
             if (m_files.exists(*folder / name) && !m_files.exists(place / name))
                 batch.copy(*folder / name, place / name);
@@ -161,6 +195,8 @@ ImportCount ProfileStore::importSessions(const std::vector<CodeSession>& session
     const std::optional<fs::path> open = sessionPlace(data);
     const bool canPlace = open && !desktopDataInUse(data);
     const fs::path destination = canPlace ? *open : target.configDir / kQueueFolder;
+    // Another profile with the same account may get sessions at the same time.
+    const FolderLock placeLock = canPlace ? FolderLock(destination) : FolderLock(fs::path());
     const TranscriptIndex index = transcripts(source, Unreadable::fails);
 
     for (const CodeSession& session : sessions) {
@@ -173,7 +209,7 @@ ImportCount ProfileStore::importSessions(const std::vector<CodeSession>& session
             }
         }
     }
-    FileBatch batch(m_progress);
+    FileBatch batch(target.configDir, m_progress);
     std::set<std::string> knownTranscripts;
     std::set<std::string> knownRecords;
     ImportCount count;
@@ -184,14 +220,15 @@ ImportCount ProfileStore::importSessions(const std::vector<CodeSession>& session
             ++count.copied;
             return;
         }
-        const std::string bytes = withoutAccount(m_files.read(session.file), session.file);
         const fs::path place = destination / fs::path(session.file).filename();
-        if (!canPlace)
+        if (!canPlace && knownRecords.empty())
             createOwnFolder(target, destination);
         // Two of the source's folders can have a record of one name; the first, the newest, counts.
         const bool isFirst = knownRecords.insert(place.filename()).second;
         if (isFirst && (!canPlace || !m_files.exists(place)))
-            batch.write(place, bytes, Privacy::ownerOnly);
+            batch.write(
+                place, [this, file = session.file] { return withoutAccount(m_files.read(file), file); },
+                Privacy::ownerOnly);
         ++(canPlace ? count.copied : count.pending);
     };
     try {
@@ -219,7 +256,8 @@ int ProfileStore::flushPendingSessions(const Profile& profile) {
     const std::optional<fs::path> folder = sessionPlace(data);
     if (!folder)
         return 0;
-    FileBatch batch(m_progress);
+    const FolderLock placeLock(*folder);
+    FileBatch batch(profile.configDir, m_progress);
     int placed = 0;
     for (const std::string& name : queued) {
         const fs::path place = *folder / name;

@@ -12,8 +12,9 @@ namespace {
 
 /// So many files are copied before the first thread is started.
 constexpr int kFilesWithoutThreads = 64;
-/// So many files wait at most. Each can keep two folders open.
-constexpr std::size_t kMostWaiting = 32;
+/// So many files wait at most if each can keep two folders open, and if it can't.
+constexpr std::size_t kMostInFolders = 32;
+constexpr std::size_t kMostWaiting = 1024;
 /// The caller included. More don't pay: they only wait for each other at the disk.
 constexpr unsigned kMostThreads = 4;
 
@@ -72,12 +73,27 @@ void CopyCrew::add(std::shared_ptr<FolderPair> folder, std::string from, std::st
                    Privacy privacy) {
     if (folder)
         ++folder->users;
-    Job job = {std::move(folder), std::move(from), std::move(to), std::move(named), privacy};
+    add(Job{std::move(folder), std::move(from), std::move(to), std::move(named), privacy});
+}
+
+void CopyCrew::add(std::function<void()> task) {
+    Job job;
+    job.task = std::move(task);
+    add(std::move(job));
+}
+
+bool CopyCrew::hasFailed() {
+    const std::lock_guard guard(m_mutex);
+    return m_failure != nullptr;
+}
+
+void CopyCrew::add(Job job) {
+    job.kept = m_kept;
     {
         const std::lock_guard guard(m_mutex);
         if (m_failure)
             std::rethrow_exception(m_failure);
-        if (m_jobs.size() < kMostWaiting) {
+        if (m_jobs.size() < (job.folder ? kMostInFolders : kMostWaiting)) {
             m_jobs.push_back(std::move(job));
             m_added.notify_one();
             return;
@@ -144,6 +160,8 @@ void CopyCrew::attempt(const Job& job, ContentCopier& contents) {
 }
 
 void CopyCrew::run(const Job& job, ContentCopier& contents) {
+    if (job.task)
+        return job.task();
     FileToCopy file;
     if (job.folder)
         file = {job.folder->source.get(), job.folder->target.get()};

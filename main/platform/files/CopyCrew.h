@@ -9,6 +9,7 @@
 #include <deque>
 #include <exception>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <string>
@@ -72,6 +73,11 @@ public:
     /// Throws the first failure of any file so far.
     void add(std::shared_ptr<FolderPair> folder, std::string from, std::string to, std::string named,
              Privacy privacy);
+    /// Adds something else to do. Its failure counts as that of a file.
+    void add(std::function<void()> task);
+    /// Whatever is added from now on keeps this until it is done or given up.
+    void keepWhileCopying(std::shared_ptr<void> kept) { m_kept = std::move(kept); }
+    bool hasFailed();
     /// The folder gets no more files: once those it has are copied, it gets its own mode and times.
     void release(FolderPair& folder);
     /// Waits until everything is copied. Throws the first failure.
@@ -89,8 +95,11 @@ private:
         std::shared_ptr<FolderPair> folder;
         std::string from, to, named;
         Privacy privacy = Privacy::inherited;
+        std::function<void()> task{}; ///< what to do instead of copying
+        std::shared_ptr<void> kept{};
     };
 
+    void add(Job job);
     void work();
     void run(const Job& job, ContentCopier& contents);
     void attempt(const Job& job, ContentCopier& contents);
@@ -100,6 +109,7 @@ private:
     Progress* m_progress;
     ContentCopier m_contents; ///< the caller's
     int m_files = 0;
+    std::shared_ptr<void> m_kept;
 
     std::mutex m_mutex;
     std::condition_variable m_added; ///< there is a job, or there will be no more
@@ -110,5 +120,12 @@ private:
     std::exception_ptr m_failure; ///< the first
     std::vector<std::thread> m_threads;
 };
+
+/// Copies whatever is at `from` to `to`, or has `crew` copy it. Errors name `named` for `to`.
+void copyTree(const std::filesystem::path& from, const std::filesystem::path& to,
+              const std::filesystem::path& named, Privacy privacy, CopyCrew& crew);
+/// The same for what is certainly a file; fails if it isn't one by then.
+void copyFile(const std::filesystem::path& from, const std::filesystem::path& to,
+              const std::filesystem::path& named, Privacy privacy, CopyCrew& crew);
 
 } // namespace selvane::files

@@ -59,13 +59,16 @@ bool DiskSync::keep(Descriptor& file, bool& together) {
 }
 
 int DiskSync::wait() {
-    const std::lock_guard guard(m_mutex);
+    std::vector<Disk> disks;
+    {
+        const std::lock_guard guard(m_mutex);
+        disks.swap(m_disks);
+    }
     int error = 0;
-    for (Disk& disk : m_disks) {
+    for (Disk& disk : disks) {
         if (const int failed = wait(disk); error == 0)
             error = failed;
     }
-    m_disks.clear();
     return error;
 }
 

@@ -21,7 +21,8 @@ public:
     int add(Descriptor file);
     /// The same for the folder at a path. One that can't be opened is no error.
     int addFolder(const std::filesystem::path& folder);
-    /// Waits for all that was added, and forgets it. Returns 0 or the first error.
+    /// Waits for all that was added, and forgets it. More may be added meanwhile; that is for the next wait.
+    /// Returns 0 or the first error.
     int wait();
     /// The same, but throws an error that names `path`.
     void waitFor(const std::filesystem::path& path);

@@ -4,48 +4,68 @@
 #include "platform/files/FileBatch.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cstdio>
 #include <sys/stat.h>
+#include <vector>
 
 #include "platform/files/FileCopy.h"
 #include "platform/files/FileRemoval.h"
+#include "platform/files/Placement.h"
 #include "platform/files/Temporary.h"
 
 namespace selvane {
 
 using files::Descriptor;
 using files::fail;
-using files::isLink;
+using files::Replaces;
 
 namespace {
 
-/// With so many, their names take about a megabyte.
-constexpr std::size_t kMost = 4096;
+/// So many get their names together. Waiting for so many costs little beside writing them.
+constexpr std::size_t kRound = 1024;
 
-/// What has become of a replacement: the error, if any, and whether something of the user's has the temporary
-/// name.
-struct Placing {
-    int error = 0;
-    bool mustKeep = false;
-};
+constexpr std::string_view kTemporaryFolder = "batch-";
 
-/// Gives `temporary` the name of the link at `target`, and the link a temporary name.
-Placing placeOverLink(const std::filesystem::path& temporary, const std::filesystem::path& target) {
-    if (const int error = files::exchangeNames(temporary, target); error != ENOTSUP) {
-        if (error != 0 || isLink(temporary))
-            return {error};
-        // Something of the user's has replaced the link meanwhile.
-        return {EEXIST, files::exchangeNames(temporary, target) != 0};
+/// Removes what killed runs have left in a folder. What can't be removed now waits for the next run.
+void removeLeftovers(const std::filesystem::path& folder) {
+    const FileManager files;
+    const std::string beginning = std::string(FileManager::kTemporaryPrefix).append(kTemporaryFolder);
+    for (const std::string& name : files.entriesIfReadable(folder)) {
+        try {
+            if (name.starts_with(beginning) && files.isFolder(folder / name))
+                files.removeTree(folder / name);
+        } catch (const std::filesystem::filesystem_error&) {
+        }
     }
-    // Where names can't be exchanged, neither is there for a moment.
-    const std::filesystem::path aside = temporary.native() + "-link";
-    if (const int error = files::renameExclusively(target, aside); error != 0)
-        return {error};
-    const int error = isLink(aside) ? files::renameExclusively(temporary, target) : EEXIST;
-    return {error, error != 0 && files::renameExclusively(aside, target) != 0};
 }
 
 } // namespace
+
+/// What gets its names together.
+struct FileBatch::Round {
+    std::vector<Entry> entries;
+    std::filesystem::path temporary; ///< the folder that they are made in
+    std::atomic<bool> isCopied = false;
+    std::shared_ptr<void> copying; ///< kept by all that is still to be copied; sets that when nobody is left
+
+    std::mutex mutex;            ///< of the following
+    std::size_t failed = kRound; ///< the first entry that failed
+    std::exception_ptr failure;
+
+    void fail(std::size_t position, std::exception_ptr why) {
+        const std::lock_guard guard(mutex);
+        if (position >= failed)
+            return;
+        failed = position;
+        failure = std::move(why);
+    }
+};
+
+FileBatch::FileBatch(const std::filesystem::path& folder, Progress* progress)
+    : m_folder(folder), m_mount(files::mountOf(folder)), m_progress(progress), m_copier(m_written, progress) {
+    removeLeftovers(folder);
+}
 
 FileBatch::~FileBatch() {
     try {
@@ -57,112 +77,183 @@ FileBatch::~FileBatch() {
 }
 
 void FileBatch::copy(const std::filesystem::path& from, const std::filesystem::path& to, Privacy privacy) {
-    copyAs(Kind::isNew, from, to, privacy);
+    copyAs(Replaces::nothing, from, to, privacy);
 }
 
 void FileBatch::copyOverLink(const std::filesystem::path& from, const std::filesystem::path& link) {
-    copyAs(Kind::overLink, from, link, Privacy::inherited);
+    copyAs(Replaces::link, from, link, Privacy::inherited);
 }
 
-void FileBatch::copyAs(Kind kind, const std::filesystem::path& from, const std::filesystem::path& to,
+void FileBatch::copyAs(Replaces kind, const std::filesystem::path& from, const std::filesystem::path& to,
                        Privacy privacy) {
     struct stat status = {};
-    if (::lstat(from.c_str(), &status) == 0 && S_ISDIR(status.st_mode))
+    const bool isKnown = ::lstat(from.c_str(), &status) == 0;
+    if (isKnown && S_ISDIR(status.st_mode))
         files::requireOutside("copy", from, to);
-    m_copier.copy(from, addNew(to, kind), to, privacy);
+    const std::filesystem::path temporary = addNew(to, kind);
+    try {
+        if (isKnown && S_ISREG(status.st_mode))
+            m_copier.copyFile(from, temporary, to, privacy);
+        else
+            m_copier.copy(from, temporary, to, privacy);
+    } catch (...) { // half of it may be there
+        m_open->fail(m_open->entries.size() - 1, std::current_exception());
+        throw;
+    }
 }
 
-void FileBatch::write(const std::filesystem::path& file, std::string_view bytes, Privacy privacy) {
-    const std::filesystem::path temporary = addNew(file, Kind::overFile);
+void FileBatch::write(const std::filesystem::path& file, std::function<std::string()> make, Privacy privacy) {
+    const std::filesystem::path temporary = addNew(file, Replaces::file);
+    const std::size_t position = m_open->entries.size() - 1;
+    m_copier.run([this, round = m_open.get(), position, file, temporary, make = std::move(make), privacy] {
+        try {
+            writeNew(temporary, file, make(), privacy);
+        } catch (...) {
+            round->fail(position, std::current_exception());
+        }
+    });
+}
+
+void FileBatch::writeNew(const std::filesystem::path& temporary, const std::filesystem::path& target,
+                         std::string_view bytes, Privacy privacy) {
     constexpr int kFlags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
     Descriptor open(::open(temporary.c_str(), kFlags, privacy == Privacy::ownerOnly ? 0600 : 0644));
     int error = open ? files::writeAll(open.get(), bytes) : errno;
     if (error == 0)
         error = m_written.add(std::move(open));
     if (error != 0)
-        fail("write", file, error);
+        fail("write", target, error);
     if (m_progress != nullptr)
         m_progress->advance(1, static_cast<std::int64_t>(bytes.size()));
 }
 
 void FileBatch::move(const std::filesystem::path& from, const std::filesystem::path& to) {
-    struct stat origin = {};
-    struct stat folder = {};
-    if (::lstat(from.c_str(), &origin) != 0)
-        fail("move", from, errno);
-    if (::stat(files::folderOf(to).c_str(), &folder) != 0)
-        fail("move", to, errno);
-    if (origin.st_dev == folder.st_dev) {
-        add(to, Kind::isNew).temporary = from;
-        folderOf(from);
+    if (files::mountOf(files::folderOf(from)) == files::mountOf(files::folderOf(to))) {
+        add(to, Replaces::nothing).temporary = from;
+        folderAt(files::folderOf(from));
     } else {
         copy(from, to);
         m_originals.push_back(from);
     }
 }
 
-FileBatch::Entry& FileBatch::add(const std::filesystem::path& target, Kind kind) {
-    if (m_entries.size() >= kMost)
-        finish();
+FileBatch::Entry& FileBatch::add(const std::filesystem::path& target, Replaces kind) {
     if (m_progress != nullptr && m_progress->isCancelled())
         fail("create", target, ECANCELED);
-    folderOf(target);
-    m_entries.push_back({target, {}, kind});
-    return m_entries.back();
-}
-
-std::filesystem::path FileBatch::addNew(const std::filesystem::path& target, Kind kind) {
-    Entry& entry = add(target, kind);
-    Folder& folder = folderOf(target);
-    if (folder.temporary.empty()) {
-        const std::filesystem::path temporary = files::newSibling(target);
-        if (::mkdir(temporary.c_str(), S_IRWXU) != 0)
-            fail("create", target, errno);
-        folder.temporary = temporary;
+    if (m_open && m_open->entries.size() >= kRound) {
+        close();
+        m_copier.run([this] { settleCopied(); });
     }
-    entry.temporary = folder.temporary / std::to_string(m_entries.size());
-    return entry.temporary;
+    if (!m_open) {
+        m_open = std::make_shared<Round>();
+        m_open->copying = {nullptr, [round = m_open.get()](void*) { round->isCopied = true; }};
+        m_copier.keepWhileCopying(m_open->copying);
+    }
+    const Folder& folder = folderAt(files::folderOf(target));
+    m_open->entries.push_back({&folder, target.filename().native(), {}, kind});
+    ++m_count;
+    return m_open->entries.back();
 }
 
-FileBatch::Folder& FileBatch::folderOf(const std::filesystem::path& target) {
-    const std::filesystem::path path = files::folderOf(target);
-    // Targets in one folder mostly follow each other.
-    const auto known = std::find_if(m_folders.rbegin(), m_folders.rend(),
-                                    [&](const Folder& folder) { return folder.path == path; });
-    if (known != m_folders.rend())
-        return *known;
-    m_folders.push_back({path, {}});
-    return m_folders.back();
+std::filesystem::path FileBatch::addNew(const std::filesystem::path& target, Replaces kind) {
+    Entry& entry = add(target, kind);
+    Folder& folder = folderAt(files::folderOf(target));
+    // Each round has a folder of its own: its files get their names while those of the next are made.
+    std::filesystem::path& temporary = folder.isElsewhere ? folder.temporary : m_open->temporary;
+    if (temporary.empty())
+        temporary = makeTemporary(folder.isElsewhere ? folder.path : m_folder, target);
+    return entry.temporary = temporary / std::to_string(m_count);
+}
+
+FileBatch::Folder& FileBatch::folderAt(const std::filesystem::path& path) {
+    Folder*& known = m_places[path.native()];
+    if (known == nullptr) {
+        const bool isElsewhere = files::mountOf(path) != m_mount;
+        if (isElsewhere)
+            removeLeftovers(path);
+        known = &m_folders.emplace_back(Folder{path, isElsewhere});
+    }
+    return *known;
+}
+
+std::filesystem::path FileBatch::makeTemporary(const std::filesystem::path& in,
+                                               const std::filesystem::path& target) {
+    const std::string random = files::newSibling("").filename().native();
+    std::string name(FileManager::kTemporaryPrefix);
+    name.append(kTemporaryFolder).append(random, FileManager::kTemporaryPrefix.size());
+    const std::filesystem::path path = in / name;
+    if (::mkdir(path.c_str(), S_IRWXU) != 0)
+        fail("create", target, errno);
+    m_temporaries.push_back(path);
+    const Descriptor folder(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    if (!folder)
+        fail("create", target, errno);
+    files::dropInheritedAccess(folder.get()); // so nothing inside inherits it either
+    return path;
+}
+
+/// Nothing more is added to the open round.
+void FileBatch::close() {
+    const std::lock_guard guard(m_mutex);
+    m_closed.push_back(m_open);
+    m_copier.keepWhileCopying(nullptr);
+    m_open->copying.reset();
+    m_open.reset();
+}
+
+/// The next round in order if it is copied. Otherwise, or if copying has failed, nothing.
+std::shared_ptr<FileBatch::Round> FileBatch::nextCopied() {
+    const std::lock_guard guard(m_mutex);
+    if (m_closed.empty() || !m_closed.front()->isCopied || m_copier.hasFailed())
+        return nullptr;
+    auto round = std::move(m_closed.front());
+    m_closed.pop_front();
+    return round;
+}
+
+/// Other threads go on copying meanwhile.
+void FileBatch::settleCopied() {
+    const std::lock_guard settling(m_settling);
+    while (const auto round = nextCopied())
+        settle(*round);
+}
+
+void FileBatch::settle(const Round& round) {
+    m_written.waitFor(m_folder);
+    const std::size_t end = std::min(round.failed, round.entries.size());
+    for (std::size_t position = 0; position < end; ++position) {
+        const Entry& entry = round.entries[position];
+        const std::filesystem::path target = entry.folder->path / entry.name;
+        if (const int error = files::place(entry.temporary, target, entry.kind); error != 0)
+            fail("create", target, error);
+    }
+    if (round.failure)
+        std::rethrow_exception(round.failure);
 }
 
 void FileBatch::finish() {
-    if (m_entries.empty())
+    if (m_count == 0)
         return;
+    if (m_open)
+        close();
     m_copier.finish();
-    m_written.waitFor(m_folders.front().path);
-    for (const Entry& entry : m_entries)
-        place(entry);
-    m_entries.clear();
-    for (const Folder& folder : m_folders) {
-        if (const int error = files::syncFolder(folder.path); error != 0)
-            fail("write", folder.path, error);
+    try {
+        settleCopied();
+    } catch (const std::exception&) {
+        waitForNames(); // those before the failure
+        throw;
     }
+    waitForNames();
     removeOriginals();
     removeTemporaries();
 }
 
-void FileBatch::place(const Entry& entry) {
-    Placing placing;
-    if (entry.kind == Kind::overLink)
-        placing = placeOverLink(entry.temporary, entry.target);
-    else if (entry.kind == Kind::isNew)
-        placing.error = files::renameExclusively(entry.temporary, entry.target);
-    else if (::rename(entry.temporary.c_str(), entry.target.c_str()) != 0)
-        placing.error = errno;
-    if (placing.mustKeep)
-        m_folders.clear();
-    if (placing.error != 0)
-        fail("create", entry.target, placing.error);
+void FileBatch::waitForNames() {
+    for (const Folder& folder : m_folders) {
+        if (const int error = m_written.addFolder(folder.path); error != 0)
+            fail("write", folder.path, error);
+    }
+    m_written.waitFor(m_folder);
 }
 
 /// What was copied to another file system counts as moved now that its copy is on the disk.
@@ -175,11 +266,12 @@ void FileBatch::removeOriginals() {
 }
 
 void FileBatch::removeTemporaries() {
-    while (!m_folders.empty()) {
-        const Folder folder = std::move(m_folders.back());
-        m_folders.pop_back();
-        if (!folder.temporary.empty())
-            files::removeTree(folder.temporary, folder.path);
+    m_places.clear();
+    m_folders.clear();
+    while (!m_temporaries.empty()) {
+        const std::filesystem::path temporary = std::move(m_temporaries.back());
+        m_temporaries.pop_back();
+        files::removeTree(temporary, temporary.parent_path());
     }
 }
 

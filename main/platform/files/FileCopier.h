@@ -4,6 +4,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 
 #include "platform/files/DiskSync.h"
@@ -29,6 +30,14 @@ public:
     /// `from` or `named`, what the user calls `to`. Throws the first failure of anything copied so far.
     void copy(const std::filesystem::path& from, const std::filesystem::path& to,
               const std::filesystem::path& named, Privacy privacy = Privacy::inherited);
+    /// The same for what is certainly a file; fails if it isn't one by then.
+    void copyFile(const std::filesystem::path& from, const std::filesystem::path& to,
+                  const std::filesystem::path& named, Privacy privacy = Privacy::inherited);
+    /// Does something else, perhaps only later in another thread.
+    void run(std::function<void()> task);
+    /// Whatever is copied or done from now on keeps this until it is complete or given up.
+    void keepWhileCopying(std::shared_ptr<void> kept);
+    bool hasFailed() const;
     /// Waits until everything is copied, and on the disk unless somebody else waits for that. Throws the
     /// first failure.
     void finish();

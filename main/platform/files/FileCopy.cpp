@@ -10,11 +10,9 @@
 #include <vector>
 
 #include "platform/files/CopyCrew.h"
-#include "platform/files/FileCopier.h"
 #include "platform/files/FolderTrail.h"
 
-namespace selvane {
-namespace files {
+namespace selvane::files {
 namespace {
 
 /// One entry to copy: its name in the current folder on each side. The two differ only at the top.
@@ -36,6 +34,8 @@ public:
         : m_from(from), m_named(named), m_privacy(privacy), m_crew(crew) {}
 
     void run(const std::filesystem::path& to);
+    /// The same for a file.
+    void runFile(const std::filesystem::path& to) { copyFile({m_from.c_str(), to.c_str()}); }
 
 private:
     struct Level {
@@ -249,36 +249,15 @@ void TreeCopy::finishFolder() {
 }
 
 } // namespace
-} // namespace files
 
-class FileCopier::Crew : public files::CopyCrew {
-public:
-    using CopyCrew::CopyCrew;
-};
-
-FileCopier::FileCopier(files::DiskSync& written, Progress* progress)
-    : m_crew(std::make_unique<Crew>(written, progress)) {}
-
-FileCopier::FileCopier(const FileManager& files)
-    : m_crew(
-          std::make_unique<Crew>(files.m_written != nullptr ? *files.m_written : m_own, files.m_progress)) {}
-
-FileCopier::~FileCopier() = default;
-
-void FileCopier::copy(const std::filesystem::path& from, const std::filesystem::path& to,
-                      const std::filesystem::path& named, Privacy privacy) {
-    if (m_first.empty())
-        m_first = named;
-    files::TreeCopy(from, named, privacy, *m_crew).run(to);
+void copyTree(const std::filesystem::path& from, const std::filesystem::path& to,
+              const std::filesystem::path& named, Privacy privacy, CopyCrew& crew) {
+    TreeCopy(from, named, privacy, crew).run(to);
 }
 
-void FileCopier::finish() {
-    m_crew->finish();
-    m_own.waitFor(m_first);
+void copyFile(const std::filesystem::path& from, const std::filesystem::path& to,
+              const std::filesystem::path& named, Privacy privacy, CopyCrew& crew) {
+    TreeCopy(from, named, privacy, crew).runFile(to);
 }
 
-void FileCopier::stop() {
-    m_crew->stop();
-}
-
-} // namespace selvane
+} // namespace selvane::files

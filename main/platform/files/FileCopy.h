@@ -4,6 +4,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <ctime>
 #include <fcntl.h>
 #include <filesystem>
@@ -36,6 +37,15 @@ int renameExclusively(int fromFolder, const std::filesystem::path& from, int toF
 inline int renameExclusively(const std::filesystem::path& from, const std::filesystem::path& to) {
     return renameExclusively(AT_FDCWD, from, AT_FDCWD, to);
 }
+/// Between which places names can be moved.
+struct MountId {
+    dev_t device = 0;
+    std::uint64_t mount = 0;
+
+    bool operator==(const MountId&) const = default;
+};
+/// That of a folder; zeros for one that can't be looked at.
+MountId mountOf(const std::filesystem::path& folder);
 /// Exchanges two names in one step. Returns 0 or the error, ENOTSUP if the file system can't.
 int exchangeNames(const std::filesystem::path& first, const std::filesystem::path& second);
 

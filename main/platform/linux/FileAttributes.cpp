@@ -80,6 +80,8 @@ std::optional<mode_t> copyAttributes(int from, int to, mode_t mode, Privacy priv
 }
 
 void dropInheritedAccess(int file) {
+    if (::flistxattr(file, nullptr, 0) == 0) // nearly always, and cheaper to find out than to try
+        return;
     // Failures don't matter: there is no list, or there can't be one.
     static_cast<void>(::fremovexattr(file, kAccessList));
     static_cast<void>(::fremovexattr(file, kDefaultAccessList));

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 
 #include "platform/files/FileCopy.h"
 
@@ -30,6 +31,14 @@ int renameExclusively(int fromFolder, const std::filesystem::path& from, int toF
     if (errno != ENOENT)
         return errno;
     return ::renameat(fromFolder, from.c_str(), toFolder, to.c_str()) == 0 ? 0 : errno;
+}
+
+MountId mountOf(const std::filesystem::path& folder) {
+    // One file system can be mounted at several places, and no name moves from one to another.
+    struct statx status = {};
+    if (::statx(AT_FDCWD, folder.c_str(), AT_STATX_DONT_SYNC, STATX_MNT_ID, &status) != 0)
+        return {};
+    return {::makedev(status.stx_dev_major, status.stx_dev_minor), status.stx_mnt_id};
 }
 
 int exchangeNames(const std::filesystem::path& first, const std::filesystem::path& second) {

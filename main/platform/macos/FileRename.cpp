@@ -31,6 +31,11 @@ int renameExclusively(int fromFolder, const std::filesystem::path& from, int toF
     return ::renameat(fromFolder, from.c_str(), toFolder, to.c_str()) == 0 ? 0 : errno;
 }
 
+MountId mountOf(const std::filesystem::path& folder) {
+    struct stat status = {};
+    return ::stat(folder.c_str(), &status) == 0 ? MountId{status.st_dev, 0} : MountId{};
+}
+
 int exchangeNames(const std::filesystem::path& first, const std::filesystem::path& second) {
     if (::renameatx_np(AT_FDCWD, first.c_str(), AT_FDCWD, second.c_str(), RENAME_SWAP) == 0)
         return 0;

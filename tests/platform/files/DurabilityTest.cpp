@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
+#include <csignal>
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <numeric>
@@ -70,11 +71,12 @@ TEST(Durability, ManyFilesNeedOneWait) {
         kFiles.createFolder(top / "from" / std::to_string(i));
         kFiles.write(top / "from" / std::to_string(i) / "f", std::to_string(i));
     }
-    FileBatch batch;
+    FileBatch batch(top);
     const Names waited = waits(top / "to", [&] {
         for (int i = 0; i < 300; ++i)
             batch.copyOverLink(top / "from" / std::to_string(i), top / "to" / std::to_string(i));
-        batch.write(top / "to/own", "own", Privacy::ownerOnly);
+        batch.write(
+            top / "to/own", [] { return "own"; }, Privacy::ownerOnly);
         batch.finish();
     });
     EXPECT_EQ(waited.size(), 2U) << "the file system, then the folder";
@@ -90,7 +92,7 @@ TEST(Durability, ABatchThatFailsLeavesWhatWasThere) {
     const fs::path& top = folder.path();
     makeFile(top / "from", "new", 0644);
     kFiles.createLink("nowhere", top / "link");
-    FileBatch batch;
+    FileBatch batch(top);
     batch.copy(top / "from", top / "first");
     batch.copyOverLink(top / "from", top / "link");
     kFiles.removeFile(top / "link");
@@ -98,6 +100,48 @@ TEST(Durability, ABatchThatFailsLeavesWhatWasThere) {
     EXPECT_EQ(failure([&] { batch.finish(); }), EEXIST);
     EXPECT_EQ(kFiles.read(top / "link"), "the user's");
     EXPECT_EQ(kFiles.read(top / "first"), "new") << "what has its name keeps it";
+
+    makeFile(top / "large", std::string(5000, 'x'), 0644);
+    FileBatch torn(top);
+    torn.copy(top / "from", top / "second");
+    rlimit limit = {};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &limit), 0);
+    const rlimit small = {1000, limit.rlim_max};
+    const auto inherited = std::signal(SIGXFSZ, SIG_IGN);
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
+    const int copying = failure([&] { torn.copy(top / "large", top / "torn"); });
+    const int finishing = failure([&] { torn.finish(); });
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+    std::signal(SIGXFSZ, inherited);
+    EXPECT_EQ(copying, EFBIG);
+    EXPECT_EQ(finishing, EFBIG);
+    EXPECT_FALSE(kFiles.exists(top / "torn")) << "only a part of it was copied";
+    EXPECT_EQ(kFiles.read(top / "second"), "new");
+}
+
+TEST(Durability, ManyRoundsKeepWhatCameBeforeAFailure) {
+    const TemporaryFolder folder;
+    const fs::path& top = folder.path();
+    kFiles.createFolder(top / ".selvane-batch-0123456789abcdef");
+    makeFile(top / ".selvane-batch-0123456789abcdef/1", "left by a killed run", 0600);
+    constexpr int kFails = 2500;
+    {
+        FileBatch batch(top);
+        EXPECT_FALSE(kFiles.exists(top / ".selvane-batch-0123456789abcdef"));
+        const auto made = [](int number) {
+            if (number == kFails || number == kFails + 1)
+                throw std::filesystem::filesystem_error("read", {},
+                                                        std::error_code(number, std::generic_category()));
+            return std::to_string(number);
+        };
+        for (int i = 0; i < 3000; ++i)
+            batch.write(
+                top / std::to_string(i), [=] { return made(i); }, Privacy::inherited);
+        EXPECT_EQ(failure([&] { batch.finish(); }), kFails) << "the first, whichever thread met it";
+    }
+    EXPECT_EQ(kFiles.entries(top).size(), static_cast<std::size_t>(kFails)) << "and no temporary";
+    for (int i = 0; i < kFails; ++i)
+        EXPECT_EQ(kFiles.read(top / std::to_string(i)), std::to_string(i));
 }
 
 /// A folder of 20 folders with 20 files each.
