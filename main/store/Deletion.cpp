@@ -13,8 +13,13 @@ void ProfileStore::deleteProfile(const Profile& profile) {
     if (profile.isDefault())
         throw LauncherError("Il profilo principale non può essere eliminato");
     const FolderLock lock = locked(profile);
-    std::vector<Profile> others = loadAll();
-    std::erase_if(others, [&](const Profile& other) { return other.configDir == profile.configDir; });
+    std::vector<Profile> others = {loadDefault()};
+    for (const std::string& id : m_files.entries(m_root)) {
+        if (m_root / id == profile.configDir)
+            continue;
+        if (auto other = validProfile(id))
+            others.push_back(std::move(*other));
+    }
     const auto anyOther = [&](auto&& depends) { return std::any_of(others.begin(), others.end(), depends); };
 
     if (anyOther([&](const Profile& other) { return other.meta.source == profile.id; }))

@@ -109,6 +109,18 @@ std::optional<ProfileMeta> ProfileStore::readRecord(const fs::path& file) const 
     return meta;
 }
 
+/// The same, but throws if its record is damaged or can't be read, instead of taking it for missing.
+std::optional<Profile> ProfileStore::validProfile(const std::string& id) const {
+    if (!Profile::isPossibleId(id))
+        return std::nullopt;
+    Profile found{id, {}, m_root / id};
+    auto meta = readRecord(recordOf(found));
+    if (!meta)
+        return std::nullopt;
+    found.meta = std::move(*meta);
+    return found;
+}
+
 std::vector<Profile> ProfileStore::loadAll() const {
     std::vector<Profile> found;
     for (const std::string& name : m_files.entriesIfReadable(m_root)) {
@@ -147,7 +159,7 @@ std::optional<Profile> ProfileStore::sourceOf(const Profile& profile) const {
     // A record edited by hand may name the profile as its own source; that counts as none.
     if (!profile.meta.source || *profile.meta.source == profile.id)
         return std::nullopt;
-    return this->profile(*profile.meta.source);
+    return *profile.meta.source == Profile::kDefaultId ? loadDefault() : validProfile(*profile.meta.source);
 }
 
 fs::path ProfileStore::recordOf(const Profile& profile) const {

@@ -110,8 +110,8 @@ public:
     void importSettings(const Profile& to, const Profile& from) { reimport(Component::settings, to, from); }
     void importPlugins(const Profile& to, const Profile& from) { reimport(Component::plugins, to, from); }
     void importMCP(const Profile& to, const Profile& from) { reimport(Component::mcp, to, from); }
-    /// Moves it to the Trash with its own desktop data. Refuses if other profiles depend on it or its account
-    /// is open.
+    /// Moves it to the Trash with its own desktop data. Refuses if other profiles depend on it, or may
+    /// because their record can't be read, or if its account is open.
     void deleteProfile(const Profile& profile);
 
     // Items, links and share modes (Items.cpp, Links.cpp, ClaudeMd.cpp)
@@ -174,6 +174,7 @@ private:
     std::filesystem::path recordOf(const Profile& profile) const;
     std::optional<ProfileMeta> readRecord(const std::filesystem::path& file) const;
     std::optional<Profile> loadProfile(const std::string& id) const;
+    std::optional<Profile> validProfile(const std::string& id) const;
     std::optional<Profile> sourceOf(const Profile& profile) const;
     /// Locks the profile against other Selvanes. Throws if it has been deleted.
     FolderLock locked(const Profile& profile) const;

@@ -324,6 +324,16 @@ TEST_F(Links, deleteProfile_OthersDepend_IsRefused) {
     EXPECT_EQ(message(home.builtIn()), "Il profilo principale non può essere eliminato");
     EXPECT_EQ(message(profile), "Altri profili ereditano da \"Lavoro\": rendili prima separati o eliminali");
     EXPECT_EQ(treeOf(home.path), before);
+    const auto damaged = [](const Profile& each, const std::function<void()>& check) {
+        const fs::path record = each.configDir / ".launcher.json";
+        const std::string valid = readFile(record);
+        writeFile(record, "{");
+        check();
+        writeFile(record, valid);
+    };
+    damaged(child, [&] { EXPECT_NE(message(guest), "") << "it may depend on the guest"; });
+    damaged(profile, [&] { EXPECT_THROW(home.store.sync(child), LauncherError) << "no missing source"; });
+    EXPECT_EQ(treeOf(home.path), before);
     home.store.deleteProfile(child);
     EXPECT_EQ(message(profile), "Altri profili usano l'account di \"Lavoro\": cambiali prima");
     home.store.deleteProfile(guest);
