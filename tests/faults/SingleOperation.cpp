@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "model/LauncherError.h"
+#include "platform/files/FileManager.h"
 #include "platform/process/Clock.h"
 #include "platform/process/Process.h"
 #include "platform/process/Workspace.h"
@@ -31,6 +32,9 @@ std::optional<ComponentItem> itemNamed(const std::string& name, Component in, co
         if (item.name == name)
             return std::move(item);
     }
+    // A listing for display is empty if the folder can't be read.
+    if (store.exists(profile.url(in) / name))
+        throw LauncherError(name + " isn't listed");
     return std::nullopt;
 }
 
@@ -39,9 +43,11 @@ void importMissing(const Words& words, ProfileStore& store) {
     const Profile into = store.profile(words.at(2)).value();
     const Component part = component(words.at(3)).value();
     std::set<std::string> names;
-    for (const ComponentItem& item : store.items(part, from)) {
-        if (!item.isBroken && !itemNamed(item.name, part, into, store))
-            names.insert(item.name);
+    const FileManager files;
+    for (const std::string& name : files.entries(from.url(part))) {
+        if (!name.starts_with('.') && files.isPresent(from.url(part) / name) &&
+            !files.exists(into.url(part) / name))
+            names.insert(name);
     }
     store.importItems(names, from, into, part, words.at(4) == "link");
 }
@@ -54,6 +60,8 @@ void run(const Words& words, ProfileStore& store) {
     if (operation == "delete") {
         if (profile)
             store.deleteProfile(*profile);
+        else if (store.exists(store.root() / words.at(1)))
+            throw LauncherError(words.at(1) + " can't be read");
         return;
     }
     const Component part = component(words.at(2)).value();

@@ -15,7 +15,7 @@ from tracing import KILL
 TRASH = ".local/share/Trash"
 # Of Selvane, and of zip, which leaves them beside an archive.
 _TEMPORARY = re.compile(r"(^|/)(\.selvane-[^/]*|selvane-backup-[^/]*|zi\w{6}|[^/]*\.partial)(/|$)")
-_OF_ZIP = re.compile(r"(^|/)zi\w{6}$")
+_REMOVES = re.compile(r"unlink|rmdir|stat|getdents|openat?\(.*O_DIRECTORY|close")
 _TIME = re.compile(rb"\d{4}-\d\d-\d\dT\d\d:\d\d:\d\dZ")
 
 
@@ -151,20 +151,17 @@ class Expectation:
                 problems.append(f"neither as before nor as after: {path} ({entry})")
         return problems
 
-    def unlike(self, now, wanted, loose="$^", may_be_in_trash=None):
-        """What is not as it should be, except loose paths and those whose old content was trashed."""
+    def unlike(self, now, wanted, loose="$^"):
+        """What is not as it should be, except loose paths."""
         found, wanted = _visible(now), _visible(wanted)
         return [f"not as it should be: {path} ({found.get(path)})" for path in {*wanted, *found}
-                if found.get(path) != wanted.get(path) and not re.match(loose, path)
-                and not (may_be_in_trash is not None and path in self.old and path not in may_be_in_trash
-                         and self._is_in_trash(path, may_be_in_trash))]
+                if found.get(path) != wanted.get(path) and not re.match(loose, path)]
 
-    def leftovers(self, now, hits, zip_failed):
-        """Temporaries left behind, except one whose own removal failed, and those of a failing zip."""
+    def leftovers(self, now, hits=()):
+        """Temporaries left behind, except one whose own removal failed, or a look at it, as removing takes."""
         return [f"left behind: {path}" for path in now
                 if is_temporary(path) and path not in self.before and not path.startswith(TRASH) and
-                not (zip_failed and _OF_ZIP.search(path)) and
-                not any("unlink" in hit and _TEMPORARY.search(path).group(2) in hit for hit in hits)]
+                not any(_REMOVES.search(hit) and _TEMPORARY.search(path).group(2) in hit for hit in hits)]
 
 
 def problems_after(operation, expectation, run, point, now):
@@ -173,7 +170,7 @@ def problems_after(operation, expectation, run, point, now):
     problems += expectation.between(now, operation.moves, operation.gap)
     if point.error == KILL and not point.family:
         return problems
-    problems += expectation.leftovers(now, run.hits, point.family)
+    problems += expectation.leftovers(now, run.hits)
     if run.status == 0:
         return problems + expectation.unlike(now, expectation.after, operation.loose)
     if run.status != 1 or not re.fullmatch(r"Errore: [^\n]+\n", run.err):

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Selvane developers
 # SPDX-License-Identifier: MIT
-"""Makes every system call with which Selvane changes files fail, one at a time. See script/faults."""
+"""Makes every system call with which Selvane changes or reads files fail, one at a time. See script/faults."""
 
 import argparse
 import dataclasses
@@ -60,7 +60,8 @@ def again(operation, command, expectation, home, now):
     then = checking.scan(home, renamed)
     problems = expectation.lost(then) + expectation.opened(then)
     return problems + ["after a second run " + problem for problem in
-                       expectation.unlike(then, expectation.after, operation.loose, now)]
+                       expectation.unlike(then, expectation.after, operation.loose) +
+                       [path for path in expectation.leftovers(then) if "/.selvane-batch-" in path]]
 
 
 def shown_leftovers(home, expectation, now):
@@ -80,7 +81,8 @@ def try_point(operation, place, expectation, point):
     try:
         run = tracing.run_with_fault(command, home, operation.setting, point)
         if not any(str(home.path) in hit for hit in run.hits):
-            return ["the call was not reached"]
+            # How often a process closes and reads files also depends on what else the system shows it.
+            return None if point.reads else ["the call was not reached"]
         now = checking.scan(home)
         problems = checking.problems_after(operation, expectation, run, point, now)
         problems += shown_leftovers(home, expectation, now)
@@ -110,18 +112,26 @@ def try_operation(number):
     points = [fault for call in calls for fault in tracing.faults(call)]
     if options.only:
         points = [point for point in points if f"{operation.name}:{point}" == options.only]
-    elif options.quick:
+    points = [point for point in points if options.calls in ("all", "reads" if point.reads else "changes")]
+    if options.part:
+        part, parts = options.part
+        points = points[(number + part) % parts::parts]
+    if options.quick:
         # Another part of each operation: early ones, late ones, all kinds of faults.
-        points = [points[int(number * GOLDEN_RATIO % 1 * len(points))]]
+        points = [kind[int(number * GOLDEN_RATIO % 1 * len(kind))]
+                  for kind in ([point for point in points if not point.reads],
+                               [point for point in points if point.reads]) if kind]
     failures = []
+    tried = 0
     for point in points:
         problems = try_point(operation, place, expectation, point)
+        tried += problems is not None
         if problems:
             failures.append((f"{operation.name}:{point}", point.line, problems))
     replaced = expectation.replaced()
     if replaced != list(operation.edits):
         failures.append((operation.name, "without any fault", [f"replaces {path}" for path in replaced]))
-    return Result(operation.name, len(calls), len(points), failures)
+    return Result(operation.name, len(calls), tried, failures)
 
 
 _worker = {}  # the options of this process, and the place it works in
@@ -154,6 +164,8 @@ def arguments():
     parser = argparse.ArgumentParser()
     parser.add_argument("--build", required=True)
     parser.add_argument("--quick", action="store_true")
+    parser.add_argument("--calls", choices=("all", "changes", "reads"), default="all")
+    parser.add_argument("--part", type=lambda text: tuple(map(int, text.split("/"))), metavar="K/N")
     parser.add_argument("--only", metavar="OPERATION[:CALL:N:ERROR]")
     parser.add_argument("--in", dest="folder", default="/dev/shm" if os.access("/dev/shm", os.W_OK) else None)
     parser.add_argument("--jobs", type=int, default=os.cpu_count())

@@ -222,3 +222,8 @@ def _single_operations():
 
 OPERATIONS = [*_creations(), *_syncs(), *_collection_modes(), *_rules_modes(), *_import_modes(), *_sessions(),
               *_launches(), *_helpers(), *_restorations(), *_backups(), *_single_operations()]
+# The same on file systems that can neither exchange names nor rename without replacing.
+_IN_STEPS = ("create-separate", "set-mode-CLAUDE.md-extend-separate", "set-mode-mcp-merged", "import-sessions",
+             "launch-with-queue", "restore-desktop-swapped", "backup-replacing", "import-items-copies", "delete")
+OPERATIONS += [dataclasses.replace(operation, name=f"{operation.name}-in-steps", setting="renameat2:error=EINVAL")
+               for operation in OPERATIONS if operation.name in _IN_STEPS]

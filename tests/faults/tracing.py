@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Selvane developers
 # SPDX-License-Identifier: MIT
-"""Runs a command under strace: to find the system calls that change files, and to make one of them fail."""
+"""Runs a command under strace: to find the system calls that change or read files, and to make one of them fail."""
 
 import ctypes
 import dataclasses
@@ -13,17 +13,17 @@ KILL = "KILL"
 TIME_LIMIT = 30
 PR_SET_CHILD_SUBREAPER = 36
 
-# How each call is made to fail. EINVAL, EXDEV and EOPNOTSUPP stand for more limited file systems.
+# How each call that changes files is made to fail. EINVAL, EXDEV and EOPNOTSUPP stand for more limited file systems.
 _MAKING = ("ENOSPC", "EACCES", "EIO")
 _REMOVING = ("EACCES", "EIO")
 _CHANGING = ("EPERM", "EIO")
 ERRORS = {
     "open": _MAKING, "openat": _MAKING, "creat": _MAKING,
-    "write": ("ENOSPC", "EIO"), "pwrite64": ("ENOSPC", "EIO"), "writev": ("ENOSPC", "EIO"),
-    "copy_file_range": ("ENOSPC", "EIO", "EOPNOTSUPP"), "sendfile": ("ENOSPC", "EIO"),
+    "write": ("ENOSPC", "EIO", "EDQUOT"), "pwrite64": ("ENOSPC", "EIO"), "writev": ("ENOSPC", "EIO"),
+    "copy_file_range": ("ENOSPC", "EIO", "EDQUOT", "EOPNOTSUPP"), "sendfile": ("ENOSPC", "EIO"),
     "ioctl": ("ENOSPC", "EIO", "EOPNOTSUPP"),
     "ftruncate": ("ENOSPC", "EIO"), "fallocate": ("ENOSPC", "EIO"),
-    "fsync": ("ENOSPC", "EIO"), "fdatasync": ("ENOSPC", "EIO"),
+    "fsync": ("ENOSPC", "EIO"), "fdatasync": ("ENOSPC", "EIO"), "syncfs": ("ENOSPC", "EIO"),
     "rename": _MAKING, "renameat": _MAKING, "renameat2": (*_MAKING, "EINVAL", "EXDEV"),
     "link": _MAKING, "linkat": _MAKING, "symlink": _MAKING, "symlinkat": _MAKING,
     "mkdir": _MAKING, "mkdirat": _MAKING, "mknod": _MAKING, "mknodat": _MAKING,
@@ -32,8 +32,20 @@ ERRORS = {
     "utimensat": _CHANGING,
     "fsetxattr": ("ENOSPC", "EIO"), "fremovexattr": _CHANGING,
 }
+# How each call that changes nothing is made to fail: a broken disk, a missing permission, a network mount that is
+# gone, too many open files, a quota that is only noticed when a file is closed.
+_LOOKING = ("EIO", "EACCES", "ESTALE")
+READ_ERRORS = {
+    "open": (*_LOOKING, "EMFILE"), "openat": (*_LOOKING, "EMFILE"),
+    "stat": _LOOKING, "lstat": _LOOKING, "newfstatat": _LOOKING, "statx": _LOOKING, "fstat": ("EIO", "ESTALE"),
+    "access": _LOOKING, "faccessat": _LOOKING, "faccessat2": _LOOKING,
+    "readlink": _LOOKING, "readlinkat": _LOOKING,
+    "getdents64": ("EIO", "ESTALE"), "read": ("EIO", "ESTALE"), "pread64": ("EIO", "ESTALE"),
+    "close": ("EIO", "EDQUOT"), "flock": ("EIO", "ENOLCK"),
+}
 _OPENING = ("open", "openat", "creat")
-_BY_DESCRIPTOR = ("write", "pwrite64", "writev")
+_BY_DESCRIPTOR = ("write", "pwrite64", "writev", "read", "pread64", "getdents64", "fstat", "close", "flock", "syncfs",
+                  "fsync")
 _CALL = re.compile(r"(?:(\d+) +)?(\w+)\((.*)")
 
 
@@ -44,6 +56,7 @@ class Point:
     number: int
     error: str
     family: bool = False  # also follow the processes that Selvane starts
+    reads: bool = False   # changes nothing itself
     line: str = ""        # what strace wrote about it
 
     def __str__(self):
@@ -58,13 +71,27 @@ class Run:
     hits: list  # the lines about the calls that a fault was injected into
 
 
+def _is_in(home, call, arguments):
+    return home in (arguments.split(",")[0] if call in _BY_DESCRIPTOR else arguments)
+
+
+def _opens_for_writing(arguments):
+    return any(flag in arguments for flag in ("O_CREAT", "O_WRONLY", "O_RDWR", "O_TRUNC"))
+
+
 def is_change(call, arguments, home):
     """Whether a call, as strace writes it, changes something in the home."""
-    if home not in (arguments.split(",")[0] if call in _BY_DESCRIPTOR else arguments):
+    if call not in ERRORS or not _is_in(home, call, arguments):
         return False
     if call in _OPENING:
-        return any(flag in arguments for flag in ("O_CREAT", "O_WRONLY", "O_RDWR", "O_TRUNC"))
+        return _opens_for_writing(arguments)
     return call != "ioctl" or "FICLONE" in arguments
+
+
+def is_read(call, arguments, home):
+    """Whether a call looks at something in the home without changing anything."""
+    return (call in READ_ERRORS and _is_in(home, call, arguments) and
+            not (call in _OPENING and _opens_for_writing(arguments)))
 
 
 def adopt_orphans():
@@ -100,11 +127,12 @@ def _injections(*faults):
 
 
 def calls(command, home, setting):
-    """The changing calls of Selvane itself and, separately, of the programs it starts, in one run."""
-    names = ",".join("?" + name for name in ERRORS)
+    """The changing and reading calls of Selvane itself and, separately, the changing ones of the programs that it
+    starts, in one run."""
+    names = ",".join("?" + name for name in {**ERRORS, **READ_ERRORS})
     done = run(command, home, ["-f", f"--trace={names}", *_injections(setting)])
     if done.status != 0:
-        raise RuntimeError(f"{command} fails without any fault: {done.err}")
+        raise RuntimeError(f"{command} ends with {done.status} without any fault: {done.err}")
     counts, own, others = {}, [], []
     first = _CALL.match(done.hits[0]).group(1)
     for line in done.hits:
@@ -113,8 +141,12 @@ def calls(command, home, setting):
             continue
         process, call, arguments = match.groups()
         number = counts[process, call] = counts.get((process, call), 0) + 1
-        if is_change(call, arguments, str(home.path)) and not setting.startswith(call + ":"):
-            (own if process == first else others).append(Point(call, number, "", process != first, line))
+        if setting.startswith(call + ":"):
+            continue
+        if is_change(call, arguments, str(home.path)):
+            (own if process == first else others).append(Point(call, number, "", process != first, False, line))
+        elif process == first and is_read(call, arguments, str(home.path)):
+            own.append(Point(call, number, "", False, True, line))
     # A fault can't be aimed at one of several processes, so it must come after all of Selvane's own calls of
     # that name, including those that tidy up.
     return own, [point for point in others if ERRORS[point.call] != _REMOVING
@@ -122,6 +154,8 @@ def calls(command, home, setting):
 
 
 def faults(point):
+    if point.reads:
+        return [dataclasses.replace(point, error=error) for error in READ_ERRORS[point.call]]
     return [dataclasses.replace(point, error=error) for error in (*ERRORS[point.call], KILL)]
 
 

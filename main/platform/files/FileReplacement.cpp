@@ -84,6 +84,13 @@ public:
             m_isKept = files::renameExclusively(m_path, m_target) != 0;
     }
 
+    /// Something new has its place.
+    void drop() {
+        if (m_isKept)
+            ::unlink(m_path.c_str());
+        m_isKept = false;
+    }
+
     static std::filesystem::path pathFor(const std::filesystem::path& target) {
         return target.parent_path() /
                (std::string(FileManager::kTemporaryPrefix) + "kept-" + target.filename().native());
@@ -212,6 +219,7 @@ void FileManager::replaceTrashing(
     try {
         temporary.place(target);
         waitForPlaceOf(target);
+        kept.drop();
     } catch (const std::filesystem::filesystem_error&) {
         kept.putBack();
         throw;
