@@ -7,6 +7,7 @@ import dataclasses
 import multiprocessing
 import os
 import pathlib
+import stat
 import subprocess
 import sys
 import tempfile
@@ -29,8 +30,8 @@ PAUSE = 8000  # microseconds
 LATER = 1.4
 QUICK = {"create-separate-account", "set-mode-CLAUDE.md-shared-separate", "set-mode-mcp-merged", "import-sessions",
          "restore-desktop-mounts", "set-mode-skills-shared-separate"}
-# What makes links, which the next sync makes again.
-LINKS_ONLY = ("sync", "launch", "set-mode-skills-none-shared")
+# What makes links, which the next sync makes again: nothing waits for them or for the folders that they are in.
+MAKE_LINKS = ("sync", "launch", "set-mode-skills-none-shared")
 
 
 def chosen_operations():
@@ -38,6 +39,10 @@ def chosen_operations():
     # The normal folder and the accounts' folders lie on two file systems.
     mounts = dataclasses.replace(swapped, name="restore-desktop-mounts")
     return [operation for operation in [*OPERATIONS, mounts] if not operation.setting]
+
+
+def _files(paths):
+    return {path: entry for path, entry in paths.items() if entry.kind == stat.S_IFREG}
 
 
 @dataclasses.dataclass
@@ -132,8 +137,9 @@ class Machine:
                 seen = {path: entry for path, entry in now.items() if not f"{path}/".startswith(f"{made}/")}
             problems = expectation.lost(now) + expectation.opened(now)
             problems += expectation.between(seen, operation.moves, operation.gap)
-            if cut.ended and not operation.name.startswith(LINKS_ONLY):
-                problems += expectation.unlike(now, expectation.after, operation.loose)
+            if cut.ended:
+                chosen = _files if operation.name.startswith(MAKE_LINKS) else dict
+                problems += expectation.unlike(chosen(now), chosen(expectation.after), operation.loose)
             return problems + faults.again(operation, self.home.command(operation.command), expectation, self.home,
                                            now)
         finally:
