@@ -3,25 +3,15 @@
 
 #include "store/ProfileStore.h"
 
-#include <chrono>
-
 #include "model/ByteText.h"
-#include "model/LauncherError.h"
 #include "platform/json/Json.h"
-#include "platform/text/Text.h"
+#include "store/JsonUpdate.h"
 #include "store/ServerImport.h"
 #include "store/SettingsPaths.h"
 
 namespace selvane {
 
 namespace fs = std::filesystem;
-
-namespace {
-
-/// How long an import tries to change a file that others keep changing.
-constexpr auto kPatience = std::chrono::seconds(10);
-
-} // namespace
 
 /// Changes the paths in a settings file from the source's folder to the profile's.
 void ProfileStore::rewritePaths(const fs::path& file, const Profile& from, const Profile& to,
@@ -89,28 +79,19 @@ void ProfileStore::importServers(const Profile& to, const Profile& from, const F
         return;
     const Json source = json::parse(files.read(origin), origin);
     const fs::path file = globalJSON(to);
-    const auto deadline = std::chrono::steady_clock::now() + kPatience;
     std::optional<Json> trashed;
-    while (std::chrono::steady_clock::now() < deadline) {
-        const auto before = files.readIfPresent(file);
-        if (!before && files.linkTarget(file))
-            throw fs::filesystem_error("read", file,
-                                       std::make_error_code(std::errc::no_such_file_or_directory));
-        const auto target = before ? std::optional(json::parse(*before, file)) : std::nullopt;
-        if (target && !target->is_object())
-            throw JsonError(file.string() + ": non è un oggetto JSON");
-        const ServerImport imported = importedServers(source, target);
-        if (imported.state == target.value_or(Json::object()))
-            return;
-        const Json* servers = target ? json::find(*target, kServersKey) : nullptr;
+    updateJson(file, [&](const JsonState& target) -> std::optional<Json> {
+        ServerImport imported =
+            importedServers(source, target.text ? std::optional(target.object) : std::nullopt);
+        if (imported.state == target.object)
+            return std::nullopt;
+        const Json* servers = json::find(target.object, kServersKey);
         if (imported.losesServers && trashed != *servers) {
-            trashCopy(file, *before);
+            trashCopy(file, *target.text);
             trashed = *servers;
         }
-        if (files.writeIfUnchanged(file, before, json::serialized(imported.state)))
-            return;
-    }
-    throw LauncherError(text::singleLine(file.string()) + " cambia di continuo: chiudi Claude e riprova");
+        return std::move(imported.state);
+    });
 }
 
 void ProfileStore::trashCopy(const fs::path& file, const std::string& text) {
