@@ -136,8 +136,7 @@ int runZip(const std::vector<std::string>& arguments, Environment environment, c
 /// archive, the rest into reading it back.
 class BackupProgress {
 public:
-    BackupProgress(Progress* progress, fs::path archive, std::int64_t bytes)
-        : m_progress(progress), m_archive(std::move(archive)), m_bytes(bytes) {
+    BackupProgress(Progress* progress, std::int64_t bytes) : m_progress(progress), m_bytes(bytes) {
         if (m_progress != nullptr)
             m_progress->expect({.entries = 0, .bytes = bytes});
     }
@@ -153,12 +152,11 @@ private:
     void reach(std::int64_t bytes) {
         if (m_progress == nullptr)
             return;
-        m_progress->requireWanted(m_archive);
+        m_progress->requireWanted();
         m_progress->advance(0, std::max<std::int64_t>(bytes - m_progress->bytes(), 0));
     }
 
     Progress* m_progress;
-    const fs::path m_archive;
     const std::int64_t m_bytes;
     std::int64_t m_readBack = 0;
 };
@@ -259,7 +257,7 @@ BackupResult ProfileStore::backup(BackupScope scope, const fs::path& archive) {
     BackupResult result{.archive = target};
     try {
         BackupContents contents(list, m_home);
-        BackupProgress progress(m_progress, target, contents.bytes());
+        BackupProgress progress(m_progress, contents.bytes());
         const auto look = [&](std::int32_t zip) { progress.look(zip); };
         const int status = runZip(zipArguments(list, partial, work.path()), m_environment, m_home, look);
         requireSuccess(status == kZipSkippedFiles ? 0 : status);

@@ -97,7 +97,7 @@ FolderLock::FolderLock(const std::filesystem::path& folder, const Progress* prog
             if (isInHaste || std::chrono::steady_clock::now() >= deadline)
                 throwOccupied(folder, status);
             if (progress != nullptr)
-                progress->requireWanted(folder);
+                progress->requireWanted();
             std::this_thread::sleep_for(kPause);
         }
         if (isAt(folder, status)) {

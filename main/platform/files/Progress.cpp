@@ -31,9 +31,9 @@ void Progress::expect(Amount amount) {
     m_expected.bytes += amount.bytes;
 }
 
-void Progress::requireWanted(const fs::path& path) const {
+void Progress::requireWanted() const {
     if (m_isCancelled)
-        throw fs::filesystem_error("work on", path, std::make_error_code(std::errc::operation_canceled));
+        throw fs::filesystem_error("stop", std::make_error_code(std::errc::operation_canceled));
 }
 
 std::optional<Progress::Amount> Progress::expected() const {

@@ -46,8 +46,8 @@ public:
 
     void cancel() { m_isCancelled = true; }
     bool isCancelled() const { return m_isCancelled; }
-    /// Throws if it is cancelled; the error names the path.
-    void requireWanted(const std::filesystem::path& path) const;
+    /// Throws what a cancelled operation throws, if it was. For work without paths of its own.
+    void requireWanted() const;
 
 private:
     void count();
