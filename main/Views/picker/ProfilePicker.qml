@@ -161,6 +161,7 @@ FocusScope {
         y: strip.y + strip.height - Theme.picker.stripSpare + Theme.space8
         width: view.columnWidth
         height: Theme.controls.smallHeight
+        enabled: view.canBeUsed
         app: view.app
     }
     PickerHint {

@@ -30,6 +30,14 @@ ListView {
         required property string modelData
         required property int index
 
+        /// So that Tab reaches those at the end too: the row may be wider than the window.
+        function bringIntoSight(): void {
+            if (list.isNarrow)
+                list.positionViewAtIndex(entry.index, ListView.Contain)
+            else
+                list.contentX = Math.max(list.originX, entry.x + entry.width - list.width)
+        }
+
         width: list.isNarrow ? list.width : buttons.x + buttons.width
         height: list.isNarrow ? buttons.y + buttons.height : buttons.height
 
@@ -55,6 +63,7 @@ ListView {
                 label: qsTr("Mostra «%1»").arg(entry.modelData)
                 help: qsTr("Mostra la cartella del profilo")
                 onClicked: list.app.revealDamaged(entry.index)
+                onActiveFocusChanged: entry.bringIntoSight()
             }
             GhostButton {
                 size: GhostButton.Small
@@ -62,6 +71,7 @@ ListView {
                 label: qsTr("Ripara «%1»").arg(entry.modelData)
                 help: qsTr("Sposta nel Cestino ciò che è danneggiato e rimette il profilo fra gli altri")
                 onClicked: list.app.repairDamaged(entry.index)
+                onActiveFocusChanged: entry.bringIntoSight()
             }
         }
     }

@@ -159,6 +159,22 @@ Item {
             tryVerify(() => tile("cl") && tile("cl").activeFocus)
         }
 
+        function test_damagedProfiles_AreReachedByTab_ButNotBehindASheet(): void {
+            for (const id of ["a", "b"])
+                home.write(`.claude-profiles/${id.repeat(60)}/.launcher.json`, "{")
+            home.app.reload()
+            show()
+            const damaged = visibleItems(item => item instanceof DamagedProfiles, view)[0]
+            const isLast = item => item instanceof Pressable && item.label.startsWith("Ripara «b")
+            tryVerify(() => visibleItems(isLast, damaged).length === 1)
+            const last = visibleItems(isLast, damaged)[0]
+            last.forceActiveFocus(Qt.TabFocusReason)
+            tryVerify(() => last.mapToItem(damaged, last.width, 0).x <= damaged.width + 0.5)
+            verify(last.enabled)
+            view.newProfile("")
+            verify(!last.enabled)
+        }
+
         function test_restingPointer_LeavesTheFocus(): void {
             for (let i = 0; i < 6; ++i)
                 home.makeProfile("p" + i, {source: ""})
