@@ -17,7 +17,7 @@ namespace selvane::process {
 namespace {
 
 constexpr int kWatchMilliseconds = 300;
-constexpr int kLookMilliseconds = 5;
+constexpr int kStatusMilliseconds = 5;
 constexpr int kNotStarted = 127;
 
 void send(int report, Message::Stage stage, int value) {
@@ -79,14 +79,14 @@ void writeNumber(char* text, unsigned int number) {
 
 /// Reports a failure in the first moments. It polls, as waitpid() has no timeout.
 void watch(pid_t child, int report) {
-    for (int waited = 0; waited < kWatchMilliseconds; waited += kLookMilliseconds) {
+    for (int waited = 0; waited < kWatchMilliseconds; waited += kStatusMilliseconds) {
         int status = 0;
         if (waitFor(child, status, WNOHANG) == child) {
             if (exitStatus(status) != 0)
                 send(report, Message::Stage::exit, exitStatus(status));
             return;
         }
-        ::poll(nullptr, 0, kLookMilliseconds);
+        ::poll(nullptr, 0, kStatusMilliseconds);
     }
 }
 
