@@ -18,8 +18,18 @@ Rectangle {
         "⌘": "command",
         "↩": "arrow-elbow-down-left"
     })
-    /// Runs of text, and each drawn key separately.
-    readonly property list<string> parts: keys.match(/[←→⌘↩]|[^←→⌘↩]+/g) ?? []
+    /// A drawn key before or after the text. It isn't part of it: looking for a font that has the character takes
+    /// long.
+    readonly property string first: icons[keys.charAt(0)] ?? ""
+    readonly property string last: keys.length > 1 ? icons[keys.charAt(keys.length - 1)] ?? "" : ""
+
+    component DrawnKey: PathIcon {
+        anchors.verticalCenter: parent.verticalCenter
+        visible: name !== ""
+        size: Theme.controls.keyCapIcon
+        weight: PathIcon.Bold
+        color: Theme.textSoft
+    }
 
     implicitWidth: Math.max(Math.ceil(content.implicitWidth) + 2 * Theme.space6, Theme.controls.keyCapWidth)
     implicitHeight: Theme.controls.keyCapHeight
@@ -36,39 +46,13 @@ Rectangle {
         anchors.centerIn: parent
         spacing: Theme.space4
 
-        Repeater {
-            model: cap.parts
-
-            delegate: Item {
-                id: part
-
-                required property string modelData
-
-                readonly property string icon: cap.icons[modelData] ?? ""
-
-                implicitWidth: icon !== "" ? drawn.width : caption.implicitWidth
-                implicitHeight: Theme.type.keyCap.lineHeight
-
-                PathIcon {
-                    id: drawn
-
-                    anchors.centerIn: parent
-                    visible: part.icon !== ""
-                    name: part.icon
-                    size: Theme.controls.keyCapIcon
-                    weight: PathIcon.Bold
-                    color: Theme.textSoft
-                }
-                StyledText {
-                    id: caption
-
-                    anchors.centerIn: parent
-                    // A drawn key has no text: looking for a font that has the character takes long.
-                    look: Theme.type.keyCap
-                    text: part.icon === "" ? part.modelData : ""
-                    color: Theme.textSoft
-                }
-            }
+        DrawnKey { name: cap.first }
+        StyledText {
+            visible: text !== ""
+            look: Theme.type.keyCap
+            text: cap.keys.slice(cap.first !== "" ? 1 : 0, cap.keys.length - (cap.last !== "" ? 1 : 0))
+            color: Theme.textSoft
         }
+        DrawnKey { name: cap.last }
     }
 }

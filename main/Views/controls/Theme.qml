@@ -68,9 +68,9 @@ QtObject {
         textScale: theme.textScale
     }
 
-    /// A key hint in the system's own notation: only macOS has ⌘.
+    /// A hint that names one key with ⌘, in the system's own notation: only macOS has that key.
     function keyText(hint: string): string {
-        return Qt.platform.os === "osx" ? hint : hint.replace(/⌘/g, "Ctrl+")
+        return Qt.platform.os === "osx" ? hint : hint.replace("⌘", "Ctrl+")
     }
 
     /// The command that shows something in the system's file manager.

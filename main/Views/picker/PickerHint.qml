@@ -6,54 +6,34 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// The picker's keys.
+/// The keys that work in the picker.
 Row {
     id: hint
 
-    readonly property string text: Theme.keyText(qsTr("← → per scegliere · invio per avviare · ⌘, impostazioni"))
-    readonly property list<string> groups: text.split(" · ")
+    component Words: StyledText {
+        anchors.verticalCenter: parent.verticalCenter
+        look: Theme.type.small
+        color: Theme.textFaint
+    }
+    component Dot: Words {
+        text: "·"
+        color: Theme.controlBorder
+        leftPadding: Theme.space4
+        rightPadding: Theme.space4
+    }
 
-    spacing: Theme.space12
+    spacing: Theme.space8
 
     Accessible.role: Accessible.StaticText
-    Accessible.name: text
+    Accessible.name: Theme.keyText(qsTr("← → per scegliere · invio per avviare · ⌘, impostazioni"))
 
-    Repeater {
-        model: hint.groups
-
-        delegate: Row {
-            id: group
-
-            required property string modelData
-            required property int index
-            /// The keys, then the lower-case words that say what they do.
-            readonly property var pieces: modelData.match(/^(.*?) (per .*|\S+)$/)
-
-            spacing: Theme.space8
-
-            StyledText {
-                visible: group.index > 0
-                anchors.verticalCenter: parent.verticalCenter
-                look: Theme.type.small
-                text: "·"
-                color: Theme.controlBorder
-                rightPadding: Theme.space4
-            }
-            Repeater {
-                model: group.pieces[1].split(" ")
-
-                delegate: KeyCap {
-                    required property string modelData
-
-                    keys: modelData
-                }
-            }
-            StyledText {
-                anchors.verticalCenter: parent.verticalCenter
-                look: Theme.type.small
-                text: group.pieces[2]
-                color: Theme.textFaint
-            }
-        }
-    }
+    KeyCap { keys: "←" }
+    KeyCap { keys: "→" }
+    Words { text: qsTr("per scegliere") }
+    Dot {}
+    KeyCap { keys: qsTr("invio") }
+    Words { text: qsTr("per avviare") }
+    Dot {}
+    KeyCap { keys: Theme.keyText("⌘,") }
+    Words { text: qsTr("impostazioni") }
 }

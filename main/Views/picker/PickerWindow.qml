@@ -30,8 +30,6 @@ Window {
         app: window.launcher.app
     }
     LeastPane {
-        // The size that the content will have once the window is shown; otherwise everything is laid out
-        // twice.
         width: window.width
         height: window.height
         least: Theme.picker.minimum
@@ -39,7 +37,10 @@ Window {
         ProfilePicker {
             id: view
 
-            anchors.fill: parent
+            // Not anchored: anchors take effect after the texts inside are laid out, so that all of it would be
+            // laid out twice, the heading in two sizes.
+            width: Math.max(window.width, Theme.picker.minimum.width)
+            height: Math.max(window.height, Theme.picker.minimum.height)
             app: window.launcher.app
             picker: model
             onManageAsked: window.launcher.showManage()

@@ -20,10 +20,10 @@ FocusScope {
     /// How much of the unused height goes above the heading and the tiles.
     readonly property real spareAbove: Math.max(0, height - places.height) * Theme.picker.spareAbove
 
-    /// Whether a button shows the focus, so that the tiles mustn't.
+    /// Whether a button shows the focus, so that the tiles mustn't. A tile keeps it while its menu is open.
     readonly property bool isFocusElsewhere: {
         const button = Window.activeFocusItem as Pressable
-        return button !== null && button.ringed && !(button instanceof MenuEntry)
+        return button !== null && button.ringed && !strip.menu?.isOpen
     }
 
     property bool isCovered: false ///< whether something lies over the whole view

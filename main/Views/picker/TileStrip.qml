@@ -15,7 +15,7 @@ ListView {
     required property bool showsFocused ///< lights the focused tile
     required property bool isCompact
     required property real margin
-    property TileMenu menu: null ///< created when first opened
+    property var menu: null ///< a TileMenu, which isn't even loaded before it first opens
 
     signal launched(string profileId)
     signal settingsAsked(string profileId)
@@ -33,9 +33,15 @@ ListView {
     /// Opens the focused tile's menu at a point in the tile.
     function openMenuAt(tile: Item, x: real, y: real): void {
         if (!strip.menu)
-            strip.menu = menuComponent.createObject(strip) as TileMenu
+            strip.makeMenu()
         strip.menu.profileId = strip.focused
         strip.menu.openAt(tile, x, y, 0)
+    }
+    function makeMenu(): void {
+        strip.menu = Qt.createComponent("TileMenu.qml").createObject(strip)
+        strip.menu.launched.connect(strip.launched)
+        strip.menu.settingsAsked.connect(strip.settingsAsked)
+        strip.menu.newProfileAsked.connect(strip.newProfileAsked)
     }
     readonly property real firstX: originX - leftMargin
     /// What the list says of its own width is a guess until it has made its last tile.
@@ -145,15 +151,6 @@ ListView {
         onMenuAsked: (x, y) => {
             strip.pointedAt(tile.profileId)
             strip.openMenuAt(tile, x, y)
-        }
-    }
-    Component {
-        id: menuComponent
-
-        TileMenu {
-            onLaunched: profileId => strip.launched(profileId)
-            onSettingsAsked: profileId => strip.settingsAsked(profileId)
-            onNewProfileAsked: source => strip.newProfileAsked(source)
         }
     }
     Row {
