@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::array<Command, 16> kCommands = {{
     {"list", "", list},
-    {"create", "<nome> [--from <id>] [--mode comp=modo]", create, "--from --account --mode"},
+    {"create", "<nome> [--from <id>] [--mode comp=modo]", create, "--from --account --mode --isolated"},
     {"sync", "<id>", sync},
     {"launch", "<id>", launch},
     {"path", "<id>", path},

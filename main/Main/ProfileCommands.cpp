@@ -30,12 +30,18 @@ void setAllowedMode(const std::string& text, std::map<Component, ShareMode>& mod
     modes[component] = mode;
 }
 
+bool isYes(const std::string& option, const std::string& value) {
+    if (value != "yes" && value != "no")
+        throw LauncherError("Opzione non valida: " + option + " " + field(value));
+    return value == "yes";
+}
+
 NewProfile newProfile(const Call& call) {
     NewProfile request;
     request.name = call.arguments[1];
     for (std::size_t i = 2; i < call.arguments.size(); i += 2) {
         const std::string& option = call.arguments[i];
-        if (option != "--from" && option != "--account" && option != "--mode")
+        if (option != "--from" && option != "--account" && option != "--mode" && option != "--isolated")
             throw LauncherError("Opzione sconosciuta: " + field(option));
         requireArguments(call, i + 2);
         const std::string& value = call.arguments[i + 1];
@@ -43,6 +49,8 @@ NewProfile newProfile(const Call& call) {
             request.from = profile(value, call.store);
         else if (option == "--account")
             request.account = value;
+        else if (option == "--isolated")
+            request.isolated = isYes(option, value);
         else
             setAllowedMode(value, request.modes);
     }

@@ -15,8 +15,8 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-constexpr std::string_view kKeys[] = {"account", "created", "excluded", "lastLaunched", "modes",
-                                      "name",    "source",  "summary",  "symbol"};
+constexpr std::string_view kKeys[] = {"account", "created", "excluded", "isolated", "lastLaunched",
+                                      "modes",   "name",    "source",   "summary",  "symbol"};
 
 /// Thrown by an unusable record, caught in this file and turned into "nothing".
 struct InvalidRecord {};
@@ -128,6 +128,12 @@ std::optional<Timestamp> optionalDate(const Json& object, std::string_view key) 
     return value == nullptr ? std::nullopt : std::optional(timestamp(requireText(*value)));
 }
 
+bool requireFlag(const Json& value) {
+    if (!value.is_boolean())
+        throw InvalidRecord{};
+    return value.get<bool>();
+}
+
 const Json& requireObject(const Json& value) {
     if (!value.is_object())
         throw InvalidRecord{};
@@ -145,8 +151,10 @@ std::map<std::string, ShareMode> modes(const Json& value) {
     return result;
 }
 
-std::map<std::string, std::vector<std::string>> exclusions(const Json& value) {
-    std::map<std::string, std::vector<std::string>> result;
+using ItemNames = std::map<std::string, std::vector<std::string>>; // by component
+
+ItemNames itemNames(const Json& value) {
+    ItemNames result;
     for (const auto& [key, names] : requireObject(value).items()) {
         if (!names.is_array())
             throw InvalidRecord{};
@@ -164,6 +172,17 @@ void append(Json& object, const std::string& key, Json value) {
     members.emplace_back(key, std::move(value));
 }
 
+Json toJson(const ItemNames& items) {
+    Json object = Json::object();
+    for (const auto& [component, names] : items) {
+        Json list = Json::array();
+        for (const std::string& name : names)
+            list.push_back(textFromBytes(name));
+        append(object, component, std::move(list));
+    }
+    return object;
+}
+
 ProfileMeta metaFrom(const Json& object) {
     ProfileMeta meta;
     const auto name = optionalText(requireObject(object), "name");
@@ -176,7 +195,9 @@ ProfileMeta metaFrom(const Json& object) {
     if (const Json* value = optionalValue(object, "modes"))
         meta.modes = modes(*value);
     if (const Json* value = optionalValue(object, "excluded"))
-        meta.excluded = exclusions(*value);
+        meta.excluded = itemNames(*value);
+    if (const Json* value = optionalValue(object, "isolated"))
+        meta.isolated = requireFlag(*value);
     meta.account = optionalText(object, "account");
     meta.created = optionalDate(object, "created").value_or(meta.created);
     meta.lastLaunched = optionalDate(object, "lastLaunched");
@@ -190,13 +211,6 @@ Timestamp currentTimestamp() {
 }
 
 Json toJson(const ProfileMeta& meta) {
-    Json excluded = Json::object();
-    for (const auto& [component, names] : meta.excluded) {
-        Json list = Json::array();
-        for (const auto& name : names)
-            list.push_back(textFromBytes(name));
-        append(excluded, component, std::move(list));
-    }
     Json modes = Json::object();
     for (const auto& [component, mode] : meta.modes)
         append(modes, component, rawValue(mode));
@@ -205,7 +219,9 @@ Json toJson(const ProfileMeta& meta) {
     if (meta.account)
         object["account"] = textFromBytes(*meta.account);
     object["created"] = iso8601(meta.created);
-    object["excluded"] = std::move(excluded);
+    object["excluded"] = toJson(meta.excluded);
+    if (meta.isolated)
+        object["isolated"] = true;
     if (meta.lastLaunched)
         object["lastLaunched"] = iso8601(*meta.lastLaunched);
     object["modes"] = std::move(modes);

@@ -28,6 +28,9 @@ struct ProfileMeta {
     std::map<std::string, ShareMode> modes;    ///< by the component's raw value
     /// By the component's raw value: names of items deliberately left out. Names are bytes.
     std::map<std::string, std::vector<std::string>> excluded;
+    /// Whether Claude Code is kept from reading those instructions of the built-in profile that this profile
+    /// doesn't take.
+    bool isolated = false;
     std::optional<std::string> account; ///< id of the profile whose account it uses; nothing for its own
     Timestamp created = currentTimestamp();
     std::optional<Timestamp> lastLaunched;

@@ -81,6 +81,7 @@ std::pair<Profile, FolderLock> ProfileStore::createFolder(const NewProfile& requ
     if (request.from)
         profile.meta.source = request.from->id;
     profile.meta.account = request.account;
+    profile.meta.isolated = request.isolated;
 
     m_files.createFolders(m_root, Privacy::ownerOnly);
     const FolderLock others(m_root, m_progress);
@@ -114,6 +115,7 @@ Profile ProfileStore::create(const NewProfile& request) {
         files::DiskSync written;
         fill(profile, request, FileManager(written, m_progress));
         writeProfileNote(profile);
+        updateExcludes(profile);
         // The record comes last: without it, the folder is no profile.
         written.waitFor(profile.configDir);
         if (m_progress != nullptr && m_progress->isCancelled())

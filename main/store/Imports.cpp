@@ -5,6 +5,7 @@
 
 #include "model/ByteText.h"
 #include "platform/json/Json.h"
+#include "store/InstructionExcludes.h"
 #include "store/JsonUpdate.h"
 #include "store/ServerImport.h"
 #include "store/SettingsPaths.h"
@@ -28,6 +29,7 @@ void ProfileStore::reimport(Component component, const Profile& to, const Profil
     const FolderLock lock = locked(to);
     announce(from.url(component));
     importWhole(component, to, from, m_files);
+    updateExcludes(current(to));
 }
 
 void ProfileStore::importWhole(Component component, const Profile& to, const Profile& from,
@@ -53,6 +55,8 @@ void ProfileStore::importFile(Component component, const Profile& to, const Prof
     files.replaceTrashing(to.url(component), [&](const fs::path& temporary) {
         files.copy(files.resolved(origin), temporary, Privacy::ownerOnly);
         rewritePaths(temporary, from, to, files);
+        if (component == Component::settings && from.meta.isolated)
+            dropExcludes(temporary, files);
     });
 }
 

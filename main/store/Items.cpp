@@ -79,11 +79,12 @@ void ProfileStore::addItem(const ComponentItem& item, const Profile& to, Compone
     if (link) {
         m_files.createLink(item.url, freePlace(item.name, to, component));
         m_files.waitForNames(to.url(component));
-        return;
+    } else {
+        FileBatch batch(to.configDir, m_progress);
+        addCopy(item.url, to, component, batch);
+        batch.finish();
     }
-    FileBatch batch(to.configDir, m_progress);
-    addCopy(item.url, to, component, batch);
-    batch.finish();
+    updateExcludes(current(to));
 }
 
 void ProfileStore::addCopy(const fs::path& item, const Profile& to, Component component, FileBatch& batch) {

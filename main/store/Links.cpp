@@ -97,13 +97,11 @@ SyncReport ProfileStore::syncLinks(const Profile& profile) {
     writeProfileNote(profile);
     SyncReport report;
     const auto source = sourceOf(profile);
-    if (!source)
-        return report;
     for (const Component component : kComponents) {
-        if (!isCollection(component) || profile.mode(component) != ShareMode::shared)
-            continue;
-        syncCollection(component, profile, *source, report);
+        if (source && isCollection(component) && profile.mode(component) == ShareMode::shared)
+            syncCollection(component, profile, *source, report);
     }
+    updateExcludes(profile);
     return report;
 }
 
@@ -146,6 +144,7 @@ Profile ProfileStore::setMode(ShareMode mode, Component component, const Profile
         return changed;
     if (isCollection(component)) {
         setCollectionMode(mode, component, changed, *source);
+        updateExcludes(changed);
         return changed;
     }
     if (kind(component) == ComponentKind::memory)
@@ -154,6 +153,7 @@ Profile ProfileStore::setMode(ShareMode mode, Component component, const Profile
         apply(component, mode, changed, *source, m_files);
     record(mode, component, changed);
     saveMeta(changed);
+    updateExcludes(changed);
     return changed;
 }
 
@@ -204,6 +204,7 @@ void ProfileStore::makeOwn(const ComponentItem& item, const Profile& profile) {
     const fs::path origin = m_files.resolved(item.url);
     announce(origin);
     m_files.replaceLink(item.url, [&](const fs::path& temporary) { m_files.copy(origin, temporary); });
+    updateExcludes(current(profile));
 }
 
 void ProfileStore::copyMissing(Component component, const Profile& to, const Profile& from,
@@ -224,6 +225,7 @@ Profile ProfileStore::remove(const ComponentItem& item, const Profile& from, Com
     // Check again: another program may have replaced the link by a file since it was listed.
     if (!m_files.removeLink(item.url)) {
         m_files.moveToTrash(item.url);
+        updateExcludes(changed);
         return changed;
     }
     m_files.waitForNames(item.url.parent_path());
@@ -235,6 +237,7 @@ Profile ProfileStore::remove(const ComponentItem& item, const Profile& from, Com
         std::sort(excluded.begin(), excluded.end());
         saveMeta(changed);
     }
+    updateExcludes(changed);
     return changed;
 }
 
@@ -267,6 +270,7 @@ Profile ProfileStore::importItems(const std::set<std::string>& names, const Prof
             return std::find(imported.begin(), imported.end(), name) != imported.end();
         });
     saveMeta(changed);
+    updateExcludes(changed);
     return changed;
 }
 

@@ -67,6 +67,11 @@ std::string ProfileStore::profileNote(const Profile& profile) const {
         "- `~/.claude` is the Main profile. Don't write there (it's outside this session's configuration) "
         "unless the user explicitly asks to change the Main profile; in that case suggest running the "
         "command from a terminal outside Claude.\n";
+    if (profile.meta.isolated)
+        note += "- This profile is isolated: `claudeMdExcludes` in `" + dir +
+                "/settings.json` keeps out the CLAUDE.md and the rules of `~/.claude` that it doesn't take. "
+                "Leave "
+                "these entries there.\n";
     const std::string components = sharedComponents(profile);
     const auto source = sourceOf(profile);
     if (source && !components.empty())

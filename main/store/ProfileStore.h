@@ -29,6 +29,7 @@ namespace selvane {
 
 class FileBatch;
 class Progress;
+struct InstructionExcludes;
 
 /// The parts of a new profile.
 struct NewProfile {
@@ -39,6 +40,7 @@ struct NewProfile {
     std::map<Component, ShareMode> modes;                 ///< the default mode for those not listed
     std::map<Component, std::set<std::string>> selection; ///< items to take; all of them for those not listed
     std::optional<std::string> account;                   ///< id of the profile whose account it uses
+    bool isolated = false;                                ///< see `ProfileStore::setIsolated`
 };
 
 /// A folder in the profiles root whose record is there, but damaged or unreadable.
@@ -129,6 +131,19 @@ public:
     Profile importItems(const std::set<std::string>& names, const Profile& source, const Profile& into,
                         Component component, bool link);
 
+    // Isolation (Isolation.cpp)
+    /// Whether it makes a difference now if a new profile is isolated: whether the built-in profile has
+    /// instructions (CLAUDE.md, rules) that it wouldn't take. Never fails; true if that can't be determined.
+    bool isolationMatters(const NewProfile& request) const;
+    /// Claude Code, working below the home folder, reads the built-in profile's CLAUDE.md and rules whatever
+    /// profile it runs in. The settings of an isolated profile (`claudeMdExcludes`) keep out what the profile
+    /// doesn't take from them. From then on every operation here that changes a profile's instructions, and
+    /// `sync`, keep these entries right. The settings' other entries and keys stay as they are; without a
+    /// settings file, one for the owner alone is made. Switching it off removes the entries that are exactly
+    /// of Selvane's form. Throws for the built-in profile, and if the settings have to change but are a link
+    /// or no JSON object; then the profile stays as it was. `sync`, and so a launch, throws likewise.
+    Profile setIsolated(bool isolated, const Profile& profile);
+
     // Generated files (ProfileNote.cpp, TerminalHelper.cpp)
     void writeProfileNote(const Profile& profile); ///< doesn't touch a note that is up to date
     std::filesystem::path installTerminalHelper();
@@ -216,6 +231,10 @@ private:
     void setCollectionMode(ShareMode mode, Component component, Profile& profile, const Profile& source);
     void copyMissing(Component component, const Profile& to, const Profile& from, FileBatch& batch);
     std::string profileNote(const Profile& profile) const;
+    InstructionExcludes excludes(const Profile& profile) const;
+    void updateExcludes(const Profile& profile);
+    void removeExcludes(const std::filesystem::path& file);
+    void dropExcludes(const std::filesystem::path& copy, const FileManager& files);
 
     std::filesystem::path desktopFolder(const std::string& owner) const;
     void assumeConfig(ClaudeApp::Instance& copy) const;

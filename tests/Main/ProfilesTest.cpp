@@ -42,6 +42,7 @@ TEST(CommandProfiles, WrongCallsSayWhatIsWrongAndChangeNothing) {
         {{"create", "A", "--from"}, createUsage},
         {{"create", "A", "--from", "assente"}, "Profilo sconosciuto: assente"},
         {{"create", "A", "--colore", "blu"}, "Opzione sconosciuta: --colore"},
+        {{"create", "A", "--isolated", "sì\n"}, "Opzione non valida: --isolated sì\uFFFD"},
         {{"create", "A", "--mode", "skills=extend"}, "Modalità non valida: skills=extend"},
         {{"create", "A", "--mode", "claude.md=extend"}, "Modalità non valida: claude.md=extend"},
         {{"create", endless}, (home / ".claude-profiles" / endless).string() + ": nome troppo lungo"},

@@ -47,7 +47,8 @@ _selvane() {
             case $prev in
                 --from | --account) _selvane_records selvane list ;;
                 --mode) _selvane_modes ;;
-                *) _selvane_words --from --account --mode ;;
+                --isolated) _selvane_words yes no ;;
+                *) _selvane_words --from --account --mode --isolated ;;
             esac
             ;;
         sync | launch | path | items | sessions)

@@ -67,6 +67,7 @@ complete -c selvane -n '__fish_seen_subcommand_from create' -x -l from -d Source
 complete -c selvane -n '__fish_seen_subcommand_from create' -x -l account -d 'Whose account it uses' \
     -a '(__selvane_profiles)'
 complete -c selvane -n '__fish_seen_subcommand_from create' -x -l mode -d 'Share mode' -a '(__selvane_modes)'
+complete -c selvane -n '__fish_seen_subcommand_from create' -x -l isolated -d 'Keep other instructions out' -a 'yes no'
 complete -c selvane -n '__selvane_argument 0 backup' -a '(__fish_complete_suffix .zip)'
 complete -c selvane -n '__fish_seen_subcommand_from backup' -l solo-principale -d 'The built-in profile only'
 complete -c selvane -n '__fish_seen_subcommand_from backup' -l solo-profili -d 'The other profiles only'
