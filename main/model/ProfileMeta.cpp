@@ -15,7 +15,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-constexpr std::string_view kKeys[] = {"account", "created", "excluded", "isolated", "lastLaunched",
+constexpr std::string_view kKeys[] = {"account", "created", "excluded", "isolated", "keptOwn", "lastLaunched",
                                       "modes",   "name",    "source",   "summary",  "symbol"};
 
 /// Thrown by an unusable record, caught in this file and turned into "nothing".
@@ -198,6 +198,8 @@ ProfileMeta metaFrom(const Json& object) {
         meta.excluded = itemNames(*value);
     if (const Json* value = optionalValue(object, "isolated"))
         meta.isolated = requireFlag(*value);
+    if (const Json* value = optionalValue(object, "keptOwn"))
+        meta.keptOwn = itemNames(*value);
     meta.account = optionalText(object, "account");
     meta.created = optionalDate(object, "created").value_or(meta.created);
     meta.lastLaunched = optionalDate(object, "lastLaunched");
@@ -222,6 +224,8 @@ Json toJson(const ProfileMeta& meta) {
     object["excluded"] = toJson(meta.excluded);
     if (meta.isolated)
         object["isolated"] = true;
+    if (!meta.keptOwn.empty())
+        object["keptOwn"] = toJson(meta.keptOwn);
     if (meta.lastLaunched)
         object["lastLaunched"] = iso8601(*meta.lastLaunched);
     object["modes"] = std::move(modes);

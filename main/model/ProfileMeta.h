@@ -31,6 +31,9 @@ struct ProfileMeta {
     /// Whether Claude Code is kept from reading those instructions of the built-in profile that this profile
     /// doesn't take.
     bool isolated = false;
+    /// By the component's raw value: names of items that are to stay the profile's own although their
+    /// component is shared. Names are bytes.
+    std::map<std::string, std::vector<std::string>> keptOwn;
     std::optional<std::string> account; ///< id of the profile whose account it uses; nothing for its own
     Timestamp created = currentTimestamp();
     std::optional<Timestamp> lastLaunched;

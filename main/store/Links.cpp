@@ -225,8 +225,7 @@ Profile ProfileStore::remove(const ComponentItem& item, const Profile& from, Com
     // Check again: another program may have replaced the link by a file since it was listed.
     if (!m_files.removeLink(item.url)) {
         m_files.moveToTrash(item.url);
-        updateExcludes(changed);
-        return changed;
+        return followed({{component, item.name, item.url, {}}}, std::move(changed));
     }
     m_files.waitForNames(item.url.parent_path());
     const auto source = sourceOf(from);

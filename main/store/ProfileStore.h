@@ -16,6 +16,7 @@
 
 #include "desktop/ClaudeApp.h"
 #include "model/Backup.h"
+#include "model/ChangedItem.h"
 #include "model/CodeSession.h"
 #include "model/ComponentItem.h"
 #include "model/Profile.h"
@@ -131,6 +132,25 @@ public:
     Profile importItems(const std::set<std::string>& names, const Profile& source, const Profile& into,
                         Component component, bool link);
 
+    // Items that no longer follow their source (Drift.cpp)
+    /// Those that are the profile's own although their component is shared and the source has one of that
+    /// name, unless they were left out or are kept own deliberately. By component, then by name. Never fails:
+    /// what can't be read is left out.
+    std::vector<ChangedItem> changedItems(const Profile& profile) const;
+    std::vector<ChangedItem> changedItems(Component component,
+                                          const Profile& profile) const; ///< of one component
+    // The following return the profile as it is recorded now. They throw `LauncherError` if the item has been
+    // linked, removed or changed by somebody else since it was listed; nothing of the user's is lost then.
+    /// Links the item to the source's again; what the profile had goes to the Trash.
+    Profile relink(const ChangedItem& item, const Profile& profile);
+    Profile relinkAll(Component component, const Profile& profile); ///< those that `changedItems` lists now
+    /// Puts the profile's item in the place of the source's, which goes to the Trash, and links to it. If the
+    /// item changes meanwhile, the profile keeps the newer one as its own.
+    Profile bringToSource(const ChangedItem& item, const Profile& profile);
+    /// Records that the item is to stay the profile's own: it's no longer among `changedItems`, until it is
+    /// linked, removed or taken from the record.
+    Profile keepOwn(const ChangedItem& item, const Profile& profile);
+
     // Isolation (Isolation.cpp)
     /// Whether it makes a difference now if a new profile is isolated: whether the built-in profile has
     /// instructions (CLAUDE.md, rules) that it wouldn't take. Never fails; true if that can't be determined.
@@ -230,6 +250,11 @@ private:
     void addCopy(const std::filesystem::path& item, const Profile& to, Component component, FileBatch& batch);
     void setCollectionMode(ShareMode mode, Component component, Profile& profile, const Profile& source);
     void copyMissing(Component component, const Profile& to, const Profile& from, FileBatch& batch);
+    static void forgetKept(ProfileMeta& meta, Component component, const std::string& name);
+    static std::filesystem::path changedPath(const ChangedItem& item, const Profile& in);
+    Profile sourceOfChanged(const ChangedItem& item, const Profile& profile) const;
+    Profile relinkEach(const std::vector<ChangedItem>& items, Profile profile);
+    Profile followed(const std::vector<ChangedItem>& items, Profile profile);
     std::string profileNote(const Profile& profile) const;
     InstructionExcludes excludes(const Profile& profile) const;
     void updateExcludes(const Profile& profile);

@@ -31,7 +31,7 @@ TEST(ProfileMeta, decode_InvalidRecord_GivesNothing) {
          {R"("summary": 1)", R"("symbol": [])", R"("source": false)", R"("account": {})", R"("modes": [])",
           R"("modes": {"skills": "linked"})", R"("modes": {"skills": null})",
           R"("excluded": {"skills": "a"})", R"("excluded": {"skills": [1]})", R"("created": 1740821400)",
-          R"("lastLaunched": "ieri")", R"("isolated": "true")"})
+          R"("lastLaunched": "ieri")", R"("isolated": "true")", R"("keptOwn": ["a"])"})
         EXPECT_FALSE(decodedProfileMeta(R"({"name": "a", )" + entry + "}")) << entry;
 }
 
@@ -73,6 +73,7 @@ TEST(ProfileMeta, encode_Record_HasSortedKeysAndNoNulls) {
     meta.account = "caff\xE8";
     meta.lastLaunched = kMorning;
     meta.isolated = true;
+    meta.keptOwn = {{"skills", {"a\xFF"}}};
     meta.excluded["rules"] = {"non\xFFutf8\xEE\xBE\x80"};
     EXPECT_EQ(decodedProfileMeta(encoded(meta)), meta) << "names are bytes";
 }

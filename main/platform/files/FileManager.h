@@ -136,6 +136,10 @@ public:
     /// there now; then it goes to the Trash. `replaceTrashing` begins with this. Call it before reading a
     /// file whose old content becomes part of the new one.
     void recoverReplaced(const std::filesystem::path& path) const;
+    /// Replaces `path` by what `make` builds if what is there is a complete copy of `original`; it is removed
+    /// then. Otherwise, even if it changes at the last moment, leaves it and returns false.
+    bool replaceCopy(const std::filesystem::path& path, const std::filesystem::path& original,
+                     const std::function<void(const std::filesystem::path& temporary)>& make) const;
     /// The same as `replaceTrashing` for a symbolic link at `link`, which is removed. Fails if it is no
     /// longer a link.
     void replaceLink(const std::filesystem::path& link,

@@ -8,6 +8,7 @@
 #include "platform/files/FileCopy.h"
 #include "platform/files/FileManager.h"
 #include "platform/files/Temporary.h"
+#include "platform/files/TreeComparison.h"
 
 /// Changing a file that other programs change too.
 namespace selvane {
@@ -77,6 +78,38 @@ bool FileManager::writeIfUnchanged(const std::filesystem::path& file,
     if (error != 0)
         fail("write", file, error);
     waitForPlaceOf(file);
+    return true;
+}
+
+bool FileManager::replaceCopy(const std::filesystem::path& path, const std::filesystem::path& original,
+                              const std::function<void(const std::filesystem::path& temporary)>& make) const {
+    if (!files::isCopy(original, path))
+        return false;
+    Temporary temporary(path);
+    build(temporary, path, make);
+    struct stat own = {};
+    if (!isAnything(temporary.path(), own))
+        fail("replace", path, errno);
+    const int error = files::exchangeNames(temporary.path(), path);
+    if (error == ENOTSUP) { // one after the other
+        if (!completeMove(path, original))
+            return false;
+        temporary.place(path);
+        waitForPlaceOf(path);
+        return true;
+    }
+    if (error != 0)
+        fail("replace", path, error);
+    bool isCopy = false;
+    try {
+        isCopy = files::isCopy(original, temporary.path());
+    } catch (const std::filesystem::filesystem_error&) { // not certain: put it back
+    }
+    if (!isCopy) {
+        putBack(temporary, path, own);
+        return false;
+    }
+    waitForPlaceOf(path);
     return true;
 }
 
