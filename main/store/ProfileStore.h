@@ -20,6 +20,7 @@
 #include "model/CodeSession.h"
 #include "model/ComponentItem.h"
 #include "model/Profile.h"
+#include "model/ProfileSize.h"
 #include "model/SyncReport.h"
 #include "platform/files/FileManager.h"
 #include "platform/files/FolderLock.h"
@@ -188,6 +189,19 @@ public:
     bool needsDesktopRestore() const;
     void restoreDesktopData();
     void seedDesktopData(const Profile& profile, const Profile& source);
+
+    // What the windows tell of a profile (Facts.cpp)
+    /// The address with which Claude Code is signed in, as its state says (`oauthAccount`); nothing if it
+    /// isn't, or if that can't be read. No token is read. Never fails. The text is another program's: clean
+    /// it before it is shown.
+    std::optional<std::string> agentAddress(const Profile& profile) const;
+    /// Whether somebody has signed in to Claude Desktop with the profile's account: whether its data has a
+    /// folder of an account for the Code tab, which Claude Desktop makes when that tab is first used. False
+    /// if that can't be read; never fails.
+    bool hasDesktopLogin(const Profile& profile) const;
+    /// How much its configuration folder and its account's data take up on the disk. May take long: a store
+    /// with a `Progress` can be cancelled, and then throws `operation_canceled`.
+    ProfileSize sizeOnDisk(const Profile& profile) const;
 
     // Code sessions (Sessions.cpp)
     /// Newest activity first.

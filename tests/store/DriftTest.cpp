@@ -3,6 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <unistd.h>
+
+#include "platform/files/DiskUsage.h"
+#include "platform/files/Progress.h"
 #include "support/Home.h"
 
 namespace selvane {
@@ -143,6 +148,47 @@ TEST_F(Drift, replaceCopy_OfSomethingElse_LeavesIt) {
     }));
     EXPECT_EQ(readFile(own), "più nuova");
     EXPECT_EQ(treeOf(profile.configDir / "agents").size(), 5) << "no temporaries";
+}
+
+TEST_F(Drift, facts_OfAProfile) {
+    EXPECT_EQ(home.store.agentAddress(profile), std::nullopt);
+    const std::string signedIn = R"({"oauthAccount": {"emailAddress": "ada@esempio.it"}, "x": 1})";
+    for (const auto& [text, address] : std::map<std::string, std::optional<std::string>>{
+             {signedIn, "ada@esempio.it"},
+             {R"({"oauthAccount": {"emailAddress": ""}})", std::nullopt},
+             {R"({"oauthAccount": ["a@b"]})", std::nullopt},
+             {"{", std::nullopt}}) {
+        writeFile(home.store.globalJSON(profile), text);
+        EXPECT_EQ(home.store.agentAddress(profile), address) << text;
+    }
+    writeFile(home.store.defaultGlobalJSON(), signedIn);
+    EXPECT_EQ(home.store.agentAddress(home.builtIn()), "ada@esempio.it");
+
+    EXPECT_FALSE(home.store.hasDesktopLogin(profile));
+    const fs::path data = home.store.desktopDataDir(profile);
+    writeFile(data / "claude-code-sessions/conto/ente/local_1.json", "{}");
+    EXPECT_TRUE(home.store.hasDesktopLogin(profile));
+
+    const ProfileSize before = home.store.sizeOnDisk(profile);
+    writeFile(data / "grande", std::string(1 << 20, 'x'));
+    fs::create_hard_link(data / "grande", data / "lo stesso");
+    fs::create_symlink(data / "grande", profile.configDir / "collegamento");
+    writeFile(profile.configDir / "bucato", "");
+    fs::resize_file(profile.configDir / "bucato", 1 << 30); // a hole takes up nothing
+    const ProfileSize after = home.store.sizeOnDisk(profile);
+    EXPECT_NEAR(static_cast<double>(after.account - before.account), 1 << 20, 1 << 16);
+    EXPECT_LT(after.configuration - before.configuration, 1U << 16);
+    // On Linux, /dev/shm is a file system of its own.
+    const std::uintmax_t devices = diskUsage({"/dev"}, nullptr);
+    const fs::path elsewhere = "/dev/shm/selvane-test-" + std::to_string(::getpid());
+    if (std::ofstream(elsewhere) << std::string(4 << 20, 'x')) {
+        EXPECT_LT(diskUsage({"/dev"}, nullptr), devices + (1 << 20));
+        EXPECT_GE(diskUsage({elsewhere}, nullptr), 4U << 20);
+        fs::remove(elsewhere);
+    }
+    Progress progress;
+    progress.cancel();
+    EXPECT_THROW(ProfileStore(home.store, progress).sizeOnDisk(profile), fs::filesystem_error);
 }
 
 } // namespace
