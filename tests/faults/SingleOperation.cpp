@@ -5,6 +5,9 @@
 ///   single-operation make-own PROFILE COMPONENT ITEM
 ///   single-operation remove PROFILE COMPONENT ITEM
 ///   single-operation import-items FROM INTO COMPONENT link|copy   everything that INTO lacks
+///   single-operation relink PROFILE COMPONENT ITEM
+///   single-operation bring PROFILE COMPONENT ITEM
+///   single-operation isolate PROFILE yes|no
 ///   single-operation delete PROFILE
 /// An item or profile that is already gone counts as done, as in the windows, which no longer show it.
 
@@ -52,6 +55,16 @@ void importMissing(const Words& words, ProfileStore& store) {
     store.importItems(names, from, into, part, words.at(4) == "link");
 }
 
+void follow(const std::string& operation, Component part, const std::string& name, const Profile& profile,
+            ProfileStore& store) {
+    for (const ChangedItem& item : store.changedItems(part, profile)) {
+        if (item.name == name && operation == "relink")
+            store.relink(item, profile);
+        else if (item.name == name)
+            store.bringToSource(item, profile);
+    }
+}
+
 void run(const Words& words, ProfileStore& store) {
     const std::string& operation = words.at(0);
     if (operation == "import-items")
@@ -64,7 +77,13 @@ void run(const Words& words, ProfileStore& store) {
             throw LauncherError(words.at(1) + " can't be read");
         return;
     }
+    if (operation == "isolate") {
+        store.setIsolated(words.at(2) == "yes", profile.value());
+        return;
+    }
     const Component part = component(words.at(2)).value();
+    if (operation == "relink" || operation == "bring")
+        return follow(operation, part, words.at(3), profile.value(), store);
     const auto item = itemNamed(words.at(3), part, profile.value(), store);
     if (item && operation == "make-own")
         store.makeOwn(*item, *profile);

@@ -220,8 +220,33 @@ def _single_operations():
     yield Operation("delete-without-data", ["operation", "delete", "copia"])
 
 
+def _drift():
+    """Items whose links have become the profile's own, and isolation, which edits the settings."""
+    def changed(home):
+        for item in ("rules/sicurezza.md", "skills/revisione"):
+            home.run("operation", "make-own", "lavoro", *item.split("/"))
+        home.put(WORK + "rules/sicurezza.md", "Diventata propria.\n", 0o640)
+        home.put(WORK + "skills/revisione/lista.md", "Diventata propria anche questa.\n")
+
+    def isolated(home):
+        home.run("operation", "isolate", "lavoro", "yes")
+        home.put(".claude/rules/dopo.md", "Venuta dopo.\n")
+    sync = [("selvane", "sync", "lavoro")]
+    for kind, item in {"file": ["rules", "sicurezza.md"], "folder": ["skills", "revisione"]}.items():
+        yield Operation(f"relink-{kind}", ["operation", "relink", "lavoro", *item], changed, then=sync)
+        yield Operation(f"bring-{kind}", ["operation", "bring", "lavoro", *item], changed, then=sync)
+    yield Operation("bring-in-steps", ["operation", "bring", "lavoro", "rules", "sicurezza.md"], changed, then=sync,
+                    setting="renameat2:error=EINVAL", gap=WORK + "rules/sicurezza.md$")
+    settings = {"edits": [WORK + "settings.json"]}
+    yield Operation("isolate", ["operation", "isolate", "lavoro", "yes"], **settings)
+    yield Operation("isolate-off", ["operation", "isolate", "lavoro", "no"], isolated, **settings)
+    yield Operation("sync-isolated", ["selvane", "sync", "lavoro"], isolated, **settings)
+    yield Operation("create-isolated", ["selvane", "create", "Nuovo", "--from", "default", "--isolated", "yes"],
+                    creates="nuovo", leaves_nothing=True)
+
+
 OPERATIONS = [*_creations(), *_syncs(), *_collection_modes(), *_rules_modes(), *_import_modes(), *_sessions(),
-              *_launches(), *_helpers(), *_restorations(), *_backups(), *_single_operations()]
+              *_launches(), *_helpers(), *_restorations(), *_backups(), *_single_operations(), *_drift()]
 # The same on file systems that can neither exchange names nor rename without replacing.
 _IN_STEPS = ("create-separate", "set-mode-CLAUDE.md-extend-separate", "set-mode-mcp-merged", "import-sessions",
              "launch-with-queue", "restore-desktop-swapped", "backup-replacing", "import-items-copies", "delete")
