@@ -196,7 +196,23 @@ bool ClaudeApp::quit(const std::vector<Instance>& instances, QuitKind kind, std:
     return true;
 }
 
-void ClaudeApp::launch(const Profile& profile, ProfileStore& store, const Environment& start) const {
+void ClaudeApp::passOn(const SignInLink& link, const Instance& copy, const fs::path& normalDir) const {
+    if (copy.dataDir.empty())
+        throw LauncherError("Non si sa quale account usa questa copia di Claude: chiudila e riprova");
+    if (m_workspace.isTerminated(copy.app)) // what is started now would be a copy that nobody knows of
+        throw LauncherError("Claude è stato chiuso nel frattempo: riprova");
+    OpenConfiguration opening;
+    opening.withholds = isWithheld;
+    if (copy.config)
+        opening.environment[std::string(kConfigDirVariable)] = *copy.config;
+    if (copy.dataDir != normalizedPath(normalDir))
+        opening.arguments.push_back(std::string(kDataDirSwitch) + copy.dataDir);
+    opening.arguments.push_back(link.secretText());
+    m_workspace.open(requireApplication(), opening);
+}
+
+void ClaudeApp::launch(const Profile& profile, ProfileStore& store, const Environment& start,
+                       const std::optional<SignInLink>& link) const {
     const Application installed = requireApplication();
     store.restoreDesktopData();
     // One launch at a time: the next one must find this copy among the processes.
@@ -210,6 +226,8 @@ void ClaudeApp::launch(const Profile& profile, ProfileStore& store, const Enviro
         note.config = normalizedPath(profile.configDir);
     OpenConfiguration opening = configuration(profile, dataDir, store.liveDesktopDir());
     opening.environment.insert(start.begin(), start.end());
+    if (link)
+        opening.arguments.push_back(link->secretText());
     note.opened = m_workspace.open(installed, opening);
     if (!store.testMode()) {
         m_notes.add(note);

@@ -15,6 +15,7 @@
 #include "desktop/DataFolders.h"
 #include "desktop/LaunchNotes.h"
 #include "desktop/OpenCopies.h"
+#include "desktop/SignInLink.h"
 #include "model/Profile.h"
 #include "platform/process/Clock.h"
 #include "platform/process/ProcInfo.h"
@@ -67,7 +68,14 @@ public:
     /// show its data folder. Throws if nothing was opened, or if the copy uses another data folder or
     /// configuration; that copy stays open. `start` holds variables for this one start, such as what lets the
     /// new window come to the front. Blocks.
-    void launch(const Profile& profile, ProfileStore& store, const Environment& start = {}) const;
+    /// The copy gets `link`, if there is one, as its last argument.
+    void launch(const Profile& profile, ProfileStore& store, const Environment& start = {},
+                const std::optional<SignInLink>& link = {}) const;
+    /// Hands a sign-in over to an open copy: starts the application as for a second copy with the same data
+    /// folder and configuration, which passes its arguments on to the first and ends. Doesn't wait for that.
+    /// Throws if the copy has ended, or if it isn't known which data folder it uses. `normalDir` is the
+    /// normal data folder. Nothing is recorded.
+    void passOn(const SignInLink& link, const Instance& copy, const std::filesystem::path& normalDir) const;
 
 private:
     /// The state of the machine at one moment.

@@ -25,6 +25,8 @@
 #include "platform/files/FileManager.h"
 #include "platform/files/FolderLock.h"
 #include "platform/process/Process.h"
+#include "store/NewProfile.h"
+#include "store/SignInTargets.h"
 #include "store/TranscriptIndex.h"
 
 namespace selvane {
@@ -32,18 +34,6 @@ namespace selvane {
 class FileBatch;
 class Progress;
 struct InstructionExcludes;
-
-/// The parts of a new profile.
-struct NewProfile {
-    std::string name; ///< trimmed before use; must not be blank
-    std::string summary;
-    std::string symbol = ProfileMeta{}.symbol;
-    std::optional<Profile> from;                          ///< the source of its components
-    std::map<Component, ShareMode> modes;                 ///< the default mode for those not listed
-    std::map<Component, std::set<std::string>> selection; ///< items to take; all of them for those not listed
-    std::optional<std::string> account;                   ///< id of the profile whose account it uses
-    bool isolated = false;                                ///< see `ProfileStore::setIsolated`
-};
 
 /// A folder in the profiles root whose record is there, but damaged or unreadable.
 struct DamagedProfile {
@@ -186,6 +176,9 @@ public:
     /// another Selvane has already opened the next copy with it.
     bool hasLeft(const ClaudeApp::Instance& copy, const Profile& profile) const;
     std::set<std::string> runningProfileIDs() const;
+    /// Where a sign-in that the browser has just ended could go: to the copies that are open, or to a profile
+    /// that is launched for it. Never fails; copies of which no profile is known aren't among them.
+    SignInTargets signInTargets() const;
     bool needsDesktopRestore() const;
     void restoreDesktopData();
     void seedDesktopData(const Profile& profile, const Profile& source);

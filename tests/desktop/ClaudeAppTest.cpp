@@ -128,6 +128,63 @@ TEST(ClaudeApp, launch_EachKindOfProfile_PassesWhatItNeeds) {
     }
 }
 
+TEST(ClaudeApp, SignInLink_OfAnotherKind_IsRefused) {
+    for (const std::string text : {"", "claude:", "https://claude.ai/x", "claude", " claude://x",
+                                   "claude://x y", "claude://x\n", "claude://\xC3\xA8", "--user-data-dir=/x"})
+        EXPECT_FALSE(SignInLink::from(text)) << text;
+    EXPECT_FALSE(SignInLink::from("claude:" + std::string(20000, 'x')));
+    for (const auto& [text, shown] :
+         std::map<std::string, std::string>{{"claude://login/callback?code=s3cret#s3cret", "claude://login"},
+                                            {"CLAUDE://s3cret@host?s3cret", "claude://host"},
+                                            {"claude:s3cret", "claude:"}}) {
+        const auto link = SignInLink::from(text);
+        ASSERT_TRUE(link) << text;
+        EXPECT_EQ(link->secretText(), text);
+        EXPECT_EQ(link->shown(), shown);
+    }
+}
+
+TEST(ClaudeApp, passOn_ToACopy_StartsItsLikeWithTheLink) {
+    Home home(Home::Processes::seen);
+    const Profile own = home.make("Lavoro"), other = home.make("Altro");
+    const auto link = SignInLink::from("claude://login?code=1");
+    EXPECT_EQ(home.store.signInTargets().targets.size(), 3) << "none is open: any account can be launched";
+    home.store.markLaunched(other);
+    EXPECT_EQ(home.store.signInTargets().targets.at(home.store.signInTargets().preset).profile.id, "altro");
+    writeFile(home.store.desktopDataDir(other) / "claude-code-sessions/a/b/local_1.json", "{}");
+    home.store.changeMeta(own, [](ProfileMeta& meta) { meta.lastLaunched = Timestamp(); });
+    const RunningProcess plain({}, {});
+    home.workspace.apps = {plain.app()};
+    const SignInTargets one = home.store.signInTargets();
+    EXPECT_FALSE(one.mustAsk());
+    EXPECT_EQ(one.targets.at(0).profile.id, "default");
+    const RunningProcess copy({"--user-data-dir=" + home.store.desktopDataDir(own).string()},
+                              {{"CLAUDE_CONFIG_DIR", own.configDir.string()}});
+    const RunningProcess signedIn({"--user-data-dir=" + home.store.desktopDataDir(other).string()},
+                                  {{"CLAUDE_CONFIG_DIR", other.configDir.string()}});
+    home.workspace.apps = {signedIn.app(), plain.app(), copy.app()};
+    const SignInTargets three = home.store.signInTargets();
+    ASSERT_EQ(three.targets.size(), 3);
+    EXPECT_EQ(three.targets.at(three.preset).profile.id, "lavoro") << "not signed in, launched last of those";
+
+    for (const SignInTarget& target : three.targets) {
+        home.claude.passOn(*link, *target.copy, home.store.liveDesktopDir());
+        const OpenConfiguration& opening = home.workspace.openings.back();
+        const std::string data = "--user-data-dir=" + home.store.desktopDataDir(target.profile).string();
+        const bool isPlain = target.profile.isDefault();
+        EXPECT_EQ(opening.arguments, isPlain ? Texts{link->secretText()} : (Texts{data, link->secretText()}));
+        EXPECT_EQ(opening.environment,
+                  isPlain ? Environment{} : (Environment{{"CLAUDE_CONFIG_DIR", target.profile.configDir}}));
+        EXPECT_TRUE(opening.withholds("CLAUDE_CONFIG_DIR"));
+    }
+    const std::string unknown = messageOf([&] {
+        home.claude.passOn(*link, {plain.app(), "", {}, false}, "/x");
+    });
+    EXPECT_TRUE(!unknown.empty() && unknown.find("code") == unknown.npos) << "no secret in " << unknown;
+    home.workspace.terminate(plain.app());
+    EXPECT_NE(messageOf([&] { home.claude.passOn(*link, {plain.app(), "/x", {}, true}, "/x"); }), "");
+}
+
 TEST(ClaudeApp, launch_NotPossible_IsNotRecorded) {
     Home home(Home::Processes::seen);
     const Profile profile = home.make("Lavoro");
