@@ -29,6 +29,11 @@ struct DesktopServices {
     int (*trash)(const char* path, ByteSink message, void* context) noexcept;
     /// Whether a desktop entry with this id (without ".desktop") is installed. If so, passes it to `found`.
     bool (*desktopEntry)(const char* id, EntryReceiver found, void* context) noexcept;
+    /// The functions of `platform/process/SchemeHandler.h`. Setting returns false if it fails, and the
+    /// system's own message goes to `message`.
+    void (*schemeHandler)(const char* scheme, ByteSink id, void* context) noexcept;
+    bool (*setSchemeHandler)(const char* scheme, const char* entry, ByteSink message, void* context) noexcept;
+    void (*resetSchemeHandler)(const char* scheme) noexcept;
     /// Raises a window of this process on an X11 display; false if there is none.
     bool (*raiseWindow)(std::int32_t pid) noexcept;
     /// Whether something keeps what was copied on an X11 display when its owner ends.

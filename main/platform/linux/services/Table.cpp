@@ -14,6 +14,9 @@ __attribute__((visibility("default"))) const selvane::DesktopServices* selvane_d
     static constexpr selvane::DesktopServices kTable{
         .trash = selvane::module::trash,
         .desktopEntry = selvane::module::desktopEntry,
+        .schemeHandler = selvane::module::schemeHandler,
+        .setSchemeHandler = selvane::module::setSchemeHandler,
+        .resetSchemeHandler = selvane::module::resetSchemeHandler,
         .raiseWindow = selvane::module::raiseWindow,
         .hasClipboardManager = selvane::module::hasClipboardManager,
     };
