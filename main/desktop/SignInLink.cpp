@@ -8,7 +8,7 @@
 namespace selvane {
 namespace {
 
-constexpr std::string_view kScheme = "claude:";
+constexpr std::string_view kLinkScheme = "claude:";
 constexpr std::size_t kLongest = 16384;
 
 char lowered(char letter) {
@@ -20,8 +20,8 @@ char lowered(char letter) {
 std::optional<SignInLink> SignInLink::from(std::string_view text) {
     // A blank would end the link where Chromium joins its arguments into one text.
     const auto isPlain = [](char byte) { return byte > ' ' && byte <= '~'; };
-    if (text.size() <= kScheme.size() || text.size() > kLongest ||
-        !std::equal(kScheme.begin(), kScheme.end(), text.begin(),
+    if (text.size() <= kLinkScheme.size() || text.size() > kLongest ||
+        !std::equal(kLinkScheme.begin(), kLinkScheme.end(), text.begin(),
                     [](char wanted, char letter) { return wanted == lowered(letter); }) ||
         !std::all_of(text.begin(), text.end(), isPlain))
         return std::nullopt;
@@ -29,8 +29,8 @@ std::optional<SignInLink> SignInLink::from(std::string_view text) {
 }
 
 std::string SignInLink::shown() const {
-    const std::string_view rest = std::string_view(m_text).substr(kScheme.size());
-    std::string result(kScheme);
+    const std::string_view rest = std::string_view(m_text).substr(kLinkScheme.size());
+    std::string result(kLinkScheme);
     if (!rest.starts_with("//"))
         return result;
     std::string_view host = rest.substr(2, rest.find_first_of("/?#", 2) - 2);

@@ -152,7 +152,8 @@ TEST(ClaudeApp, passOn_ToACopy_StartsItsLikeWithTheLink) {
     home.store.markLaunched(other);
     EXPECT_EQ(home.store.signInTargets().targets.at(home.store.signInTargets().preset).profile.id, "altro");
     writeFile(home.store.desktopDataDir(other) / "claude-code-sessions/a/b/local_1.json", "{}");
-    home.store.changeMeta(own, [](ProfileMeta& meta) { meta.lastLaunched = Timestamp(); });
+    home.store.changeMeta(own,
+                          [](ProfileMeta& meta) { meta.lastLaunched = Timestamp(std::chrono::seconds(1)); });
     const RunningProcess plain({}, {});
     home.workspace.apps = {plain.app()};
     const SignInTargets one = home.store.signInTargets();

@@ -46,8 +46,8 @@ struct Drift : testing::Test {
     Texts changed() const {
         Texts names;
         for (const ChangedItem& item : home.store.changedItems(profile)) {
-            EXPECT_EQ(item.own, profile.configDir / location(item.component) /
-                                    (isCollection(item.component) ? item.name : ""));
+            const fs::path place = profile.url(item.component);
+            EXPECT_EQ(item.own, isCollection(item.component) ? place / item.name : place);
             names.push_back(item.name);
         }
         return names;

@@ -26,6 +26,17 @@ OwnedApp application(const char* entry) {
     return {found != nullptr ? G_APP_INFO(found) : nullptr, g_object_unref};
 }
 
+/// GIO learns of a new entry on another thread, a moment after it was written.
+void awaitHandler(const char* scheme, GAppInfo& app) {
+    constexpr int kMostLooks = 100;
+    for (int look = 0; look < kMostLooks; ++look) {
+        const OwnedApp now(g_app_info_get_default_for_uri_scheme(scheme), g_object_unref);
+        if (now && g_strcmp0(g_app_info_get_id(now.get()), g_app_info_get_id(&app)) == 0)
+            return;
+        g_usleep(20'000); // microseconds
+    }
+}
+
 } // namespace
 
 void schemeHandler(const char* scheme, ByteSink id, void* context) noexcept {
@@ -42,6 +53,8 @@ bool setSchemeHandler(const char* scheme, const char* entry, ByteSink message, v
         const OwnedApp app = application(entry);
         isSet = app &&
                 g_app_info_set_as_default_for_type(app.get(), contentType(scheme).c_str(), &error) != FALSE;
+        if (isSet)
+            awaitHandler(scheme, *app);
         if (error != nullptr && error->message != nullptr)
             message(context, error->message, std::strlen(error->message));
     } catch (...) { // out of memory
