@@ -215,8 +215,8 @@ void FileManager::replaceTrashing(
         return waitForPlaceOf(target);
     }
     KeptFile kept(target);
-    moveToTrash(target);
     try {
+        moveToTrash(target);
         temporary.place(target);
         waitForPlaceOf(target);
         kept.drop();
