@@ -51,7 +51,8 @@ void ProfileStore::forgetKept(ProfileMeta& meta, Component component, const std:
         meta.keptOwn.erase(kept);
 }
 
-std::vector<ChangedItem> ProfileStore::changedItems(Component component, const Profile& profile) const {
+std::vector<ChangedItem> ProfileStore::changedItems(Component component, const Profile& profile,
+                                                    Unreadable unreadable) const {
     const auto source = sourceOf(profile);
     if (!source || profile.mode(component) != ShareMode::shared)
         return {};
@@ -72,7 +73,9 @@ std::vector<ChangedItem> ProfileStore::changedItems(Component component, const P
                     changed.push_back({component, name, own / name, origin / name});
             }
         }
-    } catch (const fs::filesystem_error&) { // what can't be read isn't shown
+    } catch (const fs::filesystem_error&) {
+        if (unreadable == Unreadable::fails)
+            throw;
         return {};
     }
     return changed;
@@ -95,8 +98,7 @@ Profile ProfileStore::sourceOfChanged(const ChangedItem& item, const Profile& pr
     if (isCollection(item.component))
         requireOwnFolder(item.component, profile);
     const bool isThere = m_files.exists(item.own) && !m_files.linkTarget(item.own);
-    if (!isThere || !m_files.isPresent(item.source) || item.own != changedPath(item, profile) ||
-        item.source != changedPath(item, *source))
+    if (!isThere || item.own != changedPath(item, profile) || item.source != changedPath(item, *source))
         throw notChanged(item);
     return std::move(*source);
 }
@@ -113,12 +115,14 @@ Profile ProfileStore::relink(const ChangedItem& item, const Profile& profile) {
 Profile ProfileStore::relinkAll(Component component, const Profile& profile) {
     const FolderLock lock = locked(profile);
     const Profile now = current(profile);
-    return relinkEach(changedItems(component, now), now);
+    return relinkEach(changedItems(component, now, Unreadable::fails), now);
 }
 
 Profile ProfileStore::relinkEach(const std::vector<ChangedItem>& items, Profile profile) {
     for (const ChangedItem& item : items) {
         static_cast<void>(sourceOfChanged(item, profile));
+        if (!m_files.isPresent(item.source))
+            throw notChanged(item);
         m_files.replaceTrashing(
             item.own, [&](const fs::path& temporary) { m_files.createLink(item.source, temporary); });
     }

@@ -128,15 +128,16 @@ public:
     /// name, unless they were left out or are kept own deliberately. By component, then by name. Never fails:
     /// what can't be read is left out.
     std::vector<ChangedItem> changedItems(const Profile& profile) const;
-    std::vector<ChangedItem> changedItems(Component component,
-                                          const Profile& profile) const; ///< of one component
+    std::vector<ChangedItem> changedItems(Component component, const Profile& profile,
+                                          Unreadable unreadable = Unreadable::leftOut) const;
     // The following return the profile as it is recorded now. They throw `LauncherError` if the item has been
     // linked, removed or changed by somebody else since it was listed; nothing of the user's is lost then.
     /// Links the item to the source's again; what the profile had goes to the Trash.
     Profile relink(const ChangedItem& item, const Profile& profile);
     Profile relinkAll(Component component, const Profile& profile); ///< those that `changedItems` lists now
     /// Puts the profile's item in the place of the source's, which goes to the Trash, and links to it. If the
-    /// item changes meanwhile, the profile keeps the newer one as its own.
+    /// item changes meanwhile, the profile keeps the newer one as its own. The source's may be missing, as an
+    /// interrupted run leaves it: then the same call completes that.
     Profile bringToSource(const ChangedItem& item, const Profile& profile);
     /// Records that the item is to stay the profile's own: it's no longer among `changedItems`, until it is
     /// linked, removed or taken from the record.

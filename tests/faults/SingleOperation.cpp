@@ -57,12 +57,16 @@ void importMissing(const Words& words, ProfileStore& store) {
 
 void follow(const std::string& operation, Component part, const std::string& name, const Profile& profile,
             ProfileStore& store) {
-    for (const ChangedItem& item : store.changedItems(part, profile)) {
-        if (item.name == name && operation == "relink")
-            store.relink(item, profile);
-        else if (item.name == name)
-            store.bringToSource(item, profile);
-    }
+    const FileManager files;
+    const Profile source = store.profile(*profile.meta.source).value();
+    const ChangedItem item = {part, name, profile.url(part) / name, source.url(part) / name};
+    const auto changed = store.changedItems(part, profile, Unreadable::fails);
+    const bool isListed = std::find(changed.begin(), changed.end(), item) != changed.end();
+    if (operation == "relink" && isListed)
+        store.relink(item, profile);
+    // When a run was interrupted, the source's may already be in the Trash.
+    else if (operation == "bring" && (isListed || (files.exists(item.own) && !files.linkTarget(item.own))))
+        store.bringToSource(item, profile);
 }
 
 void run(const Words& words, ProfileStore& store) {
