@@ -18,19 +18,30 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view kKey = "claudeMdExcludes";
 constexpr std::string_view kEverything = "/**";
-constexpr std::string_view kPatternCharacters = "*?[]{}()|!\\";
+constexpr std::string_view kPatternCharacters = "*?[]{}()|!";
+constexpr std::string_view kUnresolved = "*?[]{}()|!\\"; ///< after these, links in an entry aren't resolved
 
 fs::path pathIn(const fs::path& builtIn, Component component) {
     return builtIn / location(component);
 }
 
 /// A pattern for everything in `folder`. Its own special characters become "?", as patterns have no escapes.
+/// A backslash is none: Claude Code takes it for "/", in patterns as in paths.
 std::string everythingIn(const fs::path& folder) {
     std::string pattern = folder.string();
     std::replace_if(
         pattern.begin(), pattern.end(),
         [](char byte) { return kPatternCharacters.find(byte) != std::string::npos; }, '?');
     return pattern.append(kEverything);
+}
+
+bool holdsAny(std::string_view text, std::string_view characters) {
+    return text.find_first_of(characters) != text.npos;
+}
+
+/// The folder of an entry that ends in "/**", or the path that the entry is.
+std::string_view placeOf(std::string_view entry) {
+    return entry.ends_with(kEverything) ? entry.substr(0, entry.size() - kEverything.size()) : entry;
 }
 
 class RulesWalk {
@@ -60,10 +71,9 @@ public:
 
 private:
     void add(const fs::path& entry, Found& found) {
-        std::error_code error;
         if (!isUtf8(entry.native())) // Claude Code can't open it
             return;
-        if (fs::is_directory(entry, error)) {
+        if (leadsToFolder(entry)) {
             const Found below = in(entry);
             found.excludes.insert(found.excludes.end(), below.excludes.begin(), below.excludes.end());
             found.isTaken = found.isTaken || below.isTaken;
@@ -81,9 +91,8 @@ private:
     std::set<fs::path> m_listed;
 };
 
-} // namespace
-
-InstructionExcludes InstructionExcludes::of(const fs::path& builtIn, const Instructions& taken) {
+/// All of `of` that is spelled below `builtIn`.
+InstructionExcludes excludesBelow(const fs::path& builtIn, const Instructions& taken) {
     InstructionExcludes result;
     if (!isUtf8(builtIn.native())) // Claude Code can't use such a folder either
         return result;
@@ -98,7 +107,8 @@ InstructionExcludes InstructionExcludes::of(const fs::path& builtIn, const Instr
     return result;
 }
 
-bool isInstructionExclude(std::string_view entry, const fs::path& builtIn) {
+/// Whether `excludesBelow` makes such an entry.
+bool isExcludeBelow(std::string_view entry, const fs::path& builtIn) {
     if (entry == pathIn(builtIn, Component::claudeMd).native())
         return true;
     const std::string rules = pathIn(builtIn, Component::rules).string();
@@ -111,12 +121,31 @@ bool isInstructionExclude(std::string_view entry, const fs::path& builtIn) {
         return true;
     if (!below.starts_with('/'))
         return false;
-    std::error_code error;
     if (below.ends_with(kEverything))
-        return below.substr(0, below.size() - kEverything.size()).find_first_of("*[]{}()|!\\") == below.npos;
+        return !holdsAny(placeOf(below), "*[]{}()|!");
     // A rule's own name may hold such characters; otherwise they make a pattern of the user's.
     return Instructions::isRule(below) &&
-           (below.find_first_of(kPatternCharacters) == below.npos || fs::exists(fs::path(entry), error));
+           (!holdsAny(below, kPatternCharacters) || FileManager().isPresent(fs::path(entry)));
+}
+
+} // namespace
+
+InstructionExcludes InstructionExcludes::of(const fs::path& builtIn, const Instructions& taken) {
+    InstructionExcludes result = excludesBelow(builtIn, taken);
+    const fs::path resolved = resolvedAsFarAsPossible(builtIn);
+    if (resolved == builtIn)
+        return result;
+    // Claude Code compares resolved paths. It resolves the links in an entry itself, but only as far as a
+    // special character, and takes those that come with a link's target for a pattern's.
+    for (const std::string& entry : excludesBelow(resolved, taken).entries) {
+        if (holdsAny(builtIn.native(), kUnresolved) || holdsAny(placeOf(entry), kUnresolved))
+            result.entries.push_back(entry);
+    }
+    return result;
+}
+
+bool isInstructionExclude(std::string_view entry, const fs::path& builtIn) {
+    return isExcludeBelow(entry, builtIn) || isExcludeBelow(entry, resolvedAsFarAsPossible(builtIn));
 }
 
 std::optional<Json> withInstructionExcludes(const Json& settings, const std::vector<std::string>& entries,

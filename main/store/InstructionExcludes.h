@@ -21,13 +21,14 @@ struct InstructionExcludes {
     bool matchesAny = false; ///< whether there is anything now that they keep out
 
     /// Everything in the folder `builtIn` that isn't among `taken`. An entry ending in "/**" stands for a
-    /// folder of rules none of which is taken, so it also keeps out what is added there later. Throws if a
-    /// folder of rules is there but can't be listed.
+    /// folder of rules none of which is taken, so it also keeps out what is added there later. Some entries
+    /// come twice, also with the links on the way to `builtIn` resolved. Throws if anything can't be looked
+    /// at.
     static InstructionExcludes of(const std::filesystem::path& builtIn, const Instructions& taken);
 };
 
 /// Whether `of` makes such entries: CLAUDE.md, a rule or a folder of rules, by its path below `builtIn`. Any
-/// other entry is the user's.
+/// other entry is the user's. Throws if that can't be determined.
 bool isInstructionExclude(std::string_view entry, const std::filesystem::path& builtIn);
 
 /// `settings` with those of its entries that `isInstructionExclude` knows replaced by `entries`. All others

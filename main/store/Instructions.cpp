@@ -3,6 +3,7 @@
 
 #include "store/Instructions.h"
 
+#include "platform/files/Descriptor.h"
 #include "platform/files/FileManager.h"
 
 namespace selvane {
@@ -14,6 +15,19 @@ namespace fs = std::filesystem;
 constexpr int kDeepestInclude = 8;
 constexpr std::size_t kLongestInstructions = 4U << 20;
 constexpr int kMostLinks = 40;
+
+/// What a file of instructions holds; nothing if nothing is there, or something that holds none: a folder, a
+/// pipe, or far too much.
+std::string instructionsIn(const fs::path& file) {
+    try {
+        return FileManager().readIfPresent(file, kLongestInstructions).value_or("");
+    } catch (const fs::filesystem_error& error) {
+        if (error.code() == std::errc::is_a_directory || error.code() == std::errc::invalid_argument ||
+            error.code() == std::errc::value_too_large)
+            return {};
+        throw;
+    }
+}
 
 bool isBlank(char byte) {
     return byte == ' ' || byte == '\t' || byte == '\n' || byte == '\r';
@@ -40,23 +54,32 @@ std::vector<std::string> includedPaths(std::string_view text) {
 
 fs::path resolvedAsFarAsPossible(fs::path path) {
     const FileManager files;
-    std::error_code error;
-    for (int links = 0; links < kMostLinks && !fs::exists(path, error); ++links) {
+    for (int links = 0; links < kMostLinks && !files.isPresent(path); ++links) {
         const auto target = files.linkTarget(path);
         if (!target)
             break;
         path = path.parent_path() / *target;
     }
+    std::error_code error;
     fs::path resolved = fs::weakly_canonical(path, error);
+    if (error && !files::meansMissing(error.value()))
+        files::fail("look up", path, error.value());
     return error ? path.lexically_normal() : resolved;
+}
+
+bool leadsToFolder(const fs::path& path) {
+    std::error_code error;
+    const fs::file_status status = fs::status(path, error);
+    if (error && !files::meansMissing(error.value()))
+        files::fail("look up", path, error.value());
+    return fs::is_directory(status);
 }
 
 void Instructions::addFile(const fs::path& file, int depth) {
     const fs::path resolved = resolvedAsFarAsPossible(file);
     if (!m_files.insert(resolved).second || depth == kDeepestInclude)
         return;
-    const auto text = FileManager().readIfPossible(resolved, kLongestInstructions);
-    for (const std::string& path : includedPaths(text.value_or(""))) {
+    for (const std::string& path : includedPaths(instructionsIn(resolved))) {
         if (path.starts_with("~/")) {
             addFile(m_home / path.substr(2), depth + 1);
             continue;
@@ -69,8 +92,7 @@ void Instructions::addFile(const fs::path& file, int depth) {
 
 void Instructions::addRules(const fs::path& rules) {
     const FileManager files;
-    std::error_code error;
-    if (!fs::is_directory(rules, error)) {
+    if (!leadsToFolder(rules)) {
         if (isRule(rules.filename().native()))
             addFile(rules);
         return;
@@ -84,8 +106,7 @@ void Instructions::addRules(const fs::path& rules) {
 }
 
 void Instructions::addLinkTo(const fs::path& rule) {
-    std::error_code error;
-    if (fs::is_directory(rule, error))
+    if (leadsToFolder(rule))
         m_folders.insert(resolvedAsFarAsPossible(rule));
     addRules(rule);
 }

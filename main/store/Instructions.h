@@ -16,7 +16,8 @@ namespace selvane {
 std::vector<std::string> includedPaths(std::string_view text);
 
 /// The files that Claude Code reads for a CLAUDE.md or for rules: they themselves and what they include, with
-/// links resolved. Files that don't exist yet count as well; those that can't be read include nothing.
+/// links resolved. Files that don't exist yet count as well. What this finds decides what a profile keeps
+/// out, so everything here throws if something is there, or may be, but can't be looked at or read.
 class Instructions {
 public:
     explicit Instructions(std::filesystem::path home) : m_home(std::move(home)) {}
@@ -24,7 +25,6 @@ public:
     /// Adds a file and what it includes.
     void addFile(const std::filesystem::path& file) { addFile(file, 0); }
     /// Adds a rule, or all of a folder's. A link to a folder stands for everything that is or will be in it.
-    /// Throws if a folder is there but can't be listed.
     void addRules(const std::filesystem::path& rules);
     /// Adds what a link to `rule`, a rule or a folder of rules, would stand for.
     void addLinkTo(const std::filesystem::path& rule);
@@ -45,7 +45,9 @@ private:
     std::set<std::filesystem::path> m_listed;
 };
 
-/// `path` with all links resolved, as far as it exists.
+/// `path` with all links resolved, as far as it exists. Throws if that can't be determined.
 std::filesystem::path resolvedAsFarAsPossible(std::filesystem::path path);
+/// Whether a folder is at `path`, or where the link there leads. Throws if that can't be determined.
+bool leadsToFolder(const std::filesystem::path& path);
 
 } // namespace selvane

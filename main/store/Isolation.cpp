@@ -51,6 +51,8 @@ Profile ProfileStore::setIsolated(bool isolated, const Profile& profile) {
     const Profile before = current(profile);
     Profile changed = before;
     changed.meta.isolated = isolated;
+    if (isolated) // if that fails, nothing has changed yet
+        static_cast<void>(excludes(changed));
     // As long as there may be entries, the record says that it is isolated: if this is interrupted, the next
     // `sync` brings both in line.
     if (!isolated)

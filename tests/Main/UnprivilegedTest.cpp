@@ -38,7 +38,9 @@ TEST(CommandUnprivileged, WhatCannotBeReadIsLeftOutOrNamed) {
     writeFile(records / "local_1.json", R"({"sessionId": "s1"})");
     writeFile(home / ".claude/CLAUDE.md", "regole");
     writeFile(home / ".claude/projects/p/c1.jsonl", "");
+    writeFile(home / ".claude/rules/a.md", "");
     home.output({"create", "Lavoro", "--from", "default"});
+    home.output({"create", "Cliente", "--from", "default", "--isolated", "yes", "--mode", "rules=none"});
     const fs::path own = home / ".claude-profiles/lavoro";
     const auto denied = [](const fs::path& path) { return failure(path.string() + ": permesso negato"); };
     const struct {
@@ -62,6 +64,9 @@ TEST(CommandUnprivileged, WhatCannotBeReadIsLeftOutOrNamed) {
          {"set-mode", "lavoro", "CLAUDE.md=separate"},
          denied(home / ".claude/CLAUDE.md")},
         {own / "CLAUDE.md", {"set-mode", "lavoro", "CLAUDE.md=separate"}, denied(own / "CLAUDE.md")},
+        // It may include the rules, so nobody knows what an isolated profile has to keep out.
+        {home / ".claude/CLAUDE.md", {"sync", "cliente"}, denied(home / ".claude/CLAUDE.md")},
+        {home / ".claude/rules", {"sync", "cliente"}, denied(home / ".claude/rules")},
         {records / "local_1.json",
          {"import-sessions", "default", "lavoro"},
          denied(records / "local_1.json")},

@@ -45,8 +45,8 @@ class IsolationTest(Trial):
         self.selvane("sync", "unito")
         self.assertEqual(self.ask("unito", cwd=work).marks, {"MARK-main", "MARK-b", "MARK-own-rule"} | PROJECT)
 
-    def move_behind_a_link(self, path):
-        target = self.base / f"behind-{path.name}"
+    def move_behind_a_link(self, path, folder=None):
+        target = (folder or self.base) / f"behind-{path.name}"
         path.rename(target)
         path.symlink_to(target)
 
@@ -66,10 +66,17 @@ class IsolationTest(Trial):
                                      {"MARK-main", "MARK-b", "MARK-own-rule"} | PROJECT)
 
     def test_names_with_special_characters_are_kept_out_too(self):
-        self.home = self.base / "a(b)[c]{d,e}!*?" / "home"
-        work = self.put_instructions()
+        for linked in (False, True):
+            with self.subTest(linked=linked):
+                self.home = self.base / str(linked) / "a(b)[c]{d,e}!*?\\s" / "home"
+                work = self.put_instructions()
+                if linked:
+                    self.move_behind_a_link(self.home, self.home.parent)
+                self.keep_out_special_names(work)
+
+    def keep_out_special_names(self, work):
         for number, name in enumerate(("x[1].md", "x{a,b}.md", "x*.md", "!n.md", "@(z).md", "b\\s.md", "q?.md",
-                                       "due parole.md", "+(k)|y.md", "perché.md", "(r)/v.md")):
+                                       "due parole.md", "+(k)|y.md", "perché.md", "(r)/v.md", "t\\u/w.md")):
             self.put(self.claude / "rules" / name, f"MARK-{number}\n")
         self.make("cliente", *ALONE)
         self.assertEqual(self.ask("cliente", cwd=work).marks, {"MARK-own", "MARK-own-rule"} | PROJECT)

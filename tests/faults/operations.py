@@ -228,9 +228,19 @@ def _drift():
         home.put(WORK + "rules/sicurezza.md", "Diventata propria.\n", 0o640)
         home.put(WORK + "skills/revisione/lista.md", "Diventata propria anche questa.\n")
 
+    def partly_shared(home):
+        """Of the instructions, CLAUDE.md and some rules are taken, others and a whole folder aren't."""
+        for name in ("squadra/uno.md", "squadra/due.md", "sottovoce/tre.md"):
+            home.put(f".claude/rules/{name}", f"La regola {name}.\n")
+        home.put(".claude/CLAUDE.md", "Regole di tutti.\n@rules/squadra/uno.md\n")
+        home.run("selvane", "sync", "lavoro")
+        for name in ("sicurezza.md", "squadra", "sottovoce"):
+            home.run("operation", "remove", "lavoro", "rules", name)
+
     def isolated(home):
+        partly_shared(home)
         home.run("operation", "isolate", "lavoro", "yes")
-        home.put(".claude/rules/dopo.md", "Venuta dopo.\n")
+        home.put(".claude/CLAUDE.md", "Regole di tutti.\n@rules/squadra/due.md\n")
     sync = [("selvane", "sync", "lavoro")]
     for kind, item in {"file": ["rules", "sicurezza.md"], "folder": ["skills", "revisione"]}.items():
         yield Operation(f"relink-{kind}", ["operation", "relink", "lavoro", *item], changed, then=sync)
@@ -238,11 +248,11 @@ def _drift():
     yield Operation("bring-in-steps", ["operation", "bring", "lavoro", "rules", "sicurezza.md"], changed, then=sync,
                     setting="renameat2:error=EINVAL", gap=WORK + "rules/sicurezza.md$")
     settings = {"edits": [WORK + "settings.json"]}
-    yield Operation("isolate", ["operation", "isolate", "lavoro", "yes"], **settings)
+    yield Operation("isolate", ["operation", "isolate", "lavoro", "yes"], partly_shared, **settings)
     yield Operation("isolate-off", ["operation", "isolate", "lavoro", "no"], isolated, **settings)
     yield Operation("sync-isolated", ["selvane", "sync", "lavoro"], isolated, **settings)
-    yield Operation("create-isolated", ["selvane", "create", "Nuovo", "--from", "default", "--isolated", "yes"],
-                    creates="nuovo", leaves_nothing=True)
+    yield Operation("create-isolated", ["selvane", "create", "Nuovo", "--from", "default", "--isolated", "yes",
+                                        "--mode", "rules=none"], partly_shared, creates="nuovo", leaves_nothing=True)
 
 
 OPERATIONS = [*_creations(), *_syncs(), *_collection_modes(), *_rules_modes(), *_import_modes(), *_sessions(),

@@ -104,6 +104,34 @@ TEST_F(Isolation, links_InEveryPlace_AreFollowedToTheFiles) {
                                         "~/rules/altro.md", "~/rules/sub/**"}));
 }
 
+TEST_F(Isolation, links_AmongSpecialCharacters_AreAlsoResolvedInTheEntries) {
+    writeTree(home / "d(1)\\x/.claude", {{"CLAUDE.md", ""},
+                                         {"rules/a.md", ""},
+                                         {"rules/n*.md", ""},
+                                         {"rules/s\\[t]/b.md", ""}});
+    const auto below = [&](const fs::path& builtIn) {
+        Instructions taken(home.path);
+        taken.addFile(home / "d(1)\\x/.claude/rules/a.md");
+        Texts result = InstructionExcludes::of(builtIn, taken).entries;
+        for (std::string& entry : result) {
+            EXPECT_TRUE(isInstructionExclude(entry, builtIn)) << entry;
+            entry.erase(0, home.path.native().size());
+        }
+        return result;
+    };
+    const Texts real = {"/d(1)\\x/.claude/CLAUDE.md", "/d(1)\\x/.claude/rules/n*.md",
+                        "/d?1?\\x/.claude/rules/s\\?t?/**"};
+    EXPECT_EQ(below(home / "d(1)\\x/.claude"), real);
+    fs::create_directory_symlink(home / "d(1)\\x", home / "casa");
+    Texts both = {"/casa/.claude/CLAUDE.md", "/casa/.claude/rules/n*.md", "/casa/.claude/rules/s\\?t?/**"};
+    both.insert(both.end(), real.begin(), real.end());
+    EXPECT_EQ(below(home / "casa/.claude"), both);
+    fs::remove_all(home / "d(1)\\x/.claude/rules");
+    fs::rename(home / "d(1)\\x", home / "d");
+    fs::create_directory_symlink(home / "d", home / "d(1)\\x");
+    EXPECT_EQ(below(home / "casa/.claude"), (Texts{"/casa/.claude/CLAUDE.md", "/casa/.claude/rules/**"}));
+}
+
 TEST_F(Isolation, operations_ThatChangeInstructions_KeepTheEntriesRight) {
     Profile profile = make(kAlone);
     profile = home.store.setMode(extend, Component::claudeMd, profile);
