@@ -228,11 +228,14 @@ def _drift():
         home.put(WORK + "rules/sicurezza.md", "Diventata propria.\n", 0o640)
         home.put(WORK + "skills/revisione/lista.md", "Diventata propria anche questa.\n")
 
+    def include(home, name):
+        (home / ".claude/CLAUDE.md").write_text(f"Regole di tutti.\n@rules/squadra/{name}\n")
+
     def partly_shared(home):
         """Of the instructions, CLAUDE.md and some rules are taken, others and a whole folder aren't."""
         for name in ("squadra/uno.md", "squadra/due.md", "sottovoce/tre.md"):
             home.put(f".claude/rules/{name}", f"La regola {name}.\n")
-        home.put(".claude/CLAUDE.md", "Regole di tutti.\n@rules/squadra/uno.md\n")
+        include(home, "uno.md")
         home.run("selvane", "sync", "lavoro")
         for name in ("sicurezza.md", "squadra", "sottovoce"):
             home.run("operation", "remove", "lavoro", "rules", name)
@@ -240,7 +243,7 @@ def _drift():
     def isolated(home):
         partly_shared(home)
         home.run("operation", "isolate", "lavoro", "yes")
-        home.put(".claude/CLAUDE.md", "Regole di tutti.\n@rules/squadra/due.md\n")
+        include(home, "due.md")
     sync = [("selvane", "sync", "lavoro")]
     for kind, item in {"file": ["rules", "sicurezza.md"], "folder": ["skills", "revisione"]}.items():
         yield Operation(f"relink-{kind}", ["operation", "relink", "lavoro", *item], changed, then=sync)
