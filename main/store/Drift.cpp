@@ -10,6 +10,7 @@
 #include "platform/files/FolderLock.h"
 #include "platform/text/Text.h"
 #include "store/ItemListing.h"
+#include "store/KeptOwn.h"
 
 /// Items that no longer follow their source, because a program has replaced their links by files.
 namespace selvane {
@@ -29,27 +30,12 @@ std::vector<std::string> ownNamesOfSource(const ItemListing& own, const ItemList
     return text::sorted(names);
 }
 
-bool isKeptOwn(const Profile& profile, Component component, const std::string& name) {
-    const auto kept = profile.meta.keptOwn.find(std::string(rawValue(component)));
-    return kept != profile.meta.keptOwn.end() &&
-           std::find(kept->second.begin(), kept->second.end(), name) != kept->second.end();
-}
-
 LauncherError notChanged(const ChangedItem& item) {
     return LauncherError("\"" + text::singleLine(item.name) +
                          "\" non risulta più modificato: aggiorna e riprova");
 }
 
 } // namespace
-
-void ProfileStore::forgetKept(ProfileMeta& meta, Component component, const std::string& name) {
-    const auto kept = meta.keptOwn.find(std::string(rawValue(component)));
-    if (kept == meta.keptOwn.end())
-        return;
-    std::erase(kept->second, name);
-    if (kept->second.empty())
-        meta.keptOwn.erase(kept);
-}
 
 std::vector<ChangedItem> ProfileStore::changedItems(Component component, const Profile& profile,
                                                     Unreadable unreadable) const {
@@ -63,13 +49,13 @@ std::vector<ChangedItem> ProfileStore::changedItems(Component component, const P
         if (kind(component) == ComponentKind::memory) {
             const std::string name = own.filename().string();
             if (m_files.isRegularFile(own) && m_files.isPresent(origin) &&
-                !isKeptOwn(profile, component, name))
+                !isKeptOwn(profile.meta, component, name))
                 changed.push_back({component, name, own, origin});
         } else if (isCollection(component) && !m_files.linkTarget(own)) {
             const std::set<std::string> excluded = profile.excluded(component);
             for (const std::string& name :
                  ownNamesOfSource(ItemListing(component, own), ItemListing(component, origin))) {
-                if (!excluded.contains(name) && !isKeptOwn(profile, component, name))
+                if (!excluded.contains(name) && !isKeptOwn(profile.meta, component, name))
                     changed.push_back({component, name, own / name, origin / name});
             }
         }
@@ -165,11 +151,7 @@ Profile ProfileStore::bringToSource(const ChangedItem& item, const Profile& prof
 }
 
 Profile ProfileStore::keepOwn(const ChangedItem& item, const Profile& profile) {
-    return changeMeta(profile, [&](ProfileMeta& meta) {
-        auto& kept = meta.keptOwn[std::string(rawValue(item.component))];
-        if (std::find(kept.begin(), kept.end(), item.name) == kept.end())
-            kept.insert(std::upper_bound(kept.begin(), kept.end(), item.name), item.name);
-    });
+    return changeMeta(profile, [&](ProfileMeta& meta) { keep(meta, item.component, item.name); });
 }
 
 } // namespace selvane

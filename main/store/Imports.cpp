@@ -55,8 +55,8 @@ void ProfileStore::importFile(Component component, const Profile& to, const Prof
     files.replaceTrashing(to.url(component), [&](const fs::path& temporary) {
         files.copy(files.resolved(origin), temporary, Privacy::ownerOnly);
         rewritePaths(temporary, from, to, files);
-        if (component == Component::settings && from.meta.isolated)
-            dropExcludes(temporary, files);
+        if (component == Component::settings && (from.meta.isolated || to.meta.isolated))
+            exchangeExcludes(temporary, to, files);
     });
 }
 

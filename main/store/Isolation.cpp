@@ -93,11 +93,13 @@ void ProfileStore::removeExcludes(const fs::path& file) {
     });
 }
 
-/// The same for a copy of an isolated profile's settings, which nobody else knows yet.
-void ProfileStore::dropExcludes(const fs::path& copy, const FileManager& files) {
+/// Gives a copy of another profile's settings, which nobody else knows yet, the entries of the profile that
+/// it is for: none unless that is isolated. Its instructions must be there already.
+void ProfileStore::exchangeExcludes(const fs::path& copy, const Profile& to, const FileManager& files) {
     try {
         const Json settings = json::parse(files.read(copy), copy);
-        if (const auto changed = withInstructionExcludes(settings, {}, m_defaultDir))
+        const auto entries = to.meta.isolated ? excludes(to).entries : std::vector<std::string>();
+        if (const auto changed = withInstructionExcludes(settings, entries, m_defaultDir))
             files.write(copy, json::serialized(*changed));
     } catch (const JsonError&) { // no JSON; it stays as it is
     }

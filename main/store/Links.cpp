@@ -10,6 +10,7 @@
 #include "platform/files/FileBatch.h"
 #include "platform/text/Text.h"
 #include "store/ItemListing.h"
+#include "store/KeptOwn.h"
 #include "store/OwnFolder.h"
 
 namespace selvane {
@@ -199,12 +200,20 @@ void ProfileStore::setCollectionMode(ShareMode mode, Component component, Profil
 void ProfileStore::makeOwn(const ComponentItem& item, const Profile& profile) {
     const FolderLock lock = locked(profile);
     requireNoLink(profile.configDir, item.url.parent_path());
-    if (!m_files.linkTarget(item.url))
-        return;
-    const fs::path origin = m_files.resolved(item.url);
-    announce(origin);
-    m_files.replaceLink(item.url, [&](const fs::path& temporary) { m_files.copy(origin, temporary); });
-    updateExcludes(current(profile));
+    if (m_files.linkTarget(item.url)) {
+        const fs::path origin = m_files.resolved(item.url);
+        announce(origin);
+        m_files.replaceLink(item.url, [&](const fs::path& temporary) { m_files.copy(origin, temporary); });
+    }
+    // Made on purpose, it's no item that a program has changed.
+    Profile changed = current(profile);
+    for (const ChangedItem& own : changedItems(changed)) {
+        if (own.own == item.url) {
+            keep(changed.meta, own.component, own.name);
+            saveMeta(changed);
+        }
+    }
+    updateExcludes(changed);
 }
 
 void ProfileStore::copyMissing(Component component, const Profile& to, const Profile& from,

@@ -258,7 +258,6 @@ private:
     void addCopy(const std::filesystem::path& item, const Profile& to, Component component, FileBatch& batch);
     void setCollectionMode(ShareMode mode, Component component, Profile& profile, const Profile& source);
     void copyMissing(Component component, const Profile& to, const Profile& from, FileBatch& batch);
-    static void forgetKept(ProfileMeta& meta, Component component, const std::string& name);
     static std::filesystem::path changedPath(const ChangedItem& item, const Profile& in);
     Profile sourceOfChanged(const ChangedItem& item, const Profile& profile) const;
     Profile relinkEach(const std::vector<ChangedItem>& items, Profile profile);
@@ -267,7 +266,7 @@ private:
     InstructionExcludes excludes(const Profile& profile) const;
     void updateExcludes(const Profile& profile);
     void removeExcludes(const std::filesystem::path& file);
-    void dropExcludes(const std::filesystem::path& copy, const FileManager& files);
+    void exchangeExcludes(const std::filesystem::path& copy, const Profile& to, const FileManager& files);
 
     std::filesystem::path desktopFolder(const std::string& owner) const;
     void assumeConfig(ClaudeApp::Instance& copy) const;

@@ -264,6 +264,7 @@ TEST_F(Links, makeOwn_EachKind_LeavesOwnContent) {
                               {"tre.md", "written meanwhile"},
                               {"uno.md", link("uno.md")},
                               {"rotto", "-> /nowhere"}}));
+    EXPECT_TRUE(home.store.changedItems(*home.store.profile(profile.id)).empty()) << "it was meant so";
 }
 
 TEST_F(Links, remove_ThenImport_ExcludesAndTakesBack) {
