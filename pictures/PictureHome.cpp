@@ -48,7 +48,9 @@ void PictureHome::fillBuiltIn() const {
                                  {"agents/archivista.md", "Tiene in ordine."},
                                  {"output-styles/conciso.md", "Poche righe."},
                                  {"output-styles/didattico.md", "Passo per passo."}});
-    writeFile(path / ".claude.json", R"({"mcpServers": {"archivio": {}, "meteo": {}}})");
+    writeFile(
+        path / ".claude.json",
+        R"({"mcpServers": {"archivio": {}, "meteo": {}}, "oauthAccount": {"emailAddress": "anna@esempio.it"}})");
     const auto sessions = path / ".config/Claude/claude-code-sessions/conto/org";
     const char* const titles[] = {"Carrello: prezzi e sconti",    "Perché la ricerca è lenta",
                                   "Note di rilascio 2.4",         "Migrazione a PostgreSQL 17",
@@ -73,8 +75,16 @@ void PictureHome::makeWork() {
                                {"rules/tono-di-voce.md", "Cortese e diretto."}});
     writeFile(path / "dotfiles/tabelle-pdf/SKILL.md", "---\nname: tabelle\n---\n");
     std::filesystem::remove_all(path / ".claude/skills/esporta-grafici");
+    changeHere(made);
     for (int i = 0; i < kPendingSessions; ++i)
         writeFile(made.configDir / ".pending-sessions" / ("local_" + std::to_string(i) + ".json"), "{}");
+}
+
+/// What an editor leaves in the place of links.
+void PictureHome::changeHere(const Profile& work) const {
+    std::filesystem::remove(work.configDir / "skills/code-review");
+    writeFile(work.configDir / "skills/code-review/SKILL.md", "---\nname: skill\n---\nSenza fretta.\n");
+    writeFile(work.configDir / ".claude.json", R"({"oauthAccount": {"emailAddress": "anna@esempio.it"}})");
 }
 
 void PictureHome::makeOthers() {
@@ -93,6 +103,7 @@ void PictureHome::launched(const std::string& id, std::chrono::hours ago) {
     store.markLaunched(profile);
     profile = *store.profile(id);
     *profile.meta.lastLaunched -= ago;
+    profile.meta.created = std::chrono::sys_days(2026y / 1 / 12) + 12h;
     store.saveMeta(profile);
 }
 

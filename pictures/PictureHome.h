@@ -23,6 +23,7 @@ public:
 private:
     void fillBuiltIn() const;
     void makeWork();
+    void changeHere(const Profile& work) const;
     void makeOthers();
     void launched(const std::string& id, std::chrono::hours ago);
     void openInClaude(const Profile& profile);

@@ -53,6 +53,11 @@ const Profile* AppModel::profile(const QString& id) const {
     return nullptr;
 }
 
+QString AppModel::builtInName() const {
+    const Profile* builtIn = profile(QString::fromUtf8(Profile::kDefaultId));
+    return builtIn == nullptr ? QString() : QString::fromStdString(builtIn->meta.name);
+}
+
 QString AppModel::firstOther(const QString& id) const {
     for (const Profile& candidate : m_profiles) {
         if (QString other = QString::fromStdString(candidate.id); other != id)
@@ -146,10 +151,12 @@ void AppModel::sync(const QString& id) {
     const Profile* current = profile(id);
     if (current == nullptr)
         return;
-    performSoon(tr("Sincronizzazione…"), [profile = *current](ProfileStore& store) {
+    performSoon(tr("Sincronizzazione…"), [profile = *current, &told = m_toldChanges](ProfileStore& store) {
         const SyncReport report = store.sync(profile);
-        return changedLinks(static_cast<qsizetype>(report.added.size()),
-                            static_cast<qsizetype>(report.removed.size()));
+        const QString links = changedLinks(static_cast<qsizetype>(report.added.size()),
+                                           static_cast<qsizetype>(report.removed.size()));
+        const QString news = told.news(store, profile);
+        return news.isEmpty() ? links : links + " · " + news;
     });
 }
 
@@ -199,6 +206,12 @@ std::function<void()> AppModel::sayUnreached(const QString& problem, const std::
 void AppModel::reveal(const std::filesystem::path& item) {
     m_desktop.reveal(item,
                      sayUnreached(tr("Nessun programma può mostrare la cartella. Si trova qui: %1"), item));
+}
+
+bool AppModel::compare(const std::filesystem::path& first, const std::filesystem::path& second) {
+    bool isShown = true; // after a failure, which is reported, too
+    perform([&] { isShown = m_desktop.compare(first, second); });
+    return isShown;
 }
 
 void AppModel::open(const std::filesystem::path& file) {

@@ -17,6 +17,7 @@
 
 #include "AppModel/DesktopBridge.h"
 #include "AppModel/Preferences.h"
+#include "AppModel/ToldChanges.h"
 #include "AppModel/WorkProgress.h"
 #include "desktop/ClaudeApp.h"
 #include "store/ProfileStore.h"
@@ -26,7 +27,8 @@ namespace selvane {
 /// What the sheet asks for when it creates a profile.
 struct ProfileRequest {
     NewProfile profile;
-    bool copySessions = false; ///< only with a source
+    bool copySessions = false;      ///< only with a source
+    std::optional<bool> isolated{}; ///< nothing: where it makes a difference
 };
 
 /// The one object behind every window: the loaded profiles, what the interface shows about actions in
@@ -68,6 +70,7 @@ public:
     std::optional<std::string> activeID() const { return m_store.activeID(); }
     const Profile* profile(const QString& id) const; ///< null if no loaded profile has that id
     const Profile* selected() const { return profile(m_selection); }
+    QString builtInName() const; ///< the built-in profile's name
     /// Id of the first profile other than this one, the first choice of where to take things from. Empty if
     /// there is no other.
     QString firstOther(const QString& id) const;
@@ -130,6 +133,8 @@ public slots:
     void revealDamaged(int index); ///< in `damaged`
     void repairDamaged(int index);
     void reveal(const std::filesystem::path& item);
+    /// Shows the differences in the desktop's program for that. False if it has none.
+    bool compare(const std::filesystem::path& first, const std::filesystem::path& second);
     /// If there is none, creates it first: empty, or, for JSON, with an empty object.
     void open(const std::filesystem::path& file);
 
@@ -181,6 +186,7 @@ private:
     QString m_pendingLaunch;
     QString m_offerForceQuit;
     qint64 m_revision = 0;
+    ToldChanges m_toldChanges;
     WorkProgress m_workProgress;
     QString m_launching;        ///< id of the profile that is being launched; empty for none
     int m_archiveQuestions = 0; ///< how many save dialogs haven't been answered

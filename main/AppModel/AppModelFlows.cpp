@@ -23,6 +23,7 @@ struct AppModel::LaunchPlan {
 struct AppModel::LaunchResult {
     bool hasQuit = true;
     Failure failure;
+    QString news; ///< about items that no longer follow their source
 };
 
 /// The profile with which another profile's account is open; null if unknown.
@@ -128,6 +129,7 @@ void AppModel::runLaunch(LaunchPlan plan, LaunchStep step) {
                 },
                 Qt::QueuedConnection);
             m_claude.launch(plan.profile, m_store, start);
+            result.news = m_toldChanges.news(m_store, plan.profile);
         });
         return result;
     };
@@ -158,6 +160,8 @@ void AppModel::finishLaunch(const Profile& profile, const LaunchResult& result) 
         setText(m_errorMessage, *result.failure, &AppModel::errorMessageChanged);
     } else {
         reload();
+        if (!result.news.isEmpty())
+            setNotice(result.news);
         endIfWanted();
     }
 }

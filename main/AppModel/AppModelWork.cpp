@@ -102,7 +102,9 @@ void AppModel::importSessions(const std::vector<CodeSession>& sessions, const Pr
 void AppModel::create(const ProfileRequest& request, Done succeeded) {
     const auto made = std::make_shared<QString>(); // its id, written by the work and read after it
     const Work work = [request, made](ProfileStore& store) -> QString {
-        const Profile profile = store.create(request.profile);
+        NewProfile wanted = request.profile;
+        wanted.isolated = request.isolated ? *request.isolated : store.isolationMatters(wanted);
+        const Profile profile = store.create(wanted);
         *made = QString::fromStdString(profile.id);
         if (!request.copySessions || !request.profile.from)
             return {};

@@ -31,6 +31,8 @@ public:
     virtual void reveal(const std::filesystem::path& item, std::function<void()> failed) = 0;
     /// Opens a file with its default application. Calls `failed`, perhaps later, if there is none.
     virtual void open(const std::filesystem::path& file, std::function<void()> failed) = 0;
+    /// Opens two files or folders in a program that shows their differences. False if there is none.
+    virtual bool compare(const std::filesystem::path& first, const std::filesystem::path& second) = 0;
     /// Asks where to save a zip archive; `done` gets nothing if the user cancels. Doesn't block.
     virtual void askForArchive(const QString& proposedName,
                                std::function<void(std::optional<std::filesystem::path>)> done) = 0;

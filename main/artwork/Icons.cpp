@@ -87,6 +87,7 @@ constexpr SymbolEntry kSymbols[] = {
     {"trash", "trash"},
     {"bubble.left.and.text.bubble.right", "chats"},
     {"link", "link"},
+    {"shield", "shield"},
     {"exclamationmark.triangle", "warning"},
     {"ellipsis.circle", "dots-three-circle"},
 };

@@ -19,7 +19,9 @@ struct FakeBridge final : DesktopBridge {
     bool keepsClipboard = true;
     std::vector<std::filesystem::path> revealed;
     std::vector<std::filesystem::path> opened;
-    bool hasPrograms = true; ///< that show and open files
+    bool hasPrograms = true;                     ///< that show and open files
+    bool hasComparison = false;                  ///< a program that compares files
+    std::vector<std::filesystem::path> compared; ///< two at a time
     QString proposedName;
     std::optional<std::filesystem::path> archive; ///< the answer of the save dialog
     bool answersLater = false;                    ///< when `answer` is called
@@ -36,6 +38,11 @@ struct FakeBridge final : DesktopBridge {
     }
     void open(const std::filesystem::path& file, std::function<void()> failed) override {
         reach(opened, file, failed);
+    }
+    bool compare(const std::filesystem::path& first, const std::filesystem::path& second) override {
+        if (hasComparison)
+            compared.insert(compared.end(), {first, second});
+        return hasComparison;
     }
     void reach(std::vector<std::filesystem::path>& reached, const std::filesystem::path& item,
                const std::function<void()>& failed) const {

@@ -72,6 +72,11 @@ void TestHome::write(const QString& path, const QString& content) {
     writeFile(place().home / path.toStdString(), content.toStdString());
 }
 
+void TestHome::replace(const QString& path, const QString& content) {
+    remove(path);
+    write(path, content);
+}
+
 void TestHome::remove(const QString& path) {
     fs::remove_all(place().home / path.toStdString());
 }

@@ -35,6 +35,7 @@ public:
     Q_INVOKABLE void begin();
 
     Q_INVOKABLE void write(const QString& path, const QString& content = {});
+    Q_INVOKABLE void replace(const QString& path, const QString& content); ///< even a link
     /// The text of a file, "-> ~/target" for a link, "/" for a folder, "" for nothing.
     Q_INVOKABLE QString what(const QString& path) const;
     Q_INVOKABLE void remove(const QString& path); ///< with its contents

@@ -10,7 +10,7 @@ import Selvane
 Rectangle {
     id: badge
 
-    enum Kind { Merged, Linked, Own, Broken }
+    enum Kind { Merged, Linked, Own, Broken, Changed }
 
     required property int kind
     required property string text
@@ -22,6 +22,8 @@ Rectangle {
             return Theme.textSoft
         case Badge.Broken:
             return Theme.danger
+        case Badge.Changed:
+            return Theme.lit
         default:
             return Theme.linked
         }
@@ -38,6 +40,8 @@ Rectangle {
             return badge.isRowHovered ? Theme.separator : Theme.raised
         case Badge.Broken:
             return Theme.accent2Soft
+        case Badge.Changed:
+            return Theme.accentSoft
         default:
             return Theme.transparent
         }

@@ -50,6 +50,7 @@ QtObject {
     readonly property color accent2Pressed: "#df7786"
     readonly property color coolSoft: Qt.alpha(brand.cool, 0.14)
     readonly property color coolLine: Qt.alpha(brand.cool, 0.55)
+    readonly property color accentSoft: Qt.alpha(brand.accent, 0.14)
     readonly property color accent2Soft: Qt.alpha(brand.accent2, 0.14)
     readonly property color scrim: Qt.rgba(5 / 255, 8 / 255, 7 / 255, 0.72)
     readonly property color rowHover: Qt.alpha(brand.bg3, 0.55)

@@ -107,6 +107,10 @@ std::unique_ptr<QObject> makeSystemShell(LauncherApp& launcher) {
     return shell;
 }
 
+QStringList comparisonPrograms() {
+    return {QStringLiteral("meld"), QStringLiteral("kompare")};
+}
+
 void revealItem(const std::filesystem::path& item, std::function<void()> failed) {
     QDBusConnection bus = QDBusConnection::sessionBus();
     const auto openFolder = [folder = item.parent_path(), failed = std::move(failed)] {

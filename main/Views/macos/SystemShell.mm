@@ -116,6 +116,12 @@ std::unique_ptr<QObject> makeSystemShell(LauncherApp& launcher) {
     return std::make_unique<MacShell>(launcher);
 }
 
+/// Opens FileMerge, which comes with Xcode; without it, the command is there but does nothing.
+QStringList comparisonPrograms() {
+    const QString fileMerge = QStringLiteral("/Applications/Xcode.app/Contents/Applications/FileMerge.app");
+    return QFileInfo::exists(fileMerge) ? QStringList{QStringLiteral("opendiff")} : QStringList();
+}
+
 /// The Finder is always there.
 void revealItem(const std::filesystem::path& item, std::function<void()> /*failed*/) {
     struct stat status = {};

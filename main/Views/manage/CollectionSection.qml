@@ -12,12 +12,14 @@ Card {
 
     required property ComponentModel component
     required property ItemMenu menu
+    required property ChangedMenu changedMenu
     /// The visible part of the scrolled column, measured from the section's top.
     required property real visibleTop
     required property real visibleHeight
 
     signal rowReached(Item row)
     signal importAsked
+    signal relinkAsked
 
     implicitHeight: Theme.manage.sectionHeader + items.height + Theme.manage.sectionFooter + Theme.hairline
 
@@ -29,6 +31,7 @@ Card {
         height: Theme.manage.sectionHeader
         component: section.component
         note: section.component.count
+        onRelinkAsked: section.relinkAsked()
     }
     ItemList {
         id: items
@@ -39,6 +42,7 @@ Card {
         height: implicitHeight
         component: section.component
         menu: section.menu
+        changedMenu: section.changedMenu
         visibleTop: section.visibleTop - y
         visibleHeight: section.visibleHeight
         onRowReached: row => section.rowReached(row)

@@ -3,6 +3,13 @@
 
 #include "Views/manage/ComponentModel.h"
 
+#include <QDate>
+#include <QFile>
+#include <QFileInfo>
+#include <QLocale>
+
+#include <set>
+#include <string_view>
 #include <utility>
 
 #include "AppModel/QtText.h"
@@ -24,6 +31,13 @@ int serversIn(const fs::path& globalState) {
     } catch (const std::exception&) {
         return 0;
     }
+}
+
+/// The day on which a file was last changed, such as "9 marzo".
+QString dayOf(const fs::path& file) {
+    const QDate day = QFileInfo(QFile::decodeName(file.c_str())).lastModified().date();
+    const bool isThisYear = day.year() == QDate::currentDate().year();
+    return QLocale(QLocale::Italian).toString(day, isThisYear ? "d MMMM" : "d MMMM yyyy");
 }
 
 ItemListModel::Kind kindOf(const ComponentItem& item, bool isMerged) {
@@ -59,9 +73,15 @@ ComponentModel::Content ComponentModel::read(const ProfileStore& store, const Pr
                                              const std::optional<Profile>& source, Component component) {
     Content content;
     content.isRead = true;
+    content.changed = store.changedItems(component, profile);
     if (selvane::isCollection(component)) {
+        std::set<std::string_view> changed;
+        for (const ChangedItem& item : content.changed)
+            changed.insert(item.name);
         for (ComponentItem& item : store.items(component, profile)) {
-            const auto kind = kindOf(item, source && store.isLinked(item, *source, component));
+            const auto kind = changed.contains(item.name)
+                                  ? ItemListModel::Changed
+                                  : kindOf(item, source && store.isLinked(item, *source, component));
             content.items.push_back({std::move(item), kind});
         }
         return content;
@@ -74,6 +94,8 @@ ComponentModel::Content ComponentModel::read(const ProfileStore& store, const Pr
             content.linkTarget = target->string();
     } catch (const fs::filesystem_error&) { // shown as missing
     }
+    if (!content.changed.empty())
+        content.changedOn = dayOf(place);
     if (kind(component) == ComponentKind::servers)
         content.serverCount = serversIn(place);
     return content;
@@ -139,7 +161,7 @@ QString ComponentModel::count() const {
     if (total == 0)
         return tr("Nessun elemento");
     const QString elements = counted(total, tr("1 elemento"), tr("%1 elementi"));
-    if (m_profile->isDefault())
+    if (m_profile->isDefault() || !m_content.changed.empty())
         return elements;
     const int links = m_items.linkCount();
     return elements + " · " + counted(links, tr("1 unificato"), tr("%1 unificati")) + ", " +
@@ -151,6 +173,8 @@ QString ComponentModel::description() const {
         return {};
     if (m_content.linkTarget)
         return tr("Collegato a %1").arg(linkTarget());
+    if (!m_content.changed.empty())
+        return tr("Modificato il %1: non segue più «%2»").arg(m_content.changedOn, sourceName());
     if (kind(m_component) != ComponentKind::servers)
         return qtText(selvane::description(m_component, m_content.exists));
     const int count = m_content.serverCount;

@@ -11,6 +11,8 @@
 #include <vector>
 
 #include "AppModel/AppModel.h"
+#include "AppModel/Differences.h"
+#include "AppModel/Reading.h"
 #include "Views/manage/ItemListModel.h"
 
 namespace selvane {
@@ -44,6 +46,15 @@ class ComponentModel : public QObject {
     Q_PROPERTY(QString openLabel READ openLabel NOTIFY contentChanged)   ///< empty if it can't be opened
     Q_PROPERTY(bool canReimport READ canReimport NOTIFY profileChanged)
 
+    // Items that no longer follow the source
+    Q_PROPERTY(QString changed READ changed NOTIFY contentChanged) ///< how many; empty if there are none
+    Q_PROPERTY(QString relinkQuestion READ relinkQuestion NOTIFY contentChanged)
+    Q_PROPERTY(QString relinkConsequence READ relinkConsequence NOTIFY contentChanged)
+    Q_PROPERTY(QString bringConsequence READ bringConsequence NOTIFY profileChanged)
+    /// How much the item of the last `readDifference` differs from the source's.
+    Q_PROPERTY(QString difference READ difference NOTIFY differenceChanged)
+    Q_PROPERTY(QList<QString> differenceLines READ differenceLines NOTIFY differenceChanged)
+
 public:
     /// What is on disk, read on another thread.
     struct Content {
@@ -52,6 +63,8 @@ public:
         bool exists = false;
         std::optional<std::string> linkTarget;
         int serverCount = 0;
+        std::vector<ChangedItem> changed;
+        QString changedOn; ///< a day, of a changed file
     };
 
     ComponentModel(Component component, QObject* parent);
@@ -77,6 +90,12 @@ public:
     QString linkTarget() const;
     QString openLabel() const;
     bool canReimport() const;
+    QString changed() const;
+    QString relinkQuestion() const;
+    QString relinkConsequence() const;
+    QString bringConsequence() const;
+    QString difference() const;
+    QStringList differenceLines() const { return m_difference.lines; }
 
 public slots:
     void setMode(int index);
@@ -89,12 +108,22 @@ public slots:
     void remove(int row);
     void makeOwn(int row);
     void revealItem(int row);
+    // The same for a changed item; a single file has row -1.
+    void readDifference(int row);
+    bool compare(int row); ///< false if the desktop has no program for that
+    void relink(int row);
+    void bring(int row);
+    void keepOwn(int row);
+    /// Like `reimport`, about one profile.
+    void relinkAll(const QString& profileId);
 
 signals:
     void profileChanged();
     void contentChanged();
+    void differenceChanged();
 
 private:
+    const ChangedItem* changedItem(int row) const;
     std::filesystem::path place() const;
 
     const Component m_component;
@@ -102,6 +131,8 @@ private:
     std::optional<Profile> m_profile;
     ItemListModel m_items;
     Content m_content;
+    Differences m_difference;
+    Reading<Differences> m_differenceReading;
 };
 
 } // namespace selvane

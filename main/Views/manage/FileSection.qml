@@ -12,7 +12,12 @@ Card {
 
     required property ComponentModel component
 
+    readonly property bool isChanged: component.changed !== ""
+
     signal reimportAsked
+    signal relinkAsked
+    signal compareAsked
+    signal menuAsked(Item opener)
 
     implicitHeight: buttons.y + rowHeight + Theme.space12
 
@@ -28,6 +33,15 @@ Card {
         width: parent.width
         height: Theme.controls.smallHeight
         component: section.component
+        onRelinkAsked: section.relinkAsked()
+    }
+    PathIcon {
+        anchors.verticalCenter: description.verticalCenter
+        x: Theme.manage.itemIconLeft
+        visible: section.isChanged
+        symbol: "exclamationmark.triangle"
+        size: Theme.iconControl
+        color: Theme.lit
     }
     Row {
         id: description
@@ -68,6 +82,13 @@ Card {
         spacing: Theme.space8
 
         GhostButton {
+            visible: section.isChanged
+            size: GhostButton.Small
+            text: qsTr("Confronta")
+            onClicked: section.compareAsked()
+        }
+        GhostButton {
+            visible: !section.isChanged
             size: GhostButton.Small
             text: qsTr("Mostra")
             onClicked: section.component.reveal()
@@ -84,6 +105,16 @@ Card {
             text: qsTr("Reimporta")
             help: qsTr("Copia di nuovo da %1").arg(section.component.sourceName)
             onClicked: section.reimportAsked()
+        }
+        GhostButton {
+            id: more
+
+            visible: section.isChanged
+            bare: true
+            size: GhostButton.Small
+            symbol: "ellipsis.circle"
+            label: qsTr("Azioni per «%1»").arg(section.component.title)
+            onClicked: section.menuAsked(more)
         }
     }
 }

@@ -13,6 +13,7 @@ Item {
 
     required property ComponentModel component
     required property ItemMenu menu
+    required property ChangedMenu changedMenu
     /// The visible part of the scrolled column, measured from the list's top.
     required property real visibleTop
     required property real visibleHeight
@@ -36,13 +37,18 @@ Item {
         return found >= 0
     }
     function openMenu(x: real, y: real, height: real): void {
-        if (list.currentItem)
+        if (list.currentItem?.isChanged)
+            list.changedMenu.openFor(list.component, list.currentItem, cursor, x, y, height)
+        else if (list.currentItem)
             list.menu.openFor(list.component, list.currentItem, cursor, x, y, height)
     }
     function openMenuByKey(): void {
         list.openMenu(cursor.width - Theme.manage.itemMenuRight - Theme.controls.smallHeight,
                       cursor.height, cursor.height)
-        list.menu.move(1)
+        if (list.changedMenu.isOpen)
+            list.changedMenu.move(1)
+        else
+            list.menu.move(1)
     }
     function within(y: real): real {
         return Math.max(0, Math.min(y, list.implicitHeight))

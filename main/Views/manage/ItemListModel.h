@@ -25,7 +25,8 @@ public:
         Merged, ///< links to the source's item
         Linked, ///< links to something else
         Own,
-        Broken, ///< a dangling link
+        Broken,  ///< a dangling link
+        Changed, ///< own, although it would be shared
     };
     Q_ENUM(Kind)
     enum Role { NameRole = Qt::UserRole, KindRole, IsLinkRole };

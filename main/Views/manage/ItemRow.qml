@@ -24,10 +24,15 @@ Item {
             return qsTr("collegata")
         case ItemListModel.Broken:
             return qsTr("collegamento interrotto")
+        case ItemListModel.Changed:
+            return qsTr("modificata qui")
         default:
             return qsTr("propria")
         }
     }
+
+    readonly property bool isChanged: kind === ItemListModel.Changed
+    readonly property bool isBroken: kind === ItemListModel.Broken
 
     signal pressed
     signal menuAsked(real x, real y, real height) ///< at a point in the row; `height` is that of its opener
@@ -63,10 +68,10 @@ Item {
     PathIcon {
         anchors.verticalCenter: parent.verticalCenter
         x: Theme.manage.itemIconLeft - Theme.hairline
-        name: row.isLink ? "" : "file-text"
-        symbol: row.kind === ItemListModel.Broken ? "exclamationmark.triangle" : "link"
+        name: row.isLink || row.isChanged ? "" : "file-text"
+        symbol: row.isBroken || row.isChanged ? "exclamationmark.triangle" : "link"
         size: Theme.iconControl
-        color: row.kind === ItemListModel.Broken ? Theme.danger : row.isLink ? Theme.linked : Theme.textFaint
+        color: row.isBroken ? Theme.danger : row.isChanged ? Theme.lit : row.isLink ? Theme.linked : Theme.textFaint
     }
     StyledText {
         anchors.verticalCenter: parent.verticalCenter

@@ -44,6 +44,16 @@ Item {
             title: qsTr("Reimportare da «%1»?").arg(component.sourceName)
         })
     }
+    function askToRelink(profileId: string, component: ComponentModel): void {
+        sheets.open(relinkAlert, {profileId: profileId, component: component, title: component.relinkQuestion})
+    }
+    /// Shows the differences here only if the desktop has no program for that.
+    function compare(component: ComponentModel, row: int): void {
+        if (component.compare(row))
+            return
+        component.readDifference(row)
+        sheets.open(differencesSheet, {component: component})
+    }
     /// One that fades is in nobody's way.
     function open(kind: Component, values: var): void {
         if (sheets.covers)
@@ -127,6 +137,27 @@ Item {
             confirmText: qsTr("Sovrascrivi")
             destructive: true
             onConfirmed: component.reimport(profileId)
+            onClosed: sheets.drop()
+        }
+    }
+    Component {
+        id: relinkAlert
+
+        AlertDialog {
+            required property ComponentModel component
+            required property string profileId
+
+            message: component.relinkConsequence
+            confirmText: qsTr("Unifica di nuovo")
+            destructive: true
+            onConfirmed: component.relinkAll(profileId)
+            onClosed: sheets.drop()
+        }
+    }
+    Component {
+        id: differencesSheet
+
+        DifferencesSheet {
             onClosed: sheets.drop()
         }
     }

@@ -55,6 +55,8 @@ FocusScope {
         onSessionImportAsked: sheets.importSessions(detail.profileId)
         onItemImportAsked: component => sheets.importItems(detail.profileId, component)
         onReimportAsked: component => sheets.askToReimport(detail.profileId, component)
+        onRelinkAsked: component => sheets.askToRelink(detail.profileId, component)
+        onCompareAsked: (component, row) => sheets.compare(component, row)
     }
     EmptyDetail {
         anchors { left: sidebar.right; right: parent.right }

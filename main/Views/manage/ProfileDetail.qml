@@ -22,6 +22,8 @@ FocusScope {
     signal sessionImportAsked
     signal itemImportAsked(string component)
     signal reimportAsked(ComponentModel component)
+    signal relinkAsked(ComponentModel component)
+    signal compareAsked(ComponentModel component, int row)
 
     Connections {
         target: detail.profile
@@ -53,6 +55,7 @@ FocusScope {
 
         ProfileHeader {
             width: detail.columnWidth
+            app: detail.app
             profile: detail.profile
             isNarrow: detail.isNarrow
             answersShortcut: detail.answersShortcut
@@ -85,6 +88,11 @@ FocusScope {
                 onImportAsked: detail.sessionImportAsked()
             }
         }
+        IsolationSection {
+            width: detail.columnWidth
+            visible: !detail.profile.isBuiltIn
+            profile: detail.profile
+        }
         Repeater {
             model: detail.profile.collections
 
@@ -96,10 +104,12 @@ FocusScope {
                 width: detail.columnWidth
                 component: modelData
                 menu: itemMenu
+                changedMenu: driftMenu
                 visibleTop: pane.visibleTop - y
                 visibleHeight: pane.visibleHeight
                 onRowReached: row => pane.reveal(row)
                 onImportAsked: detail.itemImportAsked(section.component.component)
+                onRelinkAsked: detail.relinkAsked(section.component)
             }
         }
         Repeater {
@@ -113,10 +123,18 @@ FocusScope {
                 width: detail.columnWidth
                 component: modelData
                 onReimportAsked: detail.reimportAsked(file.component)
+                onRelinkAsked: detail.relinkAsked(file.component)
+                onCompareAsked: detail.compareAsked(file.component, -1)
+                onMenuAsked: opener => driftMenu.openForFile(file.component, opener)
             }
         }
     }
     ItemMenu {
         id: itemMenu
+    }
+    ChangedMenu {
+        id: driftMenu
+
+        onCompareAsked: (component, row) => detail.compareAsked(component, row)
     }
 }

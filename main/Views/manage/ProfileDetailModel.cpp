@@ -134,6 +134,10 @@ QString ProfileDetailModel::sourceName() const {
     return hasSource() ? qtText(*m_profile->meta.source) : QString();
 }
 
+QString ProfileDetailModel::builtInName() const {
+    return m_profile ? m_app->builtInName() : QString();
+}
+
 bool ProfileDetailModel::isRunning() const {
     return m_profile && m_app->running().contains(m_profile->id);
 }
@@ -253,6 +257,14 @@ void ProfileDetailModel::setAccount(int index) {
         return;
     m_app->setAccount(index == 0 ? QString() : qtText(owners[static_cast<std::size_t>(index) - 1]->id),
                       profileId());
+}
+
+void ProfileDetailModel::setIsolated(bool isolated) {
+    if (m_profile && isolated != isIsolated())
+        m_app->performSoon(tr("Salvataggio…"), [profile = *m_profile, isolated](ProfileStore& store) {
+            store.setIsolated(isolated, profile);
+            return QString();
+        });
 }
 
 void ProfileDetailModel::remove(const QString& profileId) {

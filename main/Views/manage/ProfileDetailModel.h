@@ -36,6 +36,8 @@ class ProfileDetailModel : public QObject {
     Q_PROPERTY(bool isBuiltIn READ isBuiltIn NOTIFY profileChanged)
     Q_PROPERTY(bool hasSource READ hasSource NOTIFY profileChanged)
     Q_PROPERTY(QString sourceName READ sourceName NOTIFY profileChanged) ///< its id if it is unknown
+    Q_PROPERTY(bool isIsolated READ isIsolated NOTIFY profileChanged)
+    Q_PROPERTY(QString builtInName READ builtInName NOTIFY profileChanged) ///< the built-in profile's
     Q_PROPERTY(bool isRunning READ isRunning NOTIFY runningChanged)
 
     Q_PROPERTY(QString account READ account NOTIFY accountChanged)
@@ -68,6 +70,8 @@ public:
     bool isBuiltIn() const;
     bool hasSource() const;
     QString sourceName() const;
+    bool isIsolated() const { return m_profile && m_profile->meta.isolated; }
+    QString builtInName() const;
     bool isRunning() const;
     QString account() const;
     QStringList accountChoices() const;
@@ -86,6 +90,7 @@ public slots:
     void setSummary(const QString& summary);
     void setSymbol(const QString& symbol);
     void setAccount(int index);
+    void setIsolated(bool isolated);
     /// Moves a profile to the Trash. `profileId` is the profile that the user was asked about: another one
     /// may have been selected from the picker since.
     void remove(const QString& profileId);

@@ -10,6 +10,7 @@ import Selvane
 Item {
     id: header
 
+    required property AppModel app
     required property ProfileDetailModel profile
     required property bool isNarrow
     required property bool answersShortcut
@@ -57,7 +58,7 @@ Item {
 
         y: fields.height + Theme.space16
         width: header.width
-        height: path.height
+        height: facts.y + facts.height
 
         Row {
             id: source
@@ -90,6 +91,13 @@ Item {
             x: source.taken
             width: Math.min(implicitWidth, parent.width - x)
             path: header.profile.folder
+        }
+        FactsLine {
+            id: facts
+
+            y: path.height + Theme.space8
+            width: parent.width
+            app: header.app
         }
     }
     Grid {

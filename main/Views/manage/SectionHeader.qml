@@ -13,6 +13,11 @@ Item {
     required property ComponentModel component
     property string note
 
+    signal relinkAsked
+
+    /// Where title and note must end.
+    readonly property real end: (mark.visible ? mark.x : mode.x) - Theme.space12
+
     PathIcon {
         anchors.verticalCenter: parent.verticalCenter
         x: Theme.space16
@@ -25,13 +30,13 @@ Item {
 
         anchors.verticalCenter: parent.verticalCenter
         x: Theme.manage.itemTextLeft
-        width: Math.min(implicitWidth, mode.x - x - Theme.space12)
+        width: Math.min(implicitWidth, header.end - x)
         text: header.component.title
     }
     StyledText {
         anchors.verticalCenter: parent.verticalCenter
         x: heading.x + heading.width + Theme.space12
-        width: mode.x - x - Theme.space12
+        width: header.end - x
         visible: header.note !== "" && width > 0
         look: Theme.type.small
         text: header.note
@@ -39,6 +44,14 @@ Item {
         elide: Text.ElideRight
         Accessible.role: Accessible.StaticText
         Accessible.name: text
+    }
+    ChangedMark {
+        id: mark
+
+        anchors.verticalCenter: parent.verticalCenter
+        x: mode.x - width - Theme.space16
+        component: header.component
+        onRelinkAsked: header.relinkAsked()
     }
     DropDown {
         id: mode

@@ -90,10 +90,15 @@ void NewProfileForm::listComponents() {
             Row row{component, chosen == m_modes.end() ? defaultMode(component) : chosen->second, nullptr};
             if (isCollection(component))
                 row.items = noChoices();
+            if (component == Component::rules)
+                connect(row.items.get(), &ChoiceListModel::chosenChanged, this,
+                        &NewProfileForm::readIsolation);
             m_rows.push_back(std::move(row));
         }
     }
     endResetModel();
+    if (m_app != nullptr)
+        readIsolation();
     if (source == nullptr)
         return;
     const auto read = [&store = m_app->store(), profile = *source] {
@@ -122,6 +127,24 @@ void NewProfileForm::listItems(const Items& items) {
     emit canCreateChanged();
 }
 
+void NewProfileForm::setIsolated(bool isolated) {
+    m_isolated = isolated;
+    emit isIsolatedChanged();
+}
+
+/// Whether it makes a difference depends on what is taken; once the user has chosen, it doesn't matter here.
+void NewProfileForm::readIsolation() {
+    if (m_isolated)
+        return;
+    const auto read = [&store = m_app->store(), wanted = request().profile] {
+        return store.isolationMatters(wanted);
+    };
+    m_isolation.begin(read, [this](bool matters) {
+        m_isolationMatters = matters;
+        emit isIsolatedChanged();
+    });
+}
+
 QString NewProfileForm::sourceName() const {
     const Profile* source = m_app == nullptr ? nullptr : m_app->profile(m_source);
     return source == nullptr ? QString() : QString::fromStdString(source->meta.name);
@@ -137,6 +160,7 @@ void NewProfileForm::setMode(int row, int modeIndex) {
     changed.mode = modes[static_cast<std::size_t>(modeIndex)];
     m_modes[changed.component] = changed.mode;
     emit dataChanged(index(row), index(row), {ModeIndexRole});
+    readIsolation();
 }
 
 void NewProfileForm::setAll(ShareMode mode) {
@@ -145,6 +169,7 @@ void NewProfileForm::setAll(ShareMode mode) {
     for (Row& row : m_rows)
         row.mode = m_modes[row.component] = nearestMode(mode, row.component);
     emit dataChanged(index(0), index(rowCount() - 1), {ModeIndexRole});
+    readIsolation();
 }
 
 ProfileRequest NewProfileForm::request() const {
@@ -152,6 +177,7 @@ ProfileRequest NewProfileForm::request() const {
     request.profile.name = m_name.toStdString();
     request.profile.summary = m_summary.toStdString();
     request.profile.symbol = m_symbol.toStdString();
+    request.isolated = m_isolated;
     const Profile* source = m_app->profile(m_source);
     if (source == nullptr)
         return request;

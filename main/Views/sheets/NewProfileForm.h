@@ -8,6 +8,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -34,6 +35,9 @@ class NewProfileForm : public QAbstractListModel {
     Q_PROPERTY(QString sourceName READ sourceName NOTIFY sourceChanged)
     Q_PROPERTY(bool sharesAccount MEMBER m_sharesAccount NOTIFY sharesAccountChanged)
     Q_PROPERTY(bool copiesSessions MEMBER m_copiesSessions NOTIFY copiesSessionsChanged)
+    /// Until the user has chosen, on where it makes a difference.
+    Q_PROPERTY(bool isIsolated READ isIsolated WRITE setIsolated NOTIFY isIsolatedChanged)
+    Q_PROPERTY(QString builtInName READ builtInName NOTIFY appChanged)
     Q_PROPERTY(bool canCreate READ canCreate NOTIFY canCreateChanged)
 
 public:
@@ -53,6 +57,9 @@ public:
     QString source() const { return m_source; }
     void setSource(const QString& id);
     QString sourceName() const;
+    bool isIsolated() const { return m_isolated.value_or(m_isolationMatters); }
+    void setIsolated(bool isolated);
+    QString builtInName() const { return m_app == nullptr ? QString() : m_app->builtInName(); }
     /// Not without a name, nor before the items of the source are known.
     bool canCreate() const { return !m_name.trimmed().isEmpty() && !m_reading.isRunning(); }
 
@@ -78,6 +85,7 @@ signals:
     void sourceChanged();
     void sharesAccountChanged();
     void copiesSessionsChanged();
+    void isIsolatedChanged();
 
 private:
     struct Row {
@@ -92,6 +100,7 @@ private:
     void listItems(const Items& items);
     void rememberChoices();
     void setAll(ShareMode mode);
+    void readIsolation();
     ProfileRequest request() const;
 
     AppModel* m_app = nullptr;
@@ -101,8 +110,11 @@ private:
     QString m_source;
     bool m_sharesAccount = true;
     bool m_copiesSessions = false;
+    std::optional<bool> m_isolated; ///< as the user has chosen
+    bool m_isolationMatters = false;
     std::vector<Row> m_rows;
     Reading<Items> m_reading;
+    Reading<bool> m_isolation;
     // What the user has chosen so far. It applies to every source that has the like.
     std::map<Component, ShareMode> m_modes;
     std::map<Component, std::set<std::string>> m_leftOut; ///< names of items

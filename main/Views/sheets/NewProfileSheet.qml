@@ -94,6 +94,10 @@ Sheet {
         visible: form.source !== ""
         form: form
     }
+    IsolationChoice {
+        width: parent.width
+        form: form
+    }
     ComponentChoices {
         width: parent.width
         visible: form.source !== ""

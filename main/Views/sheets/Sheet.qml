@@ -12,6 +12,7 @@ ModalLayer {
 
     default property alias body: pane.content
     required property string confirmText
+    property string cancelText: qsTr("Annulla") ///< empty: no cancel button
     property bool destructive: false
     property alias spacing: pane.spacing
 
@@ -79,6 +80,7 @@ ModalLayer {
             anchors.rightMargin: Theme.sheets.margin
             anchors.bottomMargin: Theme.space16
             confirmText: sheet.confirmText
+            cancelText: sheet.cancelText
             confirmEnabled: sheet.confirmEnabled
             destructive: sheet.destructive
             onConfirmed: sheet.confirm()

@@ -59,6 +59,20 @@ void SystemBridge::open(const fs::path& file, std::function<void()> failed) {
         failed();
 }
 
+bool SystemBridge::compare(const fs::path& first, const fs::path& second) {
+    for (const QString& name : comparisonPrograms()) {
+        const QString program = QStandardPaths::findExecutable(name);
+        if (program.isEmpty())
+            continue;
+        Environment environment = currentEnvironment();
+        environment.merge(startVariables());
+        process::startDetached(pathOf(program), {first.string(), second.string()}, environment,
+                               homeFolder(environment));
+        return true;
+    }
+    return false;
+}
+
 void SystemBridge::askForArchive(const QString& proposedName,
                                  std::function<void(std::optional<fs::path>)> done) {
     finishArchive(std::nullopt); // cancels a question that is still open

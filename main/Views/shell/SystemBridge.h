@@ -24,6 +24,7 @@ public:
     Environment startVariables() override;
     void reveal(const std::filesystem::path& item, std::function<void()> failed) override;
     void open(const std::filesystem::path& file, std::function<void()> failed) override;
+    bool compare(const std::filesystem::path& first, const std::filesystem::path& second) override;
     void askForArchive(const QString& proposedName,
                        std::function<void(std::optional<std::filesystem::path>)> done) override;
 

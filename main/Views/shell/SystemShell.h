@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QSettings>
 #include <QString>
+#include <QStringList>
 
 #include <filesystem>
 #include <functional>
@@ -42,6 +43,9 @@ std::unique_ptr<QSettings> openSettings();
 /// What the system adds around the windows, such as a menu bar. It lasts as long as the returned object;
 /// `launcher` must outlive it.
 std::unique_ptr<QObject> makeSystemShell(LauncherApp& launcher);
+
+/// The names of this system's programs that show how two files or folders differ, the best first.
+QStringList comparisonPrograms();
 
 /// Shows the item selected in the file manager. Calls `failed`, perhaps later, if nothing can show it.
 void revealItem(const std::filesystem::path& item, std::function<void()> failed);

@@ -148,6 +148,7 @@ Item {
                 home.write(".claude-profiles/lavoro/agents/" + name, name)
             home.app.reload()
             tryCompare(items, "count", 4)
+            press(Qt.Key_End, Qt.Key_Home)
             settle()
             mouseClick(button("Azioni per «tre.md»"))
             mouseClick(the(item => item instanceof MenuEntry && item.text === "Sposta nel Cestino", scene.Window.contentItem))

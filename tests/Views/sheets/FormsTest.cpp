@@ -76,6 +76,33 @@ TEST_F(FormsTest, newProfile_SetAll_TakesTheNearestModeWhereNeeded) {
     EXPECT_EQ(rules(), std::pair(1, 0));
 }
 
+TEST_F(FormsTest, newProfile_IsIsolatedWhereThatMattersUntilChosen) {
+    writeTree(home / ".claude/rules", {{"a.md", ""}, {"b.md", ""}});
+    NewProfileForm form;
+    prepare(form, {{"name", "Nuovo"}});
+    const auto becomes = [&](bool isolated) {
+        const QDeadlineTimer limit(20'000);
+        while (form.isIsolated() != isolated && !limit.hasExpired())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+        return form.isIsolated() == isolated;
+    };
+    EXPECT_TRUE(becomes(true)) << "it starts empty";
+    form.setSource("default");
+    EXPECT_TRUE(becomes(false)) << "it takes everything";
+    auto* rules = form.data(form.index(4), NewProfileForm::ItemsRole).value<ChoiceListModel*>();
+    rules->toggle(0);
+    EXPECT_TRUE(becomes(true));
+    form.create();
+    waitUntilIdle();
+    EXPECT_TRUE(home.store.profile("nuovo")->meta.isolated);
+    form.setIsolated(false);
+    rules->toggle(1);
+    EXPECT_FALSE(form.isIsolated()) << "as chosen";
+    form.create();
+    waitUntilIdle();
+    EXPECT_FALSE(home.store.profile("nuovo-2")->meta.isolated);
+}
+
 TEST_F(FormsTest, newProfile_Create_MakesWhatWasChosen) {
     const std::string notUtf8 = "due\xE9.md";
     for (const std::string& name : {std::string("uno.md"), notUtf8, std::string("tre.md")})
