@@ -159,6 +159,43 @@ void takeSheets(Scene& scene) {
     scene.takeWith(kManage, "BackupSheet", {{"app", app}}, "backup-sheet");
 }
 
+/// The first item below `item` whose property has this value; null if there is none.
+QQuickItem* itemWith(const QQuickItem& item, const char* property, const QVariant& value) {
+    for (QQuickItem* child : item.childItems()) {
+        if (child->property(property).isValid() && child->property(property) == value)
+            return child;
+        if (QQuickItem* found = itemWith(*child, property, value))
+            return found;
+    }
+    return nullptr;
+}
+
+/// The menu of an item that no longer follows the source, and how it differs.
+void takeDrift(Scene& scene) {
+    QQuickWindow* window = scene.launcher.window(kManage);
+    scrollDetail(window, 380);
+    QQuickItem* button = itemWith(*window->contentItem(), "label", "Azioni per «code-review»");
+    QQuickItem* menu = itemWith(*window->contentItem(), "isFile", true);
+    if (menu == nullptr || button == nullptr)
+        qFatal("the item's menu is missing");
+    QMetaObject::invokeMethod(button, "clicked");
+    scene.take(kManage, "manage-drift");
+    QObject* component = menu->property("component").value<QObject*>();
+    QMetaObject::invokeMethod(menu, "close");
+    scrollDetail(window, 0);
+    scene.takeWith(kManage, "DifferencesSheet", {{"component", QVariant::fromValue(component)}},
+                   "differences");
+}
+
+/// A sign-in that the browser has ended while several copies may have begun it.
+void takeSignIn(Scene& scene, Home& home) {
+    const auto apps = std::exchange(home.workspace.apps, {});
+    scene.model.receiveSignIn("claude://login/ok?code=1");
+    scene.take(kManage, "sign-in-sheet");
+    scene.model.answerSignIn(-1);
+    home.workspace.apps = apps;
+}
+
 /// Half of a large copy.
 void takeProgress(Scene& scene) {
     const TemporaryFolder folder;
@@ -237,6 +274,8 @@ int takeAll(const std::optional<QDir>& folder, const std::string& place) {
         takePicker(scene);
         takeManage(scene);
         takeSheets(scene);
+        takeDrift(scene);
+        takeSignIn(scene, home);
         takeFeedback(scene);
         takeLargeText(scene);
         takeDamaged(scene, home);

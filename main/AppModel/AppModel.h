@@ -20,6 +20,7 @@
 #include "AppModel/ToldChanges.h"
 #include "AppModel/WorkProgress.h"
 #include "desktop/ClaudeApp.h"
+#include "desktop/SignInLink.h"
 #include "store/ProfileStore.h"
 
 namespace selvane {
@@ -55,6 +56,17 @@ class AppModel : public QObject {
     Q_PROPERTY(QString offerForceQuit READ offerForceQuit NOTIFY offerForceQuitChanged)
     /// The question for `pendingLaunch`.
     Q_PROPERTY(QString closeMessage READ pendingCloseMessage NOTIFY pendingLaunchChanged)
+    /// A sign-in that waits for the user's choice: the profiles that it may be for, what is known of each,
+    /// the likely one, and what may be shown of the link. Without one they are empty, and the preset is -1.
+    Q_PROPERTY(QList<QString> signInNames READ signInNames NOTIFY signInChanged)
+    Q_PROPERTY(QList<QString> signInDetails READ signInDetails NOTIFY signInChanged)
+    Q_PROPERTY(int signInPreset READ signInPreset NOTIFY signInChanged)
+    Q_PROPERTY(QString signInLink READ signInLink NOTIFY signInChanged)
+    /// Whether sign-ins come to Selvane; and the profile before whose launch that is offered, empty for none.
+    Q_PROPERTY(bool canReceiveSignIns READ canReceiveSignIns CONSTANT)
+    Q_PROPERTY(
+        bool receivesSignIns READ receivesSignIns WRITE setReceivesSignIns NOTIFY receivesSignInsChanged)
+    Q_PROPERTY(QString signInOffer READ signInOffer NOTIFY signInOfferChanged)
     Q_PROPERTY(
         bool closeAfterLaunch READ closeAfterLaunch WRITE setCloseAfterLaunch NOTIFY closeAfterLaunchChanged)
 
@@ -85,6 +97,17 @@ public:
     QString offerForceQuit() const { return m_offerForceQuit; }
     bool closeAfterLaunch() const { return m_preferences.closeAfterLaunch(); }
     void setCloseAfterLaunch(bool value);
+
+    QStringList signInNames() const;
+    QStringList signInDetails() const;
+    int signInPreset() const;
+    QString signInLink() const;
+    bool canReceiveSignIns() const { return m_desktop.canReceiveSignIns(); }
+    bool receivesSignIns() const;
+    void setReceivesSignIns(bool value);
+    QString signInOffer() const { return m_signInOffer; }
+    /// Hands a sign-in over to the copy that it is for, or asks. Ignores what isn't a link for that.
+    void receiveSignIn(const QByteArray& request);
 
     WorkProgress* work() { return &m_workProgress; }
 
@@ -125,6 +148,8 @@ public slots:
     void cancelLaunch();
     void forceLaunch();
     void cancelForceQuit();
+    void answerSignIn(int index);          ///< in `signInNames`; -1 gives the link to nobody
+    void answerSignInOffer(bool accepted); ///< the launch goes on
 
     void setAccount(const QString& account, const QString& id); ///< an empty account means the profile's own
     void sync(const QString& id);
@@ -151,11 +176,18 @@ signals:
     void pendingLaunchChanged();
     void offerForceQuitChanged();
     void closeAfterLaunchChanged();
+    void signInChanged();
+    void receivesSignInsChanged();
+    void signInOfferChanged();
 
 private:
     enum class LaunchStep { asked, confirmed, forced };
     struct LaunchPlan;
     struct LaunchResult;
+    struct SignIn {
+        SignInLink link;
+        SignInTargets to;
+    };
 
     void startLaunch(const QString& id, LaunchStep step);
     LaunchPlan planFor(const Profile& profile) const;
@@ -163,6 +195,8 @@ private:
     bool quitAll(const LaunchPlan& plan, bool force) const;
     void finishLaunch(const Profile& profile, const LaunchResult& result);
     void endIfWanted();
+    void handOver(const SignInLink& link, const SignInTarget& target);
+    bool offersSignIns(const Profile& profile) const;
     bool isFree();
     void runBackup(BackupScope scope, const std::filesystem::path& archive);
     void report(const std::exception& error);
@@ -185,6 +219,9 @@ private:
     QString m_notice;
     QString m_pendingLaunch;
     QString m_offerForceQuit;
+    std::optional<SignIn> m_signIn;
+    QString m_signInOffer;
+    mutable std::optional<bool> m_receivesSignIns;
     qint64 m_revision = 0;
     ToldChanges m_toldChanges;
     WorkProgress m_workProgress;

@@ -94,6 +94,8 @@ void AppModel::startLaunch(const QString& id, LaunchStep step) {
             else
                 setNotice(tr("«%1» è già aperto: la sua finestra è tra quelle di Claude")
                               .arg(QString::fromStdString(wanted->meta.name)));
+        } else if (step == LaunchStep::asked && offersSignIns(*wanted)) {
+            setText(m_signInOffer, id, &AppModel::signInOfferChanged);
         } else if (!plan.toClose.empty() && step == LaunchStep::asked) {
             setText(m_pendingLaunch, id, &AppModel::pendingLaunchChanged);
         } else {

@@ -37,6 +37,12 @@ public:
     virtual void askForArchive(const QString& proposedName,
                                std::function<void(std::optional<std::filesystem::path>)> done) = 0;
 
+    // The links with which the browser ends a sign-in (see `SignInHandler`).
+    virtual bool canReceiveSignIns() const = 0; ///< whether this system lets Selvane have them
+    virtual bool receivesSignIns() const = 0;
+    /// Throws if it can't be changed.
+    virtual void setReceivesSignIns(bool value) = 0;
+
 signals:
     /// A copy of Claude Desktop has started or ended.
     void claudeCopiesChanged();

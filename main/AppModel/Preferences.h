@@ -26,6 +26,9 @@ public:
     QString lastSelection() const { return m_settings->value(kLastSelection, "default").toString(); }
     void setLastSelection(const QString& id) { m_settings->setValue(kLastSelection, id); }
 
+    bool signInsOffered() const { return m_settings->value(kSignInsOffered, false).toBool(); }
+    void setSignInsOffered() { m_settings->setValue(kSignInsOffered, true); }
+
     /// Where a window was, without its frame, when it was last closed; empty if it never was.
     QRect windowPlace(const QString& window) const { return m_settings->value(window + "Place").toRect(); }
     void setWindowPlace(const QString& window, const QRect& place) {
@@ -35,6 +38,7 @@ public:
 private:
     static constexpr auto kCloseAfterLaunch = "closeAfterLaunch";
     static constexpr auto kLastSelection = "lastSelection";
+    static constexpr auto kSignInsOffered = "signInsOffered";
 
     std::unique_ptr<QSettings> m_settings;
 };

@@ -89,8 +89,7 @@ public:
     void markLaunched(const Profile& profile);   ///< never fails
     std::optional<std::string> activeID() const; ///< may name a profile that no longer exists
     bool exists(const std::filesystem::path& path) const { return m_files.exists(path); }
-    // What to watch for changes from outside; not all of it has to exist.
-    /// The folders and files that `loadAll` and `activeID` read.
+    /// What `loadAll` and `activeID` read, to be watched; not all of it has to exist.
     std::vector<std::filesystem::path> recordPlaces() const;
     /// Those that the listings of a profile's items, files and sessions read.
     std::vector<std::filesystem::path> listedPlaces(const Profile& profile) const;

@@ -27,6 +27,12 @@ struct FakeBridge final : DesktopBridge {
     bool answersLater = false;                    ///< when `answer` is called
     std::function<void(std::optional<std::filesystem::path>)> answer;
 
+    bool canReceive = false; ///< sign-ins
+    bool receives = false;
+
+    bool canReceiveSignIns() const override { return canReceive; }
+    bool receivesSignIns() const override { return receives; }
+    void setReceivesSignIns(bool value) override { receives = value; }
     void endApplication() override { ++ends; }
     bool copyToClipboard(const QString& text) override {
         clipboard = text;

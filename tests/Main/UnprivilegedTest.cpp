@@ -38,7 +38,7 @@ TEST(CommandUnprivileged, WhatCannotBeReadIsLeftOutOrNamed) {
     writeFile(records / "local_1.json", R"({"sessionId": "s1"})");
     writeFile(home / ".claude/CLAUDE.md", "regole");
     writeFile(home / ".claude/projects/p/c1.jsonl", "");
-    writeFile(home / ".claude/rules/a.md", "");
+    fs::create_directories(home / ".claude/rules");
     home.output({"create", "Lavoro", "--from", "default"});
     home.output({"create", "Cliente", "--from", "default", "--isolated", "yes", "--mode", "rules=none"});
     const fs::path own = home / ".claude-profiles/lavoro";

@@ -61,5 +61,22 @@ TEST_F(ChromiumWindows, ACopyThatHangsIsClosedByForce) {
                                       copy(cliente, data("cliente"), configuration("cliente"))}));
 }
 
+TEST_F(ChromiumWindows, ASignInGoesToTheRightOneOfThreeCopies) {
+    const pid_t principale = launched("default", "default");
+    const pid_t cliente = launched("cliente", "cliente");
+    const pid_t lavoro = launched("lavoro", "lavoro");
+    const auto windows = [this](pid_t copy) { return windowOwners().count(copy); };
+    const auto before = windows(cliente);
+    RunningSelvane selvane(home.environment, home.path(), {"claude://login/ok?code=1"});
+    selvane.find(ATSPI_ROLE_DIALOG, "Di chi è questo accesso?");
+    selvane.find(ATSPI_ROLE_RADIO_BUTTON, "Cliente").press();
+    press(selvane, "Passa l'accesso");
+    EXPECT_EQ(selvane.status(), 0);
+    EXPECT_TRUE(soon([&] { return windows(cliente) > before; }));
+    EXPECT_EQ(windows(principale), 1U);
+    EXPECT_EQ(windows(lavoro), 1U);
+    EXPECT_EQ(mains(), std::set({principale, cliente, lavoro}));
+}
+
 } // namespace
 } // namespace selvane::test

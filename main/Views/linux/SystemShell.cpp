@@ -107,6 +107,10 @@ std::unique_ptr<QObject> makeSystemShell(LauncherApp& launcher) {
     return shell;
 }
 
+bool canReceiveSignIns() {
+    return true;
+}
+
 QStringList comparisonPrograms() {
     return {QStringLiteral("meld"), QStringLiteral("kompare")};
 }

@@ -5,6 +5,7 @@
 
 #import <AppKit/AppKit.h>
 
+#include <QFileInfo>
 #include <QStandardPaths>
 
 #include <sys/stat.h>
@@ -114,6 +115,11 @@ std::unique_ptr<QSettings> openSettings() {
 
 std::unique_ptr<QObject> makeSystemShell(LauncherApp& launcher) {
     return std::make_unique<MacShell>(launcher);
+}
+
+/// There the application itself is asked, not a file.
+bool canReceiveSignIns() {
+    return false;
 }
 
 /// Opens FileMerge, which comes with Xcode; without it, the command is there but does nothing.

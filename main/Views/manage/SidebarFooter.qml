@@ -47,6 +47,16 @@ Item {
             onToggled: checked => footer.app.closeAfterLaunch = checked
         }
         SwitchRow {
+            visible: footer.app.canReceiveSignIns
+            width: parent.width
+            look: Theme.type.small
+            textColor: Theme.textSoft
+            text: qsTr("Ricevi gli accessi dal browser")
+            help: qsTr("Quando un accesso finisce nel browser, Selvane lo passa al Claude da cui è cominciato")
+            checked: footer.app.receivesSignIns
+            onToggled: checked => footer.app.receivesSignIns = checked
+        }
+        SwitchRow {
             visible: footer.hasUpdates
             width: parent.width
             look: Theme.type.small

@@ -135,15 +135,20 @@ void LauncherApp::answerStart(const QByteArray& request, const QByteArray& token
     m_app.perform([&] {
         useStartToken(token);
         show(Picker);
-        if (request == kNewProfileOption)
-            offerNewProfile();
+        answer(request);
     });
+}
+
+void LauncherApp::answer(const QByteArray& request) {
+    if (request == kNewProfileOption)
+        offerNewProfile();
+    else
+        m_app.receiveSignIn(request);
 }
 
 void LauncherApp::start(const QByteArray& request) {
     show(Picker);
-    if (request == kNewProfileOption)
-        offerNewProfile();
+    answer(request);
     // Only after the first window: none of the rest is worth a delay.
     const auto once = static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection);
     connect(window(Picker), &QQuickWindow::frameSwapped, this, &LauncherApp::begun, once);

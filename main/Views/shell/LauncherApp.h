@@ -52,8 +52,8 @@ public slots:
     // These open a window or bring it to the front, showing what is on disk now.
     void showPicker() { tryToShow(Picker); }
     void showManage() { tryToShow(Manage); }
-    /// Does what starting Selvane with this argument asks for: "--new-profile", or anything else. `token`
-    /// lets the window come to the front, where that takes one.
+    /// Does what starting Selvane with this argument asks for: "--new-profile", a link that ends a sign-in,
+    /// or anything else. `token` lets the window come to the front, where that takes one.
     void answerStart(const QByteArray& request, const QByteArray& token = {});
     /// Asks for a path in the key window; `archiveChosen` follows.
     void askForArchive(const QString& proposedPlace);
@@ -75,6 +75,7 @@ signals:
 private:
     void show(WindowName name);
     void offerNewProfile();
+    void answer(const QByteArray& request);
     void tryToShow(WindowName name);
     std::unique_ptr<QQuickWindow> makeWindow(WindowName name);
     QObject* makeLayer(const char* type, QVariantMap properties);

@@ -16,7 +16,7 @@ Item {
     required property bool isKey
     property bool isActive: Application.state === Qt.ApplicationActive
     property int noticeDuration: Theme.motion.noticeDuration
-    property AlertDialog alert: null
+    property ModalLayer alert: null
     property string alertKind
 
     /// Whether a message or a question lies over the window, so that nothing behind it can be used.
@@ -24,7 +24,9 @@ Item {
     readonly property bool isBusy: app.busyMessage !== ""
     readonly property string wantedAlert: !isKey ? "" : app.errorMessage !== "" ? "error"
                                         : app.pendingLaunch !== "" ? "launch"
-                                        : app.offerForceQuit !== "" ? "force" : ""
+                                        : app.offerForceQuit !== "" ? "force"
+                                        : app.signInOffer !== "" ? "offer"
+                                        : app.signInPreset >= 0 && app.busyMessage === "" ? "signIn" : ""
 
     signal newProfileAsked
 
@@ -41,11 +43,15 @@ Item {
             feedback.alert.close()
         feedback.alert = null
         if (feedback.alertKind === "error")
-            feedback.alert = errorAlert.createObject(feedback, {message: feedback.app.errorMessage}) as AlertDialog
+            feedback.alert = errorAlert.createObject(feedback, {message: feedback.app.errorMessage}) as ModalLayer
         else if (feedback.alertKind === "launch")
-            feedback.alert = launchAlert.createObject(feedback, {message: feedback.app.closeMessage}) as AlertDialog
+            feedback.alert = launchAlert.createObject(feedback, {message: feedback.app.closeMessage}) as ModalLayer
         else if (feedback.alertKind === "force")
-            feedback.alert = forceAlert.createObject(feedback) as AlertDialog
+            feedback.alert = forceAlert.createObject(feedback) as ModalLayer
+        else if (feedback.alertKind === "offer")
+            feedback.alert = offerAlert.createObject(feedback) as ModalLayer
+        else if (feedback.alertKind === "signIn")
+            feedback.alert = signInSheet.createObject(feedback) as ModalLayer
     }
 
     anchors.fill: parent
@@ -65,7 +71,7 @@ Item {
         }
         function onErrorMessageChanged(): void {
             if (feedback.alertKind === "error" && feedback.app.errorMessage !== "")
-                feedback.alert.message = feedback.app.errorMessage
+                (feedback.alert as AlertDialog).message = feedback.app.errorMessage
         }
     }
     Timer {
@@ -134,6 +140,33 @@ Item {
             onConfirmed: feedback.app.forceLaunch()
             onCancelled: feedback.app.cancelForceQuit()
             onClosed: alert.destroy()
+        }
+    }
+    Component {
+        id: offerAlert
+
+        AlertDialog {
+            id: alert
+
+            title: qsTr("Un accesso per ogni profilo")
+            message: qsTr("L'accesso finisce nel browser, e di solito torna al Claude del profilo principale. Se lo "
+                          + "riceve Selvane, arriva a quello da cui è cominciato. Si cambia quando vuoi nella "
+                          + "finestra dei profili.")
+            confirmText: qsTr("Ricevi gli accessi")
+            cancelText: qsTr("Non ora")
+            onConfirmed: feedback.app.answerSignInOffer(true)
+            onCancelled: feedback.app.answerSignInOffer(false)
+            onClosed: alert.destroy()
+        }
+    }
+    Component {
+        id: signInSheet
+
+        SignInSheet {
+            id: sheet
+
+            app: feedback.app
+            onClosed: sheet.destroy()
         }
     }
 }

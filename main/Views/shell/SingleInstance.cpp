@@ -12,7 +12,7 @@ namespace selvane {
 namespace {
 
 constexpr int kAnswerMilliseconds = 1000;
-constexpr qint64 kLongestRequest = 1000;
+constexpr qint64 kLongestRequest = 20'000; // a link of at most 16 KiB, and a token
 
 QString socketName() {
     const auto folder = runtimeFolder(currentEnvironment());

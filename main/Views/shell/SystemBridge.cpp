@@ -15,6 +15,7 @@
 
 #include "Views/shell/FileUrl.h"
 #include "Views/shell/SystemShell.h"
+#include "desktop/SignInHandler.h"
 
 namespace selvane {
 namespace {
@@ -71,6 +72,22 @@ bool SystemBridge::compare(const fs::path& first, const fs::path& second) {
         return true;
     }
     return false;
+}
+
+bool SystemBridge::canReceiveSignIns() const {
+    return selvane::canReceiveSignIns();
+}
+
+bool SystemBridge::receivesSignIns() const {
+    return canReceiveSignIns() && SignInHandler(currentEnvironment()).isOn();
+}
+
+void SystemBridge::setReceivesSignIns(bool value) {
+    const SignInHandler handler(currentEnvironment());
+    if (value)
+        handler.turnOn(pathOf(QCoreApplication::applicationFilePath()));
+    else
+        handler.turnOff();
 }
 
 void SystemBridge::askForArchive(const QString& proposedName,

@@ -25,6 +25,9 @@ public:
     void reveal(const std::filesystem::path& item, std::function<void()> failed) override;
     void open(const std::filesystem::path& file, std::function<void()> failed) override;
     bool compare(const std::filesystem::path& first, const std::filesystem::path& second) override;
+    bool canReceiveSignIns() const override;
+    bool receivesSignIns() const override;
+    void setReceivesSignIns(bool value) override;
     void askForArchive(const QString& proposedName,
                        std::function<void(std::optional<std::filesystem::path>)> done) override;
 

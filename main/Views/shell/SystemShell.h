@@ -44,6 +44,9 @@ std::unique_ptr<QSettings> openSettings();
 /// `launcher` must outlive it.
 std::unique_ptr<QObject> makeSystemShell(LauncherApp& launcher);
 
+/// Whether Selvane can be what opens the links that end a sign-in.
+bool canReceiveSignIns();
+
 /// The names of this system's programs that show how two files or folders differ, the best first.
 QStringList comparisonPrograms();
 
