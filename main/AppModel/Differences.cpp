@@ -50,8 +50,7 @@ public:
         if (m_left[0] > 0 || m_left[1] > 0) {
             readLineOfPart(line);
         } else if (const auto match = part.match(line); match.hasMatch()) {
-            for (const int side : {0, 1})
-                m_left.at(side) = match.hasCaptured(side + 1) ? match.captured(side + 1).toInt() : 1;
+            m_left = {countIn(match, 1), countIn(match, 2)};
             add(line);
         } else if (line.startsWith("+++ ")) {
             beginFile(line.mid(4).section('\t', 0, 0));
@@ -67,6 +66,9 @@ public:
     }
 
 private:
+    static int countIn(const QRegularExpressionMatch& match, int group) {
+        return match.hasCaptured(group) ? match.captured(group).toInt() : 1;
+    }
     void add(const QString& line) {
         if (m_found.lines.size() < kMostDiffLines)
             m_found.lines += QString::fromStdString(text::singleLine(line.toStdString()));

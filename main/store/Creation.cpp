@@ -93,8 +93,10 @@ std::pair<Profile, FolderLock> ProfileStore::createFolder(const NewProfile& requ
         m_files.write(profile.configDir / kUnfinishedName, "");
         return {std::move(profile), std::move(lock)};
     } catch (...) {
-        std::error_code ignored; // report the first error
-        fs::remove(profile.configDir, ignored);
+        try {
+            removeNewFolder(profile.configDir);
+        } catch (const fs::filesystem_error&) { // report the first error
+        }
         throw;
     }
 }

@@ -206,13 +206,18 @@ void ProfileStore::makeOwn(const ComponentItem& item, const Profile& profile) {
         m_files.replaceLink(item.url, [&](const fs::path& temporary) { m_files.copy(origin, temporary); });
     }
     // Made on purpose, it's no item that a program has changed.
-    Profile changed = current(profile);
-    for (const ChangedItem& own : changedItems(changed)) {
-        if (own.own == item.url) {
-            keep(changed.meta, own.component, own.name);
-            saveMeta(changed);
+    const Profile before = current(profile);
+    Profile changed = before;
+    for (const Component component : kComponents) {
+        if (changed.url(component) != item.url.parent_path())
+            continue;
+        for (const ChangedItem& own : changedItems(component, changed, Unreadable::fails)) {
+            if (own.name == item.name)
+                keep(changed.meta, component, own.name);
         }
     }
+    if (changed != before)
+        saveMeta(changed);
     updateExcludes(changed);
 }
 

@@ -68,7 +68,7 @@ TEST_F(Windows, WhatHappensOutsideShowsAtOnce) {
 
 TEST_F(Manage, WhatIsToldShowsInTheWindowInFront_AndComingBackLooksAgain) {
     writeFile(home / "altrove.md", "x");
-    fs::create_symlink(home / "altrove.md", profile("lavoro") / "agents/altrove.md");
+    fs::create_symlink(home / "altrove.md", profile("lavoro") / "skills/altrove.md");
     fs::remove(program);
     auto selvane = start();
     selectLavoro(selvane);

@@ -16,7 +16,10 @@ namespace selvane::test {
 /// A home with the stand-in for Claude Desktop, on a desktop of its own.
 class Windows : public testing::Test, protected InstalledClaude {
 protected:
-    Windows() { home.environment.merge(desktop().environment()); }
+    Windows() {
+        home.environment.merge(desktop().environment());
+        writeFile(home / ".config/selvane/preferenze.conf", "[General]\nsignInsOffered=true\n");
+    }
     /// Errors in the views are only printed, and would otherwise go unnoticed.
     void TearDown() override { EXPECT_EQ(readFile(home / "selvane.err"), ""); }
 
