@@ -24,11 +24,25 @@ struct SessionRecordSink {
     void (*archived)(void* context) noexcept;
 };
 
+/// What a text in a line of a transcript is. A title comes from a line of its own; words are what was written
+/// in a message, without what tools were told or have answered.
+enum class TranscriptField : int { cwd, timestamp, title, userWords, agentWords };
+
+struct TranscriptSink {
+    void* context;
+    void (*text)(void* context, TranscriptField field, const char* bytes, std::size_t count) noexcept;
+};
+
+/// So many readable bytes follow a text that is parsed in place.
+inline constexpr std::size_t kJsonPadding = 64;
+
 struct Services {
     /// Writes a key whose byte order is the Italian order of names, ignoring case.
     void (*sortKey)(const char* name, std::size_t size, ByteSink sink, void* context) noexcept;
     /// `text::folded`.
     void (*fold)(const char* name, std::size_t size, ByteSink sink, void* context) noexcept;
+    /// `text::searchable`.
+    void (*searchable)(const char* text, std::size_t size, ByteSink sink, void* context) noexcept;
     /// `text::longDate`; seconds since 1970.
     void (*longDate)(std::int64_t time, ByteSink sink, void* context) noexcept;
     /// `text::relativeDate`.
@@ -39,6 +53,13 @@ struct Services {
     /// Whether the file is a readable JSON object with a string under "sessionId". If so, passes its known
     /// fields to the sink.
     bool (*readSession)(void* reader, const char* file, const SessionRecordSink& sink) noexcept;
+
+    void* (*newTranscriptReader)() noexcept;
+    void (*deleteTranscriptReader)(void* reader) noexcept;
+    /// Whether a line is a JSON object. If so, passes what is known in it to the sink. `kJsonPadding` bytes
+    /// must follow the line.
+    bool (*readTranscriptLine)(void* reader, const char* line, std::size_t size,
+                               const TranscriptSink& sink) noexcept;
     /// `isStrictJson`.
     bool (*isStrictJson)(const char* bytes, std::size_t size) noexcept;
 };

@@ -10,11 +10,15 @@ namespace selvane::module {
 inline constexpr Services kTable{
     .sortKey = sortKey,
     .fold = fold,
+    .searchable = searchable,
     .longDate = longDate,
     .relativeDate = relativeDate,
     .newSessionReader = newSessionReader,
     .deleteSessionReader = deleteSessionReader,
     .readSession = readSession,
+    .newTranscriptReader = newTranscriptReader,
+    .deleteTranscriptReader = deleteTranscriptReader,
+    .readTranscriptLine = readTranscriptLine,
     .isStrictJson = isStrictJson,
 };
 

@@ -72,14 +72,18 @@ icu::UnicodeString withoutSymbols(const icu::UnicodeString& text) {
     return result;
 }
 
-icu::UnicodeString folded(icu::UnicodeString text, UErrorCode& status) {
+/// Without case and diacritics.
+icu::UnicodeString comparable(icu::UnicodeString text, UErrorCode& status) {
     const icu::Normalizer2* const decompose = icu::Normalizer2::getNFDInstance(status);
     const icu::Normalizer2* const compose = icu::Normalizer2::getNFCInstance(status);
     if (U_FAILURE(status))
         return {};
     text = withoutDiacritics(decompose->normalize(text.foldCase(U_FOLD_CASE_DEFAULT), status));
-    text = compose->normalize(text, status);
-    return withoutSymbols(text.toLower(icu::Locale::getRoot()));
+    return compose->normalize(text, status);
+}
+
+icu::UnicodeString folded(icu::UnicodeString text, UErrorCode& status) {
+    return withoutSymbols(comparable(std::move(text), status).toLower(icu::Locale::getRoot()));
 }
 
 /// The local time at `time`, as if it were UTC. The C library knows the local zone, which ICU could only find
@@ -146,6 +150,17 @@ void fold(const char* name, std::size_t size, ByteSink sink, void* context) noex
         const icu::UnicodeString text = folded(decoded(name, size), status);
         if (U_SUCCESS(status))
             deliver(text, sink, context);
+    } catch (...) {
+        return;
+    }
+}
+
+void searchable(const char* text, std::size_t size, ByteSink sink, void* context) noexcept {
+    try {
+        UErrorCode status = U_ZERO_ERROR;
+        const icu::UnicodeString plain = comparable(decoded(text, size), status);
+        if (U_SUCCESS(status))
+            deliver(plain, sink, context);
     } catch (...) {
         return;
     }

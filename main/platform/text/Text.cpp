@@ -104,6 +104,19 @@ std::string folded(std::string_view name) {
     return result.take();
 }
 
+std::string searchable(std::string_view text) {
+    const auto isAscii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
+    if (std::all_of(text.begin(), text.end(), isAscii)) { // nearly always, and many times faster
+        std::string result(text);
+        for (char& c : result)
+            c = c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
+        return result;
+    }
+    Received<std::string> result;
+    services().searchable(text.data(), text.size(), appendBytes, &result);
+    return result.take();
+}
+
 std::string_view trimmed(std::string_view text) {
     const auto trimOnce = [&] {
         for (const std::string_view space : kWhiteSpace) {
@@ -148,6 +161,16 @@ std::string quotedForShell(std::string_view text) {
         result += c;
     }
     return result + '"';
+}
+
+std::string quotedForTerminal(std::string_view text) {
+    constexpr std::string_view kPlain = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789/._-";
+    if (!text.empty() && text.find_first_not_of(kPlain) == text.npos)
+        return std::string(text);
+    std::string result = "'";
+    for (const char c : text)
+        result += c == '\'' ? "'\\''" : std::string(1, c);
+    return result + "'";
 }
 
 std::string longDate(std::chrono::system_clock::time_point time) {

@@ -23,6 +23,10 @@ std::vector<std::string> sorted(std::vector<std::string> names);
 /// number. Letters of any script stay.
 std::string folded(std::string_view name);
 
+/// `text` without case and diacritics, for comparing what somebody types with what somebody wrote: "perche"
+/// is in what "PERCHÉ" becomes. Everything else stays; what isn't UTF-8 becomes U+FFFD.
+std::string searchable(std::string_view text);
+
 /// `text` without Unicode white space at either end, including line ends.
 std::string_view trimmed(std::string_view text);
 
@@ -31,6 +35,10 @@ std::string singleLine(std::string_view text);
 
 /// `text` between double quotes, so that a shell takes it for one word that means just itself.
 std::string quotedForShell(std::string_view text);
+
+/// `text` as one word to type or paste in a terminal, where more characters have a meaning than in a script:
+/// plain if all of its characters are, else between single quotes.
+std::string quotedForTerminal(std::string_view text);
 
 /// For example "15 novembre 2026 alle ore 09:30", in the local time zone.
 std::string longDate(std::chrono::system_clock::time_point time);
