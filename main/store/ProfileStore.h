@@ -197,6 +197,10 @@ public:
     ProfileSize sizeOnDisk(const Profile& profile) const;
 
     // Code sessions (Sessions.cpp)
+    /// The folders that hold the session records of a data folder, one for each account and organisation, the
+    /// most recently changed first.
+    std::vector<std::filesystem::path> sessionFolders(const std::filesystem::path& dataDir,
+                                                      Unreadable unreadable) const;
     /// Newest activity first.
     std::vector<CodeSession> codeSessions(const Profile& profile,
                                           Unreadable unreadable = Unreadable::leftOut) const;
@@ -274,8 +278,6 @@ private:
     void swapLiveData(const std::string& owner);
     void returnBuiltInData(const std::string& owner);
 
-    std::vector<std::filesystem::path> sessionFolders(const std::filesystem::path& dataDir,
-                                                      Unreadable unreadable) const;
     std::optional<std::filesystem::path> sessionPlace(const std::filesystem::path& dataDir) const;
     std::vector<std::string> queuedSessions(const Profile& profile) const;
     void copyTranscripts(const CodeSession& session, const TranscriptIndex& from, const Profile& target,

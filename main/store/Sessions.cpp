@@ -4,6 +4,7 @@
 #include "store/ProfileStore.h"
 
 #include <algorithm>
+#include <functional>
 #include <future>
 #include <iterator>
 #include <limits>
@@ -84,7 +85,6 @@ void addSessions(const fs::path& folder, std::span<const std::string> names, Unr
 
 } // namespace
 
-/// The folders that hold session records, the most recently changed first.
 std::vector<fs::path> ProfileStore::sessionFolders(const fs::path& dataDir, Unreadable unreadable) const {
     std::vector<std::pair<fs::file_time_type, fs::path>> dated;
     const fs::path top = dataDir / kSessionsFolder;
@@ -130,9 +130,7 @@ std::vector<CodeSession> ProfileStore::codeSessions(const Profile& profile, Unre
     std::vector<CodeSession> sessions;
     for (const fs::path& folder : sessionFolders(desktopDataDir(profile), unreadable)) {
         std::vector<std::string> names = m_files.entriesIfPresent(folder, unreadable);
-        std::erase_if(names, [](const std::string& name) {
-            return !name.starts_with("local_") || !name.ends_with(".json");
-        });
+        std::erase_if(names, std::not_fn(isSessionRecord));
         sessions.reserve(sessions.size() + names.size());
         addSessions(folder, names, unreadable, sessions);
     }

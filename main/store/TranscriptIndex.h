@@ -22,6 +22,13 @@ public:
 
     /// The project folder that holds a Claude Code session's transcript: the first one listed.
     std::optional<std::filesystem::path> transcriptFolder(const std::string& cliSessionID) const;
+    /// Calls `use` with each session and the project folder that holds its transcript, in no particular
+    /// order.
+    template <typename Use>
+    void forEach(Use use) const {
+        for (const auto& [session, folder] : m_folderOfSession)
+            use(session, m_folders[folder]);
+    }
     /// Whether any of the session's transcripts exists.
     bool hasTranscript(const CodeSession& session) const;
 

@@ -1,0 +1,256 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+#include "store/conversations/Conversations.h"
+
+#include <limits>
+#include <memory>
+#include <sys/stat.h>
+#include <unordered_map>
+
+#include "platform/files/Progress.h"
+#include "platform/process/Parallel.h"
+#include "platform/text/Text.h"
+#include "store/ProfileStore.h"
+#include "store/conversations/RecordFiles.h"
+#include "store/conversations/TranscriptEnds.h"
+
+namespace selvane {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A transcript, or several of one session, whose ends or sizes are still to be read.
+struct Reading {
+    std::size_t row = 0;
+    std::size_t place = 0;
+    TranscriptSummary summary; ///< what was read
+};
+
+constexpr double kNever = -std::numeric_limits<double>::infinity();
+
+class Listing {
+public:
+    explicit Listing(const ProfileStore& store) : m_store(store) { m_list.profiles = store.loadAll(); }
+
+    ConversationList make() {
+        m_accounts = accountsOf(m_store, m_list.profiles);
+        m_records = recordsOf(m_store, m_accounts);
+        listTranscripts();
+        joinRecords();
+        placeTranscripts();
+        placeRecords();
+        readTranscripts();
+        complete();
+        return std::move(m_list);
+    }
+
+private:
+    std::vector<Conversation>& rows() { return m_list.conversations; }
+    void requireWanted() const {
+        if (m_store.progress() != nullptr)
+            m_store.progress()->requireWanted();
+    }
+
+    void listTranscripts();
+    void joinRecords();
+    void placeTranscripts();
+    void placeRecords();
+    void readTranscripts();
+    void complete();
+    void completeTerminal(Conversation& row, const TranscriptSummary& latest);
+    std::size_t placeOf(Conversation& row, std::size_t profile);
+
+    const ProfileStore& m_store;
+    ConversationList m_list;
+    std::vector<Account> m_accounts;
+    std::vector<RecordFile> m_records;
+    std::vector<std::unique_ptr<TranscriptIndex>> m_transcripts; ///< of each profile
+    std::vector<std::vector<std::size_t>> m_recordsOfRow;        ///< positions in `m_records`
+    std::unordered_map<std::string, std::size_t> m_rowOfTranscript;
+    std::vector<Reading> m_readings;
+};
+
+void Listing::listTranscripts() {
+    m_transcripts.resize(m_list.profiles.size());
+    inParallel(m_transcripts.size(), [this] {
+        return [this](std::size_t profile) {
+            requireWanted();
+            m_transcripts[profile] =
+                std::make_unique<TranscriptIndex>(m_list.profiles[profile].configDir, Unreadable::leftOut);
+        };
+    });
+}
+
+/// One row for each session, however many accounts have it.
+void Listing::joinRecords() {
+    std::unordered_map<std::string_view, std::size_t> rowOfRecord;
+    for (std::size_t number = 0; number < m_records.size(); ++number) {
+        if (!m_records[number].record)
+            continue;
+        const SessionRecord& record = *m_records[number].record;
+        const auto [entry, isNew] = rowOfRecord.emplace(record.sessionId, rows().size());
+        if (isNew) {
+            rows().emplace_back();
+            rows().back().recordID = record.sessionId;
+            rows().back().origin = ConversationOrigin::app;
+            m_recordsOfRow.emplace_back();
+        }
+        Conversation& row = rows()[entry->second];
+        m_recordsOfRow[entry->second].push_back(number);
+        std::optional<double> activity;
+        if (record.lastActivityAt)
+            activity = *record.lastActivityAt / 1000.0;
+        const bool isLatest = isNew || activity.value_or(kNever) > row.lastActivity.value_or(kNever);
+        std::vector<std::string> ids = record.priorCliSessionIds;
+        if (record.cliSessionId)
+            ids.insert(ids.begin(), *record.cliSessionId);
+        if (isLatest) {
+            row.title = record.title.value_or("");
+            row.hasGivenTitle = record.title.has_value();
+            row.cwd = record.cwd.value_or("");
+            row.lastActivity = activity;
+            std::swap(ids, row.cliSessionIDs);
+        }
+        for (std::string& id : ids) {
+            if (std::find(row.cliSessionIDs.begin(), row.cliSessionIDs.end(), id) == row.cliSessionIDs.end())
+                row.cliSessionIDs.push_back(std::move(id));
+        }
+    }
+    // A session may have been continued as two, which then share its transcript as an earlier one.
+    for (std::size_t row = 0; row < rows().size(); ++row) {
+        if (!rows()[row].cliSessionIDs.empty())
+            m_rowOfTranscript.emplace(rows()[row].cliSessionIDs.front(), row);
+    }
+    for (std::size_t row = 0; row < rows().size(); ++row) {
+        for (const std::string& id : rows()[row].cliSessionIDs)
+            m_rowOfTranscript.emplace(id, row);
+    }
+}
+
+std::size_t Listing::placeOf(Conversation& row, std::size_t profile) {
+    const auto place = std::ranges::find(row.places, profile, &ConversationPlace::profile);
+    if (place != row.places.end())
+        return static_cast<std::size_t>(place - row.places.begin());
+    row.places.emplace_back();
+    row.places.back().profile = profile;
+    return row.places.size() - 1;
+}
+
+void Listing::placeTranscripts() {
+    for (std::size_t profile = 0; profile < m_transcripts.size(); ++profile) {
+        m_transcripts[profile]->forEach([&](const std::string& id, const fs::path& folder) {
+            const auto [known, isNew] = m_rowOfTranscript.emplace(id, rows().size());
+            if (isNew)
+                rows().emplace_back().cliSessionIDs = {id};
+            Conversation& row = rows()[known->second];
+            row.places[placeOf(row, profile)].transcripts.push_back(folder.native() + "/" + id + ".jsonl");
+        });
+    }
+}
+
+void Listing::placeRecords() {
+    for (std::size_t number = 0; number < m_recordsOfRow.size(); ++number) {
+        Conversation& row = rows()[number];
+        for (const std::size_t index : m_recordsOfRow[number]) {
+            const RecordFile& file = m_records[index];
+            std::vector<std::size_t> users = m_accounts[file.account].profiles;
+            const std::size_t owner = users.front();
+            std::erase_if(users, [&](std::size_t profile) {
+                return std::ranges::find(row.places, profile, &ConversationPlace::profile) ==
+                       row.places.end();
+            });
+            if (users.empty()) // none of them has a transcript
+                users = {owner};
+            for (const std::size_t profile : users) {
+                ConversationPlace& place = row.places[placeOf(row, profile)];
+                if (!place.record.empty()) // that of the organisation used last counts
+                    continue;
+                place.record = file.path;
+                place.isArchived = file.record->isArchived;
+                place.isInOtherOrganisation = file.isInOtherOrganisation;
+                if (file.record->lastActivityAt)
+                    place.lastActivity = *file.record->lastActivityAt / 1000.0;
+            }
+        }
+    }
+}
+
+/// Of transcripts with a record, only the sizes are needed.
+void Listing::readTranscripts() {
+    for (std::size_t row = 0; row < rows().size(); ++row) {
+        for (std::size_t place = 0; place < rows()[row].places.size(); ++place) {
+            if (!rows()[row].places[place].transcripts.empty())
+                m_readings.push_back({row, place, {}});
+        }
+    }
+    inParallel(m_readings.size(), [this] {
+        return [this, ends = std::make_shared<TranscriptEnds>()](std::size_t number) {
+            requireWanted();
+            Reading& reading = m_readings[number];
+            Conversation& row = rows()[reading.row];
+            ConversationPlace& place = row.places[reading.place];
+            const auto rank = [&](const std::string& path) { // the latest session's first
+                const std::string id = fs::path(path).stem();
+                return std::find(row.cliSessionIDs.begin(), row.cliSessionIDs.end(), id);
+            };
+            if (place.transcripts.size() > 1)
+                std::ranges::sort(place.transcripts, {}, rank);
+            for (const std::string& path : place.transcripts) {
+                struct stat status = {};
+                if (::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode))
+                    place.size += static_cast<std::int64_t>(status.st_size);
+            }
+            if (!place.record.empty())
+                return;
+            if (auto summary = ends->read(place.transcripts.front())) {
+                place.lastActivity = summary->lastActivity;
+                reading.summary = std::move(*summary);
+            }
+        };
+    });
+}
+
+void Listing::completeTerminal(Conversation& row, const TranscriptSummary& latest) {
+    if (latest.hasGivenTitle >= row.hasGivenTitle && !latest.title.empty()) {
+        row.title = latest.title;
+        row.hasGivenTitle = latest.hasGivenTitle;
+    }
+    if (!latest.cwd.empty())
+        row.cwd = latest.cwd;
+}
+
+void Listing::complete() {
+    const auto activity = [](const auto& of) { return of.lastActivity.value_or(kNever); };
+    for (const Reading& reading : m_readings) {
+        Conversation& row = rows()[reading.row];
+        const bool isLatest = activity(row.places[reading.place]) > activity(row);
+        if (isLatest)
+            row.lastActivity = row.places[reading.place].lastActivity;
+        if (row.origin == ConversationOrigin::terminal && (isLatest || row.title.empty()))
+            completeTerminal(row, reading.summary);
+    }
+    const auto isFurther = [&](const ConversationPlace& a, const ConversationPlace& b) {
+        if (a.transcripts.empty() != b.transcripts.empty())
+            return b.transcripts.empty();
+        return activity(a) != activity(b) ? activity(a) > activity(b) : a.profile < b.profile;
+    };
+    for (Conversation& row : rows()) {
+        std::ranges::sort(row.places, isFurther);
+        if (text::trimmed(row.title).empty()) {
+            row.title = "Senza titolo";
+            row.hasGivenTitle = false;
+        }
+    }
+    std::ranges::sort(rows(), [&](const Conversation& a, const Conversation& b) {
+        return activity(a) != activity(b) ? activity(a) > activity(b) : a.cliSessionIDs < b.cliSessionIDs;
+    });
+}
+
+} // namespace
+
+ConversationList conversations(const ProfileStore& store) {
+    return Listing(store).make();
+}
+
+} // namespace selvane
