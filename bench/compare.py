@@ -237,6 +237,21 @@ class Programs:
                   "sync -f copied")
         return self.shell(script, reset=lambda: self.runner.put_aside(copy))
 
+    # conversations
+
+    def conversations(self, home):
+        return Work([f"{self.binaries}/bench-conversations", "list"])
+
+    def cat_conversations(self, home):
+        return self.shell("find .claude .claude-profiles -name '*.json*' -print0 | xargs -0 cat")
+
+    def text_search(self, home):
+        return Work([f"{self.binaries}/bench-conversations", "search", homes.UNSAID])
+
+    def grep(self, home):
+        # It says with its status that nothing was found.
+        return self.shell(f"! grep -rF {homes.UNSAID} .claude/projects .claude-profiles/*/projects")
+
     # processes
 
     @contextlib.contextmanager
@@ -315,6 +330,13 @@ def groups(programs):
                  programs.import_sessions, programs.copy_sessions, other_grows=True),
         ], growth_fill=lambda home, size: homes.sessions(home, size, 6000, 16_000),
            growth_unit="sessions of 6 KB, transcripts of 16 KB"),
+        Group(homes.conversations, 20_000, "conversations, transcripts of 54 KB", [
+            Line("conversations", "the list of conversations", "`cat` of the records and transcripts", 1.0,
+                 programs.conversations, programs.cat_conversations, rounds=9),
+            Line("text-search", "a search in 1 GB of transcripts", "`grep -rF`", 1.0, programs.text_search,
+                 programs.grep, rounds=9),
+        ], growth_fill=lambda home, size: homes.conversations(home, size, 4000),
+           growth_unit="conversations, transcripts of 4 KB"),
         Group(lambda home, size: homes.bare(home), 1500, "processes", [
             Line("processes", "`processes`", "`ps axeww`", 0.7, command("processes"), programs.processes_of_system,
                  rounds=21),

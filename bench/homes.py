@@ -8,6 +8,7 @@ import random
 
 COLLECTIONS = ["skills", "agents", "commands", "output-styles", "rules"]
 PROJECT_FOLDERS = 200
+UNSAID = "kwyxj"  # no transcript has it: its letters aren't in any word
 
 
 def write(path, content):
@@ -169,3 +170,46 @@ def sessions(home, count, record_bytes, transcript_bytes):
         write(f"{projects[number % PROJECT_FOLDERS]}/{ident}.jsonl", text(transcript_bytes, number))
     add_profile(home, "altro", {})
     os.makedirs(f"{home}/.claude-profiles/.desktop-data/altro/claude-code-sessions/account/organizzazione")
+
+
+def transcript_line(number):
+    """A line of a transcript: of the user, of the agent, or what a tool has answered."""
+    said = words(20 + number * 37 % 150, number)
+    line = {"parentUuid": f"{number:08x}", "isSidechain": False, "cwd": "/srv/lavori/progetto", "version": "2.1.0",
+            "gitBranch": "main", "uuid": f"{number + 1:08x}", "timestamp": "2026-11-15T17:05:12.000Z"}
+    if number % 3 == 0:
+        line |= {"type": "user", "message": {"role": "user", "content": said}}
+    elif number % 3 == 1:
+        line |= {"type": "assistant", "message": {"role": "assistant", "content": [{"type": "text", "text": said}]}}
+    else:
+        answer = {"type": "tool_result", "content": said * 4}
+        line |= {"type": "user", "message": {"role": "user", "content": [answer]}}
+    return json.dumps(line, ensure_ascii=False, separators=(",", ":")).encode() + b"\n"
+
+
+def conversations(home, count, transcript_bytes=53_687):
+    """`count` conversations, half of them begun in terminals, in 50 profiles, each with an account of its
+    own."""
+    bare(home)
+    lines = [transcript_line(number) for number in range(300)]
+    idents = [f"cliente-{number:02}" for number in range(49)]
+    for number, ident in enumerate(idents):
+        add_profile(home, ident, {}, number=number)
+        os.makedirs(f"{home}/.claude-profiles/.desktop-data/{ident}/claude-code-sessions/account/organizzazione")
+    template = session_record(6000)
+    for number in range(count):
+        ident = f"00000000-0000-4000-8000-{number:012}"
+        owner = idents[number % 50] if number % 50 < 49 else None
+        config = f"{home}/.claude-profiles/{owner}" if owner else f"{home}/.claude"
+        os.makedirs(project := f"{config}/projects/-srv-lavori-progetto-{number % 8}", exist_ok=True)
+        body = []
+        size = index = 0
+        while size < transcript_bytes:
+            body.append(lines[(number + index) % len(lines)])
+            size += len(body[-1])
+            index += 1
+        write(f"{project}/{ident}.jsonl", b"".join(body))
+        if number % 2 == 0 and owner:
+            data = f"{home}/.claude-profiles/.desktop-data/{owner}/claude-code-sessions/account/organizzazione"
+            record = template.replace("@ID@", ident).replace("@N@", str(number % 8))
+            write(f"{data}/local_{ident}.json", record.replace("@TIME@", str(1762000000000 + number * 1000)).encode())
