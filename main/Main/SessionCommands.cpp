@@ -7,6 +7,13 @@
 #include "Main/Commands.h"
 
 namespace selvane::CLI {
+namespace {
+
+void print(const Call& call, const ImportCount& count) {
+    call.out << "copiate " << count.copied << ", in attesa del prossimo avvio " << count.pending << '\n';
+}
+
+} // namespace
 
 void sessions(const Call& call) {
     const Profile owner = profile(call);
@@ -23,12 +30,25 @@ void importSessions(const Call& call) {
     const Profile source = profile(call);
     const Profile target = profile(call.arguments[2], call.store);
     std::vector<CodeSession> chosen = call.store.codeSessions(source, Unreadable::fails);
-    if (call.arguments.size() > 3) {
-        const std::set<std::string> ids(call.arguments.begin() + 3, call.arguments.end());
-        std::erase_if(chosen, [&](const CodeSession& session) { return !ids.contains(session.id); });
+    if (call.arguments.size() == 3) {
+        print(call, call.store.importSessions(chosen, source, target));
+        return;
     }
-    const ImportCount count = call.store.importSessions(chosen, source, target);
-    call.out << "copiate " << count.copied << ", in attesa del prossimo avvio " << count.pending << '\n';
+    // An id is that of a record, or one of the agent's own.
+    std::set<std::string> ids(call.arguments.begin() + 3, call.arguments.end());
+    std::set<std::string> found;
+    std::erase_if(chosen, [&](const CodeSession& session) {
+        std::vector<std::string> names = session.cliSessionIDs;
+        names.push_back(session.id);
+        std::erase_if(names, [&](const std::string& name) { return !ids.contains(name); });
+        found.insert(names.begin(), names.end());
+        return names.empty();
+    });
+    std::erase_if(ids, [&](const std::string& id) { return found.contains(id); });
+    ImportCount count = call.store.importSessions(chosen, source, target, Existing::continued);
+    count.copied +=
+        call.store.importTranscripts({ids.begin(), ids.end()}, source, target, Existing::continued);
+    print(call, count);
 }
 
 } // namespace selvane::CLI

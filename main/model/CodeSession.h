@@ -21,6 +21,14 @@ struct CodeSession {
     bool operator==(const CodeSession&) const = default;
 };
 
+/// What an import does with transcripts of the target's.
+enum class Existing {
+    kept,
+    /// The source's takes the place of one that it has only gone on from: of a shorter one, not newer, with
+    /// which it begins. What was there goes to the Trash. Any other stays.
+    continued,
+};
+
 /// What an import did.
 struct ImportCount {
     int copied = 0;

@@ -19,6 +19,7 @@
 #include "model/ChangedItem.h"
 #include "model/CodeSession.h"
 #include "model/ComponentItem.h"
+#include "model/Continuation.h"
 #include "model/Profile.h"
 #include "model/ProfileSize.h"
 #include "model/SyncReport.h"
@@ -33,6 +34,8 @@ namespace selvane {
 
 class FileBatch;
 class Progress;
+struct Conversation;
+struct ConversationList;
 struct InstructionExcludes;
 
 /// A folder in the profiles root whose record is there, but damaged or unreadable.
@@ -207,8 +210,27 @@ public:
     TranscriptIndex transcripts(const Profile& profile, Unreadable unreadable = Unreadable::leftOut) const;
     int pendingSessionCount(const Profile& profile) const; ///< throws if the queue can't be read
     ImportCount importSessions(const std::vector<CodeSession>& sessions, const Profile& source,
-                               const Profile& target);
+                               const Profile& target, Existing existing = Existing::kept);
+    /// Copies the transcripts of these agent's sessions with their companion folders. Returns how many of
+    /// them the source has.
+    int importTranscripts(const std::vector<std::string>& cliSessionIDs, const Profile& source,
+                          const Profile& target, Existing existing);
     int flushPendingSessions(const Profile& profile); ///< returns how many were placed
+
+    // Conversations that go on in another profile (conversations/Continuation.cpp)
+    /// The folders for session records in the account of a profile, the one used last first.
+    std::vector<OrganisationFolder> organisationFolders(const Profile& profile) const;
+    /// What `continueIn` would do, for `organisation` or the one used last. Throws if that can't be found
+    /// out.
+    Continuation planContinuation(const ConversationList& list, const Conversation& conversation,
+                                  const Profile& target,
+                                  const std::optional<std::filesystem::path>& organisation = {}) const;
+    /// Takes a conversation of the list along to another profile: its transcripts from where it has gone
+    /// furthest, as with `Existing::continued`, and its record, if the target's account doesn't have it. One
+    /// that can't be placed yet is queued for that organisation.
+    ImportCount continueIn(const ConversationList& list, const Conversation& conversation,
+                           const Profile& target,
+                           const std::optional<std::filesystem::path>& organisation = {});
 
     // Backup (Backup.cpp)
     std::vector<std::filesystem::path> backupSources(BackupScope scope) const;
@@ -280,8 +302,11 @@ private:
 
     std::optional<std::filesystem::path> sessionPlace(const std::filesystem::path& dataDir) const;
     std::vector<std::string> queuedSessions(const Profile& profile) const;
-    void copyTranscripts(const CodeSession& session, const TranscriptIndex& from, const Profile& target,
-                         std::set<std::string>& known, FileBatch& batch);
+    void copyTranscript(const std::string& cliSessionID, const std::filesystem::path& folder,
+                        const Profile& target, Existing existing, FileBatch& batch);
+    std::filesystem::path queuedPlace(const std::filesystem::path& queue, const std::string& name,
+                                      const std::filesystem::path& data,
+                                      const std::filesystem::path& usual) const;
 
     std::vector<std::filesystem::path> desktopFolders(const std::vector<std::filesystem::path>& in) const;
 

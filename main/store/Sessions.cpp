@@ -15,6 +15,7 @@
 #include "platform/json/SessionRecord.h"
 #include "store/OwnFolder.h"
 #include "store/SessionHandover.h"
+#include "store/conversations/TranscriptCopies.h"
 
 namespace selvane {
 namespace {
@@ -23,7 +24,6 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view kSessionsFolder = "claude-code-sessions";
 constexpr auto kAnyLaunch = std::launch::async | std::launch::deferred;
-constexpr std::string_view kQueueFolder = ".pending-sessions";
 
 bool isHidden(const std::string& name) {
     return name.starts_with('.');
@@ -111,7 +111,7 @@ std::vector<fs::path> ProfileStore::sessionFolders(const fs::path& dataDir, Unre
 }
 
 std::vector<fs::path> ProfileStore::listedPlaces(const Profile& profile) const {
-    std::vector<fs::path> places = {profile.configDir, profile.configDir / kQueueFolder};
+    std::vector<fs::path> places = {profile.configDir, profile.configDir / kSessionQueue};
     if (!m_files.isFolder(profile.configDir))
         places.push_back(profile.configDir.parent_path());
     for (const Component component : kComponents)
@@ -154,7 +154,7 @@ int ProfileStore::pendingSessionCount(const Profile& profile) const {
 
 /// The names in the queue; none if it is a link, which leads to what isn't the profile's.
 std::vector<std::string> ProfileStore::queuedSessions(const Profile& profile) const {
-    const fs::path queue = profile.configDir / kQueueFolder;
+    const fs::path queue = profile.configDir / kSessionQueue;
     return m_files.isFolder(queue) ? m_files.entriesIfPresent(queue) : std::vector<std::string>();
 }
 
@@ -167,32 +167,52 @@ std::optional<fs::path> ProfileStore::sessionPlace(const fs::path& dataDir) cons
     return std::nullopt;
 }
 
-/// Never overwrites the target's existing transcripts. `known` are the ids that were looked at already.
-void ProfileStore::copyTranscripts(const CodeSession& session, const TranscriptIndex& from,
-                                   const Profile& target, std::set<std::string>& known, FileBatch& batch) {
-    for (const std::string& id : session.cliSessionIDs) {
-        const auto folder = from.transcriptFolder(id);
-        if (!folder || !known.insert(id).second)
-            continue;
-        const fs::path place = target.configDir / "projects" / folder->filename();
-        if (known.insert(place).second) // no id is a path
-            createOwnFolder(target, place);
-        for (const std::string& name : {id + ".jsonl", id}) {
-            if (m_files.exists(*folder / name) && !m_files.exists(place / name))
-                batch.copy(*folder / name, place / name);
-        }
+/// The transcript of one of the agent's sessions, with its companion folder, from a project folder.
+void ProfileStore::copyTranscript(const std::string& cliSessionID, const fs::path& folder,
+                                  const Profile& target, Existing existing, FileBatch& batch) {
+    const fs::path place = target.configDir / "projects" / folder.filename();
+    createOwnFolder(target, place);
+    for (const TranscriptCopy& copy : transcriptCopies(cliSessionID, folder, place, existing)) {
+        createOwnFolder(target, copy.to.parent_path());
+        if (copy.kind == TranscriptCopy::Kind::added)
+            batch.copy(copy.from, copy.to);
+        else if (copy.kind == TranscriptCopy::Kind::continued)
+            m_files.replaceTrashing(copy.to,
+                                    [&](const fs::path& temporary) { m_files.copy(copy.from, temporary); });
     }
 }
 
+int ProfileStore::importTranscripts(const std::vector<std::string>& cliSessionIDs, const Profile& source,
+                                    const Profile& target, Existing existing) {
+    const FolderLock lock = locked(target);
+    const TranscriptIndex index = transcripts(source, Unreadable::fails);
+    std::vector<std::pair<std::string, fs::path>> found;
+    for (const std::string& id : std::set<std::string>(cliSessionIDs.begin(), cliSessionIDs.end())) {
+        const auto folder = index.transcriptFolder(id);
+        if (!folder)
+            continue;
+        found.emplace_back(id, *folder);
+        announce(*folder / (id + ".jsonl"));
+        announce(*folder / id);
+    }
+    FileBatch batch(target.configDir, m_progress);
+    if (source.configDir != target.configDir) {
+        for (const auto& [id, folder] : found)
+            copyTranscript(id, folder, target, existing, batch);
+    }
+    batch.finish();
+    return static_cast<int>(found.size());
+}
+
 ImportCount ProfileStore::importSessions(const std::vector<CodeSession>& sessions, const Profile& source,
-                                         const Profile& target) {
+                                         const Profile& target, Existing existing) {
     const FolderLock lock = locked(target);
     const bool sameAccount = source.accountOwner() == target.accountOwner();
     const bool sameConfiguration = source.configDir == target.configDir;
     const fs::path data = desktopDataDir(target);
     const std::optional<fs::path> open = sessionPlace(data);
     const bool canPlace = open && !desktopDataInUse(data);
-    const fs::path destination = canPlace ? *open : target.configDir / kQueueFolder;
+    const fs::path destination = canPlace ? *open : target.configDir / kSessionQueue;
     // Another profile with the same account may get sessions at the same time.
     const FolderLock placeLock = canPlace ? FolderLock(destination) : FolderLock(fs::path());
     const TranscriptIndex index = transcripts(source, Unreadable::fails);
@@ -212,8 +232,11 @@ ImportCount ProfileStore::importSessions(const std::vector<CodeSession>& session
     std::set<std::string> knownRecords;
     ImportCount count;
     const auto import = [&](const CodeSession& session) {
-        if (!sameConfiguration)
-            copyTranscripts(session, index, target, knownTranscripts, batch);
+        for (const std::string& id : session.cliSessionIDs) {
+            const auto folder = sameConfiguration ? std::nullopt : index.transcriptFolder(id);
+            if (folder && knownTranscripts.insert(id).second)
+                copyTranscript(id, *folder, target, existing, batch);
+        }
         if (sameAccount) { // both profiles already read this record
             ++count.copied;
             return;
@@ -242,9 +265,22 @@ ImportCount ProfileStore::importSessions(const std::vector<CodeSession>& session
     return count;
 }
 
+/// Where a queued record goes: to the organisation folder that was chosen for it, or else to the usual one.
+fs::path ProfileStore::queuedPlace(const fs::path& queue, const std::string& name, const fs::path& data,
+                                   const fs::path& usual) const {
+    const auto chosen = m_files.readIfPossible(queue / placeNoteFor(name), FileManager::kLongestRecord);
+    if (chosen) {
+        for (const fs::path& folder : sessionFolders(data, Unreadable::fails)) {
+            if (folder.lexically_relative(data) == *chosen && !m_files.linkBelow(data, folder))
+                return folder / name;
+        }
+    }
+    return usual / name;
+}
+
 int ProfileStore::flushPendingSessions(const Profile& profile) {
     const FolderLock lock = locked(profile);
-    const fs::path queue = profile.configDir / kQueueFolder;
+    const fs::path queue = profile.configDir / kSessionQueue;
     const std::vector<std::string> queued = queuedSessions(profile);
     if (queued.empty())
         return 0;
@@ -258,7 +294,7 @@ int ProfileStore::flushPendingSessions(const Profile& profile) {
     FileBatch batch(profile.configDir, m_progress);
     int placed = 0;
     for (const std::string& name : queued) {
-        const fs::path place = *folder / name;
+        const fs::path place = isHidden(name) ? fs::path() : queuedPlace(queue, name, data, *folder);
         const bool isLeftover = name.starts_with(FileManager::kTemporaryPrefix);
         const bool isPlaced = !isHidden(name) && m_files.exists(place);
         if ((isLeftover || isPlaced) && m_files.isRegularFile(queue / name))
@@ -269,6 +305,10 @@ int ProfileStore::flushPendingSessions(const Profile& profile) {
         ++placed;
     }
     batch.finish();
+    for (const std::string& name : queued) { // no longer needed
+        if (isPlaceNote(name) && m_files.isRegularFile(queue / name))
+            m_files.removeFile(queue / name);
+    }
     m_files.removeEmptyFolder(queue);
     return placed;
 }

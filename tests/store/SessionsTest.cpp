@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "platform/json/Json.h"
+#include "store/conversations/Conversations.h"
+#include "store/conversations/ResumeCommand.h"
 #include "support/Home.h"
 #include "support/RunningProcess.h"
 
@@ -202,6 +204,50 @@ TEST_F(SessionsOfOpenAccounts, import_TargetInUse_QueuesUntilItIsClosed) {
     }
     EXPECT_EQ(home.store.flushPendingSessions(lavoro), 1);
     EXPECT_EQ(treeOf(destination), (Tree{{"local_1.json", kMoved}}));
+}
+
+TEST_F(SessionsOfOpenAccounts, continueIn_GoesWhereThePlanSays) {
+    using Record = Continuation::Record;
+    makeFolders();
+    const fs::path old = destination.parent_path() / "old";
+    writeFile(lavoro.configDir / ".claude.json",
+              R"({"oauthAccount": {"organizationUuid": "old", "organizationName": "Borea S.r.l."}})");
+    writeFile(lavoro.configDir / "projects/q/c0.jsonl", "zero and more");
+    const std::vector<OrganisationFolder> folders = home.store.organisationFolders(lavoro);
+    ASSERT_EQ(folders.size(), 2U);
+    EXPECT_EQ(folders[0].id + folders[1].id + ":" + folders[0].name + folders[1].name, "newold:Borea S.r.l.");
+    EXPECT_GT(folders[0].lastUsed, folders[1].lastUsed);
+    writeFile(home / ".claude/projects/p/t1.jsonl",
+              R"({"cwd": "/it's", "timestamp": "2026-01-01T00:00:00Z"})");
+    const fs::path archived = home.store.liveDesktopDir() / "claude-code-sessions/a/b/local_1.json";
+    writeFile(archived, R"({"sessionId": "s1", "isArchived": true, "cliSessionId": "c1",
+                           "priorCliSessionIds": ["c0"], "enabledMcpTools": 1, "lastActivityAt": 2e12})");
+    const ConversationList list = conversations(home.store);
+    ASSERT_EQ(list.conversations.size(), 3U);
+    const Conversation& app = list.conversations[0];
+    const auto plan = [&] { return home.store.planContinuation(list, app, lavoro, old); };
+    {
+        const RunningProcess copy({"--user-data-dir=" + home.store.desktopDataDir(lavoro).string()}, {});
+        EXPECT_EQ(plan(), (Continuation{Record::atNextLaunch, 12, 2, 0, 1}));
+        EXPECT_EQ(home.store.continueIn(list, app, lavoro, old), (ImportCount{0, 1}));
+    }
+    EXPECT_EQ(home.store.pendingSessionCount(lavoro), 1);
+    EXPECT_EQ(readFile(lavoro.configDir / "projects/p/c1/sub/x"), "companion");
+    EXPECT_EQ(readFile(lavoro.configDir / "projects/q/c0.jsonl"), "zero and more");
+    EXPECT_EQ(plan(), (Continuation{Record::now, 0, 0, 0, 1}));
+    EXPECT_EQ(home.store.flushPendingSessions(lavoro), 1);
+    EXPECT_FALSE(home.store.exists(queue()));
+    EXPECT_EQ(treeOf(old).at("local_1.json").find("isArchived"), std::string::npos);
+    EXPECT_TRUE(treeOf(destination).empty());
+    EXPECT_EQ(plan().record, Record::present);
+    EXPECT_NE(messageOf([&] { home.store.continueIn(list, app, lavoro, archived.parent_path()); }), "");
+
+    const Conversation& terminal = list.conversations[2];
+    EXPECT_EQ(home.store.planContinuation(list, terminal, lavoro).record, Record::none);
+    EXPECT_EQ(home.store.continueIn(list, terminal, lavoro), (ImportCount{1, 0}));
+    EXPECT_TRUE(home.store.exists(lavoro.configDir / "projects/p/t1.jsonl"));
+    EXPECT_EQ(resumeCommand("/h/bin/claude-profile", terminal, lavoro),
+              "cd '/it'\\''s' && /h/bin/claude-profile lavoro --resume t1");
 }
 
 } // namespace

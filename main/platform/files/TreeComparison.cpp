@@ -76,6 +76,18 @@ std::vector<std::string> sortedEntries(const fs::path& folder) {
 
 } // namespace
 
+bool beginsWith(const fs::path& file, const fs::path& beginning) {
+    Contents whole(file);
+    Contents part(beginning);
+    while (true) {
+        const std::string_view piece = part.next();
+        if (piece.empty())
+            return true;
+        if (!whole.next().starts_with(piece))
+            return false;
+    }
+}
+
 bool isCopy(const fs::path& original, const fs::path& copy) {
     std::vector<fs::path> left = {fs::path()}; // below both
     while (!left.empty()) {

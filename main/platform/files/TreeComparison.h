@@ -11,4 +11,8 @@ namespace selvane::files {
 /// texts. Modes and times don't count. Throws if that can't be found out.
 bool isCopy(const std::filesystem::path& original, const std::filesystem::path& copy);
 
+/// Whether the content of a file begins with all that is in another, or is the same. Throws if that can't be
+/// found out.
+bool beginsWith(const std::filesystem::path& file, const std::filesystem::path& beginning);
+
 } // namespace selvane::files
