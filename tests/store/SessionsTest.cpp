@@ -6,6 +6,7 @@
 #include "platform/json/Json.h"
 #include "store/conversations/Conversations.h"
 #include "store/conversations/ResumeCommand.h"
+#include "store/conversations/SessionStates.h"
 #include "support/Home.h"
 #include "support/RunningProcess.h"
 
@@ -144,7 +145,10 @@ TEST_F(Sessions, import_OtherAccount_WritesTheRecordWithoutItsAccount) {
 }
 
 TEST_F(Sessions, import_NoSessionFolderYet_QueuesUntilThereIsOne) {
+    const auto state = [&] { return sessionStates(home.store, sessions, home.builtIn(), lavoro); };
+    EXPECT_EQ(state(), (std::vector<SessionState>{{7, false}}));
     EXPECT_EQ(import(), (ImportCount{0, 1}));
+    EXPECT_EQ(state(), (std::vector<SessionState>{{7, true}}));
     EXPECT_EQ(import(), (ImportCount{0, 1}));
     EXPECT_EQ(treeOf(queue()), (Tree{{"local_1.json", kMoved}}));
     EXPECT_EQ(fs::status(queue() / "local_1.json").permissions(), kOwnerOnly);
