@@ -16,7 +16,12 @@ using ReceivedEntry = Received<ArchiveEntry>;
 
 void takeEntry(void* context, const ArchivedEntry& archived) noexcept {
     ReceivedEntry::add(context, [&](ArchiveEntry& entry) {
-        entry = {archived.name, archived.kind, archived.size};
+        entry = {.name = archived.name,
+                 .kind = archived.kind,
+                 .size = archived.size,
+                 .target = archived.target == nullptr ? "" : archived.target,
+                 .mode = archived.mode,
+                 .modified = archived.modified};
         if (entry.name.ends_with('/'))
             entry.name.pop_back();
     });

@@ -20,7 +20,10 @@ namespace selvane {
 struct ArchiveEntry {
     std::string name; ///< bytes as stored, but without the slash at the end of a folder's
     ArchivedEntry::Kind kind = ArchivedEntry::Kind::other;
-    std::uint64_t size = 0; ///< bytes, unpacked; of a link's text
+    std::uint64_t size = 0;    ///< bytes, unpacked; of a link's text
+    std::string target = {};   ///< a link's text
+    std::uint32_t mode = 0;    ///< permission, set-id and sticky bits
+    std::int64_t modified = 0; ///< seconds since 1970
 
     bool operator==(const ArchiveEntry&) const = default;
 };

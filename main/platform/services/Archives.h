@@ -16,7 +16,10 @@ struct ArchivedEntry {
     enum class Kind : int { file, folder, link, other };
     const char* name; ///< its bytes as stored, ended by NUL
     Kind kind;
-    std::uint64_t size; ///< bytes, unpacked; of a link's text
+    std::uint64_t size;    ///< bytes, unpacked; of a link's text
+    const char* target;    ///< a link's text, ended by NUL; null for anything else
+    std::uint32_t mode;    ///< permission, set-id and sticky bits
+    std::int64_t modified; ///< seconds since 1970
 };
 
 /// Receives an entry, which is valid only during the call.

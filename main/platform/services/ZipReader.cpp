@@ -80,7 +80,9 @@ public:
         const char* const target = archive_entry_symlink(entry);
         const auto size = target != nullptr ? static_cast<std::int64_t>(__builtin_strlen(target))
                                             : archive_entry_size(entry);
-        sink(context, {name, kindOf(entry), static_cast<std::uint64_t>(size)});
+        sink(context, {name, kindOf(entry), static_cast<std::uint64_t>(size), target,
+                       static_cast<std::uint32_t>(archive_entry_perm(entry)),
+                       static_cast<std::int64_t>(archive_entry_mtime(entry))});
         return Archives::Step::entry;
     }
 
