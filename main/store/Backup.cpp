@@ -30,7 +30,6 @@ namespace fs = std::filesystem;
 
 const fs::path kZip = "/usr/bin/zip";
 constexpr int kZipSkippedFiles = 18;
-constexpr std::string_view kReadmeName = "LEGGIMI-backup.txt";
 
 /// A new folder in the system's temporary folder, removed with this object.
 class TemporaryFolder {

@@ -12,6 +12,10 @@
 namespace selvane {
 namespace {
 
+constexpr std::string_view kOpening = "Backup di Claude creato da Selvane il ";
+constexpr std::string_view kListOpening = ".\n\nContiene (percorsi relativi alla cartella home):\n";
+constexpr std::string_view kListEnd = "\n\n";
+
 std::string indented(const std::string& path) {
     return (path.starts_with('/') ? "  " : "  ~/") + path;
 }
@@ -19,9 +23,8 @@ std::string indented(const std::string& path) {
 } // namespace
 
 std::string backupReadme(const std::vector<std::string>& paths, const std::vector<std::string>& missing) {
-    std::string text = "Backup di Claude creato da Selvane il " +
-                       text::longDate(std::chrono::system_clock::now()) +
-                       ".\n\nContiene (percorsi relativi alla cartella home):\n";
+    std::string text =
+        std::string(kOpening) + text::longDate(std::chrono::system_clock::now()) + std::string(kListOpening);
     for (std::size_t i = 0; i < paths.size(); ++i)
         text += (i == 0 ? "" : "\n") + indented(paths[i]);
     text +=
@@ -45,6 +48,30 @@ std::string backupReadme(const std::vector<std::string>& paths, const std::vecto
             text += indented(text::singleLine(repaired(path))) + "\n";
     }
     return text;
+}
+
+std::optional<std::vector<std::string>> pathsInReadme(std::string_view readme) {
+    const std::size_t opening = readme.find(kListOpening);
+    if (!readme.starts_with(kOpening) || opening == readme.npos)
+        return std::nullopt;
+    std::string_view list = readme.substr(opening + kListOpening.size());
+    list = list.substr(0, list.find(kListEnd));
+    std::vector<std::string> paths;
+    while (!list.empty()) {
+        const std::size_t end = std::min(list.find('\n'), list.size());
+        std::string_view line = list.substr(0, end);
+        list.remove_prefix(std::min(end + 1, list.size()));
+        if (line.starts_with("  ~/"))
+            line.remove_prefix(4);
+        else if (line.starts_with("  /"))
+            line.remove_prefix(2);
+        else
+            return std::nullopt;
+        if (line.ends_with('/')) // a link that was followed
+            line.remove_suffix(1);
+        paths.emplace_back(line);
+    }
+    return paths;
 }
 
 } // namespace selvane

@@ -17,13 +17,25 @@ struct Replacement {
     std::string to;
 };
 
+enum class Where { anywhere, atBeginning };
+
+/// Whether a path can go on with this character, so that what follows doesn't begin one.
+bool isInsidePath(char c) {
+    const bool isLetter = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
+    return isLetter || c == '_' || c == '-' || c == '.' || static_cast<unsigned char>(c) >= 0x80;
+}
+
 /// Replaces in one pass: never looks again at text it has put in, even if that matches too.
-std::string replaced(std::string_view text, const std::vector<Replacement>& replacements) {
+std::string replaced(std::string_view text, const std::vector<Replacement>& replacements, Where where) {
     std::string result;
+    char before = ' ';
     while (!text.empty()) {
-        const auto found =
+        auto found =
             std::find_if(replacements.begin(), replacements.end(),
                          [&](const Replacement& candidate) { return text.starts_with(candidate.from); });
+        if (where == Where::atBeginning && isInsidePath(before))
+            found = replacements.end();
+        before = found == replacements.end() ? text.front() : found->from.back();
         result += found == replacements.end() ? text.substr(0, 1) : std::string_view(found->to);
         text.remove_prefix(found == replacements.end() ? 1 : found->from.size());
     }
@@ -65,7 +77,29 @@ std::string withRewrittenPaths(std::string_view text, const Profile& from, const
     }
     if (from.isDefault())
         replacements.push_back({"~/.claude/", target + "/"});
-    return replaced(text, replacements);
+    return replaced(text, replacements, Where::anywhere);
+}
+
+std::string withMovedPaths(std::string_view json, const std::vector<PathMove>& moves) {
+    std::vector<Replacement> replacements;
+    for (const PathMove& move : moves) {
+        const std::string target = jsonEscaped(move.to.string(), false);
+        for (const std::string& source : jsonSpellings(move.from)) {
+            for (const std::string end : {"/", "\""})
+                replacements.push_back({source + end, target + end});
+        }
+    }
+    return replaced(json, replacements, Where::atBeginning);
+}
+
+std::filesystem::path movedPath(const std::filesystem::path& path, const std::vector<PathMove>& moves) {
+    for (const PathMove& move : moves) {
+        if (path == move.from)
+            return move.to;
+        if (path.native().starts_with(move.from.native() + "/"))
+            return move.to.native() + path.native().substr(move.from.native().size());
+    }
+    return path;
 }
 
 } // namespace selvane
