@@ -19,15 +19,16 @@
 namespace selvane::test {
 
 /// A real process with these arguments and this environment. It does nothing and has no files open for as
-/// long as this object lives.
+/// long as this object lives. `name` is what it calls itself.
 class RunningProcess {
 public:
-    RunningProcess(const std::vector<std::string>& arguments, const Environment& environment) {
-        std::vector<std::string> texts = {"sh", "-c", "read line", "sh"};
+    RunningProcess(const std::vector<std::string>& arguments, const Environment& environment,
+                   const std::string& name = "sh") {
+        std::vector<std::string> texts = {name, "-c", "read line", "sh"};
         texts.insert(texts.end(), arguments.begin(), arguments.end());
         std::vector<std::string> variables;
-        for (const auto& [name, value] : environment)
-            variables.push_back(name + "=" + value);
+        for (const auto& [variable, value] : environment)
+            variables.push_back(variable + "=" + value);
         std::array<int, 2> input = {}, started = {};
         if (pipe2(input.data(), O_CLOEXEC) != 0 || pipe2(started.data(), O_CLOEXEC) != 0)
             std::abort();
