@@ -9,6 +9,7 @@
 ///   single-operation bring PROFILE COMPONENT ITEM
 ///   single-operation isolate PROFILE yes|no
 ///   single-operation delete PROFILE
+///   single-operation restore ARCHIVE                              everything in it
 /// An item or profile that is already gone counts as done, as in the windows, which no longer show it.
 
 #include <algorithm>
@@ -23,6 +24,7 @@
 #include "platform/process/Workspace.h"
 #include "platform/text/ErrorText.h"
 #include "store/ProfileStore.h"
+#include "store/restore/Restore.h"
 
 namespace {
 
@@ -73,6 +75,11 @@ void run(const Words& words, ProfileStore& store) {
     const std::string& operation = words.at(0);
     if (operation == "import-items")
         return importMissing(words, store);
+    if (operation == "restore") {
+        const CheckedArchive archive = checkArchive(store, words.at(1));
+        restore(store, archive, archive.parts);
+        return;
+    }
     const auto profile = store.profile(words.at(1));
     if (operation == "delete") {
         if (profile)

@@ -188,6 +188,18 @@ def _backups():
     yield Operation("backup-replacing", ["selvane", "backup", "@/copie/a.zip"], earlier)
 
 
+def _restores():
+    def older(home):
+        """An archive, and what has changed since."""
+        home.run("selvane", "backup", "@/a.zip")
+        home.put(".claude/skills/revisione/SKILL.md", "Cambiata dopo.\n")
+        home.put(".claude.json", '{"dopo": true}\n', 0o600)
+        home.put(WORK + "dopo.txt", "Dopo.\n")
+        home.remove(COPY + "CLAUDE.md")
+    # What is replaced stands beside what replaces it until the Trash has it.
+    yield Operation("restore-archive", ["operation", "restore", "@/a.zip"], older, moves=True)
+
+
 def _single_operations():
     def exclude(home):
         home.edit(WORK + ".launcher.json", lambda record: record["excluded"].update(skills=["revisione"]))
@@ -259,7 +271,8 @@ def _drift():
 
 
 OPERATIONS = [*_creations(), *_syncs(), *_collection_modes(), *_rules_modes(), *_import_modes(), *_sessions(),
-              *_launches(), *_helpers(), *_restorations(), *_backups(), *_single_operations(), *_drift()]
+              *_launches(), *_helpers(), *_restorations(), *_backups(), *_restores(), *_single_operations(),
+              *_drift()]
 # The same on file systems that can neither exchange names nor rename without replacing.
 _IN_STEPS = ("create-separate", "set-mode-CLAUDE.md-extend-separate", "set-mode-mcp-merged", "import-sessions",
              "launch-with-queue", "restore-desktop-swapped", "backup-replacing", "import-items-copies", "delete")
