@@ -116,7 +116,7 @@ ImportCount ProfileStore::continueIn(const ConversationList& list, const Convers
     const FolderLock lock = locked(target);
     const Continuation plan = planContinuation(list, conversation, target, organisation);
     const ConversationPlace& furthest = conversation.places.front();
-    FileBatch batch(m_progress);
+    FileBatch batch(target.configDir, m_progress);
     if (list.profiles.at(furthest.profile).configDir != target.configDir) {
         for (const fs::path transcript : furthest.transcripts) {
             announce(transcript);
@@ -129,14 +129,18 @@ ImportCount ProfileStore::continueIn(const ConversationList& list, const Convers
     if (isQueued || plan.record == Continuation::Record::now) {
         const fs::path record = recordFile(conversation);
         const fs::path queue = target.configDir / kSessionQueue;
-        const std::string bytes = continuedRecord(m_files.read(record), record);
+        std::string bytes = continuedRecord(m_files.read(record), record);
+        const auto write = [&](const fs::path& file, std::string content) {
+            batch.write(
+                file, [content = std::move(content)] { return content; }, Privacy::ownerOnly);
+        };
         if (isQueued)
             createOwnFolder(target, queue);
         if (isQueued && organisation)
-            batch.write(queue / placeNoteFor(record.filename().native()),
-                        organisation->lexically_relative(data).native(), Privacy::ownerOnly);
+            write(queue / placeNoteFor(record.filename().native()),
+                  organisation->lexically_relative(data).native());
         const fs::path place = organisation ? *organisation : sessionPlace(data).value_or(queue);
-        batch.write((isQueued ? queue : place) / record.filename(), bytes, Privacy::ownerOnly);
+        write((isQueued ? queue : place) / record.filename(), std::move(bytes));
     }
     batch.finish();
     return {.copied = isQueued ? 0 : 1, .pending = isQueued ? 1 : 0};
