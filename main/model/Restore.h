@@ -29,7 +29,7 @@ struct RestorePart {
 
     Kind kind = Kind::principal;
     std::string id;   ///< of the profile, or of the account's owner; "default" for the built-in profile's
-    std::string name; ///< of that profile, as the archive has it, else its id
+    std::string name; ///< of that profile, as the archive has it, else its id; on one line
     std::string symbol;
     std::vector<Tree> trees;
     std::int64_t files = 0;    ///< files and links

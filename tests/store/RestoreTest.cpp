@@ -116,6 +116,13 @@ TEST(Restore, anotherHomesArchive_WorksHere) {
     EXPECT_EQ(tryRestore(bruno.store, checked, {checked.parts[1]}).parts[0].counts.changed, 0);
 }
 
+std::string repeated(const std::string& text, int times) {
+    std::string result;
+    for (int i = 0; i < times; ++i)
+        result += text;
+    return result;
+}
+
 TEST(Restore, hostileArchives_AreRefusedBeforeAnythingIsWritten) {
     Home home;
     writeTree(home.path, {{".claude/a", "mine"}, {"b", "mine"}});
@@ -143,14 +150,32 @@ TEST(Restore, hostileArchives_AreRefusedBeforeAnythingIsWritten) {
     EXPECT_EQ(refusal({bomb}).substr(0, unsafe.size()), unsafe);
     bomb.declared = 3000;
     EXPECT_NE(refusal({bomb}), "") << "less than it says";
+    std::vector<ZipEntry> folders;
+    for (int i = 0; i < 50; ++i)
+        folders.push_back({".claude/" + std::to_string(i) + repeated("/a", 1900), ""});
+    EXPECT_EQ(refusal(folders).substr(0, unsafe.size()), unsafe) << "too many folders";
+    EXPECT_EQ(refusal({{".claude/" + repeated("a/", 2500) + "b", ""}}), unsafe);
+    const std::string damaged = "L'archivio è danneggiato o incompleto: " + file.string();
+    for (const std::uint32_t mode : {0100644U, 0120777U})
+        EXPECT_EQ(refusal({{".claude/b", "secret", mode, std::nullopt, 1}}), damaged) << "encrypted";
+    const std::string whole =
+        zipOf({{".claude/b", "ok"}, {std::string(kReadmeName), readme}, {".claude/c", "ok"}});
+    for (std::size_t size = 0; size < whole.size(); size += 7) {
+        writeFile(file, whole.substr(0, size));
+        EXPECT_NE(messageOf([&] { checkArchive(home.store, file); }), "") << "cut off after " << size;
+    }
     EXPECT_TRUE(refusal({{".claude/b", "ok"}}, false).starts_with("Non è un archivio di Selvane"));
     EXPECT_EQ(refusal({{".claude/b", "ok"}, {".bashrc", "evil"}}), "Non è un archivio di Selvane");
 
     writeFile(file, zipOf({{".claude/b", "s", 0106777},
                            {".claude/f", "", 0010644},
                            {".claude/c", "../b", 0120777},
+                           {".claude/\xE9", "not UTF-8"},
+                           {".claude/x/CLAUDE.md", repeated("/.claude", 20000)},
+                           {".claude/x/settings.json", "\"/" + repeated("a", 5000) + "/.claude/b\""},
                            {std::string(kReadmeName), readme}}));
     const CheckedArchive checked = checkArchive(home.store, file);
+    EXPECT_LT(checked.formerHome.native().size(), 513U) << "and that was found out fast";
     const std::string bytes = readFile(file);
     writeFile(file, replacedAll(bytes, ".claude/b", ".claude/z"));
     const std::string changed = "L'archivio è cambiato nel frattempo: " + file.string();
@@ -163,7 +188,36 @@ TEST(Restore, hostileArchives_AreRefusedBeforeAnythingIsWritten) {
     EXPECT_EQ(::lstat((home / ".claude/b").c_str(), &status), 0);
     EXPECT_EQ(status.st_mode & 07022, 0U) << "no set-id bits, and the creation mask counts";
     ASSERT_TRUE(fs::is_regular_file(home / ".claude/f")) << "libarchive takes a FIFO for a file";
-    EXPECT_EQ(treeOf(home / ".claude"), (Tree{{"b", "s"}, {"c", "-> ../b"}, {"f", ""}}));
+    fs::remove_all(home / ".claude/x");
+    EXPECT_EQ(treeOf(home / ".claude"),
+              (Tree{{"b", "s"}, {"c", "-> ../b"}, {"f", ""}, {"\xE9", "not UTF-8"}}));
+}
+
+TEST(Restore, whatIsNoPart_IsNeverReplaced) {
+    Home home;
+    const std::string record = R"({"name": "Uno\u0007\nDue"})";
+    const fs::path file = home.folder / "odd.zip";
+    writeFile(file, zipOf({{".claude-profiles/uno/.launcher.json", record},
+                           {".claude-profiles/bin/.launcher.json", record},
+                           {".claude-profiles/default/.launcher.json", record},
+                           {std::string(kReadmeName), backupReadme({".claude-profiles"}, {})}}));
+    const CheckedArchive odd = checkArchive(home.store, file);
+    EXPECT_EQ(titles(odd.parts), Texts{"1 uno Uno\uFFFD\uFFFDDue"});
+    EXPECT_EQ(odd.others.size(), 2U);
+
+    // The profiles lie in what is to be replaced.
+    ProfileStore nested({{"HOME", home.path},
+                         {"CLAUDE_LAUNCHER_ROOT", home / ".claude/profili"},
+                         {"CLAUDE_LAUNCHER_DESKTOP_DIR", home / ".config/Claude"}},
+                        home.claude);
+    writeTree(home.path, {{".claude/a", "mine"}, {".claude/profili/uno/.launcher.json", record}});
+    const CheckedArchive archive =
+        checkArchive(nested, home.store.backup(BackupScope::principal(), home.folder / "b.zip").archive);
+    const Tree before = treeOf(home.path);
+    EXPECT_EQ(messageOf([&] { restore(nested, archive, archive.parts); }),
+              "Non si può ripristinare " + (home / ".claude").string() + ": contiene " +
+                  (home / ".claude/profili").string());
+    EXPECT_EQ(treeOf(home.path), before);
 }
 
 /// A home with an older state of itself in an archive.
@@ -219,6 +273,7 @@ TEST_F(RestoreHere, anInterruptedOne_IsCompletedPartByPart) {
                      {"due", {temporary(home / ".claude-profiles/lavoro", "3")}},
                      {"tre", {temporary(home / ".claude-profiles/nuovo", "4")}}};
     journal.write(home.store.root());
+    writeFile(home / ".claude-profiles/.selvane-restore-trial/0/a", "left by a trial");
     EXPECT_EQ(interruptedRestore(home.store)->untouched, (Texts{"uno", "due", "tre"}));
     completeRestore(home.store);
     EXPECT_EQ(treeOf(home.path), now) << "nothing was swapped yet, so nothing is";

@@ -17,6 +17,7 @@ struct ZipEntry {
     std::string content;
     std::uint32_t mode = 0100644;                         ///< as in `st_mode`
     std::optional<std::uint32_t> declared = std::nullopt; ///< the size that it claims to have unpacked
+    std::uint32_t flags = 0; ///< 1 if it is encrypted, 0x800 if its name is UTF-8
 };
 
 inline std::uint32_t checksum(std::string_view bytes) {
@@ -45,7 +46,7 @@ inline std::string zipOf(const std::vector<ZipEntry>& entries) {
     std::string archive;
     std::string directory;
     for (const ZipEntry& entry : entries) {
-        const std::string common = numbers({{0, 2}, {0, 2}, {0, 2}, {0x5A21, 2}}) +
+        const std::string common = numbers({{entry.flags, 2}, {0, 2}, {0, 2}, {0x5A21, 2}}) +
                                    numbers({{checksum(entry.content), 4},
                                             {size(entry.content), 4},
                                             {entry.declared.value_or(size(entry.content)), 4},

@@ -77,6 +77,9 @@ public:
         const char* const name = result >= ARCHIVE_WARN ? archive_entry_pathname(entry) : nullptr;
         if (name == nullptr)
             return Archives::Step::failure;
+        // What is encrypted couldn't be read, and a link's text would be taken as it is.
+        if (archive_entry_is_encrypted(entry) != 0)
+            return Archives::Step::failure;
         const char* const target = archive_entry_symlink(entry);
         const auto size = target != nullptr ? static_cast<std::int64_t>(__builtin_strlen(target))
                                             : archive_entry_size(entry);

@@ -17,8 +17,9 @@ namespace selvane {
 /// The entries of an archive, none of which can do harm when it is unpacked into a new folder.
 ///
 /// Throws `LauncherError` for an archive that is damaged, that no backup would have made, or that is unsafe:
-/// with a name that leads out of the folder, that occurs twice or lies below something that is no folder;
-/// with a device or the like; or with more than `kMostTimes` its own size in it.
+/// with a name that leads out of the folder, that is too long for any, that occurs twice or lies below
+/// something that is no folder; with a device or the like; or if it would take more than `kMostTimes` its own
+/// size, be it with contents or with the folders that its names imply.
 class ArchiveListing {
 public:
     static constexpr std::uint64_t kMostTimes = 100;
@@ -36,6 +37,8 @@ public:
         return begin != end;
     }
     std::uint64_t archiveSize() const { return m_archiveSize; }
+    /// The bytes that an entry and everything below it may take up, unpacked.
+    std::uint64_t spaceFor(std::string_view name) const;
 
 private:
     void add(ArchiveEntry entry);

@@ -25,6 +25,17 @@ using PartKind = RestorePart::Kind;
 
 const LauncherError kForeign("Non è un archivio di Selvane");
 
+using Names = std::set<std::string, std::less<>>;
+
+/// Whether an entry is one of these or below one.
+bool isIn(std::string_view name, const Names& tops) {
+    for (std::size_t end = name.size(); end != name.npos && end > 0; end = name.rfind('/', end - 1)) {
+        if (tops.contains(name.substr(0, end)))
+            return true;
+    }
+    return false;
+}
+
 std::string lastName(std::string_view path) {
     return fs::path(path).filename();
 }
@@ -109,7 +120,7 @@ private:
         RestorePart part;
         part.kind = kind;
         part.id = id;
-        part.name = id;
+        part.name = text::singleLine(id);
         return part;
     }
 
@@ -122,7 +133,7 @@ private:
         if (part.trees.empty())
             return;
         if (const auto meta = decodedProfileMeta(m_text(record))) {
-            part.name = meta->name;
+            part.name = text::singleLine(meta->name);
             part.symbol = meta->symbol;
         } else if (part.id == Profile::kDefaultId) {
             part.name = "Principale";
@@ -148,7 +159,9 @@ private:
         for (const std::string& id : foldersIn(m_listing, m_archived.root)) {
             const std::string folder = m_archived.root + "/" + id;
             const std::string record = folder + "/" + std::string(ProfileStore::kMetaFileName);
-            if (!Profile::isPossibleId(id) || !isFile(m_listing, record))
+            // "bin" is the terminal helper's folder, and the built-in profile has none.
+            if (!Profile::isPossibleId(id) || id == Profile::kDefaultId || id == "bin" ||
+                !isFile(m_listing, record))
                 continue;
             RestorePart part = partOf(PartKind::profile, id);
             addTree(part, folder, m_places.root / id);
@@ -217,13 +230,12 @@ ArchivedPlaces archivedPlaces(const ArchiveListing& listing, const std::vector<s
         if (place->empty())
             *place = name;
     }
+    Names tops = {std::string(kReadmeName)};
+    for (const std::string& path : paths)
+        tops.emplace(archivedName(path));
     for (const auto& [name, entry] : listing.entries()) {
-        const bool isListed =
-            std::any_of(paths.begin(), paths.end(), [&, &known = name](const std::string& path) {
-                const std::string top(archivedName(path));
-                return known == top || known.starts_with(top + "/") || top.starts_with(known + "/");
-            });
-        if (!isListed && name != kReadmeName)
+        const auto inside = tops.lower_bound(name + "/");
+        if (!isIn(name, tops) && (inside == tops.end() || !inside->starts_with(name + "/")))
             throw kForeign;
     }
     return places;
@@ -233,20 +245,13 @@ std::vector<RestorePart> archivedParts(const ArchiveListing& listing, const Arch
                                        const SavedPlaces& places, const ArchivedText& text,
                                        std::vector<std::string>& others) {
     std::vector<RestorePart> parts = Parts(listing, archived, places, text).make();
-    std::set<std::string> tops = {std::string(kReadmeName)};
+    Names tops = {std::string(kReadmeName)};
     for (const RestorePart& part : parts) {
         for (const RestorePart::Tree& tree : part.trees)
             tops.insert(tree.archived);
     }
-    const auto isCovered = [&](const std::string& name) {
-        for (std::size_t end = name.size(); end != name.npos && end > 0; end = name.rfind('/', end - 1)) {
-            if (tops.contains(name.substr(0, end)))
-                return true;
-        }
-        return false;
-    };
     for (const auto& [name, entry] : listing.entries()) {
-        if (entry.kind != EntryKind::folder && !isCovered(name))
+        if (entry.kind != EntryKind::folder && !isIn(name, tops))
             others.push_back(name);
     }
     return parts;

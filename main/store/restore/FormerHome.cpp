@@ -11,6 +11,9 @@
 namespace selvane {
 namespace {
 
+constexpr std::size_t kLongestHome = 512; ///< bytes
+constexpr std::size_t kMostHomes = 1024;
+
 /// How many folders are above.
 std::ptrdiff_t depthOf(std::string_view path) {
     return std::count(path.begin(), path.end(), '/');
@@ -37,10 +40,14 @@ void FormerHome::read(std::string_view text) {
             const std::size_t end = at + path.size();
             if (end < text.size() && kAfter.find(text[end]) == kAfter.npos)
                 continue;
-            const std::size_t before = at == 0 ? text.npos : text.find_last_of(kBefore, at - 1);
-            const std::size_t begin = before == text.npos ? 0 : before + 1;
-            const std::string_view home = text.substr(begin, at - begin);
-            if (home.size() > 1 && home.starts_with('/') && home.find("/../") == home.npos)
+            const std::size_t first = at > kLongestHome ? at - kLongestHome : 0;
+            std::string_view home = text.substr(first, at - first);
+            if (const std::size_t before = home.find_last_of(kBefore); before != home.npos)
+                home.remove_prefix(before + 1);
+            else if (first > 0)
+                continue;
+            if (home.size() > 1 && home.starts_with('/') && home.find("/../") == home.npos &&
+                (m_seen.size() < kMostHomes || m_seen.contains(home)))
                 ++m_seen[std::string(home)];
         }
     }

@@ -20,14 +20,15 @@ public:
     /// What the archive's readme lists, relative to that home.
     explicit FormerHome(const std::vector<std::string>& paths);
 
-    /// Looks for absolute paths of what the readme lists.
+    /// Looks for absolute paths of what the readme lists. Takes no account of homes with very long paths, nor
+    /// of any more once very many have been met.
     void read(std::string_view text);
     /// The home that was met most often; empty if none was.
     std::filesystem::path mostLikely() const;
 
 private:
     std::vector<std::string> m_paths;
-    std::map<std::string, int> m_seen;
+    std::map<std::string, int, std::less<>> m_seen;
 };
 
 /// What kind of text with paths in it a file of a part is.

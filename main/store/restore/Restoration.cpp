@@ -29,23 +29,29 @@ fs::path existingAbove(fs::path path) {
 }
 
 /// Throws unless what is to be unpacked fits where it goes.
-void requireSpace(const std::map<fs::path, std::int64_t>& needed) {
-    std::map<unsigned long, std::pair<std::int64_t, fs::path>> disks;
+void requireSpace(const std::map<fs::path, std::uint64_t>& needed) {
+    std::map<unsigned long, std::uint64_t> disks;
     for (const auto& [folder, bytes] : needed) {
         struct statvfs status = {};
         const fs::path there = existingAbove(folder);
         if (::statvfs(there.c_str(), &status) != 0)
             files::fail("restore", there, errno);
-        auto& [sum, name] = disks[status.f_fsid];
+        std::uint64_t& sum = disks[status.f_fsid];
         sum += bytes;
-        name = there;
-        const auto available =
-            static_cast<std::int64_t>(status.f_bavail) * static_cast<std::int64_t>(status.f_frsize);
+        const std::uint64_t available = std::uint64_t{status.f_bavail} * status.f_frsize;
         if (sum > available)
             throw LauncherError("Non c'è abbastanza spazio in " + text::singleLine(there.string()) +
-                                ": servono " + text::byteCount(sum) + ", liberi " +
-                                text::byteCount(available));
+                                ": servono " + text::byteCount(static_cast<std::int64_t>(sum)) + ", liberi " +
+                                text::byteCount(static_cast<std::int64_t>(available)));
     }
+}
+
+bool isInside(const fs::path& path, const fs::path& folder) {
+    return path.native().starts_with(folder.native() + "/");
+}
+
+fs::path placeAside(const SavedPlaces& places) {
+    return places.root / (std::string(FileManager::kTemporaryPrefix) + "restore-trial");
 }
 
 void removeQuietly(const fs::path& path) {
@@ -85,14 +91,20 @@ Restoration::Restoration(const CheckedArchive& archive, const std::vector<Restor
 }
 
 Restoration::~Restoration() {
+    discard();
+}
+
+void Restoration::discard() {
     for (const TreeToRestore& tree : m_trees)
         removeQuietly(tree.temporary);
+    m_trees.clear();
     if (!m_folder.empty())
         removeQuietly(m_folder);
 }
 
 RestoreJournal Restoration::prepareBeside() {
     RestoreJournal journal{m_archive.file, false, {}};
+    requireApart();
     requireSpace(needs({}));
     for (const RestorePart& part : m_parts) {
         RestoreJournal::Part noted{titleOf(part), {}};
@@ -108,12 +120,23 @@ RestoreJournal Restoration::prepareBeside() {
 
 void Restoration::prepareAside() {
     requireSpace(needs(m_places.root));
-    m_folder = files::newSibling(m_places.root / "x");
-    FileManager().createFolder(m_folder);
+    const fs::path folder = placeAside(m_places);
+    const FileManager files;
+    files.createFolders(folder, Privacy::ownerOnly);
+    m_lock.emplace(folder, m_progress);
+    m_folder = folder;
+    for (const std::string& name : files.entriesIfPresent(folder)) // of a killed run
+        files.removeTree(folder / name);
     for (const RestorePart& part : m_parts) {
         for (const RestorePart::Tree& tree : part.trees)
             m_trees.push_back({part.kind, tree, m_folder / std::to_string(m_trees.size())});
     }
+}
+
+void Restoration::removeAside(const SavedPlaces& places) {
+    const fs::path folder = placeAside(places);
+    if (const auto lock = FolderLock::ifFree(folder))
+        FileManager().removeTree(folder);
 }
 
 RestoreReport Restoration::unpack() {
@@ -133,15 +156,26 @@ RestoreReport Restoration::unpack() {
 }
 
 /// The bytes for each folder, or for `all` in one.
-std::map<fs::path, std::int64_t> Restoration::needs(const fs::path& all) const {
-    constexpr std::int64_t kBlock = 4096;
-    std::map<fs::path, std::int64_t> needed;
+std::map<fs::path, std::uint64_t> Restoration::needs(const fs::path& all) const {
+    std::map<fs::path, std::uint64_t> needed;
     for (const RestorePart& part : m_parts) {
-        if (!part.trees.empty())
-            needed[all.empty() ? part.trees.front().target.parent_path() : all] +=
-                part.bytes + part.files * kBlock;
+        for (const RestorePart::Tree& tree : part.trees)
+            needed[all.empty() ? tree.target.parent_path() : all] += m_listing.spaceFor(tree.archived);
     }
     return needed;
+}
+
+/// What is inside a target would go to the Trash with it.
+void Restoration::requireApart() const {
+    for (const RestorePart& part : m_parts) {
+        for (const RestorePart::Tree& tree : part.trees) {
+            for (const fs::path& place : {m_places.root, m_places.configuration, m_places.desktopData}) {
+                if (isInside(place, tree.target))
+                    throw LauncherError("Non si può ripristinare " + text::singleLine(tree.target.string()) +
+                                        ": contiene " + text::singleLine(place.string()));
+            }
+        }
+    }
 }
 
 } // namespace selvane

@@ -5,10 +5,12 @@
 
 #include <filesystem>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "model/Restore.h"
+#include "platform/files/FolderLock.h"
 #include "store/restore/ArchiveListing.h"
 #include "store/restore/ArchiveParts.h"
 #include "store/restore/RestoreJournal.h"
@@ -33,17 +35,24 @@ public:
 
     const std::vector<RestorePart>& parts() const { return m_parts; }
 
-    /// Chooses names beside the targets. Throws if there is no space for what is unpacked there.
+    /// Chooses names beside the targets. Throws if there is no space for what is unpacked there, or if one
+    /// of the targets contains a place of another part.
     RestoreJournal prepareBeside();
-    /// Chooses names in a new folder in the profiles root. Throws likewise.
+    /// Chooses names in a folder in the profiles root that is used for nothing else, and locks it. Throws if
+    /// there is no space there.
     void prepareAside();
+    /// Removes what a killed run has left in that folder, with the folder.
+    static void removeAside(const SavedPlaces& places);
     /// Unpacks to these names and compares with what is there.
     RestoreReport unpack();
+    /// Removes what was unpacked.
+    void discard();
     /// The journal decides from now on what becomes of the temporaries.
     void release() { m_trees.clear(); }
 
 private:
-    std::map<std::filesystem::path, std::int64_t> needs(const std::filesystem::path& all) const;
+    std::map<std::filesystem::path, std::uint64_t> needs(const std::filesystem::path& all) const;
+    void requireApart() const;
 
     const CheckedArchive& m_archive;
     const SavedPlaces m_places;
@@ -51,7 +60,8 @@ private:
     Progress* m_progress;
     std::vector<RestorePart> m_parts;
     std::vector<TreeToRestore> m_trees;
-    std::filesystem::path m_folder; ///< of their own; empty if they are beside their targets
+    std::filesystem::path m_folder;   ///< of their own; empty if they are beside their targets
+    std::optional<FolderLock> m_lock; ///< of that folder
 };
 
 } // namespace selvane

@@ -74,6 +74,7 @@ void swapParts(RestoreJournal& journal, const fs::path& root) {
 
 /// What was begun is completed, what wasn't stays as it is. The root is locked.
 void finish(const ProfileStore& store) {
+    Restoration::removeAside(savedPlaces(store));
     auto journal = RestoreJournal::read(store.root());
     if (!journal) {
         if (FileManager().exists(RestoreJournal::fileIn(store.root()))) // damaged, and so never used
@@ -154,6 +155,7 @@ RestoreReport restore(ProfileStore& store, const CheckedArchive& archive,
         journal.isComplete = true;
         journal.write(store.root());
     } catch (...) {
+        restoration.discard();
         RestoreJournal::remove(store.root());
         throw;
     }

@@ -40,8 +40,8 @@ RestoreReport restore(ProfileStore& store, const CheckedArchive& archive,
 
 /// How far a restore had come that was killed; nothing if none was.
 std::optional<InterruptedRestore> interruptedRestore(const ProfileStore& store);
-/// Completes the part that a killed restore had begun, and removes what it had unpacked for others. Does
-/// nothing if there was none. `restore` begins with this.
+/// Completes the part that a killed restore had begun, and removes what it, or a killed trial, had unpacked
+/// for others. Does nothing if there was none. `restore` begins with this.
 void completeRestore(const ProfileStore& store);
 
 } // namespace selvane

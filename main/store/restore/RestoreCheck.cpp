@@ -33,6 +33,9 @@ std::string_view fileName(std::string_view path) {
     return path.substr(path.rfind('/') + 1);
 }
 
+constexpr std::size_t kMostKept = std::size_t{64} << 20; ///< bytes of records, all together
+constexpr std::size_t kMostPaths = 256;                  ///< that a readme lists
+
 bool isRecord(std::string_view name) {
     return name == ProfileStore::kMetaFileName || name == "default.json" || name == ".live";
 }
@@ -52,7 +55,7 @@ public:
                 continue;
             std::string text;
             readGuarded(reader, *entry, [&](std::string_view bytes) { text += bytes; });
-            if (auto paths = pathsInReadme(text))
+            if (auto paths = pathsInReadme(text); paths && paths->size() <= kMostPaths)
                 return std::move(*paths);
         }
         throw LauncherError("Non è un archivio di Selvane: " + text::singleLine(archive.string()));
@@ -63,7 +66,8 @@ public:
         ArchiveReader reader(archive);
         while (const auto entry = reader.next()) {
             const std::string_view name = fileName(entry->name);
-            const bool isKept = isRecord(name) && entry->size <= FileManager::kLongestRecord;
+            const bool isKept = isRecord(name) && entry->size <= FileManager::kLongestRecord &&
+                                m_kept + entry->size <= kMostKept;
             const bool tells = std::ranges::find(kTelling, name) != kTelling.end();
             std::string text;
             readGuarded(reader, *entry, [&](std::string_view bytes) {
@@ -76,8 +80,10 @@ public:
                 home.read(text);
             if (entry->kind == EntryKind::link)
                 home.read(entry->target);
-            if (isKept)
+            if (isKept) {
+                m_kept += text.size();
                 m_texts[entry->name] = std::move(text);
+            }
         }
     }
 
@@ -97,6 +103,7 @@ private:
     const ArchiveListing& m_listing;
     Progress* m_progress;
     std::map<std::string, std::string> m_texts;
+    std::size_t m_kept = 0; ///< bytes of these
 };
 
 } // namespace
