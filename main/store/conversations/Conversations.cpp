@@ -242,9 +242,19 @@ void Listing::complete() {
             row.hasGivenTitle = false;
         }
     }
-    std::ranges::sort(rows(), [&](const Conversation& a, const Conversation& b) {
-        return activity(a) != activity(b) ? activity(a) > activity(b) : a.cliSessionIDs < b.cliSessionIDs;
+    // Not the conversations themselves, which are large.
+    std::vector<std::pair<double, std::size_t>> order;
+    for (std::size_t row = 0; row < rows().size(); ++row)
+        order.emplace_back(activity(rows()[row]), row);
+    std::ranges::sort(order, [&](const auto& a, const auto& b) {
+        return a.first != b.first ? a.first > b.first
+                                  : rows()[a.second].cliSessionIDs < rows()[b.second].cliSessionIDs;
     });
+    std::vector<Conversation> sorted;
+    sorted.reserve(rows().size());
+    for (const auto& [time, row] : order)
+        sorted.push_back(std::move(rows()[row]));
+    rows() = std::move(sorted);
 }
 
 } // namespace

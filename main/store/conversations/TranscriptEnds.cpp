@@ -30,11 +30,11 @@ std::size_t readAt(const files::Descriptor& file, char* bytes, std::size_t count
     return done;
 }
 
-/// The line around a position.
-std::string_view lineAt(std::string_view text, std::size_t position) {
-    const std::size_t before = position == 0 ? text.npos : text.rfind('\n', position - 1);
-    const std::size_t begin = before == text.npos ? 0 : before + 1;
-    return text.substr(begin, text.find('\n', position) - begin);
+/// What is enough of a line to see whether it gives a title: such lines are short, or say so in front.
+std::string_view tellingPart(std::string_view line) {
+    constexpr std::size_t kShort = 2048;
+    constexpr std::size_t kFront = 256;
+    return line.size() <= kShort ? line : line.substr(0, kFront);
 }
 
 /// The beginning of a text, on one line, without breaking a character.
@@ -78,44 +78,51 @@ std::optional<TranscriptSummary> TranscriptEnds::read(const std::string& file) {
         tail = {m_buffer.data() + kEnd, last};
         tail.remove_prefix(std::min(tail.find('\n'), tail.size())); // part of a line
     }
-    readTail(tail, summary);
-    if (!summary.hasGivenTitle && !isSmall)
-        takeLastTitle(head, summary);
+    splitLines(tail);
+    takeLastTitle(summary);
+    readTail(summary);
+    if (!summary.hasGivenTitle && !isSmall) {
+        splitLines(head);
+        takeLastTitle(summary);
+    }
     readHead(head, summary);
     return summary;
 }
 
-/// The last title that a line gives.
-bool TranscriptEnds::takeLastTitle(std::string_view text, TranscriptSummary& summary) {
+void TranscriptEnds::splitLines(std::string_view text) {
+    m_split.clear();
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find('\n'), text.size());
+        m_split.push_back(text.substr(0, end));
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+}
+
+/// The last title that one of the split lines gives.
+void TranscriptEnds::takeLastTitle(TranscriptSummary& summary) {
     // Only as a key or a value: in other texts, the quotation marks have a backslash before them.
     static const TextFinder kFinders[] = {TextFinder("\"custom-title\"", TextFinder::Kind::exact),
                                           TextFinder("\"summary\"", TextFinder::Kind::exact)};
-    std::vector<std::size_t> positions;
-    for (const TextFinder& finder : kFinders) {
-        for (std::size_t at = finder.find(text); at != text.npos; at = finder.find(text, at + 1))
-            positions.push_back(at);
-    }
-    std::sort(positions.rbegin(), positions.rend());
-    for (const std::size_t position : positions) {
-        const auto line = m_lines.read(lineAt(text, position));
+    for (auto split = m_split.rbegin(); split != m_split.rend(); ++split) {
+        const std::string_view part = tellingPart(*split);
+        if (std::ranges::all_of(kFinders, [&](const auto& finder) { return finder.find(part) == part.npos; }))
+            continue;
+        const auto line = m_lines.read(*split);
         if (!line || !line->title || text::trimmed(*line->title).empty())
             continue;
         summary.title = beginning(*line->title);
         summary.hasGivenTitle = true;
-        return true;
+        return;
     }
-    return false;
 }
 
-void TranscriptEnds::readTail(std::string_view tail, TranscriptSummary& summary) {
-    takeLastTitle(tail, summary);
+/// What the last of the split lines with a time tells.
+void TranscriptEnds::readTail(TranscriptSummary& summary) {
     static const TextFinder kTime("\"timestamp\"", TextFinder::Kind::exact);
-    for (std::string_view rest = tail; !rest.empty();) {
-        const std::string_view line = lineAt(rest, rest.size() - 1);
-        rest.remove_suffix(std::min(line.size() + 1, rest.size()));
-        if (kTime.find(line) == line.npos)
+    for (auto line = m_split.rbegin(); line != m_split.rend(); ++line) {
+        if (kTime.find(*line) == line->npos)
             continue;
-        const auto known = m_lines.read(line);
+        const auto known = m_lines.read(*line);
         if (!known || !known->time)
             continue;
         summary.lastActivity = *known->time;

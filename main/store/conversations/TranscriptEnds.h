@@ -33,11 +33,13 @@ public:
 
 private:
     void readHead(std::string_view head, TranscriptSummary& summary);
-    void readTail(std::string_view tail, TranscriptSummary& summary);
-    bool takeLastTitle(std::string_view text, TranscriptSummary& summary);
+    void splitLines(std::string_view text);
+    void takeLastTitle(TranscriptSummary& summary);
+    void readTail(TranscriptSummary& summary);
 
     TranscriptLineReader m_lines;
     std::vector<char> m_buffer;
+    std::vector<std::string_view> m_split; ///< the lines of an end, in the buffer
 };
 
 } // namespace selvane
