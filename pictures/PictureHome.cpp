@@ -12,10 +12,13 @@ constexpr std::size_t kSessions = 12;
 constexpr int kPendingSessions = 2;
 
 std::string sessionRecord(std::size_t number, const std::string& title, const std::string& folder) {
+    using namespace std::chrono;
     const std::string text = std::to_string(number);
+    const auto before = minutes(20) + number * number * hours(3);
+    const auto active = duration_cast<milliseconds>((system_clock::now() - before).time_since_epoch());
     return R"({"sessionId": "local_)" + text + R"(", "cliSessionId": "cli-)" + text + R"(", "title": ")" +
-           title + R"(", "cwd": ")" + folder + R"(", "lastActivityAt": 17952)" + std::to_string(90 - number) +
-           "00000000}";
+           title + R"(", "cwd": ")" + folder + R"(", "lastActivityAt": )" + std::to_string(active.count()) +
+           "}";
 }
 
 } // namespace
@@ -59,6 +62,9 @@ void PictureHome::fillBuiltIn() const {
     for (std::size_t i = 0; i < kSessions; ++i)
         writeFile(sessions / ("local_" + std::to_string(i) + ".json"),
                   sessionRecord(i, titles[i % std::size(titles)], folders[i % std::size(folders)]));
+    for (std::size_t i = 0; i < kSessions - 1; ++i) // the text of the last is missing
+        writeFile(path / ".claude/projects/-progetti" / ("cli-" + std::to_string(i) + ".jsonl"),
+                  std::string(40'000 * (i + 3), '\n'));
 }
 
 void PictureHome::makeWork() {

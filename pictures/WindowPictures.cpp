@@ -21,6 +21,7 @@
 #include "AppModel/FakeBridge.h"
 #include "AppModel/WorkProgress.h"
 #include "PictureHome.h"
+#include "Views/manage/ConversationListModel.h"
 #include "Views/shell/LauncherApp.h"
 #include "Views/shell/QmlModule.h"
 #include "artwork/Brand.h"
@@ -133,6 +134,25 @@ void takePicker(Scene& scene) {
     scene.resize(kPicker, {980, 660});
 }
 
+/// As Ctrl+F opens them, with the second selected, and where one of them can go on.
+void takeConversations(Scene& scene) {
+    QQuickWindow* const window = scene.launcher.window(kManage);
+    auto* const view = window->findChild<QQuickItem*>(QStringLiteral("manage"));
+    QMetaObject::invokeMethod(view, "openConversations");
+    auto* const list = view->findChild<ConversationListModel*>();
+    while (list->isLoading())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    scene.take(kManage, "conversations");
+    view->findChild<QQuickItem*>(QStringLiteral("conversations"))->setProperty("currentIndex", 1);
+    scene.take(kManage, "conversations-selected");
+    scene.takeWith(kManage, "ContinuationSheet",
+                   {{"app", QVariant::fromValue(&scene.model)},
+                    {"conversations", QVariant::fromValue(list)},
+                    {"row", 1}},
+                   "continuation-sheet");
+    QMetaObject::invokeMethod(view, "closeConversations");
+}
+
 void takeManage(Scene& scene) {
     scene.launcher.showManage();
     scene.take(kManage, "manage");
@@ -142,6 +162,7 @@ void takeManage(Scene& scene) {
     scene.resize(kManage, {880, 600});
     scene.take(kManage, "manage-narrow");
     scene.resize(kManage, {1000, 700});
+    takeConversations(scene);
     scene.model.select("");
     scene.take(kManage, "manage-empty");
     scene.model.select("lavoro");

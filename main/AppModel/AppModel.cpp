@@ -160,14 +160,18 @@ void AppModel::sync(const QString& id) {
     });
 }
 
-void AppModel::copyTerminalCommand(const QString& id) {
+void AppModel::copyCommand(const std::function<std::string(const std::filesystem::path& helper)>& make) {
     perform([&] {
-        const std::filesystem::path helper = m_store.installTerminalHelper();
-        const QString command = QString::fromStdString(text::quotedForShell(helper.string())) + ' ' + id;
+        const QString command = QString::fromStdString(make(m_store.installTerminalHelper()));
         setNotice(m_desktop.copyToClipboard(command)
                       ? tr("Comando copiato negli appunti")
                       : tr("Comando copiato: incollalo prima di chiudere Selvane"));
     });
+}
+
+void AppModel::copyTerminalCommand(const QString& id) {
+    copyCommand(
+        [&](const auto& helper) { return text::quotedForShell(helper.string()) + ' ' + id.toStdString(); });
 }
 
 void AppModel::revealProfile(const QString& id) {

@@ -135,6 +135,8 @@ public:
     void create(
         const ProfileRequest& request, Done succeeded = [] {});
     void exportBackup(BackupScope scope);
+    /// Copies what `make` returns for the path of the terminal helper, which is written first.
+    void copyCommand(const std::function<std::string(const std::filesystem::path& helper)>& make);
 
 public slots:
     void reload();

@@ -84,6 +84,8 @@ constexpr SymbolEntry kSymbols[] = {
     {"pencil", "pencil-simple"},
     {"plus.square.on.square", "stack-plus"},
     {"folder", "folder"},
+    {"doc.on.doc", "copy"},
+    {"arrow.right", "arrow-right"},
     {"trash", "trash"},
     {"bubble.left.and.text.bubble.right", "chats"},
     {"link", "link"},

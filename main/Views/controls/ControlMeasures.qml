@@ -37,6 +37,7 @@ Measures {
     readonly property real menuPadding: 6
     readonly property real menuWidth: 320
     readonly property real modeWidth: 128
+    readonly property real chipWidth: 200 ///< of a drop-down among filters, at most
     readonly property real scrollBarWidth: 4
     readonly property real scrollBarInset: 6
 }

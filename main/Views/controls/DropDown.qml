@@ -16,6 +16,8 @@ Pressable {
     property list<string> explanations
     required property int currentIndex
     property int size: DropDown.Medium
+    property bool isChip: false ///< a filter, which is narrowed unless its first label is chosen
+    readonly property bool isNarrowed: isChip && currentIndex > 0
     readonly property string currentText: labels[currentIndex] ?? ""
     property DropDownMenu menu: null ///< created when first opened
 
@@ -30,8 +32,9 @@ Pressable {
 
     answersReturn: false
     takesFocusOnClick: true
-    implicitWidth: Theme.controls.modeWidth
-    implicitHeight: size === DropDown.Small ? Theme.controls.smallHeight
+    implicitWidth: isChip ? Math.min(Theme.controls.chipWidth, Math.ceil(shown.implicitWidth) + caret.width + Theme.space36)
+                          : Theme.controls.modeWidth
+    implicitHeight: size === DropDown.Small || isChip ? Theme.controls.smallHeight
                   : size === DropDown.Large ? Theme.controls.largeHeight : Theme.controls.height
     opacity: available ? 1 : Theme.disabledOpacity
 
@@ -44,27 +47,31 @@ Pressable {
 
     Rectangle {
         anchors.fill: parent
-        radius: Theme.radiusControl
-        color: dropDown.hovered ? Theme.raised : Theme.wellFill
+        radius: dropDown.isChip ? height / 2 : Theme.radiusControl
+        color: dropDown.isNarrowed ? Theme.coolSoft : dropDown.hovered ? Theme.raised : Theme.wellFill
         border.width: Theme.hairline
-        border.color: Theme.controlBorder
+        border.color: dropDown.isNarrowed ? Theme.coolLine : Theme.controlBorder
 
         Behavior on color {
             ColorAnimation { duration: Theme.motion.hover }
         }
     }
     FocusRing {
+        controlRadius: dropDown.isChip ? dropDown.height / 2 : Theme.radiusControl
         visible: dropDown.ringed
     }
     StyledText {
+        id: shown
+
         anchors.verticalCenter: parent.verticalCenter
         anchors.left: parent.left
         anchors.right: caret.left
         anchors.leftMargin: (dropDown.size === DropDown.Small ? Theme.space10 : Theme.space12) + Theme.hairline
         anchors.rightMargin: Theme.space8
         look: dropDown.size === DropDown.Large ? Theme.type.field
-            : dropDown.size === DropDown.Small ? Theme.type.smallControl : Theme.type.control
+            : dropDown.size === DropDown.Small || dropDown.isChip ? Theme.type.smallControl : Theme.type.control
         text: dropDown.currentText
+        color: dropDown.isNarrowed ? Theme.linked : Theme.text
         elide: Text.ElideRight
     }
     PathIcon {

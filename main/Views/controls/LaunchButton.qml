@@ -10,14 +10,15 @@ import Selvane
 Pressable {
     id: button
 
-    enum Size { Medium, Large }
+    enum Size { Small, Medium, Large }
 
     required property string text
     property int size: LaunchButton.Large
     property bool destructive: false
 
     readonly property bool large: size === LaunchButton.Large
-    readonly property real padding: large ? Theme.controls.launchPadding : Theme.controls.confirmPadding
+    readonly property bool small: size === LaunchButton.Small
+    readonly property real padding: large ? Theme.controls.launchPadding : small ? Theme.space12 : Theme.controls.confirmPadding
     readonly property bool hasArrow: text.endsWith("→")
     readonly property color labelColor: available ? Theme.onFill : Theme.textFaint
     readonly property color fill: {
@@ -32,7 +33,7 @@ Pressable {
 
     label: text
     implicitWidth: Math.ceil(content.implicitWidth) + 2 * padding
-    implicitHeight: large ? Theme.controls.launchHeight : Theme.controls.largeHeight
+    implicitHeight: large ? Theme.controls.launchHeight : small ? Theme.controls.smallHeight : Theme.controls.largeHeight
     scale: pressed ? Theme.motion.pressedScale : 1
 
     Behavior on scale {
@@ -64,7 +65,7 @@ Pressable {
 
         StyledText {
             anchors.verticalCenter: parent.verticalCenter
-            look: button.large ? Theme.type.launchLabel : Theme.type.confirmLabel
+            look: button.large ? Theme.type.launchLabel : button.small ? Theme.type.smallConfirm : Theme.type.confirmLabel
             text: button.hasArrow ? button.text.slice(0, -1).trim() : button.text
             color: button.labelColor
         }

@@ -44,6 +44,7 @@ QtObject {
     readonly property TextStyle rowName: Display { size: 14; line: 18; weight: Font.DemiBold }
     readonly property TextStyle launchLabel: Display { size: 14; line: 20; weight: Font.DemiBold }
     readonly property TextStyle confirmLabel: Display { size: 13; line: 20; weight: Font.DemiBold }
+    readonly property TextStyle smallConfirm: Display { size: 12; line: 16; weight: Font.DemiBold }
     readonly property TextStyle subtitle: Display { size: 15; line: 24 }
     readonly property TextStyle field: Display { size: 14; line: 20 }
     readonly property TextStyle body: Display { size: 13; line: 20 }

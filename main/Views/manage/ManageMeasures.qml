@@ -59,6 +59,18 @@ Measures {
     readonly property real itemNameLeast: 96 ///< reserved for the name beside a long badge
     readonly property real itemSpare: 4 * itemHeight ///< rows kept above and below the visible part
 
+    // ---- Conversations
+
+    readonly property real conversationColumn: 960 ///< at most
+    readonly property real conversationHeight: scaled(56)
+    readonly property real conversationActions: scaled(40) ///< more for the selected one
+    readonly property real conversationSection: scaled(44)
+    readonly property real conversationGlyph: 28
+    readonly property real conversationTextLeft: 57
+    readonly property real conversationAside: scaled(104)
+    readonly property real conversationPlaceShare: 0.7 ///< of the room, at most, for the folder before the profiles
+    readonly property real sidebarLink: scaled(40)
+
     // ---- Empty detail
 
     readonly property real emptyMark: 72

@@ -24,6 +24,9 @@ Item {
     function importSessions(target: string): void {
         sheets.open(sessionImportSheet, {target: target})
     }
+    function continueConversation(conversations: ConversationListModel, row: int): void {
+        sheets.open(continuationSheet, {conversations: conversations, row: row})
+    }
     function backUp(): void {
         sheets.open(backupSheet, {})
     }
@@ -87,6 +90,14 @@ Item {
         id: sessionImportSheet
 
         SessionImportSheet {
+            app: sheets.app
+            onClosed: sheets.drop()
+        }
+    }
+    Component {
+        id: continuationSheet
+
+        ContinuationSheet {
             app: sheets.app
             onClosed: sheets.drop()
         }

@@ -13,6 +13,7 @@ FocusScope {
     required property AppModel app
     required property Updates updates
 
+    property bool showsConversations: false
     property bool isCovered: false ///< whether something lies over the whole view
     readonly property bool hasSheet: sheets.isOpen
     readonly property bool canBeUsed: !view.isCovered && !sheets.covers
@@ -27,6 +28,20 @@ FocusScope {
         sheets.newProfile(source)
     }
 
+    function openConversations(): void {
+        view.showsConversations = true
+        conversationView.begin()
+    }
+    function closeConversations(): void {
+        view.showsConversations = false
+        sidebar.forceActiveFocus(Qt.ShortcutFocusReason)
+    }
+
+    Shortcut {
+        sequence: "Ctrl+F"
+        enabled: view.canBeUsed && !view.hasSheet && !view.isOccupied
+        onActivated: view.openConversations()
+    }
     BrandBackground {}
     ProfileList {
         id: sidebar
@@ -37,6 +52,10 @@ FocusScope {
         enabled: view.canBeUsed
         app: view.app
         updates: view.updates
+        conversations: conversationList
+        showsConversations: view.showsConversations
+        onConversationsAsked: view.openConversations()
+        onProfilePicked: view.showsConversations = false
         onNewProfileAsked: source => sheets.newProfile(source)
         onBackupAsked: sheets.backUp()
         onPickerAsked: view.pickerAsked()
@@ -45,7 +64,7 @@ FocusScope {
     ProfileDetail {
         anchors { left: sidebar.right; right: parent.right }
         height: view.height
-        visible: profile.profileId !== ""
+        visible: profile.profileId !== "" && !view.showsConversations
         enabled: view.canBeUsed
         app: view.app
         profile: detail
@@ -61,7 +80,20 @@ FocusScope {
     EmptyDetail {
         anchors { left: sidebar.right; right: parent.right }
         height: view.height
-        visible: detail.profileId === ""
+        visible: detail.profileId === "" && !view.showsConversations
+    }
+    ConversationView {
+        id: conversationView
+
+        anchors { left: sidebar.right; right: parent.right }
+        height: view.height
+        visible: view.showsConversations
+        enabled: visible && view.canBeUsed
+        app: view.app
+        conversations: conversationList
+        answersShortcut: visible && !view.hasSheet && !view.isOccupied
+        onCloseAsked: view.closeConversations()
+        onContinueAsked: row => sheets.continueConversation(conversationList, row)
     }
     ManageSheets {
         id: sheets
@@ -69,6 +101,12 @@ FocusScope {
         anchors.fill: parent
         enabled: !view.isCovered
         app: view.app
+    }
+    ConversationListModel {
+        id: conversationList
+
+        app: view.app
+        isShown: view.showsConversations
     }
     ProfileDetailModel {
         id: detail

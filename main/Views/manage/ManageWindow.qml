@@ -26,6 +26,8 @@ Window {
         ManageView {
             id: view
 
+            objectName: "manage"
+
             anchors.fill: parent
             app: window.launcher.app
             updates: window.launcher.updates

@@ -12,10 +12,14 @@ FocusScope {
 
     required property AppModel app
     required property Updates updates
+    required property ConversationListModel conversations
+    required property bool showsConversations
     property ProfileMenu menu: null ///< created when first opened
 
     signal newProfileAsked(string source)
     signal backupAsked
+    signal conversationsAsked
+    signal profilePicked ///< with the pointer or a key, even the one that was selected already
     signal pickerAsked
     signal aboutAsked
 
@@ -53,6 +57,7 @@ FocusScope {
 
         function go(row: int): void {
             sidebar.app.select(list.profiles.idNear(row))
+            sidebar.profilePicked()
         }
         function goToText(letter: string): bool {
             const found = typeAhead.findRow(letter, list.currentIndex, list.profiles, "name")
@@ -111,11 +116,12 @@ FocusScope {
             // From Qt 6.8 on, a list also decides where its items lie across it.
             transform: Translate { x: Theme.manage.listInset }
             width: ListView.view.width - 2 * Theme.manage.listInset
-            isSelected: profileId === sidebar.app.selection
+            isSelected: profileId === sidebar.app.selection && !sidebar.showsConversations
             isRinged: ListView.isCurrentItem && list.activeFocus && Theme.showsFocus
             onPressed: {
                 list.forceActiveFocus(Qt.MouseFocusReason)
                 sidebar.app.select(row.profileId)
+                sidebar.profilePicked()
             }
             onMenuAsked: (x, y) => sidebar.openMenu(row.profileId, row, x, y)
         }
@@ -141,6 +147,9 @@ FocusScope {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom; rightMargin: Theme.hairline }
         app: sidebar.app
         updates: sidebar.updates
+        conversations: sidebar.conversations
+        showsConversations: sidebar.showsConversations
+        onConversationsAsked: sidebar.conversationsAsked()
         onNewProfileAsked: sidebar.newProfileAsked("")
         onBackupAsked: sidebar.backupAsked()
         onPickerAsked: sidebar.pickerAsked()

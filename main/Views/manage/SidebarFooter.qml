@@ -12,21 +12,41 @@ Item {
 
     required property AppModel app
     required property Updates updates
+    required property ConversationListModel conversations
+    required property bool showsConversations
 
     readonly property bool hasUpdates: updates.isAvailable
 
     signal newProfileAsked
     signal backupAsked
+    signal conversationsAsked
     signal pickerAsked
     signal aboutAsked
 
     /// The space around a bare button's text.
     readonly property real barePadding: checkButton.padding + Theme.hairline
 
-    implicitHeight: content.implicitHeight + 2 * Theme.space16 + Theme.hairline
+    implicitHeight: content.y + content.implicitHeight + Theme.space16
 
     Rectangle {
         width: parent.width
+        height: Theme.hairline
+        color: Theme.separator
+    }
+    SidebarLink {
+        id: link
+
+        x: Theme.manage.listInset
+        y: Theme.space8 + Theme.hairline
+        width: parent.width - 2 * Theme.manage.listInset
+        conversations: footer.conversations
+        isCurrent: footer.showsConversations
+        onClicked: footer.conversationsAsked()
+    }
+    Rectangle {
+        x: Theme.manage.sidebarMargin
+        y: link.y + link.height + Theme.space8
+        width: parent.width - 2 * x
         height: Theme.hairline
         color: Theme.separator
     }
@@ -34,7 +54,7 @@ Item {
         id: content
 
         x: Theme.manage.sidebarMargin
-        y: Theme.space16 + Theme.hairline
+        y: link.y + link.height + Theme.space8 + Theme.space12
         width: parent.width - 2 * Theme.manage.sidebarMargin
         spacing: Theme.space8
 

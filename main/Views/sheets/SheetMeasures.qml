@@ -15,6 +15,9 @@ Measures {
     readonly property real backupWidth: 480
     readonly property real differencesWidth: 720
     readonly property real differencesHeight: 400
+    readonly property real continuationWidth: 560
+    readonly property real continuationWell: scaled(216) ///< at most
+    readonly property real organisationLeft: 56
     readonly property real titleGap: 10 ///< from a section's title to its content
     readonly property real checklistRows: 7.5 ///< the most rows shown of a list among others
     readonly property int checklistLeast: 3 ///< the fewest rows shown of a list that shrinks
