@@ -92,6 +92,8 @@ Item {
                 required property string title
                 required property bool isChosen
                 required detail
+                required aside
+                required mark
 
                 width: view.cellWidth - (checklist.inList ? 0 : Theme.space16)
                 height: view.cellHeight

@@ -87,6 +87,10 @@ QVariant ChoiceListModel::data(const QModelIndex& index, int role) const {
         return entry.title;
     case DetailRole:
         return entry.detail;
+    case AsideRole:
+        return entry.aside;
+    case MarkRole:
+        return entry.mark;
     case IsChosenRole:
         return entry.isChosen;
     default:
@@ -95,7 +99,11 @@ QVariant ChoiceListModel::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> ChoiceListModel::roleNames() const {
-    return {{TitleRole, "title"}, {DetailRole, "detail"}, {IsChosenRole, "isChosen"}};
+    return {{TitleRole, "title"},
+            {DetailRole, "detail"},
+            {IsChosenRole, "isChosen"},
+            {AsideRole, "aside"},
+            {MarkRole, "mark"}};
 }
 
 } // namespace selvane

@@ -29,8 +29,10 @@ public:
         QString title;
         QString detail;
         bool isChosen = false;
+        QString aside = {}; ///< shown at the end of the row
+        QString mark = {};  ///< shown in a badge
     };
-    enum Role { TitleRole = Qt::UserRole, DetailRole, IsChosenRole };
+    enum Role { TitleRole = Qt::UserRole, DetailRole, IsChosenRole, AsideRole, MarkRole };
 
     using QAbstractListModel::QAbstractListModel;
 

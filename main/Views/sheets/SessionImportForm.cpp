@@ -6,6 +6,10 @@
 #include <QPointer>
 #include <QtConcurrent>
 
+#include "AppModel/QtText.h"
+#include "Views/manage/ConversationTexts.h"
+#include "platform/text/Text.h"
+
 namespace selvane {
 
 SessionImportForm::SessionImportForm(QObject* parent) : QObject(parent) {
@@ -27,9 +31,13 @@ void SessionImportForm::setSource(const QString& id) {
     m_reading.setFuture({}); // drop the result for another source
     if (source == nullptr)
         return;
-    const auto read = [&store = m_app->store(), profile = *source]() -> std::vector<CodeSession> {
+    const Profile* target = m_app->profile(m_target);
+    const auto read = [&store = m_app->store(), profile = *source,
+                       into = target == nullptr ? *source : *target]() -> Listed {
         try {
-            return store.codeSessions(profile);
+            std::vector<CodeSession> sessions = store.codeSessions(profile);
+            std::vector<SessionState> states = sessionStates(store, sessions, profile, into);
+            return {std::move(sessions), std::move(states)};
         } catch (const std::exception&) { // an invalid account has no sessions
             return {};
         }
@@ -50,11 +58,18 @@ QString SessionImportForm::folderOf(const CodeSession& session) const {
                                                                 : session.cwd);
 }
 
-void SessionImportForm::show(std::vector<CodeSession> sessions) {
-    m_sessions = std::move(sessions);
+void SessionImportForm::show(Listed listed) {
+    m_sessions = std::move(listed.sessions);
     std::vector<ChoiceListModel::Entry> entries;
-    for (const CodeSession& session : m_sessions)
-        entries.push_back({session.file, QString::fromStdString(session.title), folderOf(session), false});
+    for (std::size_t i = 0; i < m_sessions.size(); ++i) {
+        const CodeSession& session = m_sessions[i];
+        const SessionState& state = listed.states.at(i);
+        QStringList facts = {activityText(session.lastActivity),
+                             state.size > 0 ? qtText(text::byteCount(state.size)) : QString()};
+        facts.removeAll(QString());
+        entries.push_back({session.file, QString::fromStdString(session.title), folderOf(session), false,
+                           facts.join(QStringLiteral(" · ")), state.isInTarget ? tr("già qui") : QString()});
+    }
     m_choices.setEntries(std::move(entries));
 }
 

@@ -13,6 +13,7 @@
 
 #include "AppModel/AppModel.h"
 #include "Views/sheets/ChoiceListModel.h"
+#include "store/conversations/SessionStates.h"
 
 namespace selvane {
 
@@ -26,7 +27,8 @@ class SessionImportForm : public QObject, public QQmlParserStatus {
     Q_PROPERTY(QString target MEMBER m_target NOTIFY inputChanged REQUIRED)
     /// Id of the profile to take from; initially the first other profile.
     Q_PROPERTY(QString source READ source WRITE setSource NOTIFY sourceChanged)
-    /// Each with its working folder, with "~" for the home folder.
+    /// Each with its working folder, with "~" for the home folder, its last activity and its size. Those that
+    /// the target has already are marked.
     Q_PROPERTY(selvane::ChoiceListModel* sessions READ sessions CONSTANT)
     Q_PROPERTY(bool isLoading READ isLoading NOTIFY isLoadingChanged)
 
@@ -51,8 +53,13 @@ signals:
     void isLoadingChanged();
 
 private:
+    struct Listed {
+        std::vector<CodeSession> sessions;
+        std::vector<SessionState> states; ///< of each
+    };
+
     QString folderOf(const CodeSession& session) const;
-    void show(std::vector<CodeSession> sessions);
+    void show(Listed listed);
     void setLoading(bool isLoading);
 
     AppModel* m_app = nullptr;
@@ -61,8 +68,8 @@ private:
     bool m_isLoading = false;
     std::vector<CodeSession> m_sessions;
     ChoiceListModel m_choices;
-    QFutureWatcher<std::vector<CodeSession>> m_reading; ///< only the newest
-    QThreadPool m_readers; ///< its destructor waits for them, as they use the application's store
+    QFutureWatcher<Listed> m_reading; ///< only the newest
+    QThreadPool m_readers;            ///< its destructor waits for them, as they use the application's store
 };
 
 } // namespace selvane

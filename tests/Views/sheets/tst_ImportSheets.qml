@@ -57,6 +57,13 @@ Item {
             compare(home.what(".claude-profiles/lavoro/skills/uno.md"), "own")
         }
 
+        function test_sessionsThatAreThere_AreMarked(): void {
+            home.addSession("Una", "/srv")
+            home.makeProfile("Lavoro", { account: "default" })
+            openSessions()
+            verify(itemsOf(sheet).some(item => item instanceof CheckBoxRow && item.text === "Una" && item.mark === "già qui"))
+        }
+
         function test_nothingNew(): void {
             home.write(".claude/skills/uno.md", "1")
             home.makeProfile("Lavoro")
