@@ -21,6 +21,7 @@
 #include "AppModel/WorkProgress.h"
 #include "desktop/ClaudeApp.h"
 #include "desktop/SignInLink.h"
+#include "model/Restore.h"
 #include "store/ProfileStore.h"
 
 namespace selvane {
@@ -135,6 +136,15 @@ public:
     void create(
         const ProfileRequest& request, Done succeeded = [] {});
     void exportBackup(BackupScope scope);
+    /// Asks for an archive and checks it; `checked` gets it unless the user cancels or it is none of
+    /// Selvane's.
+    void chooseBackup(std::function<void(CheckedArchive)> checked);
+    /// Restores parts of an archive; the notice tells what was done.
+    void restoreParts(const CheckedArchive& archive, const std::vector<RestorePart>& parts, Done succeeded);
+    /// Changes nothing; the notice tells what `restoreParts` would do.
+    void tryRestoring(const CheckedArchive& archive, const std::vector<RestorePart>& parts);
+    /// If a restore was interrupted, completes what it had begun and says how far it has come.
+    void completeRestoring();
     /// Copies what `make` returns for the path of the terminal helper, which is written first.
     void copyCommand(const std::function<std::string(const std::filesystem::path& helper)>& make);
 

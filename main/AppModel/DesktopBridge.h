@@ -43,6 +43,9 @@ public:
     /// Throws if it can't be changed.
     virtual void setReceivesSignIns(bool value) = 0;
 
+    /// Asks for a zip archive that is there; `done` gets nothing if the user cancels. Doesn't block.
+    virtual void askForBackup(std::function<void(std::optional<std::filesystem::path>)> done) = 0;
+
 signals:
     /// A copy of Claude Desktop has started or ended.
     void claudeCopiesChanged();

@@ -64,6 +64,9 @@ struct FakeBridge final : DesktopBridge {
         if (!answersLater)
             answer(archive);
     }
+    void askForBackup(std::function<void(std::optional<std::filesystem::path>)> done) override {
+        done(archive);
+    }
 };
 
 } // namespace selvane::test

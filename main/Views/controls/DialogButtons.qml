@@ -6,13 +6,15 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// The two buttons of a sheet or an alert.
+/// The buttons of a sheet or an alert: two, perhaps with another between them.
 Row {
     id: buttons
 
     required property string confirmText
     property string cancelText: qsTr("Annulla") ///< empty: no cancel button
     property bool confirmEnabled: true
+    property string extraText ///< of the one between; empty: there is none
+    property bool extraEnabled: true
     property bool destructive: false
 
     property alias confirmButton: confirmButton
@@ -20,6 +22,7 @@ Row {
 
     signal confirmed
     signal cancelled
+    signal extraAsked
 
     spacing: Theme.space12
 
@@ -30,6 +33,13 @@ Row {
         size: GhostButton.Large
         text: buttons.cancelText
         onClicked: buttons.cancelled()
+    }
+    GhostButton {
+        visible: buttons.extraText !== ""
+        size: GhostButton.Large
+        text: buttons.extraText
+        available: buttons.extraEnabled
+        onClicked: buttons.extraAsked()
     }
     LaunchButton {
         id: confirmButton

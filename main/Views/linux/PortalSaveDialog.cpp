@@ -58,6 +58,11 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, FileFilter& filte
     return argument;
 }
 
+/// A path is bytes with a NUL at the end.
+QByteArray portalPath(const QString& path) {
+    return QFile::encodeName(path).append('\0');
+}
+
 } // namespace
 } // namespace selvane
 
@@ -72,6 +77,17 @@ std::unique_ptr<SaveDialog> makeSaveDialog() {
 
 void PortalSaveDialog::ask(QWindow* parent, const QString& title, const QString& folder,
                            const QString& name) {
+    call(QStringLiteral("SaveFile"), parent, title,
+         {{"current_name", name}, {"current_folder", portalPath(folder)}});
+}
+
+void PortalSaveDialog::askForExisting(QWindow* parent, const QString& title, const QString& folder) {
+    call(QStringLiteral("OpenFile"), parent, title, {{"current_folder", portalPath(folder)}});
+}
+
+/// Shows a dialog.
+void PortalSaveDialog::call(const QString& method, QWindow* parent, const QString& title,
+                            QVariantMap options) {
     qDBusRegisterMetaType<FilterRule>();
     qDBusRegisterMetaType<QList<FilterRule>>();
     qDBusRegisterMetaType<FileFilter>();
@@ -91,17 +107,12 @@ void PortalSaveDialog::ask(QWindow* parent, const QString& title, const QString&
                 SLOT(respond(uint, QVariantMap)));
 
     const QList<FileFilter> filters = {{tr("Archivio zip"), {{1, QStringLiteral("application/zip")}}}};
-    QDBusMessage call = QDBusMessage::createMethodCall(
-        portalService(), QStringLiteral("/org/freedesktop/portal/desktop"),
-        QStringLiteral("org.freedesktop.portal.FileChooser"), QStringLiteral("SaveFile"));
-    call << handleOf(parent) << title
-         << QVariantMap{{"handle_token", token},
-                        {"modal", true},
-                        {"filters", QVariant::fromValue(filters)},
-                        {"current_name", name},
-                        // A path is bytes with a NUL at the end.
-                        {"current_folder", QByteArray(QFile::encodeName(folder)).append('\0')}};
-    auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(call), this);
+    options.insert({{"handle_token", token}, {"modal", true}, {"filters", QVariant::fromValue(filters)}});
+    QDBusMessage message =
+        QDBusMessage::createMethodCall(portalService(), QStringLiteral("/org/freedesktop/portal/desktop"),
+                                       QStringLiteral("org.freedesktop.portal.FileChooser"), method);
+    message << handleOf(parent) << title << options;
+    auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(message), this);
     m_isAnnounced = true;
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, request = m_request] {
         const QDBusPendingReply<QDBusObjectPath> reply = *watcher;

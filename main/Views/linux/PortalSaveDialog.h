@@ -12,7 +12,7 @@
 
 namespace selvane {
 
-/// The save dialog of the desktop portal.
+/// The file dialogs of the desktop portal.
 class PortalSaveDialog final : public SaveDialog {
     Q_OBJECT
 
@@ -20,11 +20,13 @@ public:
     using SaveDialog::SaveDialog;
 
     void ask(QWindow* parent, const QString& title, const QString& folder, const QString& name) override;
+    void askForExisting(QWindow* parent, const QString& title, const QString& folder) override;
 
 private slots:
     void respond(uint response, const QVariantMap& results);
 
 private:
+    void call(const QString& method, QWindow* parent, const QString& title, QVariantMap options);
     QString handleOf(QWindow* window);
     void giveUp();
     static void closeDialog(const QString& request);

@@ -16,6 +16,7 @@ public:
     ~PanelSaveDialog() override { forget(); }
 
     void ask(QWindow* parent, const QString& title, const QString& folder, const QString& name) override;
+    void askForExisting(QWindow* parent, const QString& title, const QString& folder) override;
 
 private:
     /// Closes a panel that is still open and ignores its answer.
@@ -24,6 +25,7 @@ private:
         m_panel = nil;
         [panel cancel:nil];
     }
+    void show(NSSavePanel* panel, QWindow* parent, const QString& title, const QString& folder);
     void answer(NSSavePanel* panel, NSModalResponse response);
 
     NSSavePanel* m_panel = nil;
@@ -39,12 +41,21 @@ NSWindow* systemWindow(const QWindow* window) {
 void PanelSaveDialog::ask(QWindow* parent, const QString& title, const QString& folder, const QString& name) {
     forget();
     NSSavePanel* panel = [NSSavePanel savePanel];
+    panel.nameFieldStringValue = name.toNSString();
+    panel.canCreateDirectories = YES;
+    show(panel, parent, title, folder);
+}
+
+void PanelSaveDialog::askForExisting(QWindow* parent, const QString& title, const QString& folder) {
+    forget();
+    show([NSOpenPanel openPanel], parent, title, folder);
+}
+
+void PanelSaveDialog::show(NSSavePanel* panel, QWindow* parent, const QString& title, const QString& folder) {
     m_panel = panel;
     panel.message = title.toNSString();
     panel.allowedContentTypes = @[ UTTypeZIP ];
     panel.directoryURL = QUrl::fromLocalFile(folder).toNSURL();
-    panel.nameFieldStringValue = name.toNSString();
-    panel.canCreateDirectories = YES;
     const QPointer<PanelSaveDialog> self(this);
     // AppKit calls this on the main thread once the panel is gone.
     void (^answered)(NSModalResponse) = ^(NSModalResponse response) {

@@ -107,6 +107,24 @@ Item {
 
         BackupSheet {
             app: sheets.app
+            onRestoreAsked: {
+                cancel()
+                restoreForm.choose()
+            }
+            onClosed: sheets.drop()
+        }
+    }
+    RestoreForm {
+        id: restoreForm
+
+        app: sheets.app
+        onChecked: sheets.open(restoreSheet, {form: restoreForm})
+    }
+    Component {
+        id: restoreSheet
+
+        RestoreSheet {
+            app: sheets.app
             onClosed: sheets.drop()
         }
     }

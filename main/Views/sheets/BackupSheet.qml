@@ -12,6 +12,8 @@ Sheet {
 
     required property AppModel app
 
+    signal restoreAsked
+
     title: qsTr("Cosa salvare")
     confirmText: qsTr("Salva backup…")
     confirmEnabled: form.canSave
@@ -68,6 +70,13 @@ Sheet {
                 onToggled: checked => form.savesProfiles = checked
             }
         }
+    }
+    GhostButton {
+        size: GhostButton.Small
+        symbol: "archivebox"
+        text: qsTr("Ripristina…")
+        help: qsTr("Ripristina quello che serve da un backup di Selvane")
+        onClicked: sheet.restoreAsked()
     }
     IconNote {
         width: parent.width

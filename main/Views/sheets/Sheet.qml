@@ -14,12 +14,17 @@ ModalLayer {
     required property string confirmText
     property string cancelText: qsTr("Annulla") ///< empty: no cancel button
     property bool destructive: false
+    property string extraText ///< of a third button; empty for none
+    property bool extraEnabled: true
+    property string remark ///< beside the buttons
     property alias spacing: pane.spacing
 
     readonly property real fixedHeight: header.height + footer.height
     readonly property real highest: height - 2 * Theme.sheets.margin
     /// How tall the body can be before it scrolls.
     readonly property real bodyRoom: highest - fixedHeight - pane.bottomMargin
+
+    signal extraAsked
 
     plateWidth: Theme.sheets.newProfileWidth
     plateHeight: Math.min(highest, fixedHeight + pane.implicitHeight)
@@ -74,7 +79,17 @@ ModalLayer {
             height: Theme.hairline
             color: Theme.separator
         }
+        StyledText {
+            anchors { left: parent.left; leftMargin: Theme.sheets.margin; verticalCenter: buttons.verticalCenter }
+            look: Theme.type.small
+            text: sheet.remark
+            color: Theme.textFaint
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
+        }
         DialogButtons {
+            id: buttons
+
             anchors.right: parent.right
             anchors.bottom: parent.bottom
             anchors.rightMargin: Theme.sheets.margin
@@ -82,6 +97,9 @@ ModalLayer {
             confirmText: sheet.confirmText
             cancelText: sheet.cancelText
             confirmEnabled: sheet.confirmEnabled
+            extraText: sheet.extraText
+            extraEnabled: sheet.extraEnabled
+            onExtraAsked: sheet.extraAsked()
             destructive: sheet.destructive
             onConfirmed: sheet.confirm()
             onCancelled: sheet.cancel()

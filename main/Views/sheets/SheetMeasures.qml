@@ -15,6 +15,8 @@ Measures {
     readonly property real backupWidth: 480
     readonly property real differencesWidth: 720
     readonly property real differencesHeight: 400
+    readonly property real restoreWidth: 560
+    readonly property real restoreList: scaled(312) ///< at most
     readonly property real continuationWidth: 560
     readonly property real continuationWell: scaled(216) ///< at most
     readonly property real organisationLeft: 56

@@ -170,9 +170,9 @@ QObject* LauncherApp::makeLayer(const char* type, QVariantMap properties) {
     return layer;
 }
 
-void LauncherApp::askForArchive(const QString& proposedPlace) {
+void LauncherApp::askForArchive(const QString& proposedPlace, bool isThere) {
     m_app.perform([&] {
-        QObject* sheet = makeLayer("ArchiveSheet", {{"place", proposedPlace}});
+        QObject* sheet = makeLayer("ArchiveSheet", {{"place", proposedPlace}, {"isThere", isThere}});
         connect(sheet, SIGNAL(chosen(QString)), this, SIGNAL(archiveChosen(QString)));
     });
 }
@@ -222,6 +222,7 @@ int runLauncherApp(int argc, char** argv) {
     serveLoading();
 
     QObject::connect(&launcher, &LauncherApp::begun, &watch, &FolderWatch::start);
+    QObject::connect(&launcher, &LauncherApp::begun, &model, &AppModel::completeRestoring);
     QObject::connect(&instance, &SingleInstance::startedAgain, &launcher, &LauncherApp::answerStart);
     QObject::connect(&launcher, &LauncherApp::shownChanged, &bridge, &SystemBridge::setWatching);
     QObject::connect(&model, &AppModel::reloaded, &bridge, &SystemBridge::lookForCopiesAnew);

@@ -56,7 +56,7 @@ public slots:
     /// or anything else. `token` lets the window come to the front, where that takes one.
     void answerStart(const QByteArray& request, const QByteArray& token = {});
     /// Asks for a path in the key window; `archiveChosen` follows.
-    void askForArchive(const QString& proposedPlace);
+    void askForArchive(const QString& proposedPlace, bool isThere);
     /// Asks in the key window whether the file there may be replaced; `replacementAnswered` follows.
     void askToReplace(const QString& place);
 

@@ -12,16 +12,18 @@
 
 namespace selvane {
 
-/// The system's own dialog for saving a zip archive.
+/// The system's own dialog for saving a zip archive, or for choosing one that is there.
 class SaveDialog : public QObject {
     Q_OBJECT
 
 public:
     using QObject::QObject;
 
-    /// Shows the dialog for `parent`, which may be null. Emits exactly one of the signals, always later. A
-    /// new call closes the dialog that is still open, whose question then gets no answer.
+    /// Shows the dialog to save for `parent`, which may be null. Emits exactly one of the signals, always
+    /// later. A new call closes the dialog that is still open, whose question then gets no answer.
     virtual void ask(QWindow* parent, const QString& title, const QString& folder, const QString& name) = 0;
+    /// The same with the dialog to choose an archive.
+    virtual void askForExisting(QWindow* parent, const QString& title, const QString& folder) = 0;
 
 signals:
     void chosen(const QUrl& file);

@@ -26,6 +26,12 @@ fs::path pathOf(const QString& file) {
     return QFile::encodeName(file).toStdString();
 }
 
+/// Where archives are proposed to be.
+QString archiveFolder() {
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QFileInfo(documents).isDir() ? documents : QDir::homePath();
+}
+
 } // namespace
 
 SystemBridge::SystemBridge(std::function<std::vector<OpenCopy>()> look)
@@ -34,7 +40,7 @@ SystemBridge::SystemBridge(std::function<std::vector<OpenCopy>()> look)
             [this](const QUrl& file) { finishArchive(pathOf(file.toLocalFile())); });
     connect(m_saveDialog.get(), &SaveDialog::cancelled, this, [this] { finishArchive(std::nullopt); });
     connect(m_saveDialog.get(), &SaveDialog::unavailable, this,
-            [this] { emit archiveWanted(m_proposedArchive); });
+            [this] { emit archiveWanted(m_proposedArchive, m_isThere); });
     connect(m_watch.get(), &ApplicationWatch::changed, this, &SystemBridge::claudeCopiesChanged);
 }
 
@@ -94,10 +100,18 @@ void SystemBridge::askForArchive(const QString& proposedName,
                                  std::function<void(std::optional<fs::path>)> done) {
     finishArchive(std::nullopt); // cancels a question that is still open
     m_archiveDone = std::move(done);
-    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    const QString folder = QFileInfo(documents).isDir() ? documents : QDir::homePath();
-    m_proposedArchive = folder + '/' + proposedName;
-    m_saveDialog->ask(QGuiApplication::focusWindow(), tr("Salva il backup"), folder, proposedName);
+    m_isThere = false;
+    m_proposedArchive = archiveFolder() + '/' + proposedName;
+    m_saveDialog->ask(QGuiApplication::focusWindow(), tr("Salva il backup"), archiveFolder(), proposedName);
+}
+
+void SystemBridge::askForBackup(std::function<void(std::optional<fs::path>)> done) {
+    finishArchive(std::nullopt);
+    m_archiveDone = std::move(done);
+    m_isThere = true;
+    m_proposedArchive = archiveFolder() + '/';
+    m_saveDialog->askForExisting(QGuiApplication::focusWindow(), tr("Scegli un backup di Selvane"),
+                                 archiveFolder());
 }
 
 void SystemBridge::answerArchive(const QString& typed) {
@@ -111,6 +125,10 @@ void SystemBridge::answerArchive(const QString& typed) {
     if (!place.endsWith(".zip", Qt::CaseInsensitive))
         place += ".zip";
     place = QDir::home().absoluteFilePath(place);
+    if (m_isThere) {
+        finishArchive(pathOf(place));
+        return;
+    }
     if (const QFileInfo there(place); there.isSymLink() || (there.exists() && !there.isDir())) {
         m_replaced = place;
         emit replacementWanted(place);
@@ -123,7 +141,7 @@ void SystemBridge::answerReplacement(bool replaces) {
     if (replaces)
         finishArchive(pathOf(m_replaced));
     else
-        emit archiveWanted(m_replaced);
+        emit archiveWanted(m_replaced, false);
 }
 
 void SystemBridge::finishArchive(std::optional<fs::path> place) {

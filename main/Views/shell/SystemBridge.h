@@ -30,18 +30,19 @@ public:
     void setReceivesSignIns(bool value) override;
     void askForArchive(const QString& proposedName,
                        std::function<void(std::optional<std::filesystem::path>)> done) override;
+    void askForBackup(std::function<void(std::optional<std::filesystem::path>)> done) override;
 
     /// Whether to report copies of Claude Desktop that start or end: on while a window is shown.
     void setWatching(bool watches) { m_watch->setWatching(watches); }
     void lookForCopiesAnew() { m_watch->lookAnew(); }
     /// The answer to `archiveWanted`: a path as typed, relative to the home folder unless absolute; empty if
-    /// the user cancelled. If a file is there already, `replacementWanted` follows.
+    /// the user cancelled. If a file is there already that would be replaced, `replacementWanted` follows.
     void answerArchive(const QString& typed);
     /// The answer to `replacementWanted`; if no, `archiveWanted` follows with the same place.
     void answerReplacement(bool replaces);
 
 signals:
-    void archiveWanted(const QString& proposedPlace);
+    void archiveWanted(const QString& proposedPlace, bool isThere); ///< to save one, or one that is there
     void replacementWanted(const QString& place);
 
 private:
@@ -50,7 +51,8 @@ private:
     const std::unique_ptr<ApplicationWatch> m_watch;
     const std::unique_ptr<SaveDialog> m_saveDialog;
     QString m_proposedArchive;
-    QString m_replaced; ///< the place that `replacementWanted` named
+    bool m_isThere = false; ///< whether an archive is asked for that is there
+    QString m_replaced;     ///< the place that `replacementWanted` named
     std::function<void(std::optional<std::filesystem::path>)> m_archiveDone;
 };
 

@@ -37,6 +37,7 @@ public:
         return begin != end;
     }
     std::uint64_t archiveSize() const { return m_archiveSize; }
+    std::uint64_t contentSize() const { return m_total; } ///< bytes, unpacked
     /// The bytes that an entry and everything below it may take up, unpacked.
     std::uint64_t spaceFor(std::string_view name) const;
 

@@ -9,6 +9,7 @@
 #include "model/LauncherError.h"
 #include "platform/files/Descriptor.h"
 #include "platform/files/FileManager.h"
+#include "platform/files/Progress.h"
 #include "platform/files/Temporary.h"
 #include "platform/text/Text.h"
 #include "store/restore/TreeCounts.h"
@@ -142,6 +143,10 @@ void Restoration::removeAside(const SavedPlaces& places) {
 RestoreReport Restoration::unpack() {
     const ArchivedPlaces archived = archivedPlaces(m_listing, m_archive.paths);
     const auto moves = pathMoves(m_archive.paths, archived, m_places, m_archive.formerHome);
+    if (m_progress != nullptr) {
+        for (const RestorePart& part : m_parts)
+            m_progress->expect({part.files, part.bytes});
+    }
     Unpacking unpacking(m_listing, m_trees, m_places, moves, m_progress);
     unpacking.run(m_archive.file);
     RestoreReport report;

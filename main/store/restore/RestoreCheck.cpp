@@ -116,6 +116,9 @@ CheckedArchive checkArchive(const ProfileStore& store, const fs::path& archive) 
     const std::vector<std::string> paths = reading.readme(file);
     const ArchivedPlaces archived = archivedPlaces(listing, paths);
     const SavedPlaces places = savedPlaces(store);
+    if (store.progress() != nullptr)
+        store.progress()->expect({static_cast<std::int64_t>(listing.entries().size()),
+                                  static_cast<std::int64_t>(listing.contentSize())});
     FormerHome home(paths);
     reading.everything(file, home);
 

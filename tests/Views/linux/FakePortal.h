@@ -62,6 +62,10 @@ public:
 
     // NOLINTBEGIN(readability-identifier-naming): the portal's own names
 public slots:
+    QDBusObjectPath OpenFile(const QString& itsWindow, const QString& itsTitle, const QVariantMap& itsOptions,
+                             const QDBusMessage& call) {
+        return SaveFile(itsWindow, itsTitle, itsOptions, call);
+    }
     QDBusObjectPath SaveFile(const QString& itsWindow, const QString& itsTitle, const QVariantMap& itsOptions,
                              const QDBusMessage& call) {
         window = itsWindow;

@@ -110,6 +110,10 @@ extern "C" NSModalResponse const NSModalResponseCancel;
 - (IBAction)cancel:(nullable id)sender;
 @end
 
+@interface NSOpenPanel : NSSavePanel
++ (NSOpenPanel*)openPanel;
+@end
+
 // ---- Menus
 
 typedef NS_OPTIONS(NSUInteger, NSEventModifierFlags) {
