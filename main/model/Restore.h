@@ -38,6 +38,11 @@ struct RestorePart {
     bool replaces = false;     ///< something is there now, which will go to the Trash
 
     bool operator==(const RestorePart&) const = default;
+    /// Whether it is no more than the built-in profile's name and symbol, which lie with the other profiles.
+    bool isRecordOnly() const {
+        return kind == Kind::principal && trees.size() == 1 &&
+               trees.front().target.filename() == "default.json";
+    }
     bool isSameAs(const RestorePart& other) const { return kind == other.kind && id == other.id; }
 };
 

@@ -80,7 +80,7 @@ TEST(Restore, anotherHomesArchive_WorksHere) {
     EXPECT_EQ(foreign[0], (ForeignLink{".claude/dotfiles", anna / "dotfiles", false}));
     EXPECT_EQ(foreign[1], (ForeignLink{".claude/etc", "/etc", true}));
     EXPECT_EQ(foreign[2].isLeftOut, true);
-    EXPECT_EQ(std::ranges::count(checked.others, ".claude-profiles/appunti.txt"), 1);
+    EXPECT_EQ(checked.others, Texts{".claude-profiles/appunti.txt"});
 
     const Tree before = treeOf(bruno.path);
     const RestoreReport trial = tryRestore(bruno.store, checked, checked.parts);
@@ -332,6 +332,9 @@ TEST_F(RestoreWhileOpen, whatClaudeUses_IsRefused) {
     }
     const RunningProcess agent({}, {{"HOME", home.path}}, "claude");
     EXPECT_NE(refusal(part(Kind::principal, "default")), "");
+    RestorePart record = part(Kind::principal, "default");
+    record.trees = {{".claude-profiles/default.json", home / ".claude-profiles/default.json"}};
+    EXPECT_TRUE(partsInUse(home.store, {record}).empty()) << "Claude doesn't know it";
     EXPECT_EQ(refusal(part(Kind::profile, "lavoro")), "");
     EXPECT_EQ(treeOf(home.path), archived);
 }

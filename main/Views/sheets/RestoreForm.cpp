@@ -34,7 +34,8 @@ QString titleOfPart(const RestorePart& part) {
     const QString name = QString::fromStdString(part.name);
     switch (part.kind) {
     case PartKind::principal:
-        return RestoreForm::tr("Configurazione principale");
+        return part.isRecordOnly() ? RestoreForm::tr("Nome e simbolo di «%1»").arg(name)
+                                   : RestoreForm::tr("Configurazione principale");
     case PartKind::profile:
         return RestoreForm::tr("Profilo «%1»").arg(name);
     case PartKind::account:

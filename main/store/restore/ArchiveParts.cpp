@@ -250,6 +250,9 @@ std::vector<RestorePart> archivedParts(const ArchiveListing& listing, const Arch
         for (const RestorePart::Tree& tree : part.trees)
             tops.insert(tree.archived);
     }
+    for (const char* own :
+         {"/.active", "/bin/claude-profile", "/.desktop-data/.live", "/.desktop-data/LEGGIMI.txt"})
+        tops.insert(archived.root + own); // Selvane's, written anew when they are needed
     for (const auto& [name, entry] : listing.entries()) {
         if (entry.kind != EntryKind::folder && !isIn(name, tops))
             others.push_back(name);

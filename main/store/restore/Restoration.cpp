@@ -67,7 +67,7 @@ void removeQuietly(const fs::path& path) {
 std::string titleOf(const RestorePart& part) {
     switch (part.kind) {
     case PartKind::principal:
-        return "Configurazione principale";
+        return part.isRecordOnly() ? "Nome e simbolo di «" + part.name + "»" : "Configurazione principale";
     case PartKind::profile:
         return "Profilo «" + part.name + "»";
     case PartKind::account:

@@ -102,10 +102,10 @@ std::vector<RestorePart> partsInUse(const ProfileStore& store, const std::vector
     const std::set<std::string> agents = agentConfigurations(store.defaultDir());
     for (const RestorePart& part : parts) {
         const auto usesConfiguration = [&] {
-            const std::string folder =
-                normalizedPath(part.trees.empty()                 ? fs::path()
-                               : part.kind == PartKind::principal ? store.defaultDir()
-                                                                  : store.root() / part.id);
+            if (part.trees.empty() || part.isRecordOnly())
+                return false;
+            const std::string folder = normalizedPath(
+                part.kind == PartKind::principal ? store.defaultDir() : store.root() / part.id);
             return agents.contains(folder) || std::ranges::any_of(copies, [&](const auto& copy) {
                        return !copy.isConfigKnown ||
                               copy.config.value_or(normalizedPath(store.defaultDir())) == folder;
