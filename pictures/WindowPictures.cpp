@@ -22,6 +22,7 @@
 #include "AppModel/WorkProgress.h"
 #include "PictureHome.h"
 #include "Views/manage/ConversationListModel.h"
+#include "Views/sheets/RestoreForm.h"
 #include "Views/shell/LauncherApp.h"
 #include "Views/shell/QmlModule.h"
 #include "artwork/Brand.h"
@@ -68,9 +69,11 @@ std::unique_ptr<QObject> themeOf(QQmlEngine& engine) {
 /// The application with its windows for one home.
 class Scene {
 public:
+    FakeBridge bridge;
+
     Scene(Home& home, const std::optional<QDir>& folder)
         : m_folder(folder), m_preferences(QString::fromStdString((home / "preferences.conf").string())),
-          m_updates(nullptr), model(home.store, home.claude, m_bridge, m_preferences),
+          m_updates(nullptr), model(home.store, home.claude, bridge, m_preferences),
           launcher(m_engine, model, m_updates), m_theme(themeOf(m_engine)) {
         setTheme("reducedMotion", true); // nothing may move for ever
     }
@@ -100,7 +103,6 @@ public:
 
 private:
     std::optional<QDir> m_folder;
-    FakeBridge m_bridge;
     Preferences m_preferences;
     Updates m_updates;
     QQmlEngine m_engine;
@@ -168,7 +170,25 @@ void takeManage(Scene& scene) {
     scene.model.select("lavoro");
 }
 
+/// With an archive of the profiles, one of which isn't there any more.
+void takeRestore(Scene& scene) {
+    const std::filesystem::path archive = scene.model.store().home() / "Backup Claude 2026-03-09.zip";
+    scene.model.store().backup(BackupScope::profiles(), archive);
+    scene.bridge.archive = archive;
+    RestoreForm form;
+    form.setApp(&scene.model);
+    QEventLoop checked;
+    QObject::connect(&form, &RestoreForm::checked, &checked, &QEventLoop::quit);
+    QTimer::singleShot(0, &form, &RestoreForm::choose);
+    checked.exec();
+    scene.takeWith(kManage, "RestoreSheet",
+                   {{"app", QVariant::fromValue(&scene.model)}, {"form", QVariant::fromValue(&form)}},
+                   "restore-sheet");
+    std::filesystem::remove(archive);
+}
+
 void takeSheets(Scene& scene) {
+    takeRestore(scene);
     const QVariant app = QVariant::fromValue(&scene.model);
     scene.takeWith(kManage, "NewProfileSheet", {{"app", app}, {"initialSource", "default"}},
                    "new-profile-sheet");
