@@ -12,6 +12,7 @@
 #include "AppModel/Wording.h"
 #include "model/LauncherError.h"
 #include "platform/files/FolderLock.h"
+#include "store/restore/RestoreJournal.h"
 
 namespace selvane::test {
 namespace {
@@ -241,6 +242,28 @@ TEST_F(AppModelTest, exportBackup_EachEnd_LeavesNothingBusy) {
         explained(ZipError("Backup non riuscito (zip: errore 15)", 15)).contains("non si è potuto scrivere"));
     EXPECT_TRUE(
         explained(ZipError("Backup non riuscito (zip: errore 137)", 137)).startsWith("Backup interrotto"));
+}
+
+TEST_F(AppModelTest, interruptedRestore_IsCompletedAndTold) {
+    model().completeRestoring();
+    EXPECT_EQ(model().errorMessage(), "") << "nothing was interrupted";
+    writeTree(home.path, {{".claude/a", "old"}, {".selvane-1/a", "restored"}, {".selvane-2/a", "restored"}});
+    TreeSwap begun = TreeSwap::prepared(home / ".claude", home / ".selvane-1");
+    RestoreJournal{
+        home / "b.zip",
+        true,
+        {{"Configurazione principale", {begun}},
+         {"Profilo «Lavoro»", {TreeSwap::prepared(home / ".claude-profiles/lavoro", home / ".selvane-2")}}}}
+        .write(home.store.root());
+    fs::rename(home / ".claude", begun.kept);
+    fs::rename(home / ".selvane-1", home / ".claude");
+    model().completeRestoring();
+    waitUntilIdle();
+    EXPECT_EQ(model().errorMessage(),
+              "Il ripristino da b.zip è stato interrotto. Ripristinati: Configurazione "
+              "principale. Rimasti com'erano: Profilo «Lavoro».");
+    EXPECT_EQ(readFile(home / ".claude/a"), "restored");
+    EXPECT_FALSE(home.store.exists(home / ".selvane-2"));
 }
 
 } // namespace

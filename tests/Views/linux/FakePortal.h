@@ -49,6 +49,7 @@ public:
     QString window;
     QStringList requests; ///< paths, the newest last
     QStringList closed;   ///< those given up
+    bool opens = false;   ///< whether a file that is there has been asked for
 
     void answer(uint response, const QVariantMap& results) const {
         answer(requests.last(), response, results);
@@ -64,6 +65,7 @@ public:
 public slots:
     QDBusObjectPath OpenFile(const QString& itsWindow, const QString& itsTitle, const QVariantMap& itsOptions,
                              const QDBusMessage& call) {
+        opens = true;
         return SaveFile(itsWindow, itsTitle, itsOptions, call);
     }
     QDBusObjectPath SaveFile(const QString& itsWindow, const QString& itsTitle, const QVariantMap& itsOptions,

@@ -83,6 +83,15 @@ TEST_F(Portal, saveDialog_AnswersOnceToTheLastQuestion) {
         waitUntil([&] { return end.has_value(); });
         EXPECT_EQ(end, "cancelled");
     }
+
+    EXPECT_FALSE(chooser->opens);
+    end.reset();
+    dialog.askForExisting(nullptr, "Scegli", "/home/anna");
+    waitUntil([&] { return chooser->opens; });
+    EXPECT_FALSE(chooser->options.contains("current_name"));
+    chooser->answer(0, {{"uris", QStringList{"file:///home/anna/b.zip"}}});
+    waitUntil([&] { return end.has_value(); });
+    EXPECT_EQ(end, "file:///home/anna/b.zip");
 }
 
 TEST_F(Portal, appearance_FollowsTheDesktop) {
