@@ -17,6 +17,7 @@
 namespace selvane {
 namespace {
 
+constexpr std::size_t kMostFolders = 40;                        ///< in the menu; any can be typed
 constexpr std::array<int, 5> kPeriodDays = {-1, 0, 7, 30, 365}; ///< as `periods` lists them; 365: this year
 
 } // namespace
@@ -36,7 +37,7 @@ ConversationListModel::~ConversationListModel() {
 void ConversationListModel::setApp(AppModel* app) {
     const auto connectTo = [this](AppModel& followed) {
         connect(&followed, &AppModel::reloaded, this, [this] {
-            if (m_isShown)
+            if (m_isShown && !m_hits) // other rows would end the search
                 refresh();
         });
     };
@@ -85,13 +86,18 @@ void ConversationListModel::refresh() {
 }
 
 void ConversationListModel::take(std::shared_ptr<const ConversationSearch> search) {
-    if (m_index && m_index->list().conversations == search->list().conversations)
+    if (m_index && m_index->list().conversations == search->list().conversations &&
+        m_index->list().profiles == search->list().profiles)
         return;
     const QString profile = profiles().value(m_profile);
     const QString folder = folders().value(m_folder);
+    stopSearch();
+    m_hits.reset();
+    setRows({}); // they are positions in the list before
     m_index = std::move(search);
     m_list = std::shared_ptr<const ConversationList>(m_index, &m_index->list());
     m_folders = m_index->folders();
+    m_folders.resize(std::min(m_folders.size(), kMostFolders));
     m_profile = std::max(0, static_cast<int>(profiles().indexOf(profile)));
     m_folder = std::max(0, static_cast<int>(folders().indexOf(folder)));
     emit listChanged();
