@@ -247,13 +247,16 @@ TEST_F(AppModelTest, exportBackup_EachEnd_LeavesNothingBusy) {
 TEST_F(AppModelTest, interruptedRestore_IsCompletedAndTold) {
     model().completeRestoring();
     EXPECT_EQ(model().errorMessage(), "") << "nothing was interrupted";
-    writeTree(home.path, {{".claude/a", "old"}, {".selvane-1/a", "restored"}, {".selvane-2/a", "restored"}});
+    writeTree(
+        home.path,
+        {{".claude/a", "old"}, {".selvane-1/a", "restored"}, {".claude-profiles/.selvane-2/a", "restored"}});
     TreeSwap begun = TreeSwap::prepared(home / ".claude", home / ".selvane-1");
     RestoreJournal{
         home / "b.zip",
         true,
         {{"Configurazione principale", {begun}},
-         {"Profilo «Lavoro»", {TreeSwap::prepared(home / ".claude-profiles/lavoro", home / ".selvane-2")}}}}
+         {"Profilo «Lavoro»",
+          {TreeSwap::prepared(home / ".claude-profiles/lavoro", home / ".claude-profiles/.selvane-2")}}}}
         .write(home.store.root());
     fs::rename(home / ".claude", begun.kept);
     fs::rename(home / ".selvane-1", home / ".claude");
@@ -263,7 +266,7 @@ TEST_F(AppModelTest, interruptedRestore_IsCompletedAndTold) {
               "Il ripristino da b.zip è stato interrotto. Ripristinati: Configurazione "
               "principale. Rimasti com'erano: Profilo «Lavoro».");
     EXPECT_EQ(readFile(home / ".claude/a"), "restored");
-    EXPECT_FALSE(home.store.exists(home / ".selvane-2"));
+    EXPECT_FALSE(home.store.exists(home / ".claude-profiles/.selvane-2"));
 }
 
 } // namespace

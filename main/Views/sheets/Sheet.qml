@@ -81,6 +81,7 @@ ModalLayer {
         }
         StyledText {
             anchors { left: parent.left; leftMargin: Theme.sheets.margin; verticalCenter: buttons.verticalCenter }
+            visible: sheet.remark !== ""
             look: Theme.type.small
             text: sheet.remark
             color: Theme.textFaint
