@@ -10,6 +10,8 @@
 ///   single-operation isolate PROFILE yes|no
 ///   single-operation delete PROFILE
 ///   single-operation restore ARCHIVE                              everything in it
+///   single-operation continue ID INTO                             the conversation with this session of the
+///   agent
 /// An item or profile that is already gone counts as done, as in the windows, which no longer show it.
 
 #include <algorithm>
@@ -24,6 +26,7 @@
 #include "platform/process/Workspace.h"
 #include "platform/text/ErrorText.h"
 #include "store/ProfileStore.h"
+#include "store/conversations/Conversations.h"
 #include "store/restore/Restore.h"
 
 namespace {
@@ -71,6 +74,17 @@ void follow(const std::string& operation, Component part, const std::string& nam
         store.bringToSource(item, profile);
 }
 
+void goOn(const std::string& id, const std::string& into, ProfileStore& store) {
+    const ConversationList list = conversations(store);
+    const auto has = [&](const Conversation& conversation) {
+        return std::ranges::count(conversation.cliSessionIDs, id) > 0;
+    };
+    const auto found = std::ranges::find_if(list.conversations, has);
+    if (found == list.conversations.end())
+        throw LauncherError(id + " isn't listed");
+    store.continueIn(list, *found, store.profile(into).value());
+}
+
 void run(const Words& words, ProfileStore& store) {
     const std::string& operation = words.at(0);
     if (operation == "import-items")
@@ -80,6 +94,8 @@ void run(const Words& words, ProfileStore& store) {
         restore(store, archive, archive.parts);
         return;
     }
+    if (operation == "continue")
+        return goOn(words.at(1), words.at(2), store);
     const auto profile = store.profile(words.at(1));
     if (operation == "delete") {
         if (profile)

@@ -132,6 +132,21 @@ def _sessions():
                     lambda home: home.put(WORK + "projects/p/cli-11.jsonl", "riga\n"))
 
 
+def _continuations():
+    def begun_in_terminal(home):
+        home.put(".claude/projects/-progetti-negozio/solo.jsonl", "riga\n")
+        home.put(".claude/projects/-progetti-negozio/solo/note.txt", "accanto\n")
+
+    def shorter_there(home):
+        begun_in_terminal(home)
+        home.run("operation", "continue", "solo", "lavoro")
+        home.put(".claude/projects/-progetti-negozio/solo.jsonl", "riga\naltra riga\n")
+    words = ["operation", "continue"]
+    yield Operation("continue-app", [*words, "cli-1", "lavoro"])
+    yield Operation("continue-terminal", [*words, "solo", "lavoro"], begun_in_terminal)
+    yield Operation("continue-further", [*words, "solo", "lavoro"], shorter_there)
+
+
 def _launches():
     # Recording the launch is optional, and so is removing the emptied queue.
     loose = rf"{PROFILES}(\.active|default\.json|[^/]*/\.launcher\.json|[^/]*/\.pending-sessions)$"
@@ -271,10 +286,11 @@ def _drift():
 
 
 OPERATIONS = [*_creations(), *_syncs(), *_collection_modes(), *_rules_modes(), *_import_modes(), *_sessions(),
-              *_launches(), *_helpers(), *_restorations(), *_backups(), *_restores(), *_single_operations(),
-              *_drift()]
+              *_continuations(), *_launches(), *_helpers(), *_restorations(), *_backups(), *_restores(),
+              *_single_operations(), *_drift()]
 # The same on file systems that can neither exchange names nor rename without replacing.
 _IN_STEPS = ("create-separate", "set-mode-CLAUDE.md-extend-separate", "set-mode-mcp-merged", "import-sessions",
-             "launch-with-queue", "restore-desktop-swapped", "backup-replacing", "import-items-copies", "delete")
+             "launch-with-queue", "restore-desktop-swapped", "backup-replacing", "restore-archive",
+             "import-items-copies", "delete")
 OPERATIONS += [dataclasses.replace(operation, name=f"{operation.name}-in-steps", setting="renameat2:error=EINVAL")
                for operation in OPERATIONS if operation.name in _IN_STEPS]
