@@ -25,10 +25,10 @@ using PartKind = RestorePart::Kind;
 
 const LauncherError kForeign("Non è un archivio di Selvane");
 
-using Names = std::set<std::string, std::less<>>;
+using EntryNames = std::set<std::string, std::less<>>;
 
 /// Whether an entry is one of these or below one.
-bool isIn(std::string_view name, const Names& tops) {
+bool isAtOrBelow(std::string_view name, const EntryNames& tops) {
     for (std::size_t end = name.size(); end != name.npos && end > 0; end = name.rfind('/', end - 1)) {
         if (tops.contains(name.substr(0, end)))
             return true;
@@ -230,12 +230,12 @@ ArchivedPlaces archivedPlaces(const ArchiveListing& listing, const std::vector<s
         if (place->empty())
             *place = name;
     }
-    Names tops = {std::string(kReadmeName)};
+    EntryNames tops = {std::string(kReadmeName)};
     for (const std::string& path : paths)
         tops.emplace(archivedName(path));
     for (const auto& [name, entry] : listing.entries()) {
         const auto inside = tops.lower_bound(name + "/");
-        if (!isIn(name, tops) && (inside == tops.end() || !inside->starts_with(name + "/")))
+        if (!isAtOrBelow(name, tops) && (inside == tops.end() || !inside->starts_with(name + "/")))
             throw kForeign;
     }
     return places;
@@ -245,7 +245,7 @@ std::vector<RestorePart> archivedParts(const ArchiveListing& listing, const Arch
                                        const SavedPlaces& places, const ArchivedText& text,
                                        std::vector<std::string>& others) {
     std::vector<RestorePart> parts = Parts(listing, archived, places, text).make();
-    Names tops = {std::string(kReadmeName)};
+    EntryNames tops = {std::string(kReadmeName)};
     for (const RestorePart& part : parts) {
         for (const RestorePart::Tree& tree : part.trees)
             tops.insert(tree.archived);
@@ -254,7 +254,7 @@ std::vector<RestorePart> archivedParts(const ArchiveListing& listing, const Arch
          {"/.active", "/bin/claude-profile", "/.desktop-data/.live", "/.desktop-data/LEGGIMI.txt"})
         tops.insert(archived.root + own); // Selvane's, written anew when they are needed
     for (const auto& [name, entry] : listing.entries()) {
-        if (entry.kind != EntryKind::folder && !isIn(name, tops))
+        if (entry.kind != EntryKind::folder && !isAtOrBelow(name, tops))
             others.push_back(name);
     }
     return parts;

@@ -46,6 +46,11 @@ bool isDone(const RestoreJournal::Part& part) {
                                [](const TreeSwap& swap) { return swap.state == TreeSwap::State::done; });
 }
 
+bool isWaitingForTrash(const RestoreJournal::Part& part) {
+    return std::ranges::any_of(part.swaps,
+                               [](const TreeSwap& swap) { return swap.state == TreeSwap::State::exchanged; });
+}
+
 /// Puts one part after the other in place. On failure, those after it stay as they were, and the error says
 /// which ones are restored.
 void swapParts(RestoreJournal& journal, const fs::path& root) {
@@ -62,7 +67,9 @@ void swapParts(RestoreJournal& journal, const fs::path& root) {
         const std::string reason = describe(error);
         try {
             removeUnplaced(journal);
-            RestoreJournal::remove(root);
+            // What the Trash didn't take is still beside what replaces it: the next restore tries again.
+            if (std::ranges::none_of(journal.parts, isWaitingForTrash))
+                RestoreJournal::remove(root);
         } catch (const fs::filesystem_error&) { // the next restore tries again
         }
         if (done.empty())
@@ -140,9 +147,9 @@ RestoreReport restore(ProfileStore& store, const CheckedArchive& archive,
     finish(store);
     Restoration restoration(archive, parts, savedPlaces(store), store.progress());
     RestoreJournal journal = restoration.prepareBeside();
-    journal.write(store.root());
     RestoreReport report;
     try {
+        journal.write(store.root());
         report = restoration.unpack();
         requireUnused();
         for (RestoreJournal::Part& part : journal.parts) {
