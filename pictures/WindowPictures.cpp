@@ -8,8 +8,6 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QGuiApplication>
-#include <QImage>
-#include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QTextStream>
@@ -18,11 +16,9 @@
 #include <optional>
 #include <utility>
 
-#include "AppModel/FakeBridge.h"
 #include "AppModel/WorkProgress.h"
 #include "PictureHome.h"
-#include "Views/manage/ConversationListModel.h"
-#include "Views/sheets/RestoreForm.h"
+#include "Scene.h"
 #include "Views/shell/LauncherApp.h"
 #include "Views/shell/QmlModule.h"
 #include "artwork/Brand.h"
@@ -42,78 +38,6 @@ void noteWarnings(QtMsgType type, const QMessageLogContext& /*context*/, const Q
                          message.startsWith("This plugin does not support");
     hasWarned = hasWarned || (type != QtDebugMsg && !isUsual);
 }
-
-/// What a window shows once that has stayed the same for a moment: by then what is read on other threads has
-/// arrived, and layout and fades have come to their end.
-QImage settled(QQuickWindow& window) {
-    constexpr int kMilliseconds = 80;
-    QImage before;
-    QImage now = window.grabWindow();
-    while (now != before) {
-        QEventLoop loop;
-        QTimer::singleShot(kMilliseconds, &loop, &QEventLoop::quit);
-        loop.exec();
-        before = std::exchange(now, window.grabWindow());
-    }
-    return now;
-}
-
-/// An object whose property "theme" is the one of this engine.
-std::unique_ptr<QObject> themeOf(QQmlEngine& engine) {
-    QQmlComponent component(&engine);
-    component.setData("import QtQuick\nimport Selvane\nQtObject { readonly property QtObject theme: Theme }",
-                      {});
-    return std::unique_ptr<QObject>(component.create());
-}
-
-/// The application with its windows for one home.
-class Scene {
-public:
-    FakeBridge bridge;
-
-    Scene(Home& home, const std::optional<QDir>& folder)
-        : m_folder(folder), m_preferences(QString::fromStdString((home / "preferences.conf").string())),
-          m_updates(nullptr), model(home.store, home.claude, bridge, m_preferences),
-          launcher(m_engine, model, m_updates), m_theme(themeOf(m_engine)) {
-        setTheme("reducedMotion", true); // nothing may move for ever
-    }
-
-    void take(LauncherApp::WindowName name, const QString& picture) {
-        const QImage image = settled(*launcher.window(name));
-        if (m_folder && !image.save(m_folder->filePath(picture + ".png")))
-            qFatal("%s can't be written", qPrintable(picture));
-    }
-    void setTheme(const char* property, const QVariant& value) {
-        m_theme->property("theme").value<QObject*>()->setProperty(property, value);
-    }
-    void resize(LauncherApp::WindowName name, const QSize& size) { launcher.window(name)->resize(size); }
-
-    /// Takes a picture with something open over a window.
-    void takeWith(LauncherApp::WindowName name, const QString& type, QVariantMap properties,
-                  const QString& picture) {
-        QQuickWindow* window = launcher.window(name);
-        QQmlComponent component(qmlEngine(window));
-        component.setData("import Selvane\n" + type.toUtf8() + " {}", {});
-        properties["parent"] = QVariant::fromValue(window->contentItem());
-        const std::unique_ptr<QObject> made(component.createWithInitialProperties(properties));
-        if (!made)
-            qFatal("%s", qPrintable(component.errorString()));
-        take(name, picture);
-    }
-
-private:
-    std::optional<QDir> m_folder;
-    Preferences m_preferences;
-    Updates m_updates;
-    QQmlEngine m_engine;
-
-public:
-    AppModel model;
-    LauncherApp launcher;
-
-private:
-    const std::unique_ptr<QObject> m_theme;
-};
 
 constexpr auto kPicker = LauncherApp::Picker;
 constexpr auto kManage = LauncherApp::Manage;
@@ -136,25 +60,6 @@ void takePicker(Scene& scene) {
     scene.resize(kPicker, {980, 660});
 }
 
-/// As Ctrl+F opens them, with the second selected, and where one of them can go on.
-void takeConversations(Scene& scene) {
-    QQuickWindow* const window = scene.launcher.window(kManage);
-    auto* const view = window->findChild<QQuickItem*>(QStringLiteral("manage"));
-    QMetaObject::invokeMethod(view, "openConversations");
-    auto* const list = view->findChild<ConversationListModel*>();
-    while (list->isLoading())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    scene.take(kManage, "conversations");
-    view->findChild<QQuickItem*>(QStringLiteral("conversations"))->setProperty("currentIndex", 1);
-    scene.take(kManage, "conversations-selected");
-    scene.takeWith(kManage, "ContinuationSheet",
-                   {{"app", QVariant::fromValue(&scene.model)},
-                    {"conversations", QVariant::fromValue(list)},
-                    {"row", 1}},
-                   "continuation-sheet");
-    QMetaObject::invokeMethod(view, "closeConversations");
-}
-
 void takeManage(Scene& scene) {
     scene.launcher.showManage();
     scene.take(kManage, "manage");
@@ -168,23 +73,6 @@ void takeManage(Scene& scene) {
     scene.model.select("");
     scene.take(kManage, "manage-empty");
     scene.model.select("lavoro");
-}
-
-/// With an archive of the profiles, one of which isn't there any more.
-void takeRestore(Scene& scene) {
-    const std::filesystem::path archive = scene.model.store().home() / "Backup Claude 2026-03-09.zip";
-    scene.model.store().backup(BackupScope::profiles(), archive);
-    scene.bridge.archive = archive;
-    RestoreForm form;
-    form.setApp(&scene.model);
-    QEventLoop checked;
-    QObject::connect(&form, &RestoreForm::checked, &checked, &QEventLoop::quit);
-    QTimer::singleShot(0, &form, &RestoreForm::choose);
-    checked.exec();
-    scene.takeWith(kManage, "RestoreSheet",
-                   {{"app", QVariant::fromValue(&scene.model)}, {"form", QVariant::fromValue(&form)}},
-                   "restore-sheet");
-    std::filesystem::remove(archive);
 }
 
 void takeSheets(Scene& scene) {
