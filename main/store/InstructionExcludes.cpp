@@ -40,7 +40,7 @@ bool holdsAny(std::string_view text, std::string_view characters) {
 }
 
 /// The folder of an entry that ends in "/**", or the path that the entry is.
-std::string_view placeOf(std::string_view entry) {
+std::string_view entryPlace(std::string_view entry) {
     return entry.ends_with(kEverything) ? entry.substr(0, entry.size() - kEverything.size()) : entry;
 }
 
@@ -122,7 +122,7 @@ bool isExcludeBelow(std::string_view entry, const fs::path& builtIn) {
     if (!below.starts_with('/'))
         return false;
     if (below.ends_with(kEverything))
-        return !holdsAny(placeOf(below), "*[]{}()|!");
+        return !holdsAny(entryPlace(below), "*[]{}()|!");
     // A rule's own name may hold such characters; otherwise they make a pattern of the user's.
     return Instructions::isRule(below) &&
            (!holdsAny(below, kPatternCharacters) || FileManager().isPresent(fs::path(entry)));
@@ -138,7 +138,7 @@ InstructionExcludes InstructionExcludes::of(const fs::path& builtIn, const Instr
     // Claude Code compares resolved paths. It resolves the links in an entry itself, but only as far as a
     // special character, and takes those that come with a link's target for a pattern's.
     for (const std::string& entry : excludesBelow(resolved, taken).entries) {
-        if (holdsAny(builtIn.native(), kUnresolved) || holdsAny(placeOf(entry), kUnresolved))
+        if (holdsAny(builtIn.native(), kUnresolved) || holdsAny(entryPlace(entry), kUnresolved))
             result.entries.push_back(entry);
     }
     return result;
