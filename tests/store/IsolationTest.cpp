@@ -105,10 +105,8 @@ TEST_F(Isolation, links_InEveryPlace_AreFollowedToTheFiles) {
 }
 
 TEST_F(Isolation, links_AmongSpecialCharacters_AreAlsoResolvedInTheEntries) {
-    writeTree(home / "d(1)\\x/.claude", {{"CLAUDE.md", ""},
-                                         {"rules/a.md", ""},
-                                         {"rules/n*.md", ""},
-                                         {"rules/s\\[t]/b.md", ""}});
+    writeTree(home / "d(1)\\x/.claude",
+              {{"CLAUDE.md", ""}, {"rules/a.md", ""}, {"rules/n*.md", ""}, {"rules/s\\[t]/b.md", ""}});
     const auto below = [&](const fs::path& builtIn) {
         Instructions taken(home.path);
         taken.addFile(home / "d(1)\\x/.claude/rules/a.md");
