@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <iostream>
+#include <malloc.h>
 #include <string>
 #include <vector>
 
@@ -123,6 +124,8 @@ void run(const Words& words, ProfileStore& store) {
 } // namespace
 
 int main(int argc, char** argv) {
+    // More arenas for more threads would mean more calls in some runs than in others.
+    mallopt(M_ARENA_MAX, 1);
     try {
         const Environment environment = currentEnvironment();
         const auto workspace = makeWorkspace(ClaudeApp::identity(), environment);

@@ -157,10 +157,11 @@ class Expectation:
         return [f"not as it should be: {path} ({found.get(path)})" for path in {*wanted, *found}
                 if found.get(path) != wanted.get(path) and not re.match(loose, path)]
 
-    def leftovers(self, now, hits=()):
+    def leftovers(self, now, hits=(), resumes="$^"):
         """Temporaries left behind, except one whose own removal failed, or a look at it, as removing takes."""
         return [f"left behind: {path}" for path in now
                 if is_temporary(path) and path not in self.before and not path.startswith(TRASH) and
+                not re.match(resumes, path) and
                 not any(_REMOVES.search(hit) and _TEMPORARY.search(path).group(2) in hit for hit in hits)]
 
 
@@ -170,7 +171,7 @@ def problems_after(operation, expectation, run, point, now):
     problems += expectation.between(now, operation.moves, operation.gap)
     if point.error == KILL and not point.family:
         return problems
-    problems += expectation.leftovers(now, run.hits)
+    problems += expectation.leftovers(now, run.hits, operation.resumes if run.status else "$^")
     if run.status == 0:
         return problems + expectation.unlike(now, expectation.after, operation.loose)
     if run.status != 1 or not re.fullmatch(r"Errore: [^\n]+\n", run.err):

@@ -28,6 +28,7 @@ class Operation:
     edits: typing.Sequence[str] = () # the user's files whose bytes it changes without keeping the old ones
     archive: bool = False            # runs zip, which is made to fail as well
     gap: str = "$^"                  # what is missing for a moment; never the user's only copy
+    resumes: str = "$^"              # what a failed run leaves so that the next one completes it
     setting: str = ""                # a fault, in strace's form, that every run meets: a more limited file system
 
 
@@ -212,7 +213,8 @@ def _restores():
         home.put(WORK + "dopo.txt", "Dopo.\n")
         home.remove(COPY + "CLAUDE.md")
     # What is replaced stands beside what replaces it until the Trash has it.
-    yield Operation("restore-archive", ["operation", "restore", "@/a.zip"], older, moves=True)
+    yield Operation("restore-archive", ["operation", "restore", "@/a.zip"], older, moves=True,
+                    resumes=PROFILES + r"\.selvane-restore\.json$")
 
 
 def _single_operations():
