@@ -9,7 +9,7 @@
 
 #include "AppModel/Following.h"
 #include "AppModel/QtText.h"
-#include "Views/manage/ConversationTexts.h"
+#include "Views/sheets/ConversationTexts.h"
 #include "platform/files/Progress.h"
 #include "store/conversations/Conversations.h"
 #include "store/conversations/ResumeCommand.h"

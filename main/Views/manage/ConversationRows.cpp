@@ -7,7 +7,7 @@
 
 #include "AppModel/QtText.h"
 #include "Views/manage/ConversationListModel.h"
-#include "Views/manage/ConversationTexts.h"
+#include "Views/sheets/ConversationTexts.h"
 #include "platform/text/Text.h"
 
 namespace selvane {

@@ -7,7 +7,7 @@
 #include <QtConcurrent>
 
 #include "AppModel/QtText.h"
-#include "Views/manage/ConversationTexts.h"
+#include "Views/sheets/ConversationTexts.h"
 #include "platform/text/Text.h"
 
 namespace selvane {

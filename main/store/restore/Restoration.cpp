@@ -145,7 +145,7 @@ RestoreReport Restoration::unpack() {
     const auto moves = pathMoves(m_archive.paths, archived, m_places, m_archive.formerHome);
     if (m_progress != nullptr) {
         for (const RestorePart& part : m_parts)
-            m_progress->expect({part.files, part.bytes});
+            m_progress->expect(Progress::Amount{part.files, part.bytes});
     }
     Unpacking unpacking(m_listing, m_trees, m_places, moves, m_progress);
     unpacking.run(m_archive.file);

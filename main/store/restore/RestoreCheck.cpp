@@ -117,8 +117,8 @@ CheckedArchive checkArchive(const ProfileStore& store, const fs::path& archive) 
     const ArchivedPlaces archived = archivedPlaces(listing, paths);
     const SavedPlaces places = savedPlaces(store);
     if (store.progress() != nullptr)
-        store.progress()->expect({static_cast<std::int64_t>(listing.entries().size()),
-                                  static_cast<std::int64_t>(listing.contentSize())});
+        store.progress()->expect(Progress::Amount{static_cast<std::int64_t>(listing.entries().size()),
+                                                  static_cast<std::int64_t>(listing.contentSize())});
     FormerHome home(paths);
     reading.everything(file, home);
 

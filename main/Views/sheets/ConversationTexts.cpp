@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "Views/manage/ConversationTexts.h"
+#include "Views/sheets/ConversationTexts.h"
 
 #include <QCoreApplication>
 #include <QDateTime>

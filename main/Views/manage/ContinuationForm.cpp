@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include "Views/sheets/ContinuationForm.h"
+#include "Views/manage/ContinuationForm.h"
 
 #include <QDateTime>
 #include <QLocale>
@@ -10,7 +10,7 @@
 
 #include "AppModel/QtText.h"
 #include "AppModel/Wording.h"
-#include "Views/manage/ConversationTexts.h"
+#include "Views/sheets/ConversationTexts.h"
 #include "platform/text/Text.h"
 #include "store/conversations/ResumeCommand.h"
 
