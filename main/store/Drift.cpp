@@ -109,21 +109,21 @@ Profile ProfileStore::relinkEach(const std::vector<ChangedItem>& items, Profile 
         static_cast<void>(sourceOfChanged(item, profile));
         if (!m_files.isPresent(item.source))
             throw notChanged(item);
+        forgetKeptIn(profile, item);
         m_files.replaceTrashing(
             item.own, [&](const fs::path& temporary) { m_files.createLink(item.source, temporary); });
     }
-    return followed(items, std::move(profile));
-}
-
-/// Records that these items follow the source again.
-Profile ProfileStore::followed(const std::vector<ChangedItem>& items, Profile profile) {
-    const ProfileMeta before = profile.meta;
-    for (const ChangedItem& item : items)
-        forgetKept(profile.meta, item.component, item.name);
-    if (profile.meta != before)
-        saveMeta(profile);
     updateExcludes(profile);
     return profile;
+}
+
+/// Records that an item is to follow the source again: before it does, because what is left of an interrupted
+/// change then counts as changed, so that the change can be made once more.
+void ProfileStore::forgetKeptIn(Profile& profile, const ChangedItem& item) {
+    const ProfileMeta before = profile.meta;
+    forgetKept(profile.meta, item.component, item.name);
+    if (profile.meta != before)
+        saveMeta(profile);
 }
 
 Profile ProfileStore::bringToSource(const ChangedItem& item, const Profile& profile) {
@@ -134,11 +134,12 @@ Profile ProfileStore::bringToSource(const ChangedItem& item, const Profile& prof
     const bool isFirst = profile.configDir < source->configDir;
     const FolderLock first = locked(isFirst ? profile : *source);
     const FolderLock second = locked(isFirst ? *source : profile);
-    const Profile now = current(profile);
+    Profile now = current(profile);
     const Profile target = sourceOfChanged(item, now);
     if (isCollection(item.component))
         requireOwnFolder(item.component, target);
     announce(item.own);
+    forgetKeptIn(now, item);
     m_files.replaceTrashing(item.source,
                             [&](const fs::path& temporary) { m_files.copy(item.own, temporary); });
     const bool isSame = m_files.replaceCopy(item.own, item.source, [&](const fs::path& temporary) {
@@ -147,7 +148,8 @@ Profile ProfileStore::bringToSource(const ChangedItem& item, const Profile& prof
     if (!isSame)
         throw LauncherError("\"" + text::singleLine(item.name) + "\" è cambiato nel frattempo: riprova");
     updateExcludes(target);
-    return followed({item}, now);
+    updateExcludes(now);
+    return now;
 }
 
 Profile ProfileStore::keepOwn(const ChangedItem& item, const Profile& profile) {

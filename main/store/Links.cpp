@@ -238,8 +238,10 @@ Profile ProfileStore::remove(const ComponentItem& item, const Profile& from, Com
     Profile changed = current(from);
     // Check again: another program may have replaced the link by a file since it was listed.
     if (!m_files.removeLink(item.url)) {
+        forgetKeptIn(changed, {component, item.name, item.url, {}});
         m_files.moveToTrash(item.url);
-        return followed({{component, item.name, item.url, {}}}, std::move(changed));
+        updateExcludes(changed);
+        return changed;
     }
     m_files.waitForNames(item.url.parent_path());
     const auto source = sourceOf(from);

@@ -286,7 +286,7 @@ private:
     static std::filesystem::path changedPath(const ChangedItem& item, const Profile& in);
     Profile sourceOfChanged(const ChangedItem& item, const Profile& profile) const;
     Profile relinkEach(const std::vector<ChangedItem>& items, Profile profile);
-    Profile followed(const std::vector<ChangedItem>& items, Profile profile);
+    void forgetKeptIn(Profile& profile, const ChangedItem& item);
     std::string profileNote(const Profile& profile) const;
     InstructionExcludes excludes(const Profile& profile) const;
     void updateExcludes(const Profile& profile);

@@ -129,7 +129,7 @@ TEST_F(Conversations, AreFoundByTitleFolderAndProfile) {
     transcript(other, "t2", user("città nuova", at("03T00:00:00Z")));
     record(other, "b/c/local_1.json", R"("sessionId":"s1","title":"Caffè","lastActivityAt":1,"cwd":"/x")");
     const ConversationSearch search(list());
-    const auto found = [&](ConversationFilter filter) {
+    const auto found = [&](const ConversationFilter& filter) {
         Texts titles;
         for (const std::uint32_t row : search.matches(filter))
             titles.push_back(search.list().conversations[row].title);

@@ -43,8 +43,7 @@ bool isRecord(std::string_view name) {
 /// Reads everything in an archive once.
 class ArchiveReading {
 public:
-    ArchiveReading(const ArchiveListing& listing, Progress* progress)
-        : m_listing(listing), m_progress(progress) {}
+    explicit ArchiveReading(Progress* progress) : m_progress(progress) {}
 
     /// What the readme lists; throws if there is none.
     std::vector<std::string> readme(const fs::path& archive) {
@@ -100,7 +99,6 @@ private:
         m_progress->requireWanted();
     }
 
-    const ArchiveListing& m_listing;
     Progress* m_progress;
     std::map<std::string, std::string> m_texts;
     std::size_t m_kept = 0; ///< bytes of these
@@ -112,7 +110,7 @@ CheckedArchive checkArchive(const ProfileStore& store, const fs::path& archive) 
     const fs::path file = normalizedPath(archive);
     const std::string state = archiveState(file);
     const ArchiveListing listing(file);
-    ArchiveReading reading(listing, store.progress());
+    ArchiveReading reading(store.progress());
     const std::vector<std::string> paths = reading.readme(file);
     const ArchivedPlaces archived = archivedPlaces(listing, paths);
     const SavedPlaces places = savedPlaces(store);
