@@ -35,6 +35,8 @@ Pressable {
         color: link.isCurrent ? Theme.lit : Theme.textSoft
     }
     StyledText {
+        id: caption
+
         x: Theme.manage.profileGlyph + Theme.space20
         anchors.verticalCenter: parent.verticalCenter
         look: Theme.type.control
@@ -48,8 +50,11 @@ Pressable {
         color: Theme.textFaint
     }
     KeyCap {
+        id: cap
+
         anchors { right: parent.right; rightMargin: Theme.space12; verticalCenter: parent.verticalCenter }
-        visible: !link.isCurrent
+        // Large text leaves no room for it.
+        visible: !link.isCurrent && caption.x + caption.width + Theme.space8 <= cap.x
         keys: Theme.keyText("⌘F")
     }
 }

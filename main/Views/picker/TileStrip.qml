@@ -46,6 +46,7 @@ ListView {
     readonly property real firstX: originX - leftMargin
     /// What the list says of its own width is a guess until it has made its last tile.
     readonly property real tilesWidth: count * (Theme.picker.tileWidth + Theme.cardGap) - Theme.cardGap
+    readonly property real tileWidth: Theme.picker.tileWidth ///< grows with the desktop's text scale
     readonly property real lastX: Math.max(firstX, originX + tilesWidth + rightMargin - width)
 
     function scrollTo(x: real): void {
@@ -82,6 +83,7 @@ ListView {
     keyNavigationEnabled: false
     onCurrentIndexChanged: showFocused()
     onWidthChanged: settling.restart()
+    onTileWidthChanged: settling.restart()
 
     Accessible.role: Accessible.List
     Accessible.name: qsTr("Profili")

@@ -207,7 +207,12 @@ Item {
             keyClick(Qt.Key_Left)
             const last = () => tile("Studio")
             tryVerify(() => last() !== null)
-            tryVerify(() => last().mapToItem(view, last().width, 0).x < view.width - Theme.picker.stripFade)
+            const isInSight = () => last().mapToItem(view, last().width, 0).x < view.width - Theme.picker.stripFade
+            tryVerify(isInSight)
+            Theme.textScale = 1.5
+            tryVerify(isInSight)
+            Theme.textScale = 1
+            tryVerify(isInSight)
             verify(tile("Profilo 000") === null)
             keyClick(Qt.Key_Right)
             tryVerify(() => tile("Principale") && tile("Principale").mapToItem(view, 0, 0).x >= 0)
