@@ -20,6 +20,7 @@ from operations import OPERATIONS
 
 
 GOLDEN_RATIO = 0.618
+ATTEMPTS = 5
 
 
 class Place:
@@ -74,14 +75,27 @@ def shown_leftovers(home, expectation, now):
     return ["a temporary is shown as an item"] if ".selvane-" in "".join([listed.out, *shown]) else []
 
 
+def run_to(operation, place, point):
+    """Runs an operation so that the point's call fails. Returns the run, None if it never came to that call, and the
+    point with the number that the call had."""
+    home = place.home
+    command = home.command(operation.command)
+    for _ in range(ATTEMPTS):
+        place.restore("before")
+        run = tracing.run_with_fault(command, home, operation.setting, point)
+        if any(str(home.path) in hit for hit in run.hits):
+            return run, point
+        place.restore("before")
+        point = tracing.found_again(point, command, home, operation.setting) or point
+    return None, point
+
+
 def try_point(operation, place, expectation, point):
     home = place.home
     command = home.command(operation.command)
-    place.restore("before")
     try:
-        run = tracing.run_with_fault(command, home, operation.setting, point)
-        if not any(str(home.path) in hit for hit in run.hits):
-            # How often a process closes and reads files also depends on what else the system shows it.
+        run, point = run_to(operation, place, point)
+        if run is None:
             return None if point.reads else ["the call was not reached"]
         now = checking.scan(home)
         problems = checking.problems_after(operation, expectation, run, point, now)

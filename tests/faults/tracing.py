@@ -58,6 +58,7 @@ class Point:
     family: bool = False  # also follow the processes that Selvane starts
     reads: bool = False   # changes nothing itself
     line: str = ""        # what strace wrote about it
+    place: int = 0        # its place among the points with this name and kind
 
     def __str__(self):
         return f"{self.call}:{self.number}:{self.error}"
@@ -122,6 +123,26 @@ def run(command, home, options=()):
     return Run(done.returncode, done.stdout.decode(), done.stderr.decode(), lines)
 
 
+def _placed(points):
+    """The points, each with its place among those of its name and kind."""
+    seen = {}
+    for point in points:
+        kind = point.call, point.family, point.reads
+        yield dataclasses.replace(point, place=seen.get(kind, 0))
+        seen[kind] = seen.get(kind, 0) + 1
+
+
+def found_again(point, command, home, setting):
+    """The same call in another run, in which it may have another number: a program that looks at the processes
+    makes more calls when there are more of them. None if that run doesn't make the call."""
+    for points in calls(command, home, setting):
+        for other in points:
+            if (other.call, other.family, other.reads, other.place) == (
+                    point.call, point.family, point.reads, point.place):
+                return dataclasses.replace(point, number=other.number, line=other.line)
+    return None
+
+
 def _injections(*faults):
     return [f"--inject={fault}" for fault in faults if fault]
 
@@ -149,8 +170,9 @@ def calls(command, home, setting):
             own.append(Point(call, number, "", False, True, line))
     # A fault can't be aimed at one of several processes, so it must come after all of Selvane's own calls of
     # that name, including those that tidy up.
-    return own, [point for point in others if ERRORS[point.call] != _REMOVING
-                 and point.number > counts.get((first, point.call), 0)]
+    return list(_placed(own)), list(_placed(
+        point for point in others if ERRORS[point.call] != _REMOVING
+        and point.number > counts.get((first, point.call), 0)))
 
 
 def faults(point):
