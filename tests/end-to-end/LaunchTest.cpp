@@ -95,5 +95,45 @@ TEST_F(Windows, NothingElseIsLaunchedWhileACopyCloses) {
     EXPECT_EQ(opened(normalData, builtIn)["claudeConfigDir"], profile("ospite").string());
 }
 
+TEST_F(Windows, SignInsAreOfferedOnceAndThenReachTheProfileThatIsChosen) {
+    fs::remove(home / ".config/selvane/preferenze.conf");
+    for (const char* name : {"Lavoro", "Ospite"})
+        home.output({"create", name});
+    {
+        auto selvane = start();
+        press({'2'});
+        selvane.find(ATSPI_ROLE_ALERT, "Un accesso per ogni profilo");
+        EXPECT_FALSE(fs::exists(home / ".config/mimeapps.list")); // nothing before the answer
+        selvane.waitForFocus("Ricevi gli accessi");
+        press({XK_Return});
+        EXPECT_EQ(selvane.status(), 0);
+    }
+    opened(lavoroData);
+    EXPECT_NE(readFile(home / ".config/mimeapps.list")
+                  .find("x-scheme-handler/claude=org.selvane.Selvane.sign-in.desktop"),
+              std::string::npos);
+    home.environment["STAND_IN_OPTIONS"] = "--stand-in-no-login";
+    {
+        auto selvane = start();
+        press({'3'}); // not offered again
+        EXPECT_EQ(selvane.status(), 0);
+    }
+    const fs::path ospiteData = lavoroData.parent_path() / "ospite";
+    opened(ospiteData);
+
+    auto selvane = start({"claude://login/ok?code=s3greto"});
+    selvane.find(ATSPI_ROLE_DIALOG, "Di chi è questo accesso?");
+    for (const Seen& seen : selvane.everything())
+        EXPECT_EQ((seen.name() + seen.description()).find("s3greto"), std::string::npos) << seen;
+    selvane.waitForFocus("Ospite"); // which has no login yet
+    press({XK_Up});
+    selvane.waitForFocus("Lavoro");
+    press({XK_Return});
+    waitUntil([&] { return fs::exists(lavoroData / "handed-over.json"); }, "the link to arrive");
+    EXPECT_EQ(json::parse(readFile(lavoroData / "handed-over.json"), lavoroData).back(),
+              "claude://login/ok?code=s3greto");
+    EXPECT_FALSE(fs::exists(ospiteData / "handed-over.json"));
+}
+
 } // namespace
 } // namespace selvane::test

@@ -6,7 +6,8 @@
 /// on a desktop with a session bus, its processes join their arguments into one text and wipe their
 /// environment. If there is a `chrome_crashpad_handler` beside it, that leaves the process tree and keeps its
 /// environment. When asked to end, it leaves its lock behind. It reports how it was started in
-/// `stand-in.json` in its data folder. It ends by itself after ten minutes.
+/// `stand-in.json` in its data folder. A second main process for the same data folder leaves its arguments in
+/// `handed-over.json` there and ends. It ends by itself after ten minutes.
 ///
 /// Options, as arguments or separated by spaces in STAND_IN_OPTIONS:
 ///   --user-data-dir=FOLDER     the data folder, else $XDG_CONFIG_HOME/Claude or $HOME/.config/Claude
@@ -315,8 +316,10 @@ int runMain(const Words& arguments, int argc, char** argv) {
     const Options options(arguments);
     const fs::path data = dataFolder(options);
     fs::create_directories(data);
-    if (!options.has("--stand-in-no-lock") && !takeLock(data / "SingletonLock"))
+    if (!options.has("--stand-in-no-lock") && !takeLock(data / "SingletonLock")) {
+        writeWhole(data / "handed-over.json", Json(arguments));
         return 0;
+    }
     std::ofstream log;
     if (!options.has("--stand-in-no-files"))
         log.open(data / "main.log");
