@@ -93,6 +93,57 @@ class ProfilesTest(Trial):
         self.assertLessEqual({"MARK-first", "MARK-second"}, answer.marks)
         self.assertIn('"pong"', answer.text)
 
+    def test_a_terminals_conversation_continues_in_the_other_profile(self):
+        self.selvane("create", "Lavoro")
+        work = self.home / "più lavori, «in corso»"
+        work.mkdir()
+        first = self.ask(prompt="MARK-first", cwd=work).loaded["session_id"]
+        other = self.ask(prompt="MARK-other", cwd=work).loaded["session_id"]
+        self.selvane("import-sessions", "default", "lavoro", first)
+        answer = self.ask("lavoro", prompt="MARK-second", cwd=work, options=["--resume", first])
+        self.assertLessEqual({"MARK-first", "MARK-second"}, answer.marks)
+        self.assertNotIn("MARK-other", answer.marks)
+        # Back again, longer than the one that is there; the agent goes on where the other profile stopped.
+        self.selvane("import-sessions", "lavoro", "default", first)
+        self.assertLessEqual({"MARK-first", "MARK-second", "MARK-third"},
+                             self.ask(prompt="MARK-third", cwd=work, options=["--resume", first]).marks)
+        # One that is older than the target's changes nothing there.
+        self.selvane("import-sessions", "lavoro", "default", first)
+        self.assertIn("MARK-third", self.ask(cwd=work, options=["--resume", first]).marks)
+        self.operation("continue", other, "lavoro")
+        self.assertIn("MARK-other", self.ask("lavoro", cwd=work, options=["--resume", other]).marks)
+
+    def test_a_home_restored_elsewhere_works(self):
+        self.put_everything()
+        self.selvane("create", "Lavoro", "--from", "default", "--mode", "skills=separate")
+        self.selvane("create", "Cliente", "--from", "default", "--mode", "CLAUDE.md=none", "--mode", "rules=none",
+                     "--isolated", "yes")
+        work = self.base / "lavori"
+        work.mkdir()
+        talk = self.ask("lavoro", prompt="MARK-before", cwd=work).loaded["session_id"]
+        archive = str(self.base / "copia.zip")
+        self.selvane("backup", archive)
+        self.home.rename(self.base / "former")
+        self.home = self.base / "altri" / "home"
+        self.home.mkdir(parents=True)
+        self.operation("restore", archive)
+
+        answer = self.ask("lavoro", prompt="MARK-after", cwd=work, options=["--resume", talk])
+        self.assertLessEqual({"MARK-before", "MARK-after", "MARK-main", "MARK-rule", "MARK-potare",
+                              "MARK-laconico-text"}, answer.marks)
+        self.assertLessEqual({"potare", "attrezzi:martello"}, set(answer.loaded["skills"]))
+        self.assertIn("revisore", answer.loaded["agents"])
+        self.assertEqual([server["name"] for server in answer.loaded["mcp_servers"]], ["orologio"])
+        below = self.home / "progetti"
+        below.mkdir()
+        alone = self.ask("cliente", cwd=below).marks
+        self.assertFalse({"MARK-main", "MARK-rule"} & alone, alone)
+        # Nothing of the restored home leads to the former one, and the links are the profile's own again.
+        self.assertEqual(self.selvane("sync", "lavoro"), "")
+        for file in self.home.rglob("*"):
+            if file.is_symlink():
+                self.assertNotIn(f"{self.base}/home", str(file.readlink()), file)
+
     def edit(self, file):
         """Lets the agent read and change a file; returns the answer of its tool."""
         def use(tool, **more):

@@ -14,6 +14,7 @@ import unittest
 import messages
 
 SELVANE = os.environ["SELVANE"]
+OPERATION = os.environ["OPERATION"]
 AGENT = os.environ["AGENT"]
 MARK = re.compile(r"MARK-[\w-]+")
 
@@ -77,6 +78,10 @@ class Trial(unittest.TestCase):
 
     def selvane(self, *words):
         return self.run_program([SELVANE, *words])
+
+    def operation(self, *words):
+        """Something that only the windows offer."""
+        return self.run_program([OPERATION, *words])
 
     def ask(self, profile=None, prompt="ping", cwd=None, options=(), command=None, **environment):
         """Lets the agent answer one prompt with a profile, by default outside of the home folder."""
