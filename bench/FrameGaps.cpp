@@ -8,16 +8,24 @@
 //   import   every session of the built-in profile into the profile "altro"
 //   lock     a synchronisation of the profile "altro" while another process holds its lock for two seconds
 //   backup   an archive of everything
+//   scroll   through the list of all conversations, 240 pixels a frame; also prints what memory that list
+//   takes
 
 #include <QElapsedTimer>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
 #include <QTextStream>
 #include <QTimer>
 
 #include <algorithm>
+#include <cmath>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 
 #include "AppModel/FakeBridge.h"
 #include "Views/shell/LauncherApp.h"
@@ -79,6 +87,46 @@ pid_t holdLock(const fs::path& folder) {
     return holder;
 }
 
+/// The most memory that this process has had, in MB.
+long peakMemory() {
+    struct rusage usage = {};
+    ::getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss / 1024;
+}
+
+void press(QQuickWindow& window, int key, Qt::KeyboardModifiers modifiers) {
+    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(type, key, modifiers);
+        QCoreApplication::sendEvent(&window, &event);
+    }
+}
+
+/// The list of all conversations, once it has been read.
+QQuickItem* openConversations(QQuickWindow& window) {
+    constexpr int kLooks = 500;
+    press(window, Qt::Key_F, Qt::ControlModifier);
+    for (int look = 0; look < kLooks; ++look) {
+        wait(20);
+        auto* const list = window.findChild<QQuickItem*>("conversations");
+        if (list != nullptr && list->property("count").toInt() > 0)
+            return list;
+    }
+    return nullptr;
+}
+
+void scroll(QQuickItem& list, const FrameWatch& frames) {
+    constexpr qreal kStep = 240;
+    QElapsedTimer duration;
+    duration.start();
+    for (qint64 seen = 0; duration.elapsed() < kSeconds * 1000;) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        if (std::exchange(seen, frames.frames()) == frames.frames())
+            continue;
+        const qreal end = list.property("contentHeight").toReal() - list.height();
+        list.setProperty("contentY", std::fmod(list.property("contentY").toReal() + kStep, end));
+    }
+}
+
 /// Begins a job; false if there is none of that name. `sessions`: those of the built-in profile, which a
 /// sheet has read before.
 bool begin(const QString& job, AppModel& model, test::FakeBridge& bridge, const fs::path& home,
@@ -102,7 +150,7 @@ bool begin(const QString& job, AppModel& model, test::FakeBridge& bridge, const 
         bridge.archive = home / "copia.zip";
         model.exportBackup(BackupScope::all());
     } else {
-        return job == "rest";
+        return job == "rest" || job == "scroll";
     }
     return true;
 }
@@ -121,12 +169,16 @@ int measure(const QString& job) {
     Updates updates(nullptr);
     LauncherApp launcher(engine, model, updates);
     launcher.showManage();
-    FrameWatch frames(*launcher.window(LauncherApp::Manage));
+    QQuickWindow& window = *launcher.window(LauncherApp::Manage);
+    FrameWatch frames(window);
     wait(1000); // what the first frames need
     const pid_t holder = job == "lock" ? holdLock(store.root() / "altro") : 0;
 
     const auto sessions = job == "import" ? store.codeSessions(*store.profile(Profile::kDefaultId))
                                           : std::vector<CodeSession>();
+
+    const long memory = peakMemory();
+    QQuickItem* const list = job == "scroll" ? openConversations(window) : nullptr;
 
     QElapsedTimer duration;
     frames.begin();
@@ -137,6 +189,8 @@ int measure(const QString& job) {
     }
     if (job == "rest")
         wait(kSeconds * 1000);
+    if (list != nullptr)
+        scroll(*list, frames);
     while (!model.busyMessage().isEmpty())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     const double seconds = static_cast<double>(duration.elapsed()) / 1000;
@@ -146,6 +200,13 @@ int measure(const QString& job) {
                                .arg(seconds, 6, 'f', 2)
                                .arg(frames.frames(), 5)
                                .arg(frames.longest(), 5, 'f', 1);
+    if (job == "scroll") {
+        if (list == nullptr)
+            return 1;
+        QTextStream(stdout) << QString("         %1 conversations, %2 MB more than the window alone\n")
+                                   .arg(list->property("count").toInt())
+                                   .arg(peakMemory() - memory);
+    }
     if (holder != 0)
         ::waitpid(holder, nullptr, 0);
     if (!model.errorMessage().isEmpty()) {

@@ -92,6 +92,7 @@ FocusScope {
         boundsBehavior: Flickable.StopAtBounds
         highlightMoveDuration: 0
         keyNavigationEnabled: false
+        reuseItems: true
         currentIndex: -1
         model: view.conversations
 
@@ -125,6 +126,9 @@ FocusScope {
             id: row
 
             required property int index
+
+            ListView.onPooled: visible = false // also to screen readers
+            ListView.onReused: visible = true
 
             width: column.width
             isSelected: ListView.isCurrentItem
