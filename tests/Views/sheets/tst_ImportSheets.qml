@@ -105,6 +105,11 @@ Item {
             mouseClick(third)
             verify(third.Accessible.checked)
             mouseClick(third)
+            const other = itemsOf(sheet).find(item => item instanceof CheckBoxRow && item.text === "1495.md")
+            home.act(other, "Toggle") // far from the focus, as a screen reader can
+            verify(other.Accessible.checked)
+            verify(!third.Accessible.checked)
+            home.act(other, "Toggle")
             write("1498")
             compare(nameOf(focused()), "1498.md")
             verify(itemsOf(sheet).filter(item => item instanceof CheckBoxRow).length < 40)
