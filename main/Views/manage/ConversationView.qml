@@ -159,10 +159,15 @@ FocusScope {
 
         anchors.horizontalCenter: column.horizontalCenter
         y: list.y + Theme.manage.conversationSection
-        visible: list.count === 0 && view.conversations.total > 0 && !view.conversations.isSearching
+        visible: list.count === 0 && view.conversations.tally !== "" && !view.conversations.isSearching
+        width: column.width
         look: Theme.type.subtitle
-        text: searched === "" ? qsTr("Nessuna conversazione con questi filtri")
-                              : qsTr("Nessuna conversazione con «%1»").arg(searched)
+        text: view.conversations.total === 0
+              ? qsTr("Ancora nessuna conversazione: qui compaiono quelle del tab Code e del terminale, di ogni profilo")
+              : searched === "" ? qsTr("Nessuna conversazione con questi filtri")
+                                : qsTr("Nessuna conversazione con «%1»").arg(searched)
+        horizontalAlignment: Text.AlignHCenter
+        wrapMode: Text.Wrap
         color: Theme.textSoft
         Accessible.role: Accessible.StaticText
         Accessible.name: text

@@ -59,6 +59,14 @@ Item {
                        JSON.stringify({type: "user", cwd: "/srv/sito", timestamp: time,
                                        message: {role: "user", content: words}}) + "\n")
         }
+        function show(): void {
+            home.app.reload()
+            home.app.select("default")
+            view = createTemporaryObject(viewComponent, scene)
+            view.forceActiveFocus()
+            settle()
+            keyClick(Qt.Key_F, Qt.ControlModifier)
+        }
         /// Three conversations: one from the app, one from a terminal, one of which only the record is left.
         function open(): void {
             failOnWarning(/./)
@@ -70,13 +78,24 @@ Item {
                 {sessionId: "local_2", cliSessionId: "gone", title: "Perduta", cwd: "/srv/altro", lastActivityAt: 1e12}))
             says(".claude", "uno", "cambia i listini", "2026-01-02T10:00:00Z")
             says(".claude", "due", "perché fallisce?", "2026-01-03T10:00:00Z")
-            home.app.reload()
-            home.app.select("default")
-            view = createTemporaryObject(viewComponent, scene)
-            view.forceActiveFocus()
-            settle()
-            keyClick(Qt.Key_F, Qt.ControlModifier)
+            show()
             tryVerify(() => rows().length === 3)
+        }
+
+        function test_none_IsExplained_UntilThereAreSome(): void {
+            const explained = () => visibleItems(
+                item => item instanceof StyledText && item.text.startsWith("Ancora nessuna conversazione"), view)
+            show()
+            tryVerify(() => explained().length === 1)
+            for (let i = 100; i < 200; ++i)
+                says(".claude", `a-${i}`, `numero ${i}`, `2026-01-02T10:00:00.${i}Z`)
+            home.app.reload()
+            tryVerify(() => rows().length > 0)
+            compare(explained(), [])
+            findChild(view, "conversations").forceActiveFocus()
+            press(Qt.Key_End)
+            tryVerify(() => rows().includes("numero 100"))
+            verify(!rows().includes("numero 199"), "a row that is kept for later is told")
         }
 
         function test_typing_FindsAndGoesOnWithOne(): void {
