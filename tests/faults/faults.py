@@ -1,6 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Selvane developers
 # SPDX-License-Identifier: MIT
-"""Makes every system call with which Selvane changes or reads files fail, one at a time. See script/faults."""
+"""Makes every system call with which Selvane changes or reads files fail, one at a time, or the disk be full. See
+script/faults."""
 
 import argparse
 import dataclasses
@@ -21,14 +22,20 @@ from operations import OPERATIONS
 
 GOLDEN_RATIO = 0.618
 ATTEMPTS = 5
+PAGE = os.sysconf("SC_PAGE_SIZE")
+AMPLE = 1 << 16  # pages
 
 
 class Place:
     """Where one process tries operations: a home at a fixed path, which its links contain, and copies of it."""
 
-    def __init__(self, folder, build):
+    def __init__(self, folder, build, on_own_disk):
         self.folder = pathlib.Path(folder)
         self.home = homes.Home(self.folder / "home", build)
+        self.home.path.mkdir()
+        if on_own_disk:
+            subprocess.run(["mount", "-t", "tmpfs", "-o", f"size={PAGE * AMPLE},mode=755", "selvane-faults",
+                            self.home.path], check=True)
         homes.fill(self.home)
         self.keep("base")
 
@@ -37,8 +44,15 @@ class Place:
         subprocess.run(["cp", "-a", self.home.path, self.folder / name], check=True)
 
     def restore(self, name):
-        subprocess.run(["rm", "-rf", self.home.path], check=True)
-        subprocess.run(["cp", "-a", self.folder / name, self.home.path], check=True)
+        subprocess.run(["find", self.home.path, "-mindepth", "1", "-delete"], check=True)
+        subprocess.run(["cp", "-a", f"{self.folder / name}/.", self.home.path], check=True)
+
+    def leave_pages(self, count):
+        """Makes the home's own file system full once so many pages have been written. All of them: AMPLE."""
+        if count != AMPLE:
+            room = os.statvfs(self.home.path)
+            count += (room.f_blocks - room.f_bfree) * room.f_frsize // PAGE
+        subprocess.run(["mount", "-o", f"remount,size={PAGE * count}", self.home.path], check=True)
 
 
 @dataclasses.dataclass
@@ -105,6 +119,40 @@ def try_point(operation, place, expectation, point):
         return [f"doesn't end: {error}"]
 
 
+def run_on_full_disk(operation, place, expectation, pages):
+    """Runs an operation for which so many pages are left. Returns whether it noticed that, and what is wrong."""
+    home = place.home
+    command = home.command(operation.command)
+    place.restore("before")
+    place.leave_pages(pages)
+    try:
+        run = tracing.run(command, home)
+    except (subprocess.TimeoutExpired, TimeoutError) as error:
+        return True, [f"doesn't end: {error}"]
+    finally:
+        place.leave_pages(AMPLE)
+    now = checking.scan(home)
+    problems = checking.problems_after(operation, expectation, run, tracing.Point("full", pages, "ENOSPC"), now)
+    problems += shown_leftovers(home, expectation, now)
+    return run.status != 0, problems + again(operation, command, expectation, home, now)
+
+
+def try_full_disk(operation, place, expectation, options):
+    """Leaves a page more each time, later an eighth more, until the operation succeeds twice in a row."""
+    wanted = int(options.only.split(":")[2]) if options.only else None
+    failures, tried, pages, successes = [], 0, wanted or 0, 0
+    while successes < 2:
+        has_failed, problems = run_on_full_disk(operation, place, expectation, pages)
+        tried += 1
+        successes = 0 if has_failed else successes + 1
+        if problems:
+            failures.append((f"{operation.name}:full:{pages}:ENOSPC", f"with {pages} pages left", problems))
+        if wanted is not None:
+            break
+        pages += max(1, pages // (2 if options.quick else 8))
+    return tried, failures
+
+
 def run_without_fault(operation, place):
     """Prepares the home and saves a copy. Returns what to expect, and the calls that can fail."""
     home = place.home
@@ -120,9 +168,13 @@ def run_without_fault(operation, place):
 def try_operation(number):
     operation, options = OPERATIONS[number], _worker["options"]
     if "place" not in _worker:
-        _worker["place"] = Place(tempfile.mkdtemp(prefix="p", dir=_worker["folder"]), options.build)
+        _worker["place"] = Place(tempfile.mkdtemp(prefix="p", dir=_worker["folder"]), options.build,
+                                 options.full)
     place = _worker["place"]
     expectation, calls = run_without_fault(operation, place)
+    if options.full:
+        tried, failures = try_full_disk(operation, place, expectation, options)
+        return Result(operation.name, len(calls), tried, failures)
     points = [fault for call in calls for fault in tracing.faults(call)]
     if options.only:
         points = [point for point in points if f"{operation.name}:{point}" == options.only]
@@ -178,6 +230,7 @@ def arguments():
     parser = argparse.ArgumentParser()
     parser.add_argument("--build", required=True)
     parser.add_argument("--quick", action="store_true")
+    parser.add_argument("--full", action="store_true")
     parser.add_argument("--calls", choices=("all", "changes", "reads"), default="all")
     parser.add_argument("--part", type=lambda text: tuple(map(int, text.split("/"))), metavar="K/N")
     parser.add_argument("--only", metavar="OPERATION[:CALL:N:ERROR]")
@@ -189,7 +242,8 @@ def arguments():
 def main():
     options = arguments()
     wanted = (options.only or "").split(":")[0]
-    numbers = [number for number, operation in enumerate(OPERATIONS) if wanted in ("", operation.name)]
+    numbers = [number for number, operation in enumerate(OPERATIONS) if wanted in ("", operation.name)
+               and not (options.full and operation.setting)]
     if options.only == wanted:
         options.only = None
     folder = tempfile.mkdtemp(prefix="selvane-faults-", dir=options.folder)
@@ -197,6 +251,8 @@ def main():
         with multiprocessing.Pool(options.jobs, start_worker, (options, folder)) as pool:
             succeeded = report(pool.imap(try_operation, numbers))
     finally:
+        if options.full:
+            subprocess.run(["umount", "--lazy", *pathlib.Path(folder).glob("*/home")], check=False)
         shutil.rmtree(folder, ignore_errors=True)
     sys.exit(0 if succeeded else 1)
 

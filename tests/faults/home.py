@@ -162,7 +162,7 @@ def make_old(home):
 
 
 def fill(home):
-    home.path.mkdir(parents=True)
+    home.path.mkdir(parents=True, exist_ok=True)
     fill_source(home)
     (home / "tmp").mkdir()
     install_application(home)
