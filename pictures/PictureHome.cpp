@@ -70,7 +70,7 @@ void PictureHome::fillBuiltIn() const {
 void PictureHome::makeWork() {
     NewProfile work = request("Lavoro", builtIn(), "default");
     work.summary = "Progetti del team, regole e revisioni di codice";
-    work.symbol = "briefcase";
+    work.look = {"briefcase", "Genziana"};
     work.modes = {{Component::agents, ShareMode::none},
                   {Component::outputStyles, ShareMode::none},
                   {Component::plugins, ShareMode::none}};
@@ -96,11 +96,11 @@ void PictureHome::changeHere(const Profile& work) const {
 void PictureHome::makeOthers() {
     NewProfile client = request("Cliente Aurora", builtIn());
     client.summary = "Account del cliente, solo le sue skill";
-    client.symbol = "building.2";
+    client.look = {"building.2", "Argilla"};
     store.create(client);
     NewProfile laboratory = request("Laboratorio", builtIn(), "default");
     laboratory.summary = "Prove con agenti e server MCP";
-    laboratory.symbol = "flask";
+    laboratory.look = {"flask", "Muschio"};
     store.create(laboratory);
 }
 

@@ -15,8 +15,8 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-constexpr std::string_view kKeys[] = {"account", "created", "excluded", "isolated", "keptOwn", "lastLaunched",
-                                      "modes",   "name",    "source",   "summary",  "symbol"};
+constexpr std::string_view kKeys[] = {"account",      "color", "created", "excluded", "isolated", "keptOwn",
+                                      "lastLaunched", "modes", "name",    "source",   "summary",  "symbol"};
 
 /// Thrown by an unusable record, caught in this file and turned into "nothing".
 struct InvalidRecord {};
@@ -190,7 +190,8 @@ ProfileMeta metaFrom(const Json& object) {
         throw InvalidRecord{};
     meta.name = *name;
     meta.summary = optionalText(object, "summary").value_or(meta.summary);
-    meta.symbol = optionalText(object, "symbol").value_or(meta.symbol);
+    meta.look.symbol = optionalText(object, "symbol").value_or(meta.look.symbol);
+    meta.look.color = optionalText(object, "color").value_or(meta.look.color);
     meta.source = optionalText(object, "source");
     if (const Json* value = optionalValue(object, "modes"))
         meta.modes = modes(*value);
@@ -220,6 +221,8 @@ Json toJson(const ProfileMeta& meta) {
     Json object = Json::object(); // keys in alphabetical order
     if (meta.account)
         object["account"] = textFromBytes(*meta.account);
+    if (!meta.look.color.empty())
+        object["color"] = textFromBytes(meta.look.color);
     object["created"] = iso8601(meta.created);
     object["excluded"] = toJson(meta.excluded);
     if (meta.isolated)
@@ -233,7 +236,7 @@ Json toJson(const ProfileMeta& meta) {
     if (meta.source)
         object["source"] = textFromBytes(*meta.source);
     object["summary"] = textFromBytes(meta.summary);
-    object["symbol"] = textFromBytes(meta.symbol);
+    object["symbol"] = textFromBytes(meta.look.symbol);
     return object;
 }
 

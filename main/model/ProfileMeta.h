@@ -11,6 +11,7 @@
 #include <string_view>
 #include <vector>
 
+#include "model/ProfileLook.h"
 #include "model/ShareMode.h"
 
 namespace selvane {
@@ -23,9 +24,9 @@ Timestamp currentTimestamp();
 struct ProfileMeta {
     std::string name;
     std::string summary;
-    std::string symbol = "person.crop.circle"; ///< name of an SF Symbol
-    std::optional<std::string> source;         ///< id of the profile its components come from
-    std::map<std::string, ShareMode> modes;    ///< by the component's raw value
+    ProfileLook look;                       ///< "symbol" and "color" in the record
+    std::optional<std::string> source;      ///< id of the profile its components come from
+    std::map<std::string, ShareMode> modes; ///< by the component's raw value
     /// By the component's raw value: names of items deliberately left out. Names are bytes.
     std::map<std::string, std::vector<std::string>> excluded;
     /// Whether Claude Code is kept from reading those instructions of the built-in profile that this profile

@@ -9,6 +9,8 @@
 #include <utility>
 #include <vector>
 
+#include "model/ProfileLook.h"
+
 namespace selvane {
 
 /// What can be restored from an archive by itself. It is replaced whole or not at all.
@@ -30,7 +32,7 @@ struct RestorePart {
     Kind kind = Kind::principal;
     std::string id;   ///< of the profile, or of the account's owner; "default" for the built-in profile's
     std::string name; ///< of that profile, as the archive has it, else its id; on one line
-    std::string symbol;
+    ProfileLook look;
     std::vector<Tree> trees;
     std::int64_t files = 0;    ///< files and links
     std::int64_t bytes = 0;    ///< contents, unpacked
@@ -38,7 +40,7 @@ struct RestorePart {
     bool replaces = false;     ///< something is there now, which will go to the Trash
 
     bool operator==(const RestorePart&) const = default;
-    /// Whether it is no more than the built-in profile's name and symbol, which lie with the other profiles.
+    /// Whether it is no more than the built-in profile's name and look, which lie with the other profiles.
     bool isRecordOnly() const {
         return kind == Kind::principal && trees.size() == 1 &&
                trees.front().target.filename() == "default.json";

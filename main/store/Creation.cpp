@@ -77,7 +77,7 @@ std::pair<Profile, FolderLock> ProfileStore::createFolder(const NewProfile& requ
     Profile profile;
     profile.meta.name = name;
     profile.meta.summary = request.summary;
-    profile.meta.symbol = request.symbol;
+    profile.meta.look = request.look;
     if (request.from)
         profile.meta.source = request.from->id;
     profile.meta.account = request.account;

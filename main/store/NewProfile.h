@@ -18,7 +18,7 @@ namespace selvane {
 struct NewProfile {
     std::string name; ///< trimmed before use; must not be blank
     std::string summary;
-    std::string symbol = ProfileMeta{}.symbol;
+    ProfileLook look;
     std::optional<Profile> from;                          ///< the source of its components
     std::map<Component, ShareMode> modes;                 ///< the default mode for those not listed
     std::map<Component, std::set<std::string>> selection; ///< items to take; all of them for those not listed

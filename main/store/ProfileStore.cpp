@@ -81,7 +81,7 @@ Profile ProfileStore::loadDefault() const {
     ProfileMeta meta;
     meta.name = kDefaultName;
     meta.summary = kDefaultSummary;
-    meta.symbol = kDefaultSymbol;
+    meta.look.symbol = kDefaultSymbol;
     if (const auto text = m_files.readIfPossible(m_root / kDefaultMetaFileName, FileManager::kLongestRecord))
         meta = decodedProfileMeta(*text).value_or(meta);
     return {std::string(Profile::kDefaultId), meta, m_defaultDir, m_defaultGlobalJSON};

@@ -9,6 +9,8 @@ import Selvane
 Item {
     id: page
 
+    property profileLook plain
+
     Component.onCompleted: {
         modes.open()
     }
@@ -91,17 +93,22 @@ Item {
         currentIndex: 0
         ringed: true
     }
-    SymbolGrid { x: 690; y: 520; selection: "briefcase"; outside: Theme.windowFill }
+    LookChooser {
+        x: 690
+        y: 480
+        look: page.plain.withSymbol("briefcase").withColor("Lago")
+        outside: Theme.windowFill
+    }
 
     Row {
         x: 690
         y: 700
         spacing: 16
 
-        ProfileGlyph { symbol: "flask"; size: 80; isLit: false }
-        ProfileGlyph { symbol: "flask"; size: 80; isLit: true }
-        ProfileGlyph { symbol: "house"; size: 32; isLit: true }
-        ProfileGlyph { symbol: "no.such.symbol"; size: 32; isLit: false }
+        ProfileGlyph { look: page.plain.withSymbol("flask"); size: 80; isLit: false }
+        ProfileGlyph { look: page.plain.withSymbol("flask"); size: 80; isLit: true }
+        ProfileGlyph { look: page.plain.withSymbol("house").withColor("Erica"); size: 32; isLit: true }
+        ProfileGlyph { look: page.plain.withSymbol("no.such.symbol"); size: 32; isLit: false }
         Foliage {}
     }
     Card {

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "artwork/Brand.h"
+#include "artwork/HuePalette.h"
 #include "artwork/Icons.h"
 #include "support/Command.h"
 #include "support/Home.h"
@@ -84,6 +85,17 @@ TEST(Artwork, renderDMGBackground_TwoResolutionsOfOneSize_TheSameEachTime) {
 TEST(Artwork, iconForSymbol_Unknown_IsAPerson) {
     EXPECT_EQ(iconForSymbol("briefcase"), "briefcase");
     EXPECT_EQ(iconForSymbol("nessuno.cosi"), "user-circle");
+}
+
+TEST(Artwork, hues_Unlit_TintTheLeafAndUnknownOnesDoNot) {
+    const HuePalette hues;
+    EXPECT_EQ(hues.leaf("Muschio", false), QColor("#323e2f"));
+    EXPECT_EQ(hues.leaf("Lago", false), QColor("#293c3d"));
+    EXPECT_EQ(hues.leaf("Ardesia", true), QColor("#b0bcca"));
+    EXPECT_EQ(hues.symbol("Erica", false), QColor("#df95c9"));
+    EXPECT_EQ(hues.symbol("Erica", true), Brand::bg);
+    EXPECT_EQ(hues.leaf("Zafferano", true), Brand::accent);
+    EXPECT_EQ(hues.symbol("", false), Brand::cool);
 }
 
 TEST(Artwork, render_WhereNothingCanBeWritten_SaysSo) {

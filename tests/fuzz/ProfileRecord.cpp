@@ -23,7 +23,7 @@ void checkBytes(std::string_view bytes) {
     require(bytesFromText(textFromBytes(bytes)) == bytes, "bytes survive as text");
     ProfileMeta meta;
     meta.created = Timestamp(std::chrono::seconds(bytes.size()));
-    meta.name = meta.summary = meta.symbol = bytes;
+    meta.name = meta.summary = meta.look.symbol = meta.look.color = bytes;
     meta.source = meta.account = meta.name;
     meta.excluded["skills"] = {meta.name, "", meta.name};
     requireSameAgain(meta);

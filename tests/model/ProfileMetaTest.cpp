@@ -28,11 +28,23 @@ TEST(ProfileMeta, decode_InvalidRecord_GivesNothing) {
     for (const char* text : {"", "[]", R"({})", R"({"name": null})", R"({"name": 1})", R"({"name": "a"} x)"})
         EXPECT_FALSE(decodedProfileMeta(text)) << text;
     for (const std::string entry :
-         {R"("summary": 1)", R"("symbol": [])", R"("source": false)", R"("account": {})", R"("modes": [])",
-          R"("modes": {"skills": "linked"})", R"("modes": {"skills": null})",
+         {R"("summary": 1)", R"("symbol": [])", R"("color": 1)", R"("source": false)", R"("account": {})",
+          R"("modes": [])", R"("modes": {"skills": "linked"})", R"("modes": {"skills": null})",
           R"("excluded": {"skills": "a"})", R"("excluded": {"skills": [1]})", R"("created": 1740821400)",
           R"("lastLaunched": "ieri")", R"("isolated": "true")", R"("keptOwn": ["a"])"})
         EXPECT_FALSE(decodedProfileMeta(R"({"name": "a", )" + entry + "}")) << entry;
+}
+
+TEST(ProfileMeta, decode_Color_IsAHueOrKeptAndDrawnAsNone) {
+    const auto meta = [](const std::string& color) {
+        return *decodedProfileMeta(R"({"name": "a", "color": )" + color + "}");
+    };
+    EXPECT_EQ(meta(R"("Genziana")").look.hue(), Hue::gentian);
+    EXPECT_EQ(meta("null").look.hue(), std::nullopt);
+    const ProfileMeta later = meta(R"("Zafferano")");
+    EXPECT_EQ(later.look.hue(), std::nullopt);
+    EXPECT_NE(encoded(later).find(R"("color": "Zafferano")"), std::string::npos);
+    EXPECT_EQ(decodedProfileMeta(encoded(later)), later);
 }
 
 TEST(ProfileMeta, decode_Dates_AreISO8601WithWholeSeconds) {

@@ -74,9 +74,9 @@ TEST(Store, defaultProfile_WithARecord_IsWhatTheRecordSays) {
     Home home;
     const fs::path record = home.store.root() / "default.json";
     writeFile(record, R"({"name": "Casa"})");
-    EXPECT_EQ(home.builtIn().meta.name + home.builtIn().meta.symbol, "Casaperson.crop.circle");
+    EXPECT_EQ(home.builtIn().meta.name + home.builtIn().meta.look.symbol, "Casaperson.crop.circle");
     writeFile(record, R"({"name": "Casa", "created": "ieri"})");
-    EXPECT_EQ(home.builtIn().meta.name + home.builtIn().meta.symbol, "Principalehouse");
+    EXPECT_EQ(home.builtIn().meta.name + home.builtIn().meta.look.symbol, "Principalehouse");
     const Tree before = treeOf(home.path);
     home.store.markLaunched(home.builtIn());
     fs::remove(home.store.root() / ".active");

@@ -34,6 +34,7 @@ Measures {
     readonly property real halfSymbol: 40 ///< from this size on a profile's symbol takes half of its leaf
     readonly property real gridCell: 40
     readonly property real gridIcon: 20
+    readonly property real colorCell: 28
     readonly property real menuPadding: 6
     readonly property real menuWidth: 320
     readonly property real modeWidth: 128

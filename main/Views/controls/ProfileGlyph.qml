@@ -10,9 +10,11 @@ import Selvane
 Item {
     id: glyph
 
-    required property string symbol
+    required property profileLook look
     required property real size
     property bool isLit: false
+    /// Whether a lit leaf with a hue has a frame, because a hue alone doesn't tell that it is lit.
+    property bool isFramed: true
 
     readonly property real iconSize: size >= Theme.controls.halfSymbol ? size / 2 : Math.round(size * 0.5625)
 
@@ -22,17 +24,25 @@ Item {
     LeafShape {
         anchors.fill: parent
         tip: Theme.glyphTip * glyph.size
-        color: glyph.isLit ? Theme.lit : Theme.raised
+        color: Theme.hues.leaf(glyph.look.color, glyph.isLit)
 
         Behavior on color {
             ColorAnimation { duration: Theme.motion.tileFocus; easing.type: Easing.OutCubic }
         }
     }
+    LeafShape {
+        anchors.fill: parent
+        anchors.margins: -Theme.ringGap
+        visible: glyph.isFramed && glyph.isLit && Theme.hues.has(glyph.look.color)
+        tip: Theme.ringTip
+        borderWidth: Theme.thickLine
+        borderColor: Theme.lit
+    }
     PathIcon {
         anchors.centerIn: parent
-        symbol: glyph.symbol
+        symbol: glyph.look.symbol
         size: glyph.iconSize
         weight: glyph.isLit ? PathIcon.Regular : PathIcon.Automatic
-        color: glyph.isLit ? Theme.onFill : Theme.linked
+        color: Theme.hues.symbol(glyph.look.color, glyph.isLit)
     }
 }

@@ -8,13 +8,14 @@ import Selvane
 
 /// Lets the user pick a profile's symbol. It is one Tab stop: arrows, Home and End move, Space picks a symbol,
 /// and so does Return unless that symbol is already chosen.
-ListWell {
+FocusScope {
     id: grid
 
     required property string selection ///< symbol name
     property bool picksOnMove: false ///< the arrows pick too, as among radio buttons
 
     signal picked(string symbol)
+    signal leftBelow ///< the arrow down where no cell is below
 
     readonly property int columns: 12
     readonly property list<string> symbols: [
@@ -53,8 +54,8 @@ ListWell {
 
     onSelectionChanged: current = Math.max(0, symbols.indexOf(selection))
 
-    implicitWidth: columns * Theme.controls.gridCell + 2 * Theme.space16
-    implicitHeight: layout.implicitHeight + 2 * Theme.space16
+    implicitWidth: columns * Theme.controls.gridCell
+    implicitHeight: layout.implicitHeight
 
     Accessible.role: Accessible.Grouping
     Accessible.name: qsTr("Icona")
@@ -62,8 +63,6 @@ ListWell {
     Grid {
         id: layout
 
-        x: Theme.space16
-        y: Theme.space16
         columns: grid.columns
 
         Repeater {
@@ -85,7 +84,12 @@ ListWell {
                 Keys.onLeftPressed: grid.step(index - 1)
                 Keys.onRightPressed: grid.step(index + 1)
                 Keys.onUpPressed: grid.step(index - grid.columns)
-                Keys.onDownPressed: grid.step(index + grid.columns)
+                Keys.onDownPressed: {
+                    if (index + grid.columns < grid.symbols.length)
+                        grid.step(index + grid.columns)
+                    else
+                        grid.leftBelow()
+                }
                 Keys.onPressed: event => {
                     event.accepted = event.key === Qt.Key_Home || event.key === Qt.Key_End
                     if (event.accepted)

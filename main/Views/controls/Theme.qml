@@ -22,6 +22,7 @@ QtObject {
     // ---- Palette
 
     readonly property Brand brand: Brand {}
+    readonly property HuePalette hues: HuePalette {}
 
     // ---- Roles: what a palette colour is used for
 

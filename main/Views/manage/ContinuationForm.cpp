@@ -66,8 +66,8 @@ QString ContinuationForm::title() const {
     return m_conversation == nullptr ? QString() : qtText(text::singleLine(m_conversation->title));
 }
 
-QString ContinuationForm::symbol() const {
-    return origin() == nullptr ? QString() : QString::fromStdString(origin()->meta.symbol);
+LookValue ContinuationForm::look() const {
+    return origin() == nullptr ? LookValue() : LookValue(origin()->meta.look);
 }
 
 QString ContinuationForm::facts() const {
@@ -84,7 +84,7 @@ QVariantList ContinuationForm::targets() const {
     QVariantList list;
     for (const Profile& profile : m_targets)
         list.append(QVariantMap{{"name", QString::fromStdString(profile.meta.name)},
-                                {"symbol", QString::fromStdString(profile.meta.symbol)},
+                                {"look", lookVariant(profile.meta.look)},
                                 {"note", accountNote(profile, *m_app)},
                                 {"isOpen", m_app->running().contains(profile.id)}});
     return list;

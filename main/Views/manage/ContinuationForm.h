@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "AppModel/AppModel.h"
+#include "AppModel/LookValue.h"
 #include "AppModel/Reading.h"
 #include "Views/manage/ConversationListModel.h"
 
@@ -32,9 +33,9 @@ class ContinuationForm : public QObject, public QQmlParserStatus {
     Q_PROPERTY(
         int row MEMBER m_row NOTIFY inputChanged REQUIRED) ///< of the conversation, when the sheet opens
     Q_PROPERTY(QString title READ title NOTIFY inputChanged)
-    Q_PROPERTY(QString symbol READ symbol NOTIFY inputChanged)
+    Q_PROPERTY(selvane::LookValue look READ look NOTIFY inputChanged)
     Q_PROPERTY(QString facts READ facts NOTIFY inputChanged) ///< folder, profile and size
-    /// The profiles to choose from, each with "name", "symbol", "note" and "isOpen". The conversation's own
+    /// The profiles to choose from, each with "name", "look", "note" and "isOpen". The conversation's own
     /// isn't among them.
     Q_PROPERTY(QVariantList targets READ targets NOTIFY targetsChanged)
     Q_PROPERTY(int target READ target WRITE setTarget NOTIFY planChanged) ///< position in these
@@ -51,7 +52,7 @@ public:
     using QObject::QObject;
 
     QString title() const;
-    QString symbol() const;
+    LookValue look() const;
     QString facts() const;
     QVariantList targets() const;
     int target() const { return m_target; }

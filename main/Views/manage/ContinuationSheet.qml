@@ -39,7 +39,7 @@ Sheet {
 
             anchors.verticalCenter: parent.verticalCenter
             size: Theme.manage.profileGlyph
-            symbol: form.symbol
+            look: form.look
         }
         Column {
             anchors { left: glyph.right; leftMargin: Theme.space12; right: parent.right }
@@ -101,7 +101,7 @@ Sheet {
                         width: profiles.width
                         text: modelData.name
                         note: modelData.note
-                        symbol: modelData.symbol
+                        look: modelData.look
                         isOpen: modelData.isOpen
                         checked: form.target === index
                         onChosen: form.target = index

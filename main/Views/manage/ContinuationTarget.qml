@@ -14,10 +14,11 @@ Choice {
     required property string text
     required property string note
     property string shortId
-    property string symbol ///< of a profile
+    property profileLook look ///< of a profile
     property bool isOpen: false
 
-    readonly property real indent: symbol === "" ? Theme.sheets.organisationLeft : Theme.space16
+    readonly property bool isProfile: look.symbol !== ""
+    readonly property real indent: isProfile ? Theme.space16 : Theme.sheets.organisationLeft
 
     signal chosen
 
@@ -30,7 +31,7 @@ Choice {
 
     label: text
     tabStop: checked || activeFocus
-    implicitHeight: symbol === "" ? Theme.controls.height : Theme.controls.listRow
+    implicitHeight: isProfile ? Theme.controls.listRow : Theme.controls.height
 
     Accessible.role: Accessible.RadioButton
     Accessible.focusable: true
@@ -42,7 +43,7 @@ Choice {
 
     Rectangle {
         anchors.bottom: parent.bottom
-        visible: row.symbol !== "" && row.y + row.height < row.parent.height
+        visible: row.isProfile && row.y + row.height < row.parent.height
         width: parent.width
         height: Theme.hairline
         color: Theme.separator
@@ -68,9 +69,9 @@ Choice {
         id: glyph
 
         anchors { left: knob.right; leftMargin: Theme.space12; verticalCenter: parent.verticalCenter }
-        visible: row.symbol !== ""
+        visible: row.isProfile
         size: Theme.manage.conversationGlyph
-        symbol: row.symbol
+        look: row.look
         isLit: row.checked
     }
     Row {

@@ -54,7 +54,7 @@ public:
         IsGivenTitleRole,
         PlaceRole,    ///< the folder, with "~" for the home folder
         ProfilesRole, ///< names
-        SymbolRole,   ///< of the profile where it has gone furthest
+        LookRole,     ///< of the profile where it has gone furthest
         IsTerminalRole,
         MarkRole, ///< what is special about it; empty if nothing is
         IsLostRole,

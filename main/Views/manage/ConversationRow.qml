@@ -14,7 +14,7 @@ Item {
     required property bool isGivenTitle
     required property string place
     required property string profiles
-    required property string symbol
+    required property profileLook look
     required property bool isTerminal
     required property string mark
     required property bool isLost
@@ -97,7 +97,7 @@ Item {
             x: Theme.space16
             y: Math.round((Theme.manage.conversationHeight - height) / 2)
             size: Theme.manage.conversationGlyph
-            symbol: row.symbol
+            look: row.look
             isLit: row.isSelected
         }
         Row {

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "AppModel/LookValue.h"
 #include "AppModel/QtText.h"
 #include "Views/manage/ConversationListModel.h"
 #include "Views/sheets/ConversationTexts.h"
@@ -83,8 +84,8 @@ QVariant ConversationListModel::data(const QModelIndex& index, int role) const {
         return shortFolder(shown.cwd, m_app->store().home());
     case ProfilesRole:
         return profileNames(*m_list, shown);
-    case SymbolRole:
-        return QString::fromStdString(m_list->profiles.at(shown.places.front().profile).meta.symbol);
+    case LookRole:
+        return lookVariant(m_list->profiles.at(shown.places.front().profile).meta.look);
     case IsTerminalRole:
         return shown.origin == ConversationOrigin::terminal;
     case MarkRole:
@@ -129,7 +130,7 @@ QString ConversationListModel::descriptionOf(const QModelIndex& index) const {
 QHash<int, QByteArray> ConversationListModel::roleNames() const {
     return {{TitleRole, "title"},       {IsGivenTitleRole, "isGivenTitle"},
             {PlaceRole, "place"},       {ProfilesRole, "profiles"},
-            {SymbolRole, "symbol"},     {IsTerminalRole, "isTerminal"},
+            {LookRole, "look"},         {IsTerminalRole, "isTerminal"},
             {MarkRole, "mark"},         {IsLostRole, "isLost"},
             {ActivityRole, "activity"}, {SizeRole, "size"},
             {IdRole, "shortId"},        {SectionRole, "section"},

@@ -6,15 +6,15 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A profile's symbol as a button that lets the user choose another.
+/// A profile's symbol as a button that lets the user choose another, and a colour.
 Pressable {
     id: button
 
-    required property string symbol
+    required property profileLook look
     required property real size
     property SymbolPopover choice: null ///< created when first opened
 
-    signal picked(string symbol)
+    signal picked(profileLook look)
 
     function open(): void {
         if (!choice)
@@ -31,7 +31,7 @@ Pressable {
 
     ProfileGlyph {
         size: button.size
-        symbol: button.symbol
+        look: button.look
     }
     LeafShape {
         anchors.fill: parent
@@ -64,8 +64,8 @@ Pressable {
         id: choiceComponent
 
         SymbolPopover {
-            selection: button.symbol
-            onPicked: symbol => button.picked(symbol)
+            look: button.look
+            onPicked: look => button.picked(look)
         }
     }
 }

@@ -112,8 +112,8 @@ QString ProfileDetailModel::summary() const {
     return !m_profile ? QString() : qtText(m_profile->meta.summary);
 }
 
-QString ProfileDetailModel::symbol() const {
-    return !m_profile ? QString() : qtText(m_profile->meta.symbol);
+LookValue ProfileDetailModel::look() const {
+    return !m_profile ? LookValue() : LookValue(m_profile->meta.look);
 }
 
 QString ProfileDetailModel::folder() const {
@@ -247,8 +247,8 @@ void ProfileDetailModel::setSummary(const QString& summary) {
     change([summary = summary.trimmed().toStdString()](ProfileMeta& meta) { meta.summary = summary; });
 }
 
-void ProfileDetailModel::setSymbol(const QString& symbol) {
-    change([symbol = symbol.toStdString()](ProfileMeta& meta) { meta.symbol = symbol; });
+void ProfileDetailModel::setLook(const LookValue& look) {
+    change([look = look.look()](ProfileMeta& meta) { meta.look = look; });
 }
 
 void ProfileDetailModel::setAccount(int index) {

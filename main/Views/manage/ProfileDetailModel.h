@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "AppModel/AppModel.h"
+#include "AppModel/LookValue.h"
 #include "Views/manage/ComponentModel.h"
 
 namespace selvane {
@@ -31,7 +32,7 @@ class ProfileDetailModel : public QObject {
     Q_PROPERTY(QString profileId READ profileId NOTIFY profileChanged)
     Q_PROPERTY(QString name READ name NOTIFY profileChanged)
     Q_PROPERTY(QString summary READ summary NOTIFY profileChanged)
-    Q_PROPERTY(QString symbol READ symbol NOTIFY profileChanged)
+    Q_PROPERTY(selvane::LookValue look READ look NOTIFY profileChanged)
     Q_PROPERTY(QString folder READ folder NOTIFY profileChanged)
     Q_PROPERTY(bool isBuiltIn READ isBuiltIn NOTIFY profileChanged)
     Q_PROPERTY(bool hasSource READ hasSource NOTIFY profileChanged)
@@ -65,7 +66,7 @@ public:
     QString profileId() const;
     QString name() const;
     QString summary() const;
-    QString symbol() const;
+    LookValue look() const;
     QString folder() const;
     bool isBuiltIn() const;
     bool hasSource() const;
@@ -88,7 +89,7 @@ public:
 public slots:
     void setName(const QString& name); ///< a blank name changes nothing
     void setSummary(const QString& summary);
-    void setSymbol(const QString& symbol);
+    void setLook(const selvane::LookValue& look);
     void setAccount(int index);
     void setIsolated(bool isolated);
     /// Moves a profile to the Trash. `profileId` is the profile that the user was asked about: another one

@@ -25,8 +25,8 @@ Item {
 
         y: header.isNarrow ? Theme.manage.glyphTopNarrow : Math.round((fields.height - height) / 2)
         size: header.isNarrow ? Theme.manage.glyphNarrow : Theme.manage.glyph
-        symbol: header.profile.symbol
-        onPicked: symbol => header.profile.setSymbol(symbol)
+        look: header.profile.look
+        onPicked: look => header.profile.setLook(look)
     }
     Column {
         id: fields

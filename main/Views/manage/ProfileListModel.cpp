@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "AppModel/Following.h"
+#include "AppModel/LookValue.h"
 #include "AppModel/RowUpdate.h"
 #include "platform/text/Text.h"
 
@@ -105,8 +106,8 @@ QVariant ProfileListModel::data(const QModelIndex& index, int role) const {
         return QString::fromStdString(profile.meta.name);
     case SummaryRole:
         return QString::fromStdString(profile.meta.summary);
-    case SymbolRole:
-        return QString::fromStdString(profile.meta.symbol);
+    case LookRole:
+        return lookVariant(profile.meta.look);
     case IsRunningRole:
         return m_app->running().contains(profile.id);
     case IsActiveRole:
@@ -132,7 +133,7 @@ QHash<int, QByteArray> ProfileListModel::roleNames() const {
     return {{IdRole, "profileId"},
             {NameRole, "name"},
             {SummaryRole, "summary"},
-            {SymbolRole, "symbol"},
+            {LookRole, "look"},
             {IsRunningRole, "isRunning"},
             {IsActiveRole, "isActive"},
             {HasOwnAccountRole, "hasOwnAccount"},

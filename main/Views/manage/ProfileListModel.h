@@ -24,7 +24,7 @@ public:
         IdRole = Qt::UserRole,
         NameRole,
         SummaryRole,
-        SymbolRole,
+        LookRole,
         IsRunningRole,     ///< open in Claude Desktop
         IsActiveRole,      ///< launched last
         HasOwnAccountRole, ///< its own account, not the built-in one's

@@ -12,7 +12,7 @@ Item {
 
     required property string name
     required property string subtitle
-    required property string symbol
+    required property profileLook look
     required property string sourceName
     required property bool hasOwnAccount
     required property bool hasSource
@@ -68,7 +68,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         x: Theme.space8
         size: Theme.manage.profileGlyph
-        symbol: row.symbol
+        look: row.look
         isLit: row.isSelected
     }
     Column {

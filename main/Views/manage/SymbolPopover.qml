@@ -6,30 +6,34 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// The symbols to choose from, over the window. Picking one closes it.
+/// The symbols and colours to choose from, over the window. Picking a symbol, or the chosen
+/// colour again, closes it.
 Popover {
     id: popover
 
-    required property string selection ///< symbol name
+    required property profileLook look
 
-    signal picked(string symbol)
+    signal picked(profileLook look)
 
     /// Gives the focus to the chosen symbol.
     function begin(): void {
-        grid.moveTo(Math.max(0, grid.symbols.indexOf(popover.selection)))
+        chooser.begin()
     }
 
     padding: 0
     fill: Theme.wellFill
 
-    SymbolGrid {
-        id: grid
+    LookChooser {
+        id: chooser
 
         outside: Theme.transparent
-        selection: popover.selection
-        onPicked: symbol => {
-            popover.close()
-            popover.picked(symbol)
+        look: popover.look
+        onPicked: look => {
+            if (look.color === popover.look.color)
+                popover.close()
+            popover.picked(look)
         }
+        Keys.onTabPressed: event => event.accepted = chooser.goOn(1)
+        Keys.onBacktabPressed: event => event.accepted = chooser.goOn(-1)
     }
 }

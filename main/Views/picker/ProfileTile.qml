@@ -12,7 +12,7 @@ Item {
 
     required property string name
     required property string summary
-    required property string symbol
+    required property profileLook look
     required property bool isRunning
     required property bool hasOwnAccount
     required property string lastLaunch
@@ -83,7 +83,7 @@ Item {
         scale: area.pressed ? Theme.motion.pressedScale : 1
         name: tile.name
         summary: tile.summary
-        symbol: tile.symbol
+        look: tile.look
         status: tile.status
         position: tile.position
         isRunning: tile.isRunning

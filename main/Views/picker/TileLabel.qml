@@ -12,7 +12,7 @@ Item {
 
     required property string name
     required property string summary
-    required property string symbol
+    required property profileLook look
     required property string status
     required property int position
     required property bool isRunning
@@ -28,8 +28,9 @@ Item {
         size: Theme.picker.tileGlyph
         x: Theme.space16
         y: Theme.space16
-        symbol: label.symbol
+        look: label.look
         isLit: label.isFocused
+        isFramed: false // the tile is
     }
     StyledText {
         anchors { left: parent.left; right: parent.right; margins: Theme.space16 }

@@ -176,7 +176,7 @@ ProfileRequest NewProfileForm::request() const {
     ProfileRequest request;
     request.profile.name = m_name.toStdString();
     request.profile.summary = m_summary.toStdString();
-    request.profile.symbol = m_symbol.toStdString();
+    request.profile.look = m_look.look();
     request.isolated = m_isolated;
     const Profile* source = m_app->profile(m_source);
     if (source == nullptr)

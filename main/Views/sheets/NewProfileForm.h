@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "AppModel/AppModel.h"
+#include "AppModel/LookValue.h"
 #include "AppModel/Reading.h"
 #include "Views/sheets/ChoiceListModel.h"
 
@@ -28,7 +29,7 @@ class NewProfileForm : public QAbstractListModel {
     Q_PROPERTY(selvane::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
     Q_PROPERTY(QString name MEMBER m_name NOTIFY nameChanged)
     Q_PROPERTY(QString summary MEMBER m_summary NOTIFY summaryChanged)
-    Q_PROPERTY(QString symbol MEMBER m_symbol NOTIFY symbolChanged)
+    Q_PROPERTY(selvane::LookValue look MEMBER m_look NOTIFY lookChanged)
     /// Id of the profile to start from; empty for none. Becomes empty if that profile is deleted. Modes that
     /// were chosen stay with another source, and so do items that were left out, by their names.
     Q_PROPERTY(QString source READ source WRITE setSource NOTIFY sourceChanged)
@@ -81,7 +82,7 @@ signals:
     void nameChanged();
     void canCreateChanged();
     void summaryChanged();
-    void symbolChanged();
+    void lookChanged();
     void sourceChanged();
     void sharesAccountChanged();
     void copiesSessionsChanged();
@@ -106,7 +107,7 @@ private:
     AppModel* m_app = nullptr;
     QString m_name;
     QString m_summary;
-    QString m_symbol = QStringLiteral("briefcase");
+    LookValue m_look = ProfileLook{.symbol = "briefcase", .color = {}};
     QString m_source;
     bool m_sharesAccount = true;
     bool m_copiesSessions = false;

@@ -62,11 +62,11 @@ Sheet {
             width: parent.width
             label: qsTr("Icona")
 
-            SymbolGrid {
+            LookChooser {
                 width: parent.width
-                selection: form.symbol
+                look: form.look
                 picksOnMove: true
-                onPicked: symbol => form.symbol = symbol
+                onPicked: look => form.look = look
             }
         }
         FieldGroup {

@@ -134,10 +134,10 @@ private:
             return;
         if (const auto meta = decodedProfileMeta(m_text(record))) {
             part.name = text::singleLine(meta->name);
-            part.symbol = meta->symbol;
+            part.look = meta->look;
         } else if (part.id == Profile::kDefaultId) {
             part.name = "Principale";
-            part.symbol = "house";
+            part.look.symbol = "house";
         }
         count(m_listing, part);
         m_parts.push_back(std::move(part));

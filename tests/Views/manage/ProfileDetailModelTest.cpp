@@ -261,7 +261,7 @@ TEST_F(ProfileDetailModelTest, names_AreTrimmedAndNeverEmpty) {
     EXPECT_EQ(home.store.profile("lavoro")->meta.name, "Studio");
     EXPECT_EQ(home.store.profile("lavoro")->meta.summary, "Uno");
     const qint64 revision = model().revision();
-    detail.setSymbol(detail.symbol());
+    detail.setLook(detail.look());
     EXPECT_EQ(model().revision(), revision) << "nothing to save";
 }
 

@@ -369,11 +369,21 @@ Item {
             verify(the(item => item instanceof StyledText && item.text === "Il profilo principale non si elimina"))
         }
 
-        function test_symbol_IsPickedInThePopover(): void {
+        function test_symbolAndColour_ArePickedInThePopover(): void {
             show("default")
             mouseClick(button("Cambia icona"))
             press(Qt.Key_Right, Qt.Key_Space)
-            tryVerify(() => the(item => item instanceof GlyphButton).symbol === "briefcase")
+            const glyph = the(item => item instanceof GlyphButton)
+            tryVerify(() => glyph.look.symbol === "briefcase")
+            verify(!glyph.choice.isOpen)
+
+            mouseClick(button("Cambia icona"))
+            press(Qt.Key_Tab, Qt.Key_End, Qt.Key_Space)
+            tryVerify(() => glyph.look.color === "Ardesia")
+            compare(glyph.look.symbol, "briefcase")
+            verify(glyph.choice.isOpen)
+            press(Qt.Key_Backtab, Qt.Key_Space)
+            verify(!glyph.choice.isOpen)
         }
 
         function test_narrow_LosesLabelsNotButtons(): void {

@@ -125,7 +125,7 @@ TEST_F(FormsTest, newProfile_Create_MakesWhatWasChosen) {
     waitUntilIdle();
     const Profile made = *home.store.profile("lavoro");
     EXPECT_EQ(made.meta.account, "default");
-    EXPECT_EQ(made.meta.symbol, "briefcase");
+    EXPECT_EQ(made.meta.look.symbol, "briefcase");
     EXPECT_EQ(made.excluded(Component::skills), (std::set<std::string>{"tre.md", "uno.md"}));
     EXPECT_TRUE(fs::is_symlink(made.configDir / "skills" / notUtf8));
     EXPECT_EQ(model().selection(), "lavoro");

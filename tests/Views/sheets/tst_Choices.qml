@@ -34,6 +34,15 @@ Item {
         y: 120
         selection: "briefcase"
     }
+    LookChooser {
+        id: look
+
+        property profileLook plain
+
+        y: 300
+        look: plain.withSymbol("cart").withColor("Lago")
+        picksOnMove: true
+    }
     ContextMenu {
         id: menu
 
@@ -46,6 +55,7 @@ Item {
     SignalSpy { id: chosen; target: modes; signalName: "chosen" }
     SignalSpy { id: toggled; target: toggle; signalName: "toggled" }
     SignalSpy { id: picked; target: grid; signalName: "picked" }
+    SignalSpy { id: pickedLook; target: look; signalName: "picked" }
     SignalSpy { id: triggered; target: last; signalName: "triggered" }
 
     TestCase {
@@ -53,7 +63,7 @@ Item {
         when: windowShown
 
         function init() {
-            for (const spy of [chosen, toggled, picked, triggered])
+            for (const spy of [chosen, toggled, picked, pickedLook, triggered])
                 spy.clear()
         }
         function cleanup() {
@@ -122,6 +132,20 @@ Item {
             keyClick(Qt.Key_Space)
             compare(picked.count, 1)
             compare(picked.signalArguments[0][0], row.symbol)
+        }
+
+        function test_colours_AreReachedFromTheSymbolsAndKeepTheSymbol(): void {
+            look.begin()
+            keyClick(Qt.Key_Down) // to the last row of the symbols
+            keyClick(Qt.Key_Down)
+            keyClick(Qt.Key_Left)
+            keyClick(Qt.Key_Home)
+            const colors = Array.from(pickedLook.signalArguments, each => each[0]).map(each => each.symbol + each.color)
+            compare(colors, ["pawprintLago", "cartGenziana", "cart"])
+            const ringed = () => scene.Window.activeFocusItem
+            compare([ringed().label, ringed().help], ["Nessuna", "Nessuna"])
+            keyClick(Qt.Key_Up)
+            verify(ringed() instanceof SymbolCell)
         }
 
         function test_menuSkipsWhatCannotBeTriggered() {
