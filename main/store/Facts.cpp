@@ -1,7 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
+#include "store/Facts.h"
+
 #include "platform/files/DiskUsage.h"
+#include "platform/files/FileManager.h"
 #include "platform/json/Json.h"
 #include "store/ProfileStore.h"
 
@@ -9,10 +12,10 @@ namespace selvane {
 
 namespace fs = std::filesystem;
 
-std::optional<std::string> ProfileStore::agentAddress(const Profile& profile) const {
-    const fs::path file = globalJSON(profile);
+std::optional<std::string> agentAddress(const ProfileStore& store, const Profile& profile) {
+    const fs::path file = store.globalJSON(profile);
     try {
-        const auto text = m_files.readIfPossible(file);
+        const auto text = FileManager().readIfPossible(file);
         const Json state = text ? json::parse(*text, file) : Json();
         const Json* account = json::find(state, "oauthAccount");
         const Json* address = account != nullptr ? json::find(*account, "emailAddress") : nullptr;
@@ -23,21 +26,21 @@ std::optional<std::string> ProfileStore::agentAddress(const Profile& profile) co
     return std::nullopt;
 }
 
-bool ProfileStore::hasDesktopLogin(const Profile& profile) const {
+bool hasDesktopLogin(const ProfileStore& store, const Profile& profile) {
     try {
-        return !sessionFolders(desktopDataDir(profile), Unreadable::leftOut).empty();
+        return !store.sessionFolders(store.desktopDataDir(profile), Unreadable::leftOut).empty();
     } catch (const std::exception&) { // the account isn't valid, or it can't be told where its data is
         return false;
     }
 }
 
-ProfileSize ProfileStore::sizeOnDisk(const Profile& profile) const {
+ProfileSize sizeOnDisk(const ProfileStore& store, const Profile& profile) {
     std::vector<fs::path> configuration = {profile.configDir};
     if (profile.globalState)
         configuration.push_back(*profile.globalState);
     ProfileSize size;
-    size.configuration = diskUsage(configuration, m_progress);
-    size.account = diskUsage({desktopDataDir(profile)}, m_progress);
+    size.configuration = diskUsage(configuration, store.progress());
+    size.account = diskUsage({store.desktopDataDir(profile)}, store.progress());
     return size;
 }
 

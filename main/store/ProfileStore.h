@@ -20,8 +20,8 @@
 #include "model/CodeSession.h"
 #include "model/ComponentItem.h"
 #include "model/Continuation.h"
+#include "model/DamagedProfile.h"
 #include "model/Profile.h"
-#include "model/ProfileSize.h"
 #include "model/SyncReport.h"
 #include "platform/files/FileManager.h"
 #include "platform/files/FolderLock.h"
@@ -37,15 +37,6 @@ class Progress;
 struct Conversation;
 struct ConversationList;
 struct InstructionExcludes;
-
-/// A folder in the profiles root whose record is there, but damaged or unreadable.
-struct DamagedProfile {
-    std::string id;
-    std::filesystem::path configDir;
-    std::string reason; ///< in Italian, naming the record
-
-    bool operator==(const DamagedProfile&) const = default;
-};
 
 /// The profiles on disk. It keeps no cache: every query reads the file system again.
 ///
@@ -103,9 +94,6 @@ public:
     Profile create(const NewProfile& request);
     /// Copies a component that is copied as a whole again; what the profile had of it goes to the Trash.
     void reimport(Component component, const Profile& to, const Profile& from);
-    void importSettings(const Profile& to, const Profile& from) { reimport(Component::settings, to, from); }
-    void importPlugins(const Profile& to, const Profile& from) { reimport(Component::plugins, to, from); }
-    void importMCP(const Profile& to, const Profile& from) { reimport(Component::mcp, to, from); }
     /// Moves it to the Trash with its own desktop data. Refuses if other profiles depend on it, or may
     /// because their record can't be read, or if its account is open.
     void deleteProfile(const Profile& profile);
@@ -186,20 +174,7 @@ public:
     void restoreDesktopData();
     void seedDesktopData(const Profile& profile, const Profile& source);
 
-    // What the windows tell of a profile (Facts.cpp)
-    /// The address with which Claude Code is signed in, as its state says (`oauthAccount`); nothing if it
-    /// isn't, or if that can't be read. No token is read. Never fails. The text is another program's: clean
-    /// it before it is shown.
-    std::optional<std::string> agentAddress(const Profile& profile) const;
-    /// Whether somebody has signed in to Claude Desktop with the profile's account: whether its data has a
-    /// folder of an account for the Code tab, which Claude Desktop makes when that tab is first used. False
-    /// if that can't be read; never fails.
-    bool hasDesktopLogin(const Profile& profile) const;
-    /// How much its configuration folder and its account's data take up on the disk. May take long: a store
-    /// with a `Progress` can be cancelled, and then throws `operation_canceled`.
-    ProfileSize sizeOnDisk(const Profile& profile) const;
-
-    // Code sessions (Sessions.cpp)
+    // Code sessions (Sessions.cpp, QueuedSessions.cpp)
     /// The folders that hold the session records of a data folder, one for each account and organisation, the
     /// most recently changed first.
     std::vector<std::filesystem::path> sessionFolders(const std::filesystem::path& dataDir,
@@ -271,7 +246,6 @@ private:
     void trashCopy(const std::filesystem::path& file, const std::string& text);
     void rewritePaths(const std::filesystem::path& file, const Profile& from, const Profile& to,
                       const FileManager& files);
-
     void applyClaudeMd(ShareMode mode, const Profile& to, const Profile& from, const FileManager& files);
     void changeClaudeMd(ShareMode mode, const Profile& profile, const Profile& source);
 
@@ -307,7 +281,6 @@ private:
     std::filesystem::path queuedPlace(const std::filesystem::path& queue, const std::string& name,
                                       const std::filesystem::path& data,
                                       const std::filesystem::path& usual) const;
-
     std::vector<std::filesystem::path> desktopFolders(const std::vector<std::filesystem::path>& in) const;
 
     Progress* m_progress = nullptr;

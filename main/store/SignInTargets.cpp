@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "store/Facts.h"
 #include "store/ProfileStore.h"
 
 namespace selvane {
@@ -29,7 +30,7 @@ SignInTargets ProfileStore::signInTargets() const {
     } catch (const std::exception&) { // as if none were open: launching says what is wrong
     }
     const auto add = [&](const Profile& profile, const std::optional<ClaudeApp::Instance>& copy) {
-        result.targets.push_back({profile, copy, hasDesktopLogin(profile)});
+        result.targets.push_back({profile, copy, hasDesktopLogin(*this, profile)});
     };
     for (const ClaudeApp::Instance& copy : copies) {
         // If its configuration isn't known, any profile with this account is good enough: only the account

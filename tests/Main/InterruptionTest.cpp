@@ -131,7 +131,7 @@ TEST(Interrupted, UpdatesOfARunningClaudeAreKept) {
         const int imports = 20 * (wanted != nullptr ? std::stoi(wanted) : 3);
         for (int i = 0; i < imports; ++i) {
             writeFile(home / ".claude.json", R"({"mcpServers": {"a)" + std::to_string(i) + R"(": {}}})");
-            home.store.importMCP(profile, home.builtIn());
+            home.store.reimport(Component::mcp, profile, home.builtIn());
         }
     }
     EXPECT_TRUE(json::parse(readFile(state), state)["mcpServers"].is_object());

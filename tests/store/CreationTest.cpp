@@ -202,8 +202,8 @@ TEST(Imports, import_OverOwnFiles_MovesThemToTheTrash) {
     Home home;
     const Profile profile = home.make("Lavoro", kNoImports);
     const auto import = [&] {
-        home.store.importSettings(profile, home.builtIn());
-        home.store.importPlugins(profile, home.builtIn());
+        home.store.reimport(Component::settings, profile, home.builtIn());
+        home.store.reimport(Component::plugins, profile, home.builtIn());
     };
     writeTree(profile.configDir, {{"settings.json", "mine"}, {"plugins/mine", "mine"}});
     import();
@@ -250,7 +250,7 @@ TEST(Imports, importMCP_EachState_TakesTheServersOnly) {
             writeFile(file, own);
         writeFile(home / ".claude.json", source);
         try {
-            home.store.importMCP(profile, home.builtIn());
+            home.store.reimport(Component::mcp, profile, home.builtIn());
             EXPECT_EQ(readFile(file), expected) << source << own;
         } catch (const JsonError& error) {
             EXPECT_NE(std::string(error.what()).find(file.string()), std::string::npos) << error.what();

@@ -8,6 +8,7 @@
 
 #include "platform/files/DiskUsage.h"
 #include "platform/files/Progress.h"
+#include "store/Facts.h"
 #include "support/Home.h"
 
 namespace selvane {
@@ -151,7 +152,7 @@ TEST_F(Drift, replaceCopy_OfSomethingElse_LeavesIt) {
 }
 
 TEST_F(Drift, facts_OfAProfile) {
-    EXPECT_EQ(home.store.agentAddress(profile), std::nullopt);
+    EXPECT_EQ(agentAddress(home.store, profile), std::nullopt);
     const std::string signedIn = R"({"oauthAccount": {"emailAddress": "ada@esempio.it"}, "x": 1})";
     for (const auto& [text, address] : std::map<std::string, std::optional<std::string>>{
              {signedIn, "ada@esempio.it"},
@@ -159,23 +160,23 @@ TEST_F(Drift, facts_OfAProfile) {
              {R"({"oauthAccount": ["a@b"]})", std::nullopt},
              {"{", std::nullopt}}) {
         writeFile(home.store.globalJSON(profile), text);
-        EXPECT_EQ(home.store.agentAddress(profile), address) << text;
+        EXPECT_EQ(agentAddress(home.store, profile), address) << text;
     }
     writeFile(home.store.defaultGlobalJSON(), signedIn);
-    EXPECT_EQ(home.store.agentAddress(home.builtIn()), "ada@esempio.it");
+    EXPECT_EQ(agentAddress(home.store, home.builtIn()), "ada@esempio.it");
 
-    EXPECT_FALSE(home.store.hasDesktopLogin(profile));
+    EXPECT_FALSE(hasDesktopLogin(home.store, profile));
     const fs::path data = home.store.desktopDataDir(profile);
     writeFile(data / "claude-code-sessions/conto/ente/local_1.json", "{}");
-    EXPECT_TRUE(home.store.hasDesktopLogin(profile));
+    EXPECT_TRUE(hasDesktopLogin(home.store, profile));
 
-    const ProfileSize before = home.store.sizeOnDisk(profile);
+    const ProfileSize before = sizeOnDisk(home.store, profile);
     writeFile(data / "grande", std::string(1 << 20, 'x'));
     fs::create_hard_link(data / "grande", data / "lo stesso");
     fs::create_symlink(data / "grande", profile.configDir / "collegamento");
     writeFile(profile.configDir / "bucato", "");
     fs::resize_file(profile.configDir / "bucato", 1 << 30); // a hole takes up nothing
-    const ProfileSize after = home.store.sizeOnDisk(profile);
+    const ProfileSize after = sizeOnDisk(home.store, profile);
     EXPECT_NEAR(static_cast<double>(after.account - before.account), 1 << 20, 1 << 16);
     EXPECT_LT(after.configuration - before.configuration, 1U << 16);
     // On Linux, /dev/shm is a file system of its own.
@@ -188,7 +189,7 @@ TEST_F(Drift, facts_OfAProfile) {
     }
     Progress progress;
     progress.cancel();
-    EXPECT_THROW(ProfileStore(home.store, progress).sizeOnDisk(profile), fs::filesystem_error);
+    EXPECT_THROW(sizeOnDisk(ProfileStore(home.store, progress), profile), fs::filesystem_error);
 }
 
 } // namespace

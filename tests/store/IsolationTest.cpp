@@ -148,7 +148,7 @@ TEST_F(Isolation, operations_ThatChangeInstructions_KeepTheEntriesRight) {
     home.store.makeOwn(item("b.md"), profile);
     EXPECT_EQ(excludes(profile), (Texts{"~/rules/.nascosta.md", "~/rules/a.md", "~/rules/b.md"}));
     profile = home.store.importItems({"a.md"}, home.builtIn(), profile, Component::rules, true);
-    home.store.importSettings(profile, home.builtIn()); // which replaces the file
+    home.store.reimport(Component::settings, profile, home.builtIn()); // which replaces the file
     EXPECT_EQ(excludes(profile), (Texts{"~/rules/.nascosta.md", "~/rules/b.md"}));
     profile = home.store.setMode(none, Component::rules, profile);
     profile = home.store.setMode(none, Component::claudeMd, profile);

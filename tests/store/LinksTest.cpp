@@ -292,9 +292,9 @@ TEST_F(Links, changes_OfAProfile_LockItOnce) {
     fs::remove(own("uno.md"));
     Paths locked;
     const WaitWatch watch(WaitWatch::For::lock, [&](const fs::path& folder) { locked.push_back(folder); });
-    home.store.importSettings(profile, builtIn);
-    home.store.importPlugins(profile, builtIn);
-    home.store.importMCP(profile, builtIn);
+    home.store.reimport(Component::settings, profile, builtIn);
+    home.store.reimport(Component::plugins, profile, builtIn);
+    home.store.reimport(Component::mcp, profile, builtIn);
     home.store.reimport(Component::settings, profile, builtIn);
     home.store.makeOwn(linked, profile);
     home.store.addItem(uno, profile, Component::skills, true);

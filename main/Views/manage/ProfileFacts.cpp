@@ -13,6 +13,7 @@
 #include "AppModel/Wording.h"
 #include "platform/files/Progress.h"
 #include "platform/text/Text.h"
+#include "store/Facts.h"
 
 namespace selvane {
 
@@ -45,9 +46,9 @@ void ProfileFacts::update() {
 
 void ProfileFacts::readSignIns() {
     const auto read = [&store = m_app->store(), profile = *m_profile, all = m_app->profiles()] {
-        SignIns result{profile.id, store.agentAddress(profile), store.hasDesktopLogin(profile), {}};
+        SignIns result{profile.id, agentAddress(store, profile), hasDesktopLogin(store, profile), {}};
         for (const Profile& other : all) {
-            if (result.address && other.id != profile.id && store.agentAddress(other) == result.address)
+            if (result.address && other.id != profile.id && agentAddress(store, other) == result.address)
                 result.others.push_back(other.meta.name);
         }
         return result;
@@ -70,7 +71,7 @@ void ProfileFacts::countSize() {
     const auto count = [&all = m_app->store(), profile = *m_profile, progress = m_counting]() -> Size {
         try {
             const ProfileStore store(all, *progress);
-            return {profile.id, store.sizeOnDisk(profile)};
+            return {profile.id, sizeOnDisk(store, profile)};
         } catch (const std::exception&) { // cancelled, or the account isn't valid
             return {profile.id, std::nullopt};
         }

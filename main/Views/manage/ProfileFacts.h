@@ -15,6 +15,7 @@
 
 #include "AppModel/AppModel.h"
 #include "AppModel/Reading.h"
+#include "model/ProfileSize.h"
 
 namespace selvane {
 
