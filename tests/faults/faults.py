@@ -97,7 +97,7 @@ def run_to(operation, place, point):
     for _ in range(ATTEMPTS):
         place.restore("before")
         run = tracing.run_with_fault(command, home, operation.setting, point)
-        if any(str(home.path) in hit for hit in run.hits):
+        if run.reached(point, home):
             return run, point
         place.restore("before")
         point = tracing.found_again(point, command, home, operation.setting) or point

@@ -43,6 +43,9 @@ READ_ERRORS = {
     "getdents64": ("EIO", "ESTALE"), "read": ("EIO", "ESTALE"), "pread64": ("EIO", "ESTALE"),
     "close": ("EIO", "EDQUOT"), "flock": ("EIO", "ENOLCK"),
 }
+# Processes and threads that can't be started, wherever that happens.
+_STARTING = {name: ("EAGAIN",) for name in ("clone", "clone3", "fork", "vfork")}
+READ_ERRORS |= _STARTING
 _OPENING = ("open", "openat", "creat")
 _BY_DESCRIPTOR = ("write", "pwrite64", "writev", "read", "pread64", "getdents64", "fstat", "close", "flock", "syncfs",
                   "fsync")
@@ -71,6 +74,9 @@ class Run:
     err: str
     hits: list  # the lines about the calls that a fault was injected into
 
+    def reached(self, point, home):
+        return any(point.call in _STARTING or str(home.path) in hit for hit in self.hits)
+
 
 def _is_in(home, call, arguments):
     return home in (arguments.split(",")[0] if call in _BY_DESCRIPTOR else arguments)
@@ -90,8 +96,8 @@ def is_change(call, arguments, home):
 
 
 def is_read(call, arguments, home):
-    """Whether a call looks at something in the home without changing anything."""
-    return (call in READ_ERRORS and _is_in(home, call, arguments) and
+    """Whether a call looks at something in the home, or starts something, without changing anything."""
+    return call in _STARTING or (call in READ_ERRORS and _is_in(home, call, arguments) and
             not (call in _OPENING and _opens_for_writing(arguments)))
 
 
