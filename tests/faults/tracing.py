@@ -10,7 +10,7 @@ import subprocess
 import time
 
 KILL = "KILL"
-TIME_LIMIT = 30
+TIME_LIMIT = 30  # seconds; nothing takes a tenth of that
 PR_SET_CHILD_SUBREAPER = 36
 
 # How each call that changes files is made to fail. EINVAL, EXDEV and EOPNOTSUPP stand for more limited file systems.
@@ -117,13 +117,13 @@ def _wait_for_orphans():
     raise TimeoutError("something that was started doesn't end")
 
 
-def run(command, home, options=()):
+def run(command, home, options=(), limit=TIME_LIMIT):
     """Runs a command line and waits for everything it starts. With options, runs it under strace."""
     log = home.path.parent / "strace.log"
     log.unlink(missing_ok=True)
     strace = ["strace", "-y", "-s", "1000", "-o", log, *options] if options else []
     done = subprocess.run([*strace, *command], env=home.environment, cwd="/", capture_output=True,
-                          stdin=subprocess.DEVNULL, timeout=TIME_LIMIT, check=False)
+                          stdin=subprocess.DEVNULL, timeout=limit, check=False)
     _wait_for_orphans()
     lines = log.read_text(errors="replace").splitlines() if options else []
     return Run(done.returncode, done.stdout.decode(), done.stderr.decode(), lines)
@@ -157,7 +157,7 @@ def calls(command, home, setting):
     """The changing and reading calls of Selvane itself and, separately, the changing ones of the programs that it
     starts, in one run."""
     names = ",".join("?" + name for name in {**ERRORS, **READ_ERRORS})
-    done = run(command, home, ["-f", f"--trace={names}", *_injections(setting)])
+    done = run(command, home, ["-f", f"--trace={names}", *_injections(setting)], 10 * TIME_LIMIT)
     if done.status != 0:
         raise RuntimeError(f"{command} ends with {done.status} without any fault: {done.err}")
     counts, own, others = {}, [], []
