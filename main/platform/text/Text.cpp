@@ -117,6 +117,18 @@ std::string searchable(std::string_view text) {
     return result.take();
 }
 
+std::vector<std::string> searchableWords(std::string_view text) {
+    const std::string all = searchable(text);
+    std::vector<std::string> words;
+    std::string_view rest = trimmed(all);
+    while (!rest.empty()) {
+        const std::size_t end = std::min(rest.find_first_of(" \t\n"), rest.size());
+        words.emplace_back(rest.substr(0, end));
+        rest = trimmed(rest.substr(end));
+    }
+    return words;
+}
+
 std::string_view trimmed(std::string_view text) {
     const auto trimOnce = [&] {
         for (const std::string_view space : kWhiteSpace) {

@@ -30,6 +30,9 @@ std::string searchable(std::string_view text);
 /// `text` without Unicode white space at either end, including line ends.
 std::string_view trimmed(std::string_view text);
 
+/// The words of `text` between white space, each `searchable`.
+std::vector<std::string> searchableWords(std::string_view text);
+
 /// `text` with U+FFFD for every control character, so that it stays on one line and in one field.
 std::string singleLine(std::string_view text);
 

@@ -9,22 +9,6 @@
 #include "platform/text/TextFinder.h"
 
 namespace selvane {
-namespace {
-
-/// The words between white space, in the form in which texts are searched.
-std::vector<std::string> wordsOf(std::string_view text) {
-    const std::string all = text::searchable(text);
-    std::vector<std::string> words;
-    std::string_view rest = text::trimmed(all);
-    while (!rest.empty()) {
-        const std::size_t end = std::min(rest.find_first_of(" \t\n"), rest.size());
-        words.emplace_back(rest.substr(0, end));
-        rest = text::trimmed(rest.substr(end));
-    }
-    return words;
-}
-
-} // namespace
 
 ConversationSearch::ConversationSearch(std::shared_ptr<const ConversationList> list)
     : m_list(std::move(list)) {
@@ -65,7 +49,7 @@ std::vector<std::uint32_t> ConversationSearch::matches(const ConversationFilter&
         if (wants(filter, m_list->conversations[row]))
             found.push_back(row);
     }
-    for (const std::string& word : wordsOf(filter.text)) {
+    for (const std::string& word : text::searchableWords(filter.text)) {
         const text::TextFinder finder(word, text::TextFinder::Kind::exact);
         std::size_t next = 0; // where the word stands at or after the row that is looked at
         std::erase_if(found, [&](std::uint32_t row) {
