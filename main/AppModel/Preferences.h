@@ -6,6 +6,7 @@
 #include <QRect>
 #include <QSettings>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <utility>
@@ -35,8 +36,21 @@ public:
         m_settings->setValue(window + "Place", place);
     }
 
+    /// Whether a section of the management window, known by its component's raw value, is folded away.
+    bool isFolded(const QString& section) const { return folded().contains(section); }
+    void setFolded(const QString& section, bool isFolded) {
+        QStringList sections = folded();
+        sections.removeAll(section);
+        if (isFolded)
+            sections.append(section);
+        m_settings->setValue(kFoldedSections, sections);
+    }
+
 private:
+    QStringList folded() const { return m_settings->value(kFoldedSections).toStringList(); }
+
     static constexpr auto kCloseAfterLaunch = "closeAfterLaunch";
+    static constexpr auto kFoldedSections = "foldedSections";
     static constexpr auto kLastSelection = "lastSelection";
     static constexpr auto kSignInsOffered = "signInsOffered";
 

@@ -25,20 +25,31 @@ struct Traits {
     std::span<const ShareMode> allowedModes;
     std::string_view present = {};
     std::string_view absent = {};
+    std::string_view items = {};
+    bool isFeminine = false; ///< what `items` names
 };
 
 /// A folder of items, named on disk as everywhere.
 constexpr Traits collection(Component component, std::string_view name, std::string_view title,
-                            std::string_view symbol) {
-    return {component, name, name, ComponentKind::collection, title, symbol, shared, kCollectionModes};
+                            std::string_view symbol, std::string_view items, bool isFeminine = false) {
+    return {.component = component,
+            .rawValue = name,
+            .location = name,
+            .kind = ComponentKind::collection,
+            .title = title,
+            .symbol = symbol,
+            .defaultMode = shared,
+            .allowedModes = kCollectionModes,
+            .items = items,
+            .isFeminine = isFeminine};
 }
 
 constexpr std::array<Traits, kComponents.size()> kTraits = {{
-    collection(Component::skills, "skills", "Skill", "wand.and.stars"),
-    collection(Component::agents, "agents", "Agenti", "person.2"),
-    collection(Component::commands, "commands", "Comandi", "command"),
-    collection(Component::outputStyles, "output-styles", "Stili di output", "text.quote"),
-    collection(Component::rules, "rules", "Regole (rules/)", "list.bullet.rectangle"),
+    collection(Component::skills, "skills", "Skill", "wand.and.stars", "skill", true),
+    collection(Component::agents, "agents", "Agenti", "person.2", "agenti"),
+    collection(Component::commands, "commands", "Comandi", "command", "comandi"),
+    collection(Component::outputStyles, "output-styles", "Stili di output", "text.quote", "stili"),
+    collection(Component::rules, "rules", "Regole (rules/)", "list.bullet.rectangle", "regole", true),
     {Component::claudeMd, "CLAUDE.md", "CLAUDE.md", ComponentKind::memory, "Regole globali (CLAUDE.md)",
      "doc.text", extend, kClaudeMdModes, "File CLAUDE.md del profilo", "Nessun CLAUDE.md"},
     {Component::settings, "settings", "settings.json", ComponentKind::file, "Impostazioni e hook",
@@ -79,6 +90,12 @@ std::string_view description(Component component, bool isPresent) {
 }
 std::string_view location(Component component) {
     return traits(component).location;
+}
+std::string_view itemsName(Component component) {
+    return traits(component).items;
+}
+bool areItemsFeminine(Component component) {
+    return traits(component).isFeminine;
 }
 ComponentKind kind(Component component) {
     return traits(component).kind;

@@ -39,6 +39,9 @@ std::string_view symbol(Component component); ///< name of its SF Symbol
 std::string_view description(Component component, bool isPresent);
 /// Where it lies in the configuration folder. Of the built-in profile the global state file lies elsewhere.
 std::string_view location(Component component);
+/// What several items of a collection are called, such as "skill" or "agenti".
+std::string_view itemsName(Component component);
+bool areItemsFeminine(Component component);
 ComponentKind kind(Component component);
 bool isCollection(Component component);
 ShareMode defaultMode(Component component);

@@ -57,8 +57,11 @@ void ComponentModel::setProfile(AppModel* app, const Profile* profile) {
     m_app = app;
     const bool isSame = m_profile && profile != nullptr && m_profile->id == profile->id;
     m_profile = profile == nullptr ? std::nullopt : std::optional(*profile);
-    if (!isSame)
+    if (!isSame) {
+        m_items.setFilter({});
         setContent({});
+    }
+    emit openChanged();
     emit profileChanged();
     emit contentChanged(); // the wording of a count depends on the profile
 }
@@ -157,7 +160,7 @@ QString ComponentModel::sourceName() const {
 QString ComponentModel::count() const {
     if (!m_content.isRead)
         return {};
-    const int total = m_items.count();
+    const int total = m_items.total();
     if (total == 0)
         return tr("Nessun elemento");
     const QString elements = counted(total, tr("1 elemento"), tr("%1 elementi"));
@@ -166,6 +169,26 @@ QString ComponentModel::count() const {
     const int links = m_items.linkCount();
     return elements + " · " + counted(links, tr("1 unificato"), tr("%1 unificati")) + ", " +
            counted(total - links, tr("1 proprio"), tr("%1 propri"));
+}
+
+QString ComponentModel::filterPrompt() const {
+    const QString number = QLocale(QLocale::Italian, QLocale::Italy).toString(m_items.total());
+    // Before "otto…" and "undici…" the article is another one.
+    const bool isEleven = number.startsWith("11") && number.section('.', 0, 0).size() == 2;
+    const QString masculine = number.startsWith('8') || isEleven ? tr("gli") : tr("i");
+    return tr("Filtra %1 %2 %3")
+        .arg(areItemsFeminine(m_component) ? tr("le") : masculine, number, qtText(itemsName(m_component)));
+}
+
+bool ComponentModel::isOpen() const {
+    return m_app == nullptr || !m_app->preferences().isFolded(component());
+}
+
+void ComponentModel::setOpen(bool isOpen) {
+    if (m_app == nullptr || isOpen == this->isOpen())
+        return;
+    m_app->preferences().setFolded(component(), !isOpen);
+    emit openChanged();
 }
 
 QString ComponentModel::description() const {

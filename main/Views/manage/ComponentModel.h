@@ -36,9 +36,13 @@ class ComponentModel : public QObject {
     /// "sorgente" if the source is unknown.
     Q_PROPERTY(QString sourceName READ sourceName NOTIFY profileChanged)
 
+    /// Whether its section shows more than its header; remembered from one start to the next.
+    Q_PROPERTY(bool isOpen READ isOpen WRITE setOpen NOTIFY openChanged)
+
     // For a collection
     Q_PROPERTY(selvane::ItemListModel* items READ items CONSTANT)
     Q_PROPERTY(QString count READ count NOTIFY contentChanged)
+    Q_PROPERTY(QString filterPrompt READ filterPrompt NOTIFY contentChanged) ///< such as "Filtra le 38 skill"
 
     // For a single file
     Q_PROPERTY(QString description READ description NOTIFY contentChanged)
@@ -86,6 +90,9 @@ public:
     QString sourceName() const;
     ItemListModel* items() { return &m_items; }
     QString count() const;
+    QString filterPrompt() const;
+    bool isOpen() const;
+    void setOpen(bool isOpen);
     QString description() const;
     QString linkTarget() const;
     QString openLabel() const;
@@ -118,6 +125,7 @@ public slots:
     void relinkAll(const QString& profileId);
 
 signals:
+    void openChanged();
     void profileChanged();
     void contentChanged();
     void differenceChanged();

@@ -68,6 +68,22 @@ TEST_F(ProfileDetailModelTest, count_SaysHowManyAreLinked) {
     EXPECT_TRUE(shown(Component::skills).hasModes());
 }
 
+TEST_F(ProfileDetailModelTest, filterPrompt_HasTheRightArticle) {
+    const auto prompt = [](Component component, std::size_t count) {
+        ComponentModel model(component, nullptr);
+        ComponentModel::Content content;
+        content.items.resize(count);
+        model.setContent(content);
+        return model.filterPrompt();
+    };
+    EXPECT_EQ(prompt(Component::skills, 38), "Filtra le 38 skill");
+    EXPECT_EQ(prompt(Component::rules, 80), "Filtra le 80 regole");
+    EXPECT_EQ(prompt(Component::agents, 14), "Filtra i 14 agenti");
+    EXPECT_EQ(prompt(Component::commands, 80), "Filtra gli 80 comandi");
+    EXPECT_EQ(prompt(Component::commands, 110), "Filtra i 110 comandi");
+    EXPECT_EQ(prompt(Component::outputStyles, 11'000), "Filtra gli 11.000 stili");
+}
+
 TEST_F(ProfileDetailModelTest, items_TellWhereTheyComeFromAndCanBeRemoved) {
     writeTree(home.path, {{".claude/agents/merged.md", ""}, {"elsewhere.md", "x"}});
     const Profile work = home.make("Lavoro");
