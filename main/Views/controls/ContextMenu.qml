@@ -12,6 +12,7 @@ Popover {
     id: menu
 
     default property alias entries: column.data
+    property real narrowest: 0 ///< the least width
 
     /// Focuses the next available entry, starting at `start` and going by `step`; wraps around at either end.
     function focusFrom(start: int, step: int): void {
@@ -53,7 +54,7 @@ Popover {
         id: column
 
         readonly property real widest: {
-            let widest = 0
+            let widest = menu.narrowest - 2 * menu.padding
             for (let i = 0; i < children.length; ++i)
                 widest = Math.max(widest, children[i].implicitWidth)
             return widest

@@ -50,7 +50,6 @@ Pressable {
         color: Theme.separator
     }
     PathIcon {
-        anchors.verticalCenter: entry.choosable ? undefined : parent.verticalCenter
         x: Theme.space10
         y: Theme.space8 + Math.round((caption.height - height) / 2)
         visible: entry.hasIcon || entry.chosen
@@ -66,6 +65,7 @@ Pressable {
         x: Theme.space10 + (entry.choosable ? Theme.iconSmall + Theme.space10
                             : entry.hasIcon ? Theme.iconControl + Theme.space10 : 0)
         width: entry.width - x - Theme.space10
+        spacing: entry.choosable || !note.visible ? 0 : Theme.hairline
 
         StyledText {
             id: caption

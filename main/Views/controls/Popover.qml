@@ -21,6 +21,15 @@ FocusScope {
 
     /// Opens below the point in `item`, or, without room below, above an opener of this `height`.
     function openAt(item: Item, x: real, y: real, height: real): void {
+        plate.endsThere = false
+        popover.open(item, x, y, height)
+    }
+    /// The same with the right edge at the point.
+    function openEndingAt(item: Item, x: real, y: real, height: real): void {
+        plate.endsThere = true
+        popover.open(item, x, y, height)
+    }
+    function open(item: Item, x: real, y: real, height: real): void {
         popover.parent = item.Window.contentItem
         popover.previousFocus = item.Window.activeFocusItem
         const at = item.mapToItem(popover.parent, x, y)
@@ -64,11 +73,12 @@ FocusScope {
 
         property point at
         property real openerHeight
+        property bool endsThere
 
         readonly property bool fitsBelow: at.y + height + Theme.space8 <= popover.height
         property real slide: popover.isOpen ? 0 : -Theme.motion.menuSlide
 
-        x: Math.round(Math.max(Theme.space8, Math.min(at.x, popover.width - width - Theme.space8)))
+        x: Math.round(Math.max(Theme.space8, Math.min(endsThere ? at.x - width : at.x, popover.width - width - Theme.space8)))
         y: Math.round(Math.max(Theme.space8, fitsBelow ? at.y : at.y - openerHeight - height - 2 * Theme.space4))
            + slide
         width: inside.childrenRect.width + 2 * popover.padding

@@ -27,22 +27,42 @@ FocusScope {
     function showTop(): void {
         view.contentY = 0
     }
+    /// Scrolls to where the item's top is at the top, as far as that goes.
+    function scrollTo(item: Item): void {
+        view.contentY = pane.topOf(item)
+        view.returnToBounds()
+    }
     function reveal(focused: Item): void {
         let item = focused
         let ancestor = focused
+        let covered = 0 // at the top, by a header that sticks there
         while (ancestor && ancestor !== column) {
             if (ancestor instanceof Flickable)
                 item = ancestor // a Flickable keeps its own rows in view
+            const card = ancestor as StickyCard
+            if (card && !pane.isInside(focused, card.header))
+                covered = card.headerHeight
+            else if (card)
+                item = card // to where the header doesn't stick
             ancestor = ancestor.parent
         }
-        if (!ancestor)
+        const sticky = item as StickyCard
+        if (!ancestor || sticky && pane.isInView(sticky.header))
             return
-        const top = item.mapToItem(view.contentItem, 0, 0).y - Theme.space12
-        const bottom = top + item.height + 2 * Theme.space12
-        if (top < view.contentY || item.height > view.height)
+        const height = sticky ? sticky.headerHeight : item.height
+        const top = pane.topOf(item) - Theme.space12 - covered
+        const bottom = pane.topOf(item) + height + Theme.space12
+        if (top < view.contentY || height > view.height)
             view.contentY = top > Math.max(pane.topMargin, Theme.space24) ? top : 0 // there may be a label above
         else if (bottom > view.contentY + view.height)
             view.contentY = Math.min(view.contentHeight, bottom) - view.height
+    }
+    function topOf(item: Item): real {
+        return item.mapToItem(view.contentItem, 0, 0).y
+    }
+    function isInView(item: Item): bool {
+        const top = pane.topOf(item)
+        return top >= view.contentY && top + item.height <= view.contentY + view.height
     }
 
     function isInside(item: Item, ancestor: Item): bool {

@@ -7,32 +7,33 @@ import QtQuick
 import Selvane
 
 /// The commands for an item that no longer follows the source, each with what it does.
-ContextMenu {
+RowMenu {
     id: menu
 
-    property ComponentModel component: null
-    property int row: -1 ///< -1 for a single file
     property string item ///< its name; empty for a single file
 
     readonly property string sourceName: component?.sourceName ?? ""
     readonly property bool isFile: item === ""
 
+    narrowest: Theme.manage.changedMenuWidth
+
     signal compareAsked(ComponentModel component, int row)
 
-    /// Opens for a row of the component, at a point in `at`.
-    function openFor(component: ComponentModel, row: ItemRow, at: Item, x: real, y: real, height: real): void {
-        menu.open(component, row.index, row.name, at, x, y, height)
+    /// Opens for a row of the component, which lies at `at`: at the pointer, or below the row's button.
+    function openFor(component: ComponentModel, row: ItemRow, at: Item, pointer: var): void {
+        menu.begin(component, row.index, row.name)
+        menu.openInRow(at, pointer)
     }
     /// The same for a component that is a single file.
-    function openForFile(component: ComponentModel, at: Item): void {
-        menu.open(component, -1, "", at, 0, at.height + Theme.space4, at.height)
+    function openForFile(component: ComponentModel, opener: Item): void {
+        menu.begin(component, -1, "")
+        menu.openEndingAt(opener, opener.width, opener.height + Theme.space4, opener.height)
     }
-    function open(component: ComponentModel, row: int, item: string, at: Item, x: real, y: real, height: real): void {
+    function begin(component: ComponentModel, row: int, item: string): void {
         menu.component = component
         menu.row = row
         menu.item = item
         component.readDifference(row)
-        menu.openAt(at, x, y, height)
     }
 
     Connections {

@@ -52,7 +52,7 @@ FocusScope {
 
         x: Math.round((view.width - width) / 2)
         y: bar.height + Theme.space16
-        width: Math.min(view.width - 2 * Theme.manage.detailMargin, Theme.manage.conversationColumn)
+        width: Math.min(view.width - 2 * Theme.manage.detailMargin, Theme.manage.column)
         spacing: Theme.space12
 
         TextInputField {

@@ -25,6 +25,13 @@ Item {
 
     /// The cursor has moved to this row, which must be scrolled into view.
     signal rowReached(Item row)
+    signal foldAsked
+    signal aboveAsked ///< from the first row
+
+    function take(): void {
+        if (list.count > 0)
+            cursor.forceActiveFocus(Qt.TabFocusReason)
+    }
 
     function moveTo(row: int): void {
         list.currentRow = Math.max(0, Math.min(row, list.count - 1))
@@ -36,15 +43,15 @@ Item {
             list.moveTo(found)
         return found >= 0
     }
-    function openMenu(x: real, y: real, height: real): void {
+    /// Opens the menu at the pointer, or below the row's button if there is none.
+    function openMenu(pointer: var): void {
         if (list.currentItem?.isChanged)
-            list.changedMenu.openFor(list.component, list.currentItem, cursor, x, y, height)
+            list.changedMenu.openFor(list.component, list.currentItem, cursor, pointer)
         else if (list.currentItem)
-            list.menu.openFor(list.component, list.currentItem, cursor, x, y, height)
+            list.menu.openFor(list.component, list.currentItem, cursor, pointer)
     }
     function openMenuByKey(): void {
-        list.openMenu(cursor.width - Theme.manage.itemMenuRight - Theme.controls.smallHeight,
-                      cursor.height, cursor.height)
+        list.openMenu(null)
         if (list.changedMenu.isOpen)
             list.changedMenu.move(1)
         else
@@ -101,13 +108,15 @@ Item {
 
             width: ListView.view.width
             sourceName: list.component.sourceName
+            hasMenu: list.menu.isOpenFor(list.component, row.index)
+                     || list.changedMenu.isOpenFor(list.component, row.index)
             onPressed: {
                 list.currentRow = row.index
                 cursor.forceActiveFocus(Qt.MouseFocusReason)
             }
-            onMenuAsked: (x, y, height) => {
+            onMenuAsked: pointer => {
                 list.currentRow = row.index
-                list.openMenu(x, y, height)
+                list.openMenu(pointer)
             }
         }
     }
@@ -125,7 +134,13 @@ Item {
         Accessible.description: list.currentItem?.origin ?? ""
         Accessible.focusable: true
 
-        Keys.onUpPressed: list.moveTo(list.currentRow - 1)
+        Keys.onUpPressed: {
+            if (list.currentRow === 0)
+                list.aboveAsked()
+            else
+                list.moveTo(list.currentRow - 1)
+        }
+        Keys.onLeftPressed: list.foldAsked()
         Keys.onDownPressed: list.moveTo(list.currentRow + 1)
         Keys.onMenuPressed: list.openMenuByKey()
         Keys.onSpacePressed: list.openMenuByKey()
@@ -135,7 +150,7 @@ Item {
                 list.openMenuByKey()
         }
         Keys.onPressed: event => {
-            const page = Math.max(1, Math.floor(list.visibleHeight / Theme.manage.itemHeight) - 1)
+            const page = Math.max(1, Math.floor((list.visibleHeight - list.y) / Theme.manage.itemHeight) - 1)
             event.accepted = true
             if (event.key === Qt.Key_Home)
                 list.moveTo(0)

@@ -7,21 +7,19 @@ import QtQuick
 import Selvane
 
 /// The commands for an item of a component.
-ContextMenu {
+RowMenu {
     id: menu
 
-    property ComponentModel component: null
-    property int row: -1
     property string item ///< its name
     property bool isLink: false
 
-    /// Opens for a row of the component, at a point in `at`.
-    function openFor(component: ComponentModel, row: ItemRow, at: Item, x: real, y: real, height: real): void {
+    /// Opens for a row of the component, which lies at `at`: at the pointer, or below the row's button.
+    function openFor(component: ComponentModel, row: ItemRow, at: Item, pointer: var): void {
         menu.component = component
         menu.row = row.index
         menu.item = row.name
         menu.isLink = row.isLink
-        menu.openAt(at, x, y, height)
+        menu.openInRow(at, pointer)
     }
 
     Connections {

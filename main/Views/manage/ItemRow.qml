@@ -15,6 +15,7 @@ Item {
     required property int kind
     required property bool isLink
     required property string sourceName
+    property bool hasMenu: false ///< whether its menu is open
 
     readonly property string origin: {
         switch (row.kind) {
@@ -33,9 +34,10 @@ Item {
 
     readonly property bool isChanged: kind === ItemListModel.Changed
     readonly property bool isBroken: kind === ItemListModel.Broken
+    readonly property bool isRaised: pointer.hovered || hasMenu
 
     signal pressed
-    signal menuAsked(real x, real y, real height) ///< at a point in the row; `height` is that of its opener
+    signal menuAsked(var pointer) ///< where it is in the row; null for the button
 
     implicitHeight: Theme.manage.itemHeight
 
@@ -52,12 +54,12 @@ Item {
         onClicked: mouse => {
             row.pressed()
             if (mouse.button === Qt.RightButton)
-                row.menuAsked(mouse.x, mouse.y, 0)
+                row.menuAsked(Qt.point(mouse.x, mouse.y))
         }
     }
     Rectangle {
         anchors.fill: parent
-        color: pointer.hovered ? Theme.raised : Qt.alpha(Theme.raised, 0)
+        color: row.isRaised ? Theme.raised : Qt.alpha(Theme.raised, 0)
 
         Rectangle {
             width: parent.width
@@ -93,7 +95,7 @@ Item {
         width: Math.min(implicitWidth, room)
         kind: row.kind
         text: row.origin
-        isRowHovered: pointer.hovered
+        isRowHovered: row.isRaised
         Accessible.ignored: true
     }
     GhostButton {
@@ -106,6 +108,6 @@ Item {
         size: GhostButton.Small
         symbol: "ellipsis.circle"
         label: qsTr("Azioni per «%1»").arg(row.name)
-        onClicked: row.menuAsked(x, y + height + Theme.space4, height)
+        onClicked: row.menuAsked(null)
     }
 }

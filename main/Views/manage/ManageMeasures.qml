@@ -29,6 +29,7 @@ Measures {
 
     // ---- Detail
 
+    readonly property real column: 960 ///< at most
     readonly property real detailMargin: 24
     readonly property real narrowDetail: scaled(680) ///< below this width, the narrow layout applies
     readonly property real toolBarHeight: scaled(48)
@@ -54,14 +55,16 @@ Measures {
     readonly property real sectionFooter: scaled(44)
     readonly property real itemIconLeft: 17
     readonly property real itemTextLeft: 44
-    readonly property real itemMenuRight: 10
-    readonly property real itemBadgeGap: 13 ///< to the menu button
+    readonly property real itemMenuRight: 12
+    readonly property real itemBadgeGap: 8 ///< to the menu button
     readonly property real itemNameLeast: 96 ///< reserved for the name beside a long badge
+    readonly property real filterHeight: scaled(40)
+    readonly property int filteredItems: 13 ///< the least number with a filter
+    readonly property real changedMenuWidth: 344
     readonly property real itemSpare: 4 * itemHeight ///< rows kept above and below the visible part
 
     // ---- Conversations
 
-    readonly property real conversationColumn: 960 ///< at most
     readonly property real conversationHeight: scaled(56)
     readonly property real conversationActions: scaled(40) ///< more for the selected one
     readonly property real conversationSection: scaled(44)
