@@ -44,6 +44,28 @@ TEST_F(Manage, AProfileIsRenamedAndItsCommandCopied) {
     EXPECT_TRUE(fs::exists(helper));
 }
 
+TEST_F(Manage, ASectionIsFoldedAndStaysSo) {
+    {
+        auto selvane = start();
+        selectLavoro(selvane);
+        const Seen header = tabTo(selvane, "Skill");
+        EXPECT_TRUE(header.is(ATSPI_STATE_EXPANDABLE) && header.is(ATSPI_STATE_EXPANDED)) << header;
+        selvane.find(ATSPI_ROLE_LIST_ITEM, "pdf");
+        press({XK_Left});
+        selvane.waitUntilGone(ATSPI_ROLE_LIST_ITEM, "pdf");
+        EXPECT_TRUE(header.is(ATSPI_STATE_EXPANDABLE) && !header.is(ATSPI_STATE_EXPANDED)) << header;
+        header.press();
+        selvane.find(ATSPI_ROLE_LIST_ITEM, "pdf");
+        press({XK_Left});
+        selvane.waitUntilGone(ATSPI_ROLE_LIST_ITEM, "pdf");
+        press({XK_Control_L, 'q'});
+        EXPECT_EQ(selvane.status(), 0);
+    }
+    auto selvane = start();
+    selectLavoro(selvane);
+    EXPECT_FALSE(tabTo(selvane, "Skill").is(ATSPI_STATE_EXPANDED));
+}
+
 TEST_F(Manage, AProfileIsDeletedOnceThatIsConfirmed) {
     const std::string question = "Spostare «Lavoro» nel Cestino?";
     auto selvane = start();

@@ -19,9 +19,10 @@ Card {
     signal compareAsked
     signal menuAsked(Item opener)
 
-    implicitHeight: buttons.y + rowHeight + Theme.space12
-
+    readonly property bool isOpen: component.isOpen
     readonly property real rowHeight: Math.max(buttons.height, description.height)
+
+    implicitHeight: isOpen ? buttons.y + rowHeight + Theme.space12 : header.height + Theme.hairline
 
     Accessible.role: Accessible.Grouping
     Accessible.name: component.title
@@ -29,16 +30,16 @@ Card {
     SectionHeader {
         id: header
 
-        y: Theme.space12
         width: parent.width
-        height: Theme.controls.smallHeight
         component: section.component
+        note: section.isOpen ? "" : section.component.description
         onRelinkAsked: section.relinkAsked()
+        onOpenAsked: open => section.component.isOpen = open
     }
     PathIcon {
         anchors.verticalCenter: description.verticalCenter
         x: Theme.manage.itemIconLeft
-        visible: section.isChanged
+        visible: section.isChanged && section.isOpen
         symbol: "exclamationmark.triangle"
         size: Theme.iconControl
         color: Theme.lit
@@ -48,6 +49,7 @@ Card {
 
         x: Theme.manage.itemTextLeft
         y: buttons.y + (section.rowHeight - height) / 2
+        visible: section.isOpen
 
         Accessible.role: Accessible.StaticText
         Accessible.name: section.component.description
@@ -78,7 +80,8 @@ Card {
         id: buttons
 
         anchors { right: parent.right; rightMargin: Theme.space12 }
-        y: header.y + header.height + Theme.space8
+        y: header.height - Theme.space4
+        visible: section.isOpen
         spacing: Theme.space8
 
         GhostButton {

@@ -15,7 +15,7 @@ FocusScope {
     required property bool answersShortcut
 
     readonly property bool isNarrow: width < Theme.manage.narrowDetail
-    readonly property real columnWidth: width - 2 * Theme.manage.detailMargin
+    readonly property real columnWidth: Math.min(width - 2 * Theme.manage.detailMargin, Theme.manage.column)
 
     signal duplicateAsked
     signal deleteAsked
@@ -48,7 +48,7 @@ FocusScope {
 
         anchors { top: toolBar.bottom; bottom: parent.bottom }
         width: detail.width
-        sideMargin: Theme.manage.detailMargin
+        sideMargin: Math.round((width - detail.columnWidth) / 2)
         topMargin: Theme.space20
         bottomMargin: Theme.manage.detailMargin
         spacing: Theme.cardGap
@@ -108,6 +108,7 @@ FocusScope {
                 visibleTop: pane.visibleTop - y
                 visibleHeight: pane.visibleHeight
                 onRowReached: row => pane.reveal(row)
+                onFoldedFromBelow: pane.scrollTo(section)
                 onImportAsked: detail.itemImportAsked(section.component.component)
                 onRelinkAsked: detail.relinkAsked(section.component)
             }
