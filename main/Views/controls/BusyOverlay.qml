@@ -116,7 +116,7 @@ FocusScope {
         width: Math.min(parent.width - 2 * Theme.sheets.margin,
                         overlay.hasProgress ? Theme.sheets.progressWidth
                                             : Math.max(Theme.sheets.busyWidth, caption.implicitWidth + 2 * Theme.sheets.busySide))
-        height: column.height + 2 * Theme.sheets.busyMargin
+        height: column.height + 2 * column.y
         radius: Theme.radiusTile
         color: Theme.surface
         border.width: Theme.hairline
@@ -126,7 +126,7 @@ FocusScope {
             id: column
 
             x: Theme.sheets.busySide
-            y: Theme.sheets.busyMargin
+            y: Theme.sheets.busyMargin + Theme.hairline
             width: parent.width - 2 * x
 
             BrandMark {

@@ -79,7 +79,7 @@ Pressable {
 
         anchors.verticalCenter: parent.verticalCenter
         anchors.right: parent.right
-        anchors.rightMargin: dropDown.size === DropDown.Small ? Theme.space8 : Theme.space10
+        anchors.rightMargin: (dropDown.size === DropDown.Small ? Theme.space10 : Theme.space12) + Theme.hairline
         name: "caret-down"
         size: Theme.iconCaret
         color: Theme.textSoft

@@ -33,7 +33,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         x: row.leading ? toggle.width + Theme.space12 : 0
         width: row.width - toggle.width - Theme.space12
-        spacing: Theme.space4
+        spacing: Theme.space2
 
         StyledText {
             id: caption

@@ -88,7 +88,7 @@ QtObject {
         const size = Math.round(look.font.pixelSize * theme.inlinePathSize)
         const plain = sentence.replace(/&/g, "&amp;").replace(/</g, "&lt;").replace(/>/g, "&gt;")
         const style = `font-family:'${theme.brand.monoFamily}'; font-size:${size}px`
-        return plain.replace(/(^|[\s(«])(~?\/[^\s,;()«»]+)/g, `$1<span style="${style}">$2</span>`)
+        return plain.replace(/(^|[\s(«])(~?\/[^\s,;()«»]*[^\s,;()«».])/g, `$1<span style="${style}">$2</span>`)
     }
 
     // ---- Spacing, radii, lines

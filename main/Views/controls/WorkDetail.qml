@@ -35,6 +35,7 @@ Column {
 
             LeafShape {
                 height: parent.height
+                visible: detail.hasBar && detail.work.fraction > 0
                 width: Math.max(height, parent.width * (detail.hasBar ? detail.work.fraction : 0))
                 tip: Theme.hairline
                 color: Theme.lit

@@ -60,9 +60,7 @@ FocusScope {
         Accessible.ignored: true
     }
     Row {
-        anchors.left: caption.right
-        anchors.leftMargin: Theme.space8
-        anchors.verticalCenter: caption.verticalCenter
+        anchors { right: parent.right; verticalCenter: caption.verticalCenter }
         spacing: Theme.space4
         opacity: field.saysSaved ? 1 : 0
         visible: opacity > 0

@@ -12,7 +12,7 @@ Card {
 
     required property ProfileDetailModel profile
 
-    implicitHeight: choice.y + choice.height + Theme.space12
+    implicitHeight: choice.y + choice.height + Theme.manage.cardTop
 
     Accessible.role: Accessible.Grouping
     Accessible.name: heading.text
@@ -28,7 +28,7 @@ Card {
         id: heading
 
         x: Theme.manage.itemTextLeft
-        y: Theme.manage.cardTop
+        y: Theme.space12
         width: section.width - x - Theme.space16
         text: qsTr("Isolamento")
     }

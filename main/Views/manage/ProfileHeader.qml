@@ -18,7 +18,7 @@ Item {
     signal launched
     signal synced
 
-    implicitHeight: (isNarrow ? actions.y + actions.height : place.y + place.height) + Theme.space8
+    implicitHeight: isNarrow ? actions.y + actions.height + Theme.space8 : place.y + place.height + Theme.space4
 
     GlyphButton {
         id: glyph

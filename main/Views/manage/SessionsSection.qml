@@ -30,7 +30,7 @@ Card {
     SectionTitle {
         id: heading
 
-        x: Theme.space16 + Theme.iconAlone + Theme.space8
+        x: Theme.space16 + Theme.iconAlone + Theme.space10
         y: Theme.manage.cardTop
         width: importButton.x - x - Theme.space12
         text: qsTr("Sessioni del tab Code")
