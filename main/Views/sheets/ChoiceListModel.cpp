@@ -18,6 +18,14 @@ void ChoiceListModel::setEntries(std::vector<Entry> entries) {
     emit chosenChanged();
 }
 
+void ChoiceListModel::updateEntries(std::vector<Entry> entries) {
+    const std::set<std::string> chosen = chosenKeys();
+    for (Entry& entry : entries)
+        entry.isChosen = chosen.contains(entry.key);
+    if (entries != m_entries)
+        setEntries(std::move(entries));
+}
+
 std::vector<std::size_t> ChoiceListModel::found() const {
     const QStringMatcher matcher(m_search, Qt::CaseInsensitive);
     std::vector<std::size_t> positions;

@@ -31,12 +31,16 @@ public:
         bool isChosen = false;
         QString aside = {}; ///< shown at the end of the row
         QString mark = {};  ///< shown in a badge
+
+        bool operator==(const Entry&) const = default;
     };
     enum Role { TitleRole = Qt::UserRole, DetailRole, IsChosenRole, AsideRole, MarkRole };
 
     using QAbstractListModel::QAbstractListModel;
 
     void setEntries(std::vector<Entry> entries);
+    /// The same list once more: what was chosen and is still there stays chosen.
+    void updateEntries(std::vector<Entry> entries);
     const std::vector<Entry>& entries() const { return m_entries; }
     std::set<std::string> chosenKeys() const;
 

@@ -18,10 +18,25 @@ QString ImportForm::heading() const {
              QString::fromStdString(target->meta.name));
 }
 
+void ImportForm::componentComplete() {
+    connect(m_app, &AppModel::reloaded, this, &ImportForm::follow);
+    setSource(m_app->firstOther(m_target));
+}
+
 void ImportForm::setSource(const QString& id) {
     m_source = id;
+    m_items.setEntries({});
+    setLoading(true);
     listItems();
     emit sourceChanged();
+}
+
+void ImportForm::follow() {
+    emit inputChanged(); // the target may have another name
+    if (m_app->profile(m_source) == nullptr)
+        setSource(m_app->firstOther(m_target));
+    else
+        listItems();
 }
 
 /// Compares names only, not contents.
@@ -30,10 +45,10 @@ void ImportForm::listItems() {
     const Profile* source = m_app->profile(m_source);
     const Profile* target = m_app->profile(m_target);
     const auto part = component(m_component.toStdString());
-    m_items.setEntries({});
-    setLoading(source != nullptr && target != nullptr && part);
-    if (!m_isLoading)
+    if (source == nullptr || target == nullptr || !part) {
+        setLoading(false);
         return;
+    }
     const auto read = [&store = m_app->store(), part = *part, from = *source, into = *target] {
         std::set<std::string> present;
         for (const ComponentItem& item : store.items(part, into))
@@ -47,7 +62,7 @@ void ImportForm::listItems() {
     };
     m_reading.begin(read, [this](Entries entries) {
         setLoading(false);
-        m_items.setEntries(std::move(entries));
+        m_items.updateEntries(std::move(entries));
     });
 }
 

@@ -13,7 +13,8 @@
 
 namespace selvane {
 
-/// The state of the sheet that adds items of one component from another profile.
+/// The state of the sheet that adds items of one component from another profile. It follows what other
+/// programs change; ticks stay with their items.
 class ImportForm : public QObject, public QQmlParserStatus {
     Q_OBJECT
     Q_INTERFACES(QQmlParserStatus)
@@ -40,7 +41,7 @@ public:
     bool isLoading() const { return m_isLoading; }
 
     void classBegin() override {}
-    void componentComplete() override { setSource(m_app->firstOther(m_target)); }
+    void componentComplete() override;
 
     /// Does nothing if no item is chosen. `succeeded` follows once all is there.
     Q_INVOKABLE void submit();
@@ -53,6 +54,7 @@ signals:
     void isLoadingChanged();
 
 private:
+    void follow();
     void listItems();
     void setLoading(bool isLoading);
 

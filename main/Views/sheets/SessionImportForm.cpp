@@ -22,12 +22,29 @@ SessionImportForm::SessionImportForm(QObject* parent) : QObject(parent) {
 }
 
 /// An account can have thousands of sessions, so they are read on another thread.
+void SessionImportForm::componentComplete() {
+    connect(m_app, &AppModel::reloaded, this, &SessionImportForm::follow);
+    setSource(m_app->firstOther(m_target));
+}
+
 void SessionImportForm::setSource(const QString& id) {
     m_source = id;
     emit sourceChanged();
-    const Profile* source = m_app->profile(id);
-    setLoading(source != nullptr);
-    show({});
+    m_sessions.clear();
+    m_choices.setEntries({});
+    setLoading(m_app->profile(id) != nullptr);
+    list();
+}
+
+void SessionImportForm::follow() {
+    if (m_app->profile(m_source) == nullptr)
+        setSource(m_app->firstOther(m_target));
+    else
+        list();
+}
+
+void SessionImportForm::list() {
+    const Profile* source = m_app->profile(m_source);
     m_reading.setFuture({}); // drop the result for another source
     if (source == nullptr)
         return;
@@ -70,7 +87,7 @@ void SessionImportForm::show(Listed listed) {
         entries.push_back({session.file, QString::fromStdString(session.title), folderOf(session), false,
                            facts.join(QStringLiteral(" · ")), state.isInTarget ? tr("già qui") : QString()});
     }
-    m_choices.setEntries(std::move(entries));
+    m_choices.updateEntries(std::move(entries));
 }
 
 void SessionImportForm::submit() {

@@ -17,7 +17,8 @@
 
 namespace selvane {
 
-/// The state of the sheet that imports sessions of the Code tab from another profile.
+/// The state of the sheet that imports sessions of the Code tab from another profile. It follows what other
+/// programs change; ticks stay with their sessions.
 class SessionImportForm : public QObject, public QQmlParserStatus {
     Q_OBJECT
     Q_INTERFACES(QQmlParserStatus)
@@ -41,7 +42,7 @@ public:
     bool isLoading() const { return m_isLoading; }
 
     void classBegin() override {}
-    void componentComplete() override { setSource(m_app->firstOther(m_target)); }
+    void componentComplete() override;
 
     /// Does nothing if no session is chosen. `succeeded` follows once all is there.
     Q_INVOKABLE void submit();
@@ -58,6 +59,8 @@ private:
         std::vector<SessionState> states; ///< of each
     };
 
+    void follow();
+    void list();
     QString folderOf(const CodeSession& session) const;
     void show(Listed listed);
     void setLoading(bool isLoading);

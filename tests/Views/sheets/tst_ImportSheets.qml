@@ -57,6 +57,31 @@ Item {
             compare(home.what(".claude-profiles/lavoro/skills/uno.md"), "own")
         }
 
+        function test_whatOthersChange_IsFollowed(): void {
+            for (const name of ["uno.md", "due.md"])
+                home.write(".claude/skills/" + name, name)
+            makeTarget()
+            openSheet(items)
+            press(Qt.Key_Down, Qt.Key_Space)
+            home.write(".claude/skills/cinque.md", "5")
+            home.remove(".claude/skills/due.md")
+            home.app.reload()
+            tryVerify(() => shows("cinque.md"))
+            verify(!shows("due.md"))
+            compare(sheet.confirmText, "Aggiungi 1")
+            confirm()
+            compare(home.what(".claude-profiles/lavoro/skills/uno.md"), "-> ~/.claude/skills/uno.md")
+            compare(home.what(".claude-profiles/lavoro/skills/cinque.md"), "")
+
+            home.makeProfile("Ospite", { account: "default" })
+            home.addSession("Una", "/srv")
+            openSessions()
+            home.addSession("Due", "/srv")
+            home.remove(".claude-profiles/ospite")
+            home.app.reload()
+            tryVerify(() => itemsOf(sheet).some(item => item instanceof CheckBoxRow && item.text === "Due"))
+        }
+
         function test_sessionsThatAreThere_AreMarked(): void {
             home.addSession("Una", "/srv")
             home.makeProfile("Lavoro", { account: "default" })
