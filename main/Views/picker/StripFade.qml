@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// Fades out whatever extends beyond an end of the strip.
+/// Fades out whatever extends beyond an end of a strip.
 Rectangle {
     id: fade
 

@@ -24,6 +24,16 @@ ListView {
     Accessible.role: Accessible.List
     Accessible.name: qsTr("Profili danneggiati")
 
+    StripFade {
+        parent: list
+        visible: !list.isNarrow && !list.atXBeginning
+    }
+    StripFade {
+        parent: list
+        visible: !list.isNarrow && !list.atXEnd
+        isRight: true
+    }
+
     delegate: Item {
         id: entry
 
