@@ -93,6 +93,60 @@ void PictureHome::changeHere(const Profile& work) const {
     writeFile(work.configDir / ".claude.json", R"({"oauthAccount": {"emailAddress": "anna@esempio.it"}})");
 }
 
+void PictureHome::addSkills() {
+    const char* const names[] = {"analisi-log",
+                                 "bozza-contratti",
+                                 "changelog-rilascio",
+                                 "controllo-accessibilita",
+                                 "fatture-elettroniche",
+                                 "grafici-vendite",
+                                 "importa-csv",
+                                 "indice-documenti",
+                                 "lettere-clienti",
+                                 "lista-controlli",
+                                 "mappa-moduli",
+                                 "migrazione-dati",
+                                 "minute-riunioni",
+                                 "modelli-email",
+                                 "nomi-coerenti",
+                                 "offerte-commerciali",
+                                 "ordina-importazioni",
+                                 "piano-di-prova",
+                                 "preventivi",
+                                 "profilo-prestazioni",
+                                 "quaderno-di-bordo",
+                                 "regole-di-stile",
+                                 "revisione-testi",
+                                 "riassunto-ticket",
+                                 "ricerca-duplicati",
+                                 "scadenze",
+                                 "schema-database",
+                                 "stima-tempi",
+                                 "tabelle-riassuntive",
+                                 "test-di-carico",
+                                 "verbali",
+                                 "verifica-link",
+                                 "versioni-semantiche"};
+    for (const char* name : names)
+        writeFile(path / ".claude/skills" / name / "SKILL.md", "---\nname: skill\n---\n");
+    const Profile work = *store.profile("lavoro");
+    writeFile(work.configDir / "skills/appunti-riunione/SKILL.md", "---\nname: appunti\n---\n");
+    store.sync(work);
+    writeTree(work.configDir, {{"skills/esporta-grafici", "-> /tolta"}}); // sync has removed the broken link
+}
+
+void PictureHome::changeRules() {
+    using namespace std::chrono;
+    const Profile work = *store.profile("lavoro");
+    const auto rules = work.url(Component::claudeMd);
+    std::filesystem::remove(rules); // there may be no Trash to move it to
+    store.setMode(ShareMode::shared, Component::claudeMd, work);
+    std::filesystem::remove(rules);
+    writeFile(rules, "# Regole del lavoro\n");
+    const system_clock::time_point changed = sys_days(2026y / 3 / 9) + 12h;
+    std::filesystem::last_write_time(rules, file_clock::from_sys(changed));
+}
+
 void PictureHome::makeOthers() {
     NewProfile client = request("Cliente Aurora", builtIn());
     client.summary = "Account del cliente, solo le sue skill";

@@ -20,6 +20,11 @@ public:
     explicit PictureHome(const std::string& place = "anna");
     ~PictureHome();
 
+    /// More skills, so that they make a long list: 38 in "lavoro".
+    void addSkills();
+    /// What an editor leaves in the place of the CLAUDE.md that "lavoro" shares.
+    void changeRules();
+
 private:
     void fillBuiltIn() const;
     void makeWork();

@@ -51,6 +51,39 @@ void scrollDetail(QQuickWindow* window, double y) {
     }
 }
 
+/// The first item below `item` whose property has this value; null if there is none.
+QQuickItem* itemWith(const QQuickItem& item, const char* property, const QVariant& value) {
+    for (QQuickItem* child : item.childItems()) {
+        if (child->property(property).isValid() && child->property(property) == value)
+            return child;
+        if (QQuickItem* found = itemWith(*child, property, value))
+            return found;
+    }
+    return nullptr;
+}
+
+QQuickItem& labelled(Scene& scene, const char* label) {
+    QQuickItem* found = itemWith(*scene.launcher.window(kManage)->contentItem(), "label", label);
+    if (found == nullptr)
+        qFatal("%s is missing", label);
+    return *found;
+}
+
+/// Opens or closes a section of the detail.
+void fold(Scene& scene, const char* title) {
+    QMetaObject::invokeMethod(&labelled(scene, title), "clicked");
+}
+
+/// Scrolls the detail to where the middle of the control with this label is so far below the window's top.
+void scrollTo(Scene& scene, const char* label, double y) {
+    const QQuickItem& control = labelled(scene, label);
+    for (QQuickItem* above = control.parentItem(); above != nullptr; above = above->parentItem()) {
+        const double top = above->property("contentY").toDouble();
+        if (above->inherits("QQuickFlickable") && above->property("interactive").toBool())
+            above->setProperty("contentY", top + control.mapToScene({0, control.height() / 2}).y() - y);
+    }
+}
+
 void takePicker(Scene& scene) {
     scene.model.select("lavoro");
     scene.launcher.showPicker();
@@ -62,10 +95,6 @@ void takePicker(Scene& scene) {
 
 void takeManage(Scene& scene) {
     scene.launcher.showManage();
-    scene.take(kManage, "manage");
-    scrollDetail(scene.launcher.window(kManage), 640);
-    scene.take(kManage, "manage-components");
-    scrollDetail(scene.launcher.window(kManage), 0);
     scene.resize(kManage, {880, 600});
     scene.take(kManage, "manage-narrow");
     scene.resize(kManage, {1000, 700});
@@ -73,9 +102,23 @@ void takeManage(Scene& scene) {
     scene.model.select("");
     scene.take(kManage, "manage-empty");
     scene.model.select("lavoro");
+    for (const char* title : {"Skill", "Agenti"})
+        fold(scene, title);
+    scrollDetail(scene.launcher.window(kManage), 480);
+    scene.take(kManage, "manage-components");
+    for (const char* title : {"Skill", "Agenti"})
+        fold(scene, title);
+    QQuickItem& field = labelled(scene, "Filtra le 38 skill");
+    field.parentItem()->property("items").value<QObject*>()->setProperty("filter", "co");
+    scrollTo(scene, "Filtra le 38 skill", 240);
+    scene.take(kManage, "manage-filter");
+    field.parentItem()->property("items").value<QObject*>()->setProperty("filter", "");
+    scrollDetail(scene.launcher.window(kManage), 0);
+    scene.take(kManage, "manage");
 }
 
 void takeSheets(Scene& scene) {
+    scene.launcher.showManage();
     takeRestore(scene);
     const QVariant app = QVariant::fromValue(&scene.model);
     scene.takeWith(kManage, "NewProfileSheet", {{"app", app}, {"initialSource", "default"}},
@@ -88,32 +131,26 @@ void takeSheets(Scene& scene) {
     scene.takeWith(kManage, "BackupSheet", {{"app", app}}, "backup-sheet");
 }
 
-/// The first item below `item` whose property has this value; null if there is none.
-QQuickItem* itemWith(const QQuickItem& item, const char* property, const QVariant& value) {
-    for (QQuickItem* child : item.childItems()) {
-        if (child->property(property).isValid() && child->property(property) == value)
-            return child;
-        if (QQuickItem* found = itemWith(*child, property, value))
-            return found;
-    }
-    return nullptr;
-}
-
-/// The menu of an item that no longer follows the source, and how it differs.
-void takeDrift(Scene& scene) {
-    QQuickWindow* window = scene.launcher.window(kManage);
-    scrollDetail(window, 380);
-    QQuickItem* button = itemWith(*window->contentItem(), "label", "Azioni per «code-review»");
-    QQuickItem* menu = itemWith(*window->contentItem(), "isFile", true);
-    if (menu == nullptr || button == nullptr)
+/// The menu of an item that no longer follows the source, how it differs, and a file that no longer does.
+void takeDrift(Scene& scene, PictureHome& home) {
+    constexpr double kPlace = 230; // with room below for the menu
+    scrollTo(scene, "Azioni per «code-review»", kPlace);
+    QQuickItem* menu = itemWith(*scene.launcher.window(kManage)->contentItem(), "isFile", true);
+    if (menu == nullptr)
         qFatal("the item's menu is missing");
-    QMetaObject::invokeMethod(button, "clicked");
+    QMetaObject::invokeMethod(&labelled(scene, "Azioni per «code-review»"), "clicked");
+    QMetaObject::invokeMethod(menu, "move", Q_ARG(int, 1));
     scene.take(kManage, "manage-drift");
     QObject* component = menu->property("component").value<QObject*>();
     QMetaObject::invokeMethod(menu, "close");
-    scrollDetail(window, 0);
+    scrollDetail(scene.launcher.window(kManage), 0);
     scene.takeWith(kManage, "DifferencesSheet", {{"component", QVariant::fromValue(component)}},
                    "differences");
+    home.changeRules();
+    scene.model.reload();
+    scrollTo(scene, "Regole globali (CLAUDE.md)", 2 * kPlace);
+    scene.take(kManage, "manage-drift-file");
+    scrollDetail(scene.launcher.window(kManage), 0);
 }
 
 /// A sign-in that the browser has ended while several copies may have begun it.
@@ -201,9 +238,11 @@ int takeAll(const std::optional<QDir>& folder, const std::string& place) {
         PictureHome home(place);
         Scene scene(home, folder);
         takePicker(scene);
-        takeManage(scene);
         takeSheets(scene);
-        takeDrift(scene);
+        home.addSkills();
+        scene.model.reload();
+        takeManage(scene);
+        takeDrift(scene, home);
         takeSignIn(scene, home);
         takeFeedback(scene);
         takeLargeText(scene);
