@@ -6,8 +6,6 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtTest
 import Selvane
-import SelvaneTest
-import ".."
 
 Item {
     id: scene
@@ -15,24 +13,10 @@ Item {
     width: 1000
     height: 700
 
-    TestHome { id: home }
-    Component {
-        id: viewComponent
-
-        ManageView {
-            anchors.fill: parent
-            app: home.app
-            updates: home.updates
-        }
-    }
-
-    ViewTestCase {
+    ManageTestCase {
         name: "Drift"
 
-        property ManageView view: null
-
         function init(): void {
-            failOnWarning(/./)
             home.begin()
             home.write(".claude/agents/a.md", "1\n2\n")
             home.write(".claude/agents/b.md", "b")
@@ -40,30 +24,12 @@ Item {
             home.makeProfile("Lavoro", {modes: {"CLAUDE.md": "shared"}})
             for (const name of ["agents/a.md", "agents/b.md", "CLAUDE.md"])
                 home.replace(".claude-profiles/lavoro/" + name, "1\nx\n")
-            home.app.select("lavoro")
-            view = createTemporaryObject(viewComponent, scene)
-            view.forceActiveFocus()
-            tryVerify(() => the(item => item instanceof ItemList && item.component.title === "Agenti").count === 2)
-            settle()
+            show("lavoro")
         }
-        function the(accepts: var, item = scene.Window.contentItem): Item {
-            const found = visibleItems(accepts, item)
-            compare(found.length, 1)
-            return found[0]
-        }
-        function button(label: string): Pressable {
-            return the(item => item instanceof Pressable && item.label === label)
-        }
-        /// Moves the focus there with Tab.
-        function enter(accepts: var): void {
-            for (let i = 0; i < 60 && visibleItems(item => item.activeFocus && accepts(item), view).length === 0; ++i)
-                keyClick(Qt.Key_Tab)
-        }
-
         function test_changedItem_MenuByKeys(): void {
-            const items = the(item => item instanceof ItemList && item.component.title === "Agenti")
+            const items = list("Agenti")
             verify(items.currentItem.isChanged)
-            enter(item => item.parent === items)
+            enter(items)
             press(Qt.Key_Return)
             tryCompare(button("Confronta con «Principale»"), "explanation", "1 riga diversa in a.md")
             keyClick(Qt.Key_Return)

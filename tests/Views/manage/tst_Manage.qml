@@ -6,8 +6,6 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtTest
 import Selvane
-import SelvaneTest
-import ".."
 
 Item {
     id: scene
@@ -15,60 +13,12 @@ Item {
     width: 1000
     height: 700
 
-    TestHome { id: home }
-    Component {
-        id: viewComponent
-
-        ManageView {
-            anchors.fill: parent
-            app: home.app
-            updates: home.updates
-        }
-    }
-
-    ViewTestCase {
+    ManageTestCase {
         name: "Manage"
-
-        property ManageView view: null
 
         function init(): void {
             home.begin()
             home.app.closeAfterLaunch = false
-        }
-        function show(profileId: string): void {
-            failOnWarning(/./)
-            home.app.select(profileId)
-            view = createTemporaryObject(viewComponent, scene)
-            view.forceActiveFocus()
-            if (profileId !== "")
-                tryVerify(() => list("Skill").component.count !== "")
-            settle()
-        }
-        function all(accepts: var, item = view): var {
-            return visibleItems(accepts, item)
-        }
-        function the(accepts: var, item = view): Item {
-            const found = all(accepts, item)
-            compare(found.length, 1)
-            return found[0]
-        }
-        function list(title: string): ItemList {
-            return the(item => item instanceof ItemList && item.component.title === title)
-        }
-        function button(label: string): Pressable {
-            return the(item => item instanceof Pressable && item.label === label)
-        }
-        function buttons(label: string): int {
-            return all(item => item instanceof Pressable && item.label === label).length
-        }
-        /// Presses Tab until an item of the list has the focus.
-        function enter(items: ItemList): void {
-            for (let i = 0; i < 60 && !hasFocus(items); ++i)
-                keyClick(Qt.Key_Tab)
-            verify(hasFocus(items))
-        }
-        function hasFocus(item: Item): bool {
-            return all(inside => inside.activeFocus, item).length > 0
         }
         /// Checks that only few rows exist, that they cover the visible part, and that each is in its place.
         function checkRows(items: ItemList, names: var): void {

@@ -6,8 +6,6 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtTest
 import Selvane
-import SelvaneTest
-import ".."
 
 Item {
     id: scene
@@ -15,33 +13,12 @@ Item {
     width: 1000
     height: 700
 
-    TestHome { id: home }
-    Component {
-        id: viewComponent
-
-        ManageView {
-            anchors.fill: parent
-            app: home.app
-            updates: home.updates
-        }
-    }
-
-    ViewTestCase {
+    ManageTestCase {
         name: "Sections"
-
-        property ManageView view: null
 
         function init(): void {
             scene.width = 1000
             home.begin()
-        }
-        function show(profileId: string): void {
-            failOnWarning(/./)
-            home.app.select(profileId)
-            view = createTemporaryObject(viewComponent, scene)
-            view.forceActiveFocus()
-            tryVerify(() => section("Skill").component.count !== "")
-            settle()
         }
         function makeSkills(names: var): void {
             for (const name of names)
@@ -49,20 +26,6 @@ Item {
         }
         function numbered(count: int): var {
             return Array.from({length: count}, (_, i) => "n" + String(i).padStart(4, "0") + ".md")
-        }
-        function all(accepts: var, item = view): var {
-            return visibleItems(accepts, item)
-        }
-        function the(accepts: var, item = view): Item {
-            const found = all(accepts, item)
-            compare(found.length, 1)
-            return found[0]
-        }
-        function section(title: string): CollectionSection {
-            return the(item => item instanceof CollectionSection && item.component.title === title)
-        }
-        function itemsOf(title: string): ItemList {
-            return the(item => item instanceof ItemList, section(title))
         }
         /// The part of the header that folds.
         function fold(title: string): Pressable {
@@ -74,10 +37,6 @@ Item {
         function filters(title: string): int {
             return all(item => item instanceof FilterRow, section(title)).length
         }
-        function write(text: string): void {
-            for (const letter of text)
-                keyClick(letter)
-        }
         function names(title: string): var {
             settle()
             return all(item => item instanceof ItemRow, section(title)).sort((a, b) => a.index - b.index).map(row => row.name)
@@ -87,7 +46,7 @@ Item {
         }
         /// Whether the whole row shows below the header, which covers some of them.
         function isUncovered(title: string): bool {
-            const row = itemsOf(title).currentItem
+            const row = list(title).currentItem
             const header = section(title).header
             return row !== null && topOf(row) >= Math.max(Theme.manage.toolBarHeight, topOf(header) + header.height)
                 && topOf(row) + row.height <= scene.height
@@ -104,7 +63,7 @@ Item {
             press(Qt.Key_Right)
             compare(names("Skill"), ["a.md"])
             press(Qt.Key_Tab, Qt.Key_Tab)
-            verify(all(item => item.activeFocus, itemsOf("Skill")).length === 1)
+            verify(hasFocus(list("Skill")))
             press(Qt.Key_Left)
             verify(fold("Skill").activeFocus) // not left behind where nobody sees it
             verify(!section("Skill").isOpen)
@@ -130,7 +89,7 @@ Item {
             const pane = the(item => item instanceof ScrollPane)
             filterOf("Skill").forceActiveFocus()
             press(Qt.Key_Down, Qt.Key_End)
-            compare(itemsOf("Skill").currentItem.name, "n0299.md")
+            compare(list("Skill").currentItem.name, "n0299.md")
             for (let i = 0; i < 40; ++i) {
                 keyClick(Qt.Key_Up)
                 settle()
@@ -173,8 +132,8 @@ Item {
             verify(skills.isStuck)
             const header = skills.header
             mouseClick(header, header.width - Theme.manage.itemMenuRight - Theme.space12, header.height - Theme.space10)
-            verify(!itemsOf("Skill").menu.isOpen)
-            compare(itemsOf("Skill").currentItem.name, "n0099.md")
+            verify(!list("Skill").menu.isOpen)
+            compare(list("Skill").currentItem.name, "n0099.md")
         }
 
         function test_filter_LeavesWhatHoldsTheWords(): void {
@@ -200,12 +159,12 @@ Item {
             write("note ril")
             compare(names("Skill"), ["NOTE-di-rilascio", "rilascio-note"])
             press(Qt.Key_Down, Qt.Key_Down)
-            compare(itemsOf("Skill").currentItem.name, "rilascio-note")
+            compare(list("Skill").currentItem.name, "rilascio-note")
             press(Qt.Key_Menu, Qt.Key_Return) // Sposta nel Cestino
             tryCompare(section("Skill").rows, "total", 12)
             compare(home.what(".claude-profiles/lavoro/skills/rilascio-note"), "")
             compare(names("Skill"), ["NOTE-di-rilascio"])
-            verify(all(item => item.activeFocus, itemsOf("Skill")).length === 1)
+            verify(hasFocus(list("Skill")))
             press(Qt.Key_Up)
             verify(field.activeFocus) // it stays while there is something in it
             write("x")
