@@ -19,10 +19,10 @@ Item {
         sheets.open(newProfileSheet, {initialSource: source})
     }
     function importItems(target: string, component: string): void {
-        sheets.open(importSheet, {target: target, component: component})
+        sheets.open(importSheet, {target: target, component: component}, target)
     }
     function importSessions(target: string): void {
-        sheets.open(sessionImportSheet, {target: target})
+        sheets.open(sessionImportSheet, {target: target}, target)
     }
     function continueConversation(conversations: ConversationListModel, row: int): void {
         sheets.open(continuationSheet, {conversations: conversations, row: row})
@@ -38,31 +38,32 @@ Item {
             profile: profile,
             profileId: profile.profileId,
             title: qsTr("Spostare «%1» nel Cestino?").arg(profile.name)
-        })
+        }, profile.profileId)
     }
     function askToReimport(profileId: string, component: ComponentModel): void {
         sheets.open(reimportAlert, {
             profileId: profileId,
             component: component,
             title: qsTr("Reimportare da «%1»?").arg(component.sourceName)
-        })
+        }, profileId)
     }
     function askToRelink(profileId: string, component: ComponentModel): void {
-        sheets.open(relinkAlert, {profileId: profileId, component: component, title: component.relinkQuestion})
+        sheets.open(relinkAlert, {profileId, component, title: component.relinkQuestion}, profileId)
     }
     /// Shows the differences here only if the desktop has no program for that.
-    function compare(component: ComponentModel, row: int): void {
+    function compare(profileId: string, component: ComponentModel, row: int): void {
         if (component.compare(row))
             return
         component.readDifference(row)
-        sheets.open(differencesSheet, {component: component})
+        sheets.open(differencesSheet, {component: component}, profileId)
     }
-    /// One that fades is in nobody's way.
-    function open(kind: Component, values: var): void {
+    /// `profileId` is what the sheet is about, if anything. One that fades is in nobody's way.
+    function open(kind: Component, values: var, profileId = ""): void {
         if (sheets.covers)
             return
         if (sheets.current)
             sheets.drop()
+        subject.begin(profileId)
         sheets.current = kind.createObject(sheets, values) as ModalLayer
     }
     function drop(): void {
@@ -70,6 +71,25 @@ Item {
         sheets.current = null
     }
 
+    SheetSubject {
+        id: subject
+
+        app: sheets.app
+        isOver: !sheets.covers
+        onGone: {
+            sheets.current.cancel()
+            sheets.open(goneAlert, {title: qsTr("«%1» non c'è più").arg(name)})
+        }
+    }
+    Component {
+        id: goneAlert
+
+        AlertDialog {
+            message: qsTr("Nel frattempo un altro programma ha tolto il profilo.")
+            cancelText: ""
+            onClosed: sheets.drop()
+        }
+    }
     Component {
         id: newProfileSheet
 
@@ -131,27 +151,14 @@ Item {
     Component {
         id: deleteAlert
 
-        AlertDialog {
-            required property ProfileDetailModel profile
-            required property string profileId
-
-            message: qsTr("La cartella del profilo con skill, regole, sessioni e memoria verrà spostata nel Cestino.")
-            confirmText: qsTr("Sposta nel Cestino")
-            destructive: true
-            onConfirmed: profile.remove(profileId)
+        DeleteAlert {
             onClosed: sheets.drop()
         }
     }
     Component {
         id: aboutAlert
 
-        AlertDialog {
-            message: qsTr("Profili di Claude Desktop e Claude Code. © 2026 The Selvane developers, licenza MIT.\n\n"
-                          + "Caratteri, sotto la SIL Open Font License 1.1: Bricolage Grotesque e Instrument Serif "
-                          + "(© 2022) e JetBrains Mono (© 2020), dei rispettivi Project Authors. Icone, sotto la "
-                          + "licenza MIT: Phosphor (© 2023 Phosphor Icons).\n\n"
-                          + "I testi delle licenze sono installati con Selvane.")
-            cancelText: ""
+        AboutAlert {
             onClosed: sheets.drop()
         }
     }

@@ -75,7 +75,7 @@ FocusScope {
         onItemImportAsked: component => sheets.importItems(detail.profileId, component)
         onReimportAsked: component => sheets.askToReimport(detail.profileId, component)
         onRelinkAsked: component => sheets.askToRelink(detail.profileId, component)
-        onCompareAsked: (component, row) => sheets.compare(component, row)
+        onCompareAsked: (component, row) => sheets.compare(detail.profileId, component, row)
     }
     EmptyDetail {
         anchors { left: sidebar.right; right: parent.right }

@@ -244,6 +244,22 @@ Item {
             compare(home.app.selection, "lavoro")
         }
 
+        function test_sheet_GoesWithItsProfile(): void {
+            home.makeProfile("Lavoro")
+            home.makeProfile("Ospite")
+            show("lavoro")
+            mouseClick(button("Elimina"))
+            home.remove(".claude-profiles/ospite")
+            home.app.reload()
+            verify(the(item => item instanceof AlertDialog).title.includes("Spostare «Lavoro»"))
+            home.remove(".claude-profiles/lavoro")
+            home.app.reload()
+            tryVerify(() => all(item => item instanceof AlertDialog && item.isOpen)[0]?.title === "«Lavoro» non c'è più")
+            keyClick(Qt.Key_Return)
+            tryVerify(() => !view.hasSheet)
+            compare(home.app.errorMessage, "")
+        }
+
         function test_names_AreSavedOnReturnAndOnLeaving(): void {
             home.makeProfile("Lavoro")
             show("lavoro")
