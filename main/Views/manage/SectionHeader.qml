@@ -70,13 +70,15 @@ Item {
         PathIcon {
             id: caret
 
+            readonly property int upsideDown: 180 // degrees
+
             anchors.verticalCenter: parent.verticalCenter
             x: parent.width - Theme.manage.itemMenuRight - (Theme.controls.smallHeight + width) / 2
             width: Theme.iconCaret
             name: "caret-down"
             size: Theme.iconCaret
             color: fold.hovered ? Theme.text : Theme.textSoft
-            rotation: header.component.isOpen ? 180 : 0
+            rotation: header.component.isOpen ? upsideDown : 0
 
             Behavior on rotation {
                 NumberAnimation { duration: Theme.motion.toggle }
