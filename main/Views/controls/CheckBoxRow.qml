@@ -33,30 +33,13 @@ Choice {
         visible: row.inList && row.hovered
         color: Theme.raised
     }
-    Rectangle {
+    CheckMark {
         id: box
 
         anchors.verticalCenter: parent.verticalCenter
         x: row.inList ? Theme.space16 : 0
-        width: Theme.controls.mark
-        height: width
-        radius: Theme.radiusSmall
-        color: row.checked ? Theme.switchedOn : Theme.transparent
-        border.width: row.checked ? 0 : Theme.hairline
-        border.color: Theme.controlBorder
-
-        PathIcon {
-            anchors.centerIn: parent
-            visible: row.checked
-            name: "check"
-            size: Theme.controls.tick
-            weight: PathIcon.Bold
-            color: Theme.onFill
-        }
-        FocusRing {
-            controlRadius: box.radius
-            visible: row.ringed
-        }
+        checked: row.checked
+        ringed: row.ringed
     }
     Column {
         id: texts

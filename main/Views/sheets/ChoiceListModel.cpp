@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+#include "AppModel/LookValue.h"
+
 namespace selvane {
 
 void ChoiceListModel::setEntries(std::vector<Entry> entries) {
@@ -64,6 +66,16 @@ int ChoiceListModel::chosenCount() const {
         std::count_if(m_entries.begin(), m_entries.end(), [](const Entry& entry) { return entry.isChosen; }));
 }
 
+QString ChoiceListModel::tallyOf(const QString& group) const {
+    int all = 0;
+    int chosen = 0;
+    for (const Entry& entry : m_entries) {
+        all += entry.group == group;
+        chosen += entry.group == group && entry.isChosen;
+    }
+    return tr("%1 di %2").arg(chosen).arg(all);
+}
+
 void ChoiceListModel::toggle(int row) {
     if (row < 0 || row >= rowCount())
         return;
@@ -101,17 +113,24 @@ QVariant ChoiceListModel::data(const QModelIndex& index, int role) const {
         return entry.mark;
     case IsChosenRole:
         return entry.isChosen;
+    case GroupRole:
+        return entry.group;
+    case IsFirstRole:
+        return index.row() == 0 ||
+               m_entries[m_shown[static_cast<std::size_t>(index.row() - 1)]].group != entry.group;
+    case LookRole:
+        return lookVariant(entry.look);
+    case IsProfileRole:
+        return entry.isProfile;
     default:
         return {};
     }
 }
 
 QHash<int, QByteArray> ChoiceListModel::roleNames() const {
-    return {{TitleRole, "title"},
-            {DetailRole, "detail"},
-            {IsChosenRole, "isChosen"},
-            {AsideRole, "aside"},
-            {MarkRole, "mark"}};
+    return {{TitleRole, "title"},     {DetailRole, "detail"}, {IsChosenRole, "isChosen"},
+            {AsideRole, "aside"},     {MarkRole, "mark"},     {GroupRole, "group"},
+            {IsFirstRole, "isFirst"}, {LookRole, "look"},     {IsProfileRole, "isProfile"}};
 }
 
 } // namespace selvane

@@ -10,6 +10,8 @@
 #include <string>
 #include <vector>
 
+#include "model/ProfileLook.h"
+
 namespace selvane {
 
 /// A list whose entries are chosen one by one and can be filtered by a search text. Choosing all or none
@@ -31,10 +33,23 @@ public:
         bool isChosen = false;
         QString aside = {}; ///< shown at the end of the row
         QString mark = {};  ///< shown in a badge
+        QString group = {}; ///< what it is listed under; those of a group follow each other
+        ProfileLook look = {.symbol = {}, .color = {}}; ///< without a symbol, none is shown
+        bool isProfile = false;                         ///< the symbol is on a leaf
 
         bool operator==(const Entry&) const = default;
     };
-    enum Role { TitleRole = Qt::UserRole, DetailRole, IsChosenRole, AsideRole, MarkRole };
+    enum Role {
+        TitleRole = Qt::UserRole,
+        DetailRole,
+        IsChosenRole,
+        AsideRole,
+        MarkRole,
+        GroupRole,
+        IsFirstRole, ///< of its group
+        LookRole,
+        IsProfileRole
+    };
 
     using QAbstractListModel::QAbstractListModel;
 
@@ -49,6 +64,8 @@ public:
     QString search() const { return m_search; }
     void setSearch(const QString& text);
 
+    /// How many of a group are chosen, of how many.
+    Q_INVOKABLE QString tallyOf(const QString& group) const;
     Q_INVOKABLE void toggle(int row);
     Q_INVOKABLE void chooseAll() { chooseShown(true); }
     Q_INVOKABLE void chooseNone() { chooseShown(false); }

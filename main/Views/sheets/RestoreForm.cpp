@@ -30,30 +30,41 @@ std::string keyOfPart(const RestorePart& part) {
     return std::to_string(static_cast<int>(part.kind)) + " " + part.id;
 }
 
-QString titleOfPart(const RestorePart& part) {
-    const QString name = QString::fromStdString(part.name);
+QString groupOfPart(const RestorePart& part) {
     switch (part.kind) {
     case PartKind::principal:
-        return part.isRecordOnly() ? RestoreForm::tr("Nome e simbolo di «%1»").arg(name)
-                                   : RestoreForm::tr("Configurazione principale");
+        return RestoreForm::tr("Configurazione principale");
     case PartKind::profile:
-        return RestoreForm::tr("Profilo «%1»").arg(name);
+        return RestoreForm::tr("Profili");
     case PartKind::account:
-        return RestoreForm::tr("Dati dell'account di «%1»").arg(name);
+        return RestoreForm::tr("Dati degli account");
     case PartKind::terminalHelper:
         break;
     }
     return RestoreForm::tr("Comando da terminale");
 }
 
+QString titleOfPart(const RestorePart& part) {
+    if (part.kind == PartKind::terminalHelper)
+        return QStringLiteral("claude-profile");
+    const QString name = QString::fromStdString(part.name);
+    return part.isRecordOnly() ? RestoreForm::tr("Nome e simbolo di «%1»").arg(name) : name;
+}
+
 QString detailOfPart(const RestorePart& part) {
-    QStringList facts;
-    if (part.kind != PartKind::terminalHelper)
-        facts.append(qtText(text::byteCount(part.bytes)));
+    if (part.kind == PartKind::terminalHelper)
+        return {};
+    QStringList facts = {qtText(text::byteCount(part.bytes))};
     if (part.modified > 0)
         facts.append(localeOfArchives().toString(QDateTime::fromSecsSinceEpoch(part.modified).date(),
-                                                 QStringLiteral("d MMMM yyyy")));
+                                                 QStringLiteral("d MMM yyyy")));
     return facts.join(QStringLiteral(" · "));
+}
+
+ProfileLook lookOfPart(const RestorePart& part) {
+    if (part.kind == PartKind::principal || part.kind == PartKind::profile)
+        return part.look;
+    return {.symbol = part.kind == PartKind::account ? "person.badge.key" : "terminal", .color = {}};
 }
 
 QString fateOfPart(const RestorePart& part) {
@@ -94,8 +105,15 @@ void RestoreForm::take(CheckedArchive archive) {
     m_archive = std::move(archive);
     std::vector<ChoiceListModel::Entry> entries;
     for (const RestorePart& part : m_archive.parts)
-        entries.push_back({keyOfPart(part), titleOfPart(part), detailOfPart(part), true, fateOfPart(part),
-                           part.replaces ? QString() : tr("nuovo")});
+        entries.push_back({.key = keyOfPart(part),
+                           .title = titleOfPart(part),
+                           .detail = detailOfPart(part),
+                           .isChosen = true,
+                           .aside = fateOfPart(part),
+                           .mark = part.replaces ? QString() : tr("nuovo"),
+                           .group = groupOfPart(part),
+                           .look = lookOfPart(part),
+                           .isProfile = part.kind == PartKind::principal || part.kind == PartKind::profile});
     m_parts.setEntries(std::move(entries));
     emit archiveChanged();
     lookForClaude();

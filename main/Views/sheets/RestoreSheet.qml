@@ -102,14 +102,11 @@ Sheet {
                 noneText: qsTr("Nessuno")
             }
         }
-        ChecklistWell {
+        RestoreList {
             width: parent.width
-            wantedHeight: Math.min(contentHeight, Theme.sheets.restoreList)
             room: sheet.bodyRoom - Theme.controls.listRow - count.height - notes.height - 2 * sheet.spacing - Theme.space4
-            rowHeight: Theme.controls.pathRow
             choices: sheet.form.parts
             label: sheet.title
-            emptyText: qsTr("L'archivio è vuoto")
         }
     }
     Column {

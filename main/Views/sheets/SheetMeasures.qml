@@ -17,6 +17,8 @@ Measures {
     readonly property real differencesHeight: 400
     readonly property real restoreWidth: 560
     readonly property real restoreList: scaled(312) ///< at most
+    readonly property real restoreGroup: scaled(32)
+    readonly property real restoreGlyph: 26
     readonly property real continuationWidth: 560
     readonly property real continuationWell: scaled(216) ///< at most
     readonly property real organisationLeft: 56
