@@ -28,6 +28,11 @@ QString nameInQuotes(const Profile& profile) {
     return "«" + QString::fromStdString(profile.meta.name) + "»";
 }
 
+/// Whether the conversation gets a record in one of the account's organisations.
+bool placesRecord(const Continuation& plan) {
+    return plan.record == Record::now || plan.record == Record::atNextLaunch;
+}
+
 /// Whose account a profile uses.
 QString accountNote(const Profile& profile, const AppModel& app) {
     const std::string owner = profile.accountOwner();
@@ -113,6 +118,13 @@ QVariantList ContinuationForm::organisations() const {
     return list;
 }
 
+QString ContinuationForm::organisationQuestion() const {
+    static const QStringList kWords = {tr("due"), tr("tre"), tr("quattro"), tr("cinque")};
+    const auto count = static_cast<qsizetype>(m_organisations.size());
+    return tr("L'account ha %1 organizzazioni: in quale?")
+        .arg(kWords.value(count - 2, QString::number(count)));
+}
+
 void ContinuationForm::setOrganisation(int position) {
     if (position == m_organisation)
         return;
@@ -149,7 +161,8 @@ void ContinuationForm::plan() {
         };
         m_reading.begin(read, [this](std::optional<Plan> plan) {
             m_plan = plan ? plan->what : Continuation();
-            setOrganisations(plan ? plan->organisations : std::vector<OrganisationFolder>());
+            setOrganisations(plan && placesRecord(plan->what) ? plan->organisations
+                                                              : std::vector<OrganisationFolder>());
             emit planChanged();
         });
     }
@@ -183,12 +196,12 @@ QString ContinuationForm::copies() const {
     if (!m_plan || chosen() == nullptr || origin() == nullptr)
         return {};
     const QString size = qtText(text::byteCount(m_plan->bytes));
-    const bool hasRecord = m_plan->record == Record::now || m_plan->record == Record::atNextLaunch;
     QString sentence = tr("La trascrizione è già in %1.").arg(nameInQuotes(*chosen()));
     if (m_plan->copied + m_plan->replaced > 0)
         sentence =
-            (hasRecord ? tr("Si copiano la trascrizione (%1) e la voce nell'elenco; l'originale resta in %2.")
-                       : tr("Si copia la trascrizione (%1); l'originale resta in %2."))
+            (placesRecord(*m_plan)
+                 ? tr("Si copiano la trascrizione (%1) e la voce nell'elenco; l'originale resta in %2.")
+                 : tr("Si copia la trascrizione (%1); l'originale resta in %2."))
                 .arg(size, nameInQuotes(*origin()));
     if (m_plan->kept > 0)
         sentence =

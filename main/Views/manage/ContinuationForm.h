@@ -40,8 +40,9 @@ class ContinuationForm : public QObject, public QQmlParserStatus {
     Q_PROPERTY(QVariantList targets READ targets NOTIFY targetsChanged)
     Q_PROPERTY(int target READ target WRITE setTarget NOTIFY planChanged) ///< position in these
     /// Of the chosen profile's account, each with "name", "shortId" and "note"; empty unless there are
-    /// several.
+    /// several and the conversation needs one.
     Q_PROPERTY(QVariantList organisations READ organisations NOTIFY organisationsChanged)
+    Q_PROPERTY(QString organisationQuestion READ organisationQuestion NOTIFY organisationsChanged)
     Q_PROPERTY(int organisation READ organisation WRITE setOrganisation NOTIFY planChanged)
     Q_PROPERTY(QString when READ when NOTIFY planChanged) ///< sentences; empty until they are known
     Q_PROPERTY(QString copies READ copies NOTIFY planChanged)
@@ -58,6 +59,7 @@ public:
     int target() const { return m_target; }
     void setTarget(int position);
     QVariantList organisations() const;
+    QString organisationQuestion() const;
     int organisation() const { return m_organisation; }
     void setOrganisation(int position);
     QString when() const;

@@ -81,6 +81,11 @@ Sheet {
         Flickable {
             id: pane
 
+            function showRow(row: Item): void {
+                const top = row.mapToItem(contentItem, 0, 0).y
+                contentY = Math.max(Math.min(contentY, top), top + row.height - height)
+            }
+
             anchors.fill: parent
             contentHeight: profiles.height
             boundsBehavior: Flickable.StopAtBounds
@@ -92,22 +97,47 @@ Sheet {
                 width: parent.width
 
                 Repeater {
+                    id: targets
+
                     model: form.targets
 
-                    delegate: ContinuationTarget {
+                    delegate: Column {
+                        id: entry
+
                         required property int index
                         required property var modelData
+                        readonly property alias row: target
+                        readonly property bool isLast: index === targets.count - 1
+                        readonly property var organisations: form.target === index ? form.organisations : []
 
                         width: profiles.width
-                        text: modelData.name
-                        note: modelData.note
-                        look: modelData.look
-                        isOpen: modelData.isOpen
-                        checked: form.target === index
-                        onChosen: form.target = index
-                        onActiveFocusChanged: {
-                            if (activeFocus)
-                                pane.contentY = Math.max(Math.min(pane.contentY, y), y + height - pane.height)
+
+                        ContinuationTarget {
+                            id: target
+
+                            width: parent.width
+                            text: entry.modelData.name
+                            note: entry.modelData.note
+                            look: entry.modelData.look
+                            isOpen: entry.modelData.isOpen
+                            checked: form.target === entry.index
+                            hasLine: !entry.isLast || entry.organisations.length > 0
+                            others: () => Array.from({ length: targets.count }, (_, i) => targets.itemAt(i).row)
+                            onChosen: form.target = entry.index
+                            onActiveFocusChanged: {
+                                if (activeFocus)
+                                    pane.showRow(target)
+                            }
+                        }
+                        Organisations {
+                            width: parent.width
+                            visible: entry.organisations.length > 0
+                            hasLine: !entry.isLast
+                            question: form.organisationQuestion
+                            organisations: entry.organisations
+                            chosen: form.organisation
+                            onOrganisationChosen: index => form.organisation = index
+                            onRowFocused: row => pane.showRow(row)
                         }
                     }
                 }
@@ -115,33 +145,6 @@ Sheet {
         }
         ThinScrollBar {
             flickable: pane
-        }
-    }
-    Column {
-        width: parent.width
-        visible: form.organisations.length > 1
-
-        StyledText {
-            look: Theme.type.small
-            text: qsTr("L'account ha %1 organizzazioni: in quale?").arg(form.organisations.length)
-            color: Theme.textSoft
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
-        }
-        Repeater {
-            model: form.organisations
-
-            delegate: ContinuationTarget {
-                required property int index
-                required property var modelData
-
-                width: parent.width
-                text: modelData.name
-                shortId: modelData.shortId
-                note: modelData.note
-                checked: form.organisation === index
-                onChosen: form.organisation = index
-            }
         }
     }
     SectionTitle {

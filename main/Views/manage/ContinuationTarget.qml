@@ -6,8 +6,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A profile, or below it an organisation of its account, in which a conversation can go on. Those with the same
-/// parent are one Tab stop; the arrow keys go round among them and choose.
+/// A profile, or below it an organisation of its account, in which a conversation can go on. It and the others to
+/// choose from are one Tab stop; the arrow keys go round among them and choose.
 Choice {
     id: row
 
@@ -16,6 +16,8 @@ Choice {
     property string shortId
     property profileLook look ///< of a profile
     property bool isOpen: false
+    property bool hasLine: false ///< at its foot
+    property var others: () => Array.from(row.parent.children).filter(item => item instanceof ContinuationTarget)
 
     readonly property bool isProfile: look.symbol !== ""
     readonly property real indent: isProfile ? Theme.space16 : Theme.sheets.organisationLeft
@@ -23,7 +25,7 @@ Choice {
     signal chosen
 
     function chooseFrom(step: int): void {
-        const rows = Array.from(row.parent.children).filter(item => item instanceof ContinuationTarget)
+        const rows = row.others()
         const next = rows[(rows.indexOf(row) + step + rows.length) % rows.length] as ContinuationTarget
         next.forceActiveFocus(Qt.TabFocusReason)
         next.chosen()
@@ -43,7 +45,7 @@ Choice {
 
     Rectangle {
         anchors.bottom: parent.bottom
-        visible: row.isProfile && row.y + row.height < row.parent.height
+        visible: row.hasLine
         width: parent.width
         height: Theme.hairline
         color: Theme.separator

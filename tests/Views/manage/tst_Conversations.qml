@@ -169,5 +169,16 @@ Item {
             tryVerify(() => home.asked().launches === 1)
             verify(home.what(other + folder + "/local_1.json").includes("Prezzi"))
         }
+
+        function test_organisation_IsNotAskedForATerminalsConversation(): void {
+            open()
+            const other = ".claude-profiles/.desktop-data/lavoro/claude-code-sessions/a/"
+            home.write(other + "nuova/local_8.json", "{}")
+            home.write(other + "vecchia/local_9.json", "{}")
+            press(Qt.Key_Down, Qt.Key_Down, Qt.Key_Return)
+            const sheet = the(item => item instanceof ContinuationSheet)
+            tryVerify(() => sheet.confirmEnabled)
+            compare(visibleItems(item => item instanceof ContinuationTarget, sheet).length, 1)
+        }
     }
 }
