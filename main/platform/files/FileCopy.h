@@ -26,6 +26,8 @@ void dropInheritedAccess(int file);
 
 /// When a file was last read and last changed, in the form `utimensat` takes.
 std::array<timespec, 2> timesOf(const struct stat& status);
+/// When anything about a file last changed, even its name or its mode. No program can choose it.
+timespec changeTimeOf(const struct stat& status);
 /// Creates a FIFO, socket or device like the one `status` describes, for its owner alone. Returns 0 or the
 /// error.
 int makeSpecial(int folder, const char* name, const struct stat& status);

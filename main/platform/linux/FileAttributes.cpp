@@ -91,6 +91,10 @@ std::array<timespec, 2> timesOf(const struct stat& status) {
     return {status.st_atim, status.st_mtim};
 }
 
+timespec changeTimeOf(const struct stat& status) {
+    return status.st_ctim;
+}
+
 int makeSpecial(int folder, const char* name, const struct stat& status) {
     const mode_t kind = status.st_mode & S_IFMT;
     return ::mknodat(folder, name, kind | S_IRUSR | S_IWUSR, status.st_rdev) == 0 ? 0 : errno;

@@ -83,6 +83,10 @@ std::array<timespec, 2> timesOf(const struct stat& status) {
     return {status.st_atimespec, status.st_mtimespec};
 }
 
+timespec changeTimeOf(const struct stat& status) {
+    return status.st_ctimespec;
+}
+
 int makeSpecial(int folder, const char* name, const struct stat& status) {
     constexpr mode_t kOwner = S_IRUSR | S_IWUSR;
     if (S_ISSOCK(status.st_mode))

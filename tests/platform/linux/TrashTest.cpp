@@ -8,7 +8,7 @@
 #include "model/LauncherError.h"
 #include "platform/linux/DesktopServices.h"
 #include "platform/services/Received.h"
-#include "support/TemporaryFolder.h"
+#include "support/Home.h"
 
 namespace selvane {
 namespace {
@@ -29,6 +29,22 @@ TEST(Trash, ARefusal_IsToldWithTheSystemsReason) {
             << message;
         EXPECT_TRUE(message.ends_with(": " + reason + ")")) << message;
     }
+}
+
+TEST(Trash, WhatItTakes_IsToldWithItsPlaceAndNote) {
+    const test::TemporaryFolder folder;
+    test::writeTree(folder.path(), {{"a/nota", "prima"}, {"b/nota", "seconda"}, {"link", "-> nota"}});
+    const auto first = moveToTrash(folder / "a/nota");
+    const auto second = moveToTrash(folder / "b/nota"); // under another name
+    const auto link = moveToTrash(folder / "link");
+    const auto whole = moveToTrash(folder / "a");
+    ASSERT_TRUE(first && second && link && whole);
+    EXPECT_EQ(test::readFile(first->place), "prima");
+    EXPECT_EQ(test::readFile(second->place), "seconda");
+    EXPECT_EQ(std::filesystem::read_symlink(link->place), "nota");
+    EXPECT_TRUE(std::filesystem::is_directory(whole->place));
+    EXPECT_NE(test::readFile(second->note).find("Path=" + (folder / "b/nota").string()), std::string::npos);
+    test::takeTrash();
 }
 
 } // namespace
