@@ -28,6 +28,8 @@ void ProfileStore::deleteProfile(const Profile& profile) {
     if (anyOther([&](const Profile& other) { return other.meta.account == profile.id; }))
         throw LauncherError("Altri profili usano l'account di \"" + profile.meta.name + "\": cambiali prima");
 
+    if (m_reversal != nullptr)
+        m_reversal->isDeletion = true;
     // Its account may still be in the normal folder; first give that back to the built-in profile.
     if (desktopLiveOwner() == profile.id)
         restoreDesktopData();

@@ -147,6 +147,8 @@ Profile ProfileStore::bringToSource(const ChangedItem& item, const Profile& prof
     });
     if (!isSame)
         throw LauncherError("\"" + text::singleLine(item.name) + "\" è cambiato nel frattempo: riprova");
+    if (m_reversal != nullptr)
+        m_reversal->files.add(item.own, FileChanges::CopyOf{item.source}, files::LinkText{item.source});
     updateExcludes(target);
     updateExcludes(now);
     return now;

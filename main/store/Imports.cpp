@@ -84,6 +84,8 @@ void ProfileStore::importServers(const Profile& to, const Profile& from, const F
     const Json source = json::parse(files.read(origin), origin);
     const fs::path file = globalJSON(to);
     std::optional<Json> trashed;
+    std::optional<Reversal::Servers> made;
+    std::optional<TrashedItem> copy;
     updateJson(file, [&](const JsonState& target) -> std::optional<Json> {
         ServerImport imported =
             importedServers(source, target.text ? std::optional(target.object) : std::nullopt);
@@ -91,20 +93,31 @@ void ProfileStore::importServers(const Profile& to, const Profile& from, const F
             return std::nullopt;
         const Json* servers = json::find(target.object, kServersKey);
         if (imported.losesServers && trashed != *servers) {
-            trashCopy(file, *target.text);
+            copy = trashCopy(file, *target.text);
             trashed = *servers;
+        }
+        if (m_reversal != nullptr) {
+            made = {.file = file, .created = {}, .before = {}, .after = {}, .copy = copy};
+            if (const Json* after = json::find(imported.state, kServersKey))
+                made->after = *after;
+            if (servers != nullptr)
+                made->before = *servers;
+            if (!target.text)
+                made->created = json::serialized(imported.state);
         }
         return std::move(imported.state);
     });
+    if (m_reversal != nullptr)
+        m_reversal->servers = std::move(made);
 }
 
-void ProfileStore::trashCopy(const fs::path& file, const std::string& text) {
+std::optional<TrashedItem> ProfileStore::trashCopy(const fs::path& file, const std::string& text) {
     const fs::path copy = file.string() + ".precedente";
     if (m_files.exists(copy))
-        m_files.moveToTrash(copy);
+        m_files.discard(copy);
     m_files.write(copy, text, Privacy::ownerOnly);
     try {
-        m_files.moveToTrash(copy);
+        return m_files.discard(copy);
     } catch (const std::exception&) {
         m_files.removeFile(copy);
         throw;

@@ -107,7 +107,7 @@ SyncReport ProfileStore::syncLinks(const Profile& profile) {
 }
 
 void ProfileStore::syncCollection(Component component, const Profile& profile, const Profile& source,
-                                  SyncReport& report) {
+                                  SyncReport& report, FileChanges* changes) {
     const fs::path folder = profile.url(component);
     if (m_files.linkTarget(folder))
         return; // what is in it isn't the profile's
@@ -117,8 +117,12 @@ void ProfileStore::syncCollection(Component component, const Profile& profile, c
         return; // its items may come back, and with them what the links lead to
     const ItemListing own(component, folder);
     for (const std::string& name : text::sorted(brokenLinks(own, offered, origin))) {
-        if (own.folder->removeLink(name))
-            report.removed.push_back(reportLine(component, name));
+        const auto target = changes == nullptr ? std::nullopt : own.folder->linkTarget(name);
+        if (!own.folder->removeLink(name))
+            continue;
+        report.removed.push_back(reportLine(component, name));
+        if (target)
+            changes->add(folder / name, files::LinkText{*target}, files::Nothing{});
     }
     // The names just removed still count as present, so no link is removed and made again in one run.
     const std::vector<std::string> missing = missingItems(own, offered, profile.excluded(component));
@@ -129,6 +133,8 @@ void ProfileStore::syncCollection(Component component, const Profile& profile, c
     for (const std::string& name : text::sorted(missing)) {
         target.createLink(origin + name, name);
         report.added.push_back(reportLine(component, name));
+        if (changes != nullptr)
+            changes->add(folder / name, files::Nothing{}, files::LinkText{origin + name});
     }
 }
 
@@ -165,12 +171,12 @@ void ProfileStore::setCollectionMode(ShareMode mode, Component component, Profil
         // Recorded only once its links are there: if one fails, the same change completes the work later.
         SyncReport report;
         record(mode, component, profile);
-        syncCollection(component, profile, source, report);
+        syncCollection(component, profile, source, report, changes());
         saveMeta(profile);
         syncLinks(profile);
         return;
     }
-    FileBatch batch(profile.configDir, m_progress);
+    FileBatch batch(profile.configDir, m_progress, changes());
     const std::string origin = source.url(component).native() + "/";
     const ItemListing own(component, profile.url(component));
     const auto shared = sharedItems(own, origin);
@@ -180,13 +186,15 @@ void ProfileStore::setCollectionMode(ShareMode mode, Component component, Profil
     }
     for (const auto& [name, target] : shared) {
         const fs::path link = profile.url(component) / name;
-        if (mode == ShareMode::none)
-            own.folder->removeLink(name);
-        else if (const auto content = contentOf(link, origin + target))
+        if (mode == ShareMode::none) {
+            if (own.folder->removeLink(name) && m_reversal != nullptr)
+                m_reversal->files.add(link, files::LinkText{origin + target}, files::Nothing{});
+        } else if (const auto content = contentOf(link, origin + target)) {
             batch.copyOverLink(*content, link);
-        else if (!isReachable(source)) // otherwise there is nothing to copy, and it may lead somewhere again
+        } else if (!isReachable(source)) { // or there is nothing to copy, and it may lead somewhere again
             throw fs::filesystem_error("look up", source.configDir,
                                        std::make_error_code(std::errc::no_such_file_or_directory));
+        }
     }
     if (mode == ShareMode::separate && profile.mode(component) == ShareMode::none)
         copyMissing(component, profile, source, batch);

@@ -48,10 +48,11 @@ ProfileStore::ProfileStore(const Environment& environment, const ClaudeApp& clau
     }
 }
 
-ProfileStore::ProfileStore(const ProfileStore& other, Progress& progress)
-    : m_progress(&progress), m_files(&progress), m_claude(other.m_claude), m_environment(other.m_environment),
-      m_home(other.m_home), m_root(other.m_root), m_defaultDir(other.m_defaultDir),
-      m_defaultGlobalJSON(other.m_defaultGlobalJSON), m_testMode(other.m_testMode) {}
+ProfileStore::ProfileStore(const ProfileStore& other, Progress* progress, Reversal* reversal)
+    : m_progress(progress), m_reversal(reversal), m_files(progress, changes()), m_claude(other.m_claude),
+      m_environment(other.m_environment), m_home(other.m_home), m_root(other.m_root),
+      m_defaultDir(other.m_defaultDir), m_defaultGlobalJSON(other.m_defaultGlobalJSON),
+      m_testMode(other.m_testMode) {}
 
 fs::path ProfileStore::liveDesktopDir() const {
     const std::lock_guard guard(m_liveDesktopDirMutex);
@@ -66,6 +67,10 @@ fs::path ProfileStore::liveDesktopDir() const {
     if (isSettled)
         m_liveDesktopDir = folder;
     return folder;
+}
+
+FileChanges* ProfileStore::changes() const {
+    return m_reversal == nullptr ? nullptr : &m_reversal->files;
 }
 
 void ProfileStore::announce(const fs::path& tree) const {
@@ -169,9 +174,22 @@ fs::path ProfileStore::recordOf(const Profile& profile) const {
 void ProfileStore::saveMeta(const Profile& profile) {
     const fs::path file = recordOf(profile);
     const auto before = m_files.readIfPresent(file, FileManager::kLongestRecord);
-    if (before && !decodedProfileMeta(*before))
+    const auto meta = before ? decodedProfileMeta(*before) : std::nullopt;
+    if (before && !meta)
         throw damaged(file);
     m_files.write(file, before ? encoded(profile.meta, *before) : encoded(profile.meta));
+    if (m_reversal != nullptr && meta)
+        noteRecord(profile, *meta);
+}
+
+void ProfileStore::noteRecord(const Profile& profile, const ProfileMeta& before) {
+    for (Reversal::Record& record : m_reversal->records) {
+        if (record.profile.id == profile.id) {
+            record.after = profile.meta;
+            return;
+        }
+    }
+    m_reversal->records.push_back({profile, before, profile.meta});
 }
 
 void ProfileStore::repair(const std::string& id) {
@@ -195,6 +213,8 @@ FolderLock ProfileStore::locked(const Profile& profile) const {
     // Writing would create the folder again, with nothing else in it.
     if (!profile.isDefault() && !m_files.isPresent(profile.configDir))
         throw LauncherError("Il profilo \"" + profile.meta.name + "\" è stato eliminato nel frattempo");
+    if (m_reversal != nullptr)
+        m_reversal->profiles.push_back(profile);
     return lock;
 }
 

@@ -27,6 +27,7 @@
 #include "platform/files/FolderLock.h"
 #include "platform/process/Process.h"
 #include "store/NewProfile.h"
+#include "store/Reversal.h"
 #include "store/SignInTargets.h"
 #include "store/TranscriptIndex.h"
 
@@ -52,7 +53,10 @@ public:
     /// Creates the profiles root if it is missing, ignoring failures.
     ProfileStore(const Environment& environment, const ClaudeApp& claude);
     /// The same profiles, for one long operation: what is copied is told to `progress`, which can cancel it.
-    ProfileStore(const ProfileStore& other, Progress& progress);
+    ProfileStore(const ProfileStore& other, Progress& progress) : ProfileStore(other, &progress, nullptr) {}
+    /// The same for one operation that can be taken back: `reversal` says how once it has succeeded. Either
+    /// may be null.
+    ProfileStore(const ProfileStore& other, Progress* progress, Reversal* reversal);
     Progress* progress() const { return m_progress; } ///< null if it tells nobody
 
     // Locations (ProfileStore.cpp)
@@ -132,6 +136,17 @@ public:
     /// Records that the item is to stay the profile's own: it's no longer among `changedItems`, until it is
     /// linked, removed or taken from the record.
     Profile keepOwn(const ChangedItem& item, const Profile& profile);
+
+    // Taking back (Reversal.cpp)
+    /// Undoes a deletion, the removal of an item, the change of a mode, `relink`, `bringToSource` or
+    /// `reimport` of a store with a `Reversal`: what went to the Trash has its place again, what was made
+    /// instead is gone, and the record says what it said. Other changes of the record stay, such as a new
+    /// name.
+    ///
+    /// If any of it has changed meanwhile, in the folders, the record or the Trash, or if the deleted
+    /// profile's account is open, throws `LauncherError` and changes nothing. If it fails or is killed on the
+    /// way, each item is as before or as after, or in the Trash.
+    void takeBack(const Reversal& reversal);
 
     // Isolation (Isolation.cpp)
     /// Whether it makes a difference now if a new profile is isolated: whether the built-in profile has
@@ -223,6 +238,12 @@ private:
     FolderLock locked(const Profile& profile) const;
     Profile current(const Profile& profile) const;
 
+    FileChanges* changes() const;
+    void noteRecord(const Profile& profile, const ProfileMeta& before);
+    std::vector<FolderLock> lockedFor(const Reversal& reversal);
+    void takeBackDeletion(const Reversal& reversal);
+    void takeBackServers(const Reversal::Servers& servers);
+
     /// Tells the progress, if there is one, that everything at `tree` will be copied. Said before the first
     /// copy of an operation, so that how far it is doesn't jump.
     void announce(const std::filesystem::path& tree) const;
@@ -243,7 +264,7 @@ private:
     void importFile(Component component, const Profile& to, const Profile& from, const FileManager& files);
     void importFolder(Component component, const Profile& to, const Profile& from, const FileManager& files);
     void importServers(const Profile& to, const Profile& from, const FileManager& files);
-    void trashCopy(const std::filesystem::path& file, const std::string& text);
+    std::optional<TrashedItem> trashCopy(const std::filesystem::path& file, const std::string& text);
     void rewritePaths(const std::filesystem::path& file, const Profile& from, const Profile& to,
                       const FileManager& files);
     void applyClaudeMd(ShareMode mode, const Profile& to, const Profile& from, const FileManager& files);
@@ -251,7 +272,7 @@ private:
 
     SyncReport syncLinks(const Profile& profile);
     void syncCollection(Component component, const Profile& profile, const Profile& source,
-                        SyncReport& report);
+                        SyncReport& report, FileChanges* changes = nullptr);
     void requireOwnFolder(Component component, const Profile& profile) const;
     std::filesystem::path freePlace(const std::string& name, const Profile& in, Component component);
     void addCopy(const std::filesystem::path& item, const Profile& to, Component component, FileBatch& batch);
@@ -284,6 +305,7 @@ private:
     std::vector<std::filesystem::path> desktopFolders(const std::vector<std::filesystem::path>& in) const;
 
     Progress* m_progress = nullptr;
+    Reversal* m_reversal = nullptr;
     FileManager m_files;
     const ClaudeApp& m_claude;
     Environment m_environment;

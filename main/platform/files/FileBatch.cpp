@@ -9,6 +9,7 @@
 #include <sys/stat.h>
 #include <vector>
 
+#include "platform/files/FileChanges.h"
 #include "platform/files/FileCopy.h"
 #include "platform/files/FileRemoval.h"
 #include "platform/files/Placement.h"
@@ -62,8 +63,9 @@ struct FileBatch::Round {
     }
 };
 
-FileBatch::FileBatch(const std::filesystem::path& folder, Progress* progress)
-    : m_folder(folder), m_mount(files::mountOf(folder)), m_progress(progress), m_copier(m_written, progress) {
+FileBatch::FileBatch(const std::filesystem::path& folder, Progress* progress, FileChanges* changes)
+    : m_folder(folder), m_mount(files::mountOf(folder)), m_progress(progress), m_changes(changes),
+      m_copier(m_written, progress) {
     removeLeftovers(folder);
 }
 
@@ -221,14 +223,25 @@ void FileBatch::settleCopied() {
 void FileBatch::settle(const Round& round) {
     m_written.waitFor(m_folder);
     const std::size_t end = std::min(round.failed, round.entries.size());
-    for (std::size_t position = 0; position < end; ++position) {
-        const Entry& entry = round.entries[position];
-        const std::filesystem::path target = entry.folder->path / entry.name;
-        if (const int error = files::place(entry.temporary, target, entry.kind); error != 0)
-            fail("create", target, error);
-    }
+    for (std::size_t position = 0; position < end; ++position)
+        place(round.entries[position]);
     if (round.failure)
         std::rethrow_exception(round.failure);
+}
+
+void FileBatch::place(const Entry& entry) {
+    const std::filesystem::path target = entry.folder->path / entry.name;
+    FileChanges::Former former = files::Nothing{};
+    files::FileState present = files::Nothing{};
+    if (m_changes != nullptr) {
+        present = m_changes->stateOfNew(entry.temporary);
+        if (const auto link = FileManager().linkTarget(target))
+            former = files::LinkText{*link};
+    }
+    if (const int error = files::place(entry.temporary, target, entry.kind); error != 0)
+        fail("create", target, error);
+    if (m_changes != nullptr)
+        m_changes->add(target, std::move(former), std::move(present));
 }
 
 void FileBatch::finish() {

@@ -21,6 +21,8 @@
 
 namespace selvane {
 
+class FileChanges;
+
 /// Many new files and folders for the price of a few waits: they get their names together, once all of them
 /// are on the disk. Until then they are in temporary folders. Copies are made and files written several at a
 /// time. Errors are thrown as by `FileManager`, perhaps only by a later call.
@@ -31,8 +33,9 @@ class FileBatch {
 public:
     /// The temporary folders are made in `folder`, or beside what is on another file system. What a killed
     /// run has left of its own there is removed first, so the caller keeps other Selvanes away from these
-    /// places.
-    explicit FileBatch(const std::filesystem::path& folder, Progress* progress = nullptr);
+    /// places. What gets its name is noted in `changes`, if given.
+    explicit FileBatch(const std::filesystem::path& folder, Progress* progress = nullptr,
+                       FileChanges* changes = nullptr);
     /// Removes whatever has no name yet.
     ~FileBatch();
     FileBatch(const FileBatch&) = delete;
@@ -82,6 +85,7 @@ private:
     std::shared_ptr<Round> nextCopied();
     void settleCopied();
     void settle(const Round& round);
+    void place(const Entry& entry);
     void waitForNames();
     void removeOriginals();
     void removeTemporaries();
@@ -89,6 +93,7 @@ private:
     std::filesystem::path m_folder;
     files::MountId m_mount;
     Progress* m_progress;
+    FileChanges* m_changes;
     files::DiskSync m_written;
     std::deque<std::filesystem::path> m_originals;     ///< of copies, to be removed
     std::deque<std::filesystem::path> m_temporaries;   ///< all the temporary folders

@@ -11,6 +11,7 @@
 
 #include "platform/files/Descriptor.h"
 #include "platform/files/DiskSync.h"
+#include "platform/files/FileChanges.h"
 #include "platform/files/FileRemoval.h"
 #include "platform/files/Temporary.h"
 #include "platform/files/Trash.h"
@@ -236,7 +237,11 @@ void FileManager::removeFile(const std::filesystem::path& file) const {
 }
 
 bool FileManager::removeLink(const std::filesystem::path& link) const {
-    return files::removeLink(AT_FDCWD, link, link);
+    const auto target = m_changes == nullptr ? std::nullopt : linkTarget(link);
+    const bool isRemoved = files::removeLink(AT_FDCWD, link, link);
+    if (isRemoved && m_changes != nullptr && target)
+        m_changes->add(link, files::LinkText{*target}, files::Nothing{});
+    return isRemoved;
 }
 
 void FileManager::removeTree(const std::filesystem::path& path) const {
@@ -244,11 +249,18 @@ void FileManager::removeTree(const std::filesystem::path& path) const {
 }
 
 void FileManager::moveToTrash(const std::filesystem::path& path) const {
-    selvane::moveToTrash(path);
+    const auto item = discard(path);
+    if (m_changes != nullptr)
+        m_changes->addTrashed(path, item);
+}
+
+std::optional<TrashedItem> FileManager::discard(const std::filesystem::path& path) const {
+    auto item = selvane::moveToTrash(path);
     // Some file systems (btrfs) would let go of the old name before the new one is on the disk, or forget
     // what the Trash notes about it, if only the folder were waited for.
     if (const int error = files::syncAllWith(files::folderOf(path)); error != 0)
         fail("write", path, error);
+    return item;
 }
 
 void FileManager::waitForContent(const std::filesystem::path& file) const {

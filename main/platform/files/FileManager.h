@@ -16,6 +16,8 @@ namespace selvane {
 namespace files {
 class DiskSync;
 }
+struct TrashedItem;
+class FileChanges;
 class Progress;
 
 /// Who may read a file that Selvane creates.
@@ -51,6 +53,8 @@ public:
     FileManager() = default;
     /// Tells `progress` what is copied, and stops copying when it says so.
     explicit FileManager(Progress* progress) : m_progress(progress) {}
+    /// The same, and notes in `changes` how to undo what replaces, removes a link or goes to the Trash.
+    FileManager(Progress* progress, FileChanges* changes) : m_progress(progress), m_changes(changes) {}
     /// Doesn't wait for the disk but leaves that to `written`: for making something of many parts that counts
     /// only when all of it is there.
     explicit FileManager(files::DiskSync& written, Progress* progress = nullptr)
@@ -102,6 +106,9 @@ public:
     /// that is nothing. Otherwise changes nothing and returns false. For its owner alone.
     bool writeIfUnchanged(const std::filesystem::path& file, const std::optional<std::string>& expected,
                           std::string_view bytes) const;
+    /// Removes `file` if it still holds `expected`. Otherwise, even if it changes at the last moment, leaves
+    /// it and returns false.
+    bool removeIfUnchanged(const std::filesystem::path& file, std::string_view expected) const;
     void setMode(const std::filesystem::path& file, mode_t mode) const;
 
     /// Creates all missing parents too. An existing folder is left as it is.
@@ -155,6 +162,8 @@ public:
     /// Moves `path` to the user's Trash. If the Trash can't take it, throws `LauncherError` and leaves it as
     /// it was.
     void moveToTrash(const std::filesystem::path& path) const;
+    /// The same, but never noted as a change. Returns where it is now; nothing if that can't be told.
+    std::optional<TrashedItem> discard(const std::filesystem::path& path) const;
 
     /// Waits until a file that another program wrote, and its mode, are on the disk.
     void waitForContent(const std::filesystem::path& file) const;
@@ -165,9 +174,9 @@ private:
     friend class FileCopier;
 
     void waitForPlaceOf(const std::filesystem::path& path) const;
-
     files::DiskSync* m_written = nullptr; ///< waits later, if set
     Progress* m_progress = nullptr;
+    FileChanges* m_changes = nullptr;
 };
 
 } // namespace selvane

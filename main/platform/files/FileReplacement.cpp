@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 
 #include "platform/files/DiskSync.h"
+#include "platform/files/FileChanges.h"
 #include "platform/files/FileCopier.h"
 #include "platform/files/FileCopy.h"
 #include "platform/files/FileManager.h"
@@ -210,14 +211,20 @@ void FileManager::replaceTrashing(
     recoverReplaced(target);
     Temporary temporary(target);
     build(temporary, target, make);
+    files::FileState present =
+        m_changes == nullptr ? files::Nothing{} : m_changes->stateOfNew(temporary.path());
     if (!exists(target)) {
         temporary.place(target);
+        if (m_changes != nullptr)
+            m_changes->add(target, files::Nothing{}, std::move(present));
         return waitForPlaceOf(target);
     }
     KeptFile kept(target);
     try {
-        moveToTrash(target);
+        const auto old = discard(target);
         temporary.place(target);
+        if (m_changes != nullptr)
+            m_changes->addTrashed(target, old, std::move(present));
         waitForPlaceOf(target);
         kept.drop();
     } catch (const std::filesystem::filesystem_error&) {
@@ -240,7 +247,7 @@ void FileManager::recoverReplaced(const std::filesystem::path& path) const {
     if (isAnything(path, present) && present.st_dev == old.st_dev && present.st_ino == old.st_ino)
         removeFile(kept);
     else
-        moveToTrash(kept);
+        discard(kept);
 }
 
 void FileManager::replaceLink(const std::filesystem::path& link,

@@ -81,6 +81,21 @@ bool FileManager::writeIfUnchanged(const std::filesystem::path& file,
     return true;
 }
 
+bool FileManager::removeIfUnchanged(const std::filesystem::path& file, std::string_view expected) const {
+    if (readIfPresent(file) != expected)
+        return false;
+    Temporary aside(file);
+    if (const int error = files::renameExclusively(file, aside.path()); error != 0)
+        fail("remove", file, error);
+    if (readIfPossible(aside.path()) != expected) {
+        static_cast<void>(files::renameExclusively(aside.path(), file));
+        aside.setPlaced();
+        return false;
+    }
+    waitForPlaceOf(file);
+    return true;
+}
+
 bool FileManager::replaceCopy(const std::filesystem::path& path, const std::filesystem::path& original,
                               const std::function<void(const std::filesystem::path& temporary)>& make) const {
     if (!files::isCopy(original, path))
