@@ -12,6 +12,8 @@
 ///   single-operation restore ARCHIVE                              everything in it
 ///   single-operation continue ID INTO                             the conversation with this session of the
 ///   agent
+///   single-operation set-mode PROFILE COMPONENT MODE
+///   single-operation take-back OPERATION …                        does it, then takes it back
 /// An item or profile that is already gone counts as done, as in the windows, which no longer show it.
 
 #include <algorithm>
@@ -86,8 +88,23 @@ void goOn(const std::string& id, const std::string& into, ProfileStore& store) {
     store.continueIn(list, *found, store.profile(into).value());
 }
 
+void run(const Words& words, ProfileStore& store);
+
+void takeBack(const Words& words, const ProfileStore& store) {
+    Reversal reversal;
+    ProfileStore noting(store, nullptr, &reversal);
+    run(words, noting);
+    if (!reversal.isPossible())
+        throw LauncherError("it can't be taken back");
+    // What is tried are the calls after this one.
+    static_cast<void>(store.exists(store.root() / ".take-back"));
+    noting.takeBack(reversal);
+}
+
 void run(const Words& words, ProfileStore& store) {
     const std::string& operation = words.at(0);
+    if (operation == "take-back")
+        return takeBack(Words(words.begin() + 1, words.end()), store);
     if (operation == "import-items")
         return importMissing(words, store);
     if (operation == "restore") {
@@ -110,6 +127,10 @@ void run(const Words& words, ProfileStore& store) {
         return;
     }
     const Component part = component(words.at(2)).value();
+    if (operation == "set-mode") {
+        store.setMode(shareMode(words.at(3)).value(), part, profile.value());
+        return;
+    }
     if (operation == "relink" || operation == "bring")
         return follow(operation, part, words.at(3), profile.value(), store);
     const auto item = itemNamed(words.at(3), part, profile.value(), store);

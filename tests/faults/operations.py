@@ -29,6 +29,7 @@ class Operation:
     archive: bool = False            # runs zip, which is made to fail as well
     gap: str = "$^"                  # what is missing for a moment; never the user's only copy
     resumes: str = "$^"              # what a failed run leaves so that the next one completes it
+    undoes: typing.Sequence[str] = () # what the command does first; only the calls with which it undoes that are tried
     setting: str = ""                # a fault, in strace's form, that every run meets: a more limited file system
 
 
@@ -287,9 +288,38 @@ def _drift():
                                         "--mode", "rules=none"], partly_shared, creates="nuovo", leaves_nothing=True)
 
 
+def _taken_back():
+    """Each does something and then takes it back."""
+    def changed(home):
+        next(operation for operation in _drift() if operation.name == "relink-file").prepare(home)
+
+    def without_plugins(home):
+        home.set_mode("copia", "plugins", "none")
+    tried = {
+        "delete": ["delete", "lavoro"],
+        "remove-link": ["remove", "lavoro", "skills", "revisione"],
+        "remove-own": ["remove", "lavoro", "skills", "solo qui"],
+        "skills-separate": ["set-mode", "lavoro", "skills", "separate"],
+        "skills-none": ["set-mode", "lavoro", "skills", "none"],
+        "skills-shared": ["set-mode", "nulla", "skills", "shared"],
+        "CLAUDE.md": ["set-mode", "lavoro", "CLAUDE.md", "separate"],
+        "plugins": ["set-mode", "copia", "plugins", "separate"],
+        "relink-file": ["relink", "lavoro", "rules", "sicurezza.md"],
+        "relink-folder": ["relink", "lavoro", "skills", "revisione"],
+        "bring-file": ["bring", "lavoro", "rules", "sicurezza.md"],
+        "bring-folder": ["bring", "lavoro", "skills", "revisione"],
+    }
+    for name, words in tried.items():
+        prepare = (changed if words[0] in ("relink", "bring") else without_plugins if name == "plugins" else _nothing)
+        # Where names can't be exchanged, what was made instead has no name for a moment.
+        for setting, gap in (("", "$^"), ("renameat2:error=EINVAL", WORK + "|.claude/|" + COPY + "plugins")):
+            yield Operation(f"take-back-{name}" + ("-in-steps" if setting else ""), ["operation", "take-back", *words],
+                            prepare, undoes=["operation", *words], setting=setting, gap=gap)
+
+
 OPERATIONS = [*_creations(), *_syncs(), *_collection_modes(), *_rules_modes(), *_import_modes(), *_sessions(),
               *_continuations(), *_launches(), *_helpers(), *_restorations(), *_backups(), *_restores(),
-              *_single_operations(), *_drift()]
+              *_single_operations(), *_drift(), *_taken_back()]
 # The same on file systems that can neither exchange names nor rename without replacing.
 _IN_STEPS = ("create-separate", "set-mode-CLAUDE.md-extend-separate", "set-mode-mcp-merged", "import-sessions",
              "launch-with-queue", "restore-desktop-swapped", "backup-replacing", "restore-archive",

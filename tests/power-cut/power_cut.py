@@ -30,6 +30,8 @@ PAUSE = 8000  # microseconds
 LATER = 1.4
 QUICK = {"create-separate-account", "set-mode-CLAUDE.md-shared-separate", "set-mode-mcp-merged", "import-sessions",
          "restore-desktop-mounts", "set-mode-skills-shared-separate"}
+# Of what is taken back, those that make nothing instead: there is only the state before and the Trash.
+TAKEN_BACK = ("take-back-delete", "take-back-remove-own")
 # What makes links, which the next sync makes again: nothing waits for them or for the folders that they are in.
 MAKE_LINKS = ("sync", "launch", "set-mode-skills-none-shared")
 
@@ -38,7 +40,8 @@ def chosen_operations():
     swapped = next(operation for operation in OPERATIONS if operation.name == "restore-desktop-swapped")
     # The normal folder and the accounts' folders lie on two file systems.
     mounts = dataclasses.replace(swapped, name="restore-desktop-mounts")
-    return [operation for operation in [*OPERATIONS, mounts] if not operation.setting]
+    return [operation for operation in [*OPERATIONS, mounts] if not operation.setting
+            and (not operation.undoes or operation.name in TAKEN_BACK)]
 
 
 def _files(paths):
