@@ -78,11 +78,20 @@ void AppModel::report(const std::exception& error) {
 }
 
 void AppModel::setNotice(const QString& text) {
+    tell(text, {});
+}
+
+void AppModel::tell(const QString& text, Offer offer) {
+    const bool couldTakeBack = canTakeBack();
+    m_offer = std::move(offer);
+    if (m_notice == text && canTakeBack() != couldTakeBack)
+        emit noticeChanged();
     setText(m_notice, text, &AppModel::noticeChanged);
     emit noticeShown();
 }
 
 void AppModel::clearNotice() {
+    m_offer = {};
     setText(m_notice, {}, &AppModel::noticeChanged);
 }
 void AppModel::clearError() {

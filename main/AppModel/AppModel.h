@@ -11,6 +11,7 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <set>
 #include <vector>
@@ -48,6 +49,8 @@ class AppModel : public QObject {
     Q_PROPERTY(QString busyMessage READ busyMessage NOTIFY busyMessageChanged)
     Q_PROPERTY(selvane::WorkProgress* work READ work CONSTANT) ///< how far what `busyMessage` names is
     Q_PROPERTY(QString notice READ notice NOTIFY noticeChanged)
+    /// Whether what the notice tells can be taken back.
+    Q_PROPERTY(bool canTakeBack READ canTakeBack NOTIFY noticeChanged)
     /// The ids of the profiles whose record is damaged, as they are shown.
     Q_PROPERTY(QStringList damaged READ damaged NOTIFY damagedChanged)
     /// Counts the reloads, so that whatever depends on files is read again when it changes.
@@ -92,6 +95,7 @@ public:
     QString errorMessage() const { return m_errorMessage; }
     QString busyMessage() const { return m_busyMessage; }
     QString notice() const { return m_notice; }
+    bool canTakeBack() const { return m_offer.reversal != nullptr; }
     QStringList damaged() const;
     qint64 revision() const { return m_revision; }
     QString pendingLaunch() const { return m_pendingLaunch; }
@@ -124,12 +128,15 @@ public:
     /// Runs a quick action, reports its failure, and always reloads.
     void perform(const std::function<void()>& action);
     /// Does work that is quick, at once, unless it would have to wait for a lock; then as `performLong`.
-    void performSoon(const QString& message, const Work& work);
+    void performSoon(const QString& message, const Work& work, const QString& takenBack = {});
     /// Does work that may take long, while the windows show `message` and how far it is and let the user
     /// cancel it. Reports its failure, always reloads, and calls `succeeded` only after success. If there is
     /// other work in progress, says so and does nothing.
+    ///
+    /// Work that is one operation which a store can take back names in `takenBack` what to tell when it is:
+    /// then its notice offers that, as long as it is shown.
     void performLong(
-        const QString& message, Work work, Done succeeded = [] {});
+        const QString& message, Work work, Done succeeded = [] {}, const QString& takenBack = {});
     void importSessions(
         const std::vector<CodeSession>& sessions, const Profile& source, const Profile& target,
         Done succeeded = [] {});
@@ -154,6 +161,8 @@ public slots:
     void select(const QString& id);
     void launch(const QString& id) { startLaunch(id, LaunchStep::asked); }
     void clearNotice();
+    /// Undoes what the notice tells; says so, or why that isn't possible any more.
+    void takeBack();
     void clearError();
     // The answers to the two launch dialogs.
     void confirmLaunch();
@@ -196,6 +205,11 @@ private:
     enum class LaunchStep { asked, confirmed, forced };
     struct LaunchPlan;
     struct LaunchResult;
+    /// How to take back what the notice tells.
+    struct Offer {
+        std::shared_ptr<const Reversal> reversal; ///< null for none
+        QString takenBack;
+    };
     struct SignIn {
         SignInLink link;
         SignInTargets to;
@@ -210,6 +224,8 @@ private:
     void handOver(const SignInLink& link, const SignInTarget& target);
     bool offersSignIns(const Profile& profile) const;
     bool isFree();
+    void tell(const QString& text, Offer offer);
+    static Offer offerOf(const std::shared_ptr<Reversal>& reversal, const QString& takenBack);
     void runBackup(BackupScope scope, const std::filesystem::path& archive);
     void report(const std::exception& error);
     std::function<void()> sayUnreached(const QString& problem, const std::filesystem::path& item);
@@ -229,6 +245,7 @@ private:
     QString m_errorMessage;
     QString m_busyMessage;
     QString m_notice;
+    Offer m_offer;
     QString m_pendingLaunch;
     QString m_offerForceQuit;
     std::optional<SignIn> m_signIn;

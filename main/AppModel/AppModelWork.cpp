@@ -35,13 +35,39 @@ bool AppModel::isFree() {
     return false;
 }
 
-void AppModel::performSoon(const QString& message, const Work& work) {
+AppModel::Offer AppModel::offerOf(const std::shared_ptr<Reversal>& reversal, const QString& takenBack) {
+    return reversal && reversal->isPossible() ? Offer{reversal, takenBack} : Offer();
+}
+
+void AppModel::takeBack() {
+    if (!canTakeBack() || !isFree())
+        return;
+    const Offer offer = m_offer;
+    clearNotice();
+    // A profile that has been deleted is selected again.
+    const QString id = offer.reversal->isDeletion ? qtText(offer.reversal->profiles.front().id) : QString();
+    performLong(
+        tr("Annullamento…"),
+        [offer](ProfileStore& store) {
+            store.takeBack(*offer.reversal);
+            return offer.takenBack;
+        },
+        [this, id] {
+            if (!id.isEmpty())
+                select(id);
+        });
+}
+
+void AppModel::performSoon(const QString& message, const Work& work, const QString& takenBack) {
+    const auto reversal = takenBack.isEmpty() ? nullptr : std::make_shared<Reversal>();
     try {
         const FolderLock::Haste haste;
-        if (const QString notice = work(m_store); !notice.isEmpty())
-            setNotice(notice);
+        ProfileStore store(m_store, nullptr, reversal.get());
+        if (const QString notice = work(store); !notice.isEmpty())
+            tell(notice, offerOf(reversal, takenBack));
     } catch (const FolderLock::Occupied&) {
-        performLong(message, work);
+        performLong(
+            message, work, [] {}, takenBack);
         return;
     } catch (const std::exception& error) {
         report(error);
@@ -49,7 +75,7 @@ void AppModel::performSoon(const QString& message, const Work& work) {
     reload();
 }
 
-void AppModel::performLong(const QString& message, Work work, Done succeeded) {
+void AppModel::performLong(const QString& message, Work work, Done succeeded, const QString& takenBack) {
     if (!isFree())
         return;
     struct Outcome {
@@ -58,18 +84,19 @@ void AppModel::performLong(const QString& message, Work work, Done succeeded) {
         bool isCancelled = false;
     };
     const auto progress = std::make_shared<Progress>();
+    const auto reversal = takenBack.isEmpty() ? nullptr : std::make_shared<Reversal>();
     m_workProgress.begin(progress);
     setText(m_busyMessage, message, &AppModel::busyMessageChanged);
-    const auto run = [this, progress, work = std::move(work)] {
+    const auto run = [this, progress, reversal, work = std::move(work)] {
         Outcome outcome;
         outcome.failure = failureOf([&] {
-            ProfileStore store(m_store, *progress);
+            ProfileStore store(m_store, progress.get(), reversal.get());
             outcome.notice = work(store);
         });
         outcome.isCancelled = outcome.failure && progress->isCancelled();
         return outcome;
     };
-    m_work = runInBackground(this, run, [this, succeeded = std::move(succeeded)](const Outcome& outcome) {
+    const auto done = [this, reversal, takenBack, succeeded = std::move(succeeded)](const Outcome& outcome) {
         m_workProgress.end();
         setText(m_busyMessage, {}, &AppModel::busyMessageChanged);
         reload();
@@ -79,10 +106,11 @@ void AppModel::performLong(const QString& message, Work work, Done succeeded) {
             setText(m_errorMessage, *outcome.failure, &AppModel::errorMessageChanged);
         } else {
             if (!outcome.notice.isEmpty())
-                setNotice(outcome.notice);
+                tell(outcome.notice, offerOf(reversal, takenBack));
             succeeded();
         }
-    });
+    };
+    m_work = runInBackground(this, run, done);
 }
 
 void AppModel::importSessions(const std::vector<CodeSession>& sessions, const Profile& source,

@@ -79,22 +79,26 @@ bool ComponentModel::compare(int row) {
 
 void ComponentModel::relink(int row) {
     if (const ChangedItem* item = changedItem(row))
-        m_app->performSoon(tr("Collegamento di «%1»…").arg(qtText(item->name)),
-                           [item = *item, profile = *m_profile,
-                            notice = tr("Ripreso da «%1»").arg(sourceName())](ProfileStore& store) {
-                               store.relink(item, profile);
-                               return notice;
-                           });
+        m_app->performSoon(
+            tr("Collegamento di «%1»…").arg(qtText(item->name)),
+            [item = *item, profile = *m_profile,
+             notice = tr("Ripreso da «%1»").arg(sourceName())](ProfileStore& store) {
+                store.relink(item, profile);
+                return notice;
+            },
+            tr("«%1» rimesso com'era").arg(qtText(item->name)));
 }
 
 void ComponentModel::bring(int row) {
     if (const ChangedItem* item = changedItem(row))
-        m_app->performLong(tr("Copia di «%1»…").arg(qtText(item->name)),
-                           [item = *item, profile = *m_profile,
-                            notice = tr("Portato in «%1»").arg(sourceName())](ProfileStore& store) {
-                               store.bringToSource(item, profile);
-                               return notice;
-                           });
+        m_app->performLong(
+            tr("Copia di «%1»…").arg(qtText(item->name)),
+            [item = *item, profile = *m_profile,
+             notice = tr("Portato in «%1»").arg(sourceName())](ProfileStore& store) {
+                store.bringToSource(item, profile);
+                return notice;
+            },
+            [] {}, tr("«%1» rimesso com'era").arg(qtText(item->name)));
 }
 
 void ComponentModel::keepOwn(int row) {
@@ -110,11 +114,13 @@ void ComponentModel::relinkAll(const QString& profileId) {
     if (profile == nullptr)
         return;
     const QString notice = tr("Ripresi da «%1»").arg(sourceName());
-    m_app->performLong(tr("Collegamento di «%1»…").arg(title()),
-                       [component = m_component, profile = *profile, notice](ProfileStore& store) {
-                           store.relinkAll(component, profile);
-                           return notice;
-                       });
+    m_app->performLong(
+        tr("Collegamento di «%1»…").arg(title()),
+        [component = m_component, profile = *profile, notice](ProfileStore& store) {
+            store.relinkAll(component, profile);
+            return notice;
+        },
+        [] {}, tr("%1: rimessi com'erano").arg(title()));
 }
 
 } // namespace selvane

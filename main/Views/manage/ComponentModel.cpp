@@ -227,11 +227,17 @@ void ComponentModel::setMode(int index) {
     if (!m_profile || index < 0 || index >= static_cast<int>(allowed.size()))
         return;
     const ShareMode mode = allowed[static_cast<std::size_t>(index)];
-    m_app->performLong(tr("Cambio di «%1»…").arg(title()),
-                       [mode, component = m_component, profile = *m_profile](ProfileStore& store) {
-                           store.setMode(mode, component, profile);
-                           return QString();
-                       });
+    const ShareMode before = m_profile->mode(m_component);
+    if (mode == before)
+        return;
+    const QString done = tr("%1: %2").arg(title(), qtText(label(mode)));
+    m_app->performLong(
+        tr("Cambio di «%1»…").arg(title()),
+        [mode, component = m_component, profile = *m_profile, done](ProfileStore& store) {
+            store.setMode(mode, component, profile);
+            return done;
+        },
+        [] {}, tr("%1: di nuovo %2").arg(title(), qtText(label(before))));
 }
 
 void ComponentModel::reveal() {
@@ -249,27 +255,34 @@ void ComponentModel::reimport(const QString& profileId) {
     const Profile* profile = m_app->profile(profileId);
     if (profile == nullptr)
         return;
-    m_app->performLong(tr("Reimportazione di «%1»…").arg(title()),
-                       [component = m_component, profile = *profile,
-                        done = tr("%1: reimportati").arg(title())](ProfileStore& store) {
-                           const auto id = profile.meta.source;
-                           const auto source = id ? store.profile(*id) : std::nullopt;
-                           if (!source)
-                               throw LauncherError("Il profilo da cui «" + profile.meta.name +
-                                                   "» eredita non c'è più");
-                           store.reimport(component, profile, *source);
-                           return done;
-                       });
+    m_app->performLong(
+        tr("Reimportazione di «%1»…").arg(title()),
+        [component = m_component, profile = *profile,
+         done = tr("%1: reimportati").arg(title())](ProfileStore& store) {
+            const auto id = profile.meta.source;
+            const auto source = id ? store.profile(*id) : std::nullopt;
+            if (!source)
+                throw LauncherError("Il profilo da cui «" + profile.meta.name + "» eredita non c'è più");
+            store.reimport(component, profile, *source);
+            return done;
+        },
+        [] {}, tr("%1: rimessi com'erano").arg(title()));
 }
 
 void ComponentModel::remove(int row) {
-    if (const ComponentItem* item = m_items.item(row))
-        m_app->performSoon(
-            tr("Rimozione di «%1»…").arg(qtText(item->name)),
-            [item = *item, profile = *m_profile, component = m_component](ProfileStore& store) {
-                store.remove(item, profile, component);
-                return QString();
-            });
+    const ComponentItem* item = m_items.item(row);
+    if (item == nullptr)
+        return;
+    const QString name = qtText(item->name);
+    const QString done =
+        item->isLinked() ? tr("«%1» tolto").arg(name) : tr("«%1» spostato nel Cestino").arg(name);
+    m_app->performSoon(
+        tr("Rimozione di «%1»…").arg(name),
+        [item = *item, profile = *m_profile, component = m_component, done](ProfileStore& store) {
+            store.remove(item, profile, component);
+            return done;
+        },
+        tr("«%1» rimesso al suo posto").arg(name));
 }
 
 void ComponentModel::makeOwn(int row) {

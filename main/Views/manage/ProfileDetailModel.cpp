@@ -268,11 +268,18 @@ void ProfileDetailModel::setIsolated(bool isolated) {
 }
 
 void ProfileDetailModel::remove(const QString& profileId) {
-    if (const Profile* profile = m_app->profile(profileId))
-        m_app->performLong(tr("Spostamento nel Cestino…"), [profile = *profile](ProfileStore& store) {
+    const Profile* profile = m_app->profile(profileId);
+    if (profile == nullptr)
+        return;
+    const QString name = qtText(profile->meta.name);
+    const QString done = tr("Profilo «%1» spostato nel Cestino").arg(name);
+    m_app->performLong(
+        tr("Spostamento nel Cestino…"),
+        [profile = *profile, done](ProfileStore& store) {
             store.deleteProfile(profile);
-            return QString();
-        });
+            return done;
+        },
+        [] {}, tr("Profilo «%1» rimesso al suo posto").arg(name));
 }
 
 } // namespace selvane

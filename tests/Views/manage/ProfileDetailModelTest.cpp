@@ -267,6 +267,61 @@ TEST_F(ProfileDetailModelTest, answers_ConcernTheProfileThatWasAskedAbout) {
     EXPECT_NE(model().errorMessage(), "") << "it has no source";
 }
 
+TEST_F(ProfileDetailModelTest, whatANoticeTells_CanBeTakenBackUntilTheNext) {
+    writeTree(home / ".claude", {{"rules/r.md", "r"}, {"agents/a.md", "a"}, {"settings.json", "{}"}});
+    const fs::path folder = home.make("Lavoro").configDir;
+    fs::remove(folder / "agents/a.md");
+    writeTree(folder, {{"rules/sola.md", "sola"}, {"agents/a.md", "a mia"}});
+    const auto rule = [&](const char* name) { return rowOf(Component::rules, name); };
+    struct Case {
+        std::function<void()> act;
+        const char* told;
+        const char* takenBack;
+    };
+    const std::vector<Case> cases = {
+        {[&] { shown(Component::rules).remove(rule("sola.md")); }, "«sola.md» spostato nel Cestino",
+         "«sola.md» rimesso al suo posto"},
+        {[&] { shown(Component::rules).remove(rule("r.md")); }, "«r.md» tolto",
+         "«r.md» rimesso al suo posto"},
+        {[&] { shown(Component::rules).setMode(1); }, "Regole (rules/): Separato",
+         "Regole (rules/): di nuovo Unificato"},
+        {[&] { shown(Component::agents).relink(0); }, "Ripreso da «Principale»", "«a.md» rimesso com'era"},
+        {[&] { shown(Component::agents).relinkAll("lavoro"); }, "Ripresi da «Principale»",
+         "Agenti: rimessi com'erano"},
+        {[&] { shown(Component::agents).bring(0); }, "Portato in «Principale»", "«a.md» rimesso com'era"},
+        {[&] { shown(Component::settings).reimport("lavoro"); }, "Impostazioni e hook: reimportati",
+         "Impostazioni e hook: rimessi com'erano"},
+        {[&] { detail.remove("lavoro"); }, "Profilo «Lavoro» spostato nel Cestino",
+         "Profilo «Lavoro» rimesso al suo posto"},
+    };
+    const Tree before = treeOf(home / ".claude-profiles");
+    for (const Case& tried : cases) {
+        show("lavoro");
+        tried.act();
+        waitUntilIdle();
+        EXPECT_EQ(model().notice(), tried.told);
+        EXPECT_TRUE(model().canTakeBack());
+        model().takeBack();
+        waitUntilIdle();
+        EXPECT_EQ(model().errorMessage(), "");
+        EXPECT_EQ(model().notice(), tried.takenBack);
+        EXPECT_FALSE(model().canTakeBack());
+        EXPECT_EQ(model().selection(), "lavoro");
+        EXPECT_EQ(treeOf(home / ".claude-profiles"), before);
+    }
+    for (const auto& end : {std::function([&] { model().clearNotice(); }),
+                            std::function([&] { model().setNotice(model().notice()); })}) {
+        show("lavoro");
+        shown(Component::rules).remove(rule("sola.md"));
+        writeFile(folder / "rules/sola.md", "sola"); // for the next time
+        EXPECT_TRUE(model().canTakeBack());
+        expectUpToDate();
+        end();
+        EXPECT_FALSE(model().canTakeBack());
+        expectUpToDate();
+    }
+}
+
 TEST_F(ProfileDetailModelTest, names_AreTrimmedAndNeverEmpty) {
     home.make("Lavoro");
     show("lavoro");
