@@ -66,7 +66,7 @@ TEST_F(Manage, ASectionIsFoldedAndStaysSo) {
     EXPECT_FALSE(tabTo(selvane, "Skill").is(ATSPI_STATE_EXPANDED));
 }
 
-TEST_F(Manage, AProfileIsDeletedOnceThatIsConfirmed) {
+TEST_F(Manage, AProfileIsDeletedOnceThatIsConfirmed_AndTakenBack) {
     const std::string question = "Spostare «Lavoro» nel Cestino?";
     auto selvane = start();
     selectLavoro(selvane);
@@ -86,7 +86,18 @@ TEST_F(Manage, AProfileIsDeletedOnceThatIsConfirmed) {
     press({XK_Return});
     selvane.waitUntilGone(ATSPI_ROLE_LIST_ITEM, "Lavoro");
     EXPECT_FALSE(fs::exists(profile("lavoro")));
-    EXPECT_TRUE(fs::is_symlink(home / ".local/share/Trash/files/lavoro/skills/pdf"));
+    const fs::path trashed = home / ".local/share/Trash/files/lavoro";
+    EXPECT_TRUE(fs::is_symlink(trashed / "skills/pdf"));
+
+    selvane.find(ATSPI_ROLE_ALERT, "Profilo «Lavoro» spostato nel Cestino");
+    press({XK_F6});
+    EXPECT_EQ(selvane.waitForFocus("Annulla").description(), "Profilo «Lavoro» spostato nel Cestino");
+    press({XK_Escape});
+    press({XK_Control_L, 'z'});
+    selvane.find(ATSPI_ROLE_LIST_ITEM, "Lavoro");
+    selvane.find(ATSPI_ROLE_ALERT, "Profilo «Lavoro» rimesso al suo posto");
+    EXPECT_TRUE(fs::is_symlink(profile("lavoro") / "skills/pdf"));
+    EXPECT_FALSE(fs::exists(trashed));
 }
 
 } // namespace

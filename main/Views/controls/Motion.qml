@@ -33,6 +33,9 @@ QtObject {
     readonly property int busyDelay: 200 ///< before quick work is shown at all
     readonly property int busyLeast: 400 ///< so that it doesn't flash
     readonly property int noticeDuration: 2500
+    readonly property int offerDuration: 8000 ///< of a notice whose action can be chosen
+    readonly property int countdownSteps: 4 ///< with reduced motion
+    readonly property int countdownInterval: 40
     readonly property int toolTipDelay: 600
     readonly property real menuSlide: reducedMotion ? 0 : 4
     readonly property real sheetSlide: reducedMotion ? 0 : 8

@@ -53,6 +53,8 @@ QtObject {
     readonly property color coolLine: Qt.alpha(brand.cool, 0.55)
     readonly property color accentSoft: Qt.alpha(brand.accent, 0.14)
     readonly property color accent2Soft: Qt.alpha(brand.accent2, 0.14)
+    readonly property color onFillSoft: Qt.alpha(brand.bg, 0.1)
+    readonly property color onFillFaint: Qt.alpha(brand.bg, 0.22)
     readonly property color scrim: Qt.rgba(5 / 255, 8 / 255, 7 / 255, 0.72)
     readonly property color rowHover: Qt.alpha(brand.bg3, 0.55)
     readonly property color transparent: "transparent"

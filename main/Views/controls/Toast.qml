@@ -6,33 +6,67 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A short notice at the bottom of the window, shown while it has a text. Its owner decides how long.
+/// A short notice at the bottom of the window, shown while it has a text. Its owner decides how long, and for one
+/// with an action shows that with `remaining`.
 Item {
     id: toast
 
     required property string text
+    property string action ///< the label of its button; empty for none
+    property real remaining: 1
     property string lastText ///< still readable while it leaves
+    property string lastAction
+    property Item previousFocus: null
 
     readonly property bool isShown: text !== ""
+    readonly property bool offers: lastAction !== ""
+    /// Whether somebody is about to use the action.
+    readonly property bool isHeld: isShown && (pointer.hovered || button.activeFocus)
+
+    signal triggered
+
+    function takeFocus(): void {
+        if (button.activeFocus || toast.action === "")
+            return
+        toast.previousFocus = toast.Window.activeFocusItem
+        button.forceActiveFocus(Qt.ShortcutFocusReason)
+    }
+    function giveFocusBack(): void {
+        if (button.activeFocus && toast.previousFocus)
+            toast.previousFocus.forceActiveFocus(Qt.OtherFocusReason)
+        button.focus = false
+        toast.previousFocus = null
+    }
+    function keep(): void {
+        if (toast.text === "")
+            return
+        toast.lastText = toast.text
+        toast.lastAction = toast.action
+    }
 
     anchors.fill: parent
     z: Theme.toastLayer
     visible: plate.opacity > 0
 
-    onTextChanged: {
-        if (text !== "") // `isShown` may not have followed yet
-            lastText = text
+    // Both may change, one after the other.
+    onTextChanged: Qt.callLater(toast.keep)
+    onActionChanged: {
+        Qt.callLater(toast.keep)
+        if (toast.action === "")
+            toast.giveFocusBack()
     }
+    Component.onCompleted: keep()
 
     LeafShape {
         id: plate
 
         property real slide: toast.isShown ? 0 : Theme.motion.toastSlide
 
+        readonly property real captionRight: toast.offers ? Theme.space16 + button.width + Theme.space8 : Theme.space20
+
         anchors.horizontalCenter: parent.horizontalCenter
         y: toast.height - height - Theme.sheets.toastMargin + slide
-        width: Math.min(Theme.space16 + sign.width + Theme.space10 + Math.ceil(caption.implicitWidth) + Theme.space20,
-                        toast.width - 2 * Theme.sheets.toastMargin)
+        width: Math.min(caption.x + Math.ceil(caption.implicitWidth) + captionRight, toast.width - 2 * Theme.sheets.toastMargin)
         height: Theme.sheets.toastHeight
         tip: Theme.buttonTip
         color: Theme.text
@@ -54,27 +88,52 @@ Item {
             }
         }
 
+        HoverHandler {
+            id: pointer
+
+            enabled: toast.offers
+        }
         PathIcon {
             id: sign
 
             anchors.verticalCenter: parent.verticalCenter
             x: Theme.space16
+            visible: !toast.offers
             name: "check-circle"
             weight: PathIcon.Fill
             size: Theme.iconAlone
             color: Theme.onFill
+        }
+        EmptyingLeaf {
+            anchors.centerIn: sign
+            visible: toast.offers
+            filled: toast.remaining
         }
         StyledText {
             id: caption
 
             anchors.verticalCenter: parent.verticalCenter
             x: sign.x + sign.width + Theme.space10
-            width: parent.width - x - Theme.space20
+            width: parent.width - x - plate.captionRight
             look: Theme.type.notice
             text: toast.lastText
             color: Theme.onFill
             elide: Text.ElideRight
             Accessible.ignored: true
+        }
+        ToastAction {
+            id: button
+
+            objectName: "toastAction"
+            anchors.verticalCenter: parent.verticalCenter
+            x: parent.width - width - Theme.space8
+            visible: toast.offers
+            available: toast.action !== ""
+            text: toast.lastAction
+            onClicked: toast.triggered()
+
+            Accessible.description: toast.text
+            Keys.onEscapePressed: toast.giveFocusBack()
         }
     }
 }

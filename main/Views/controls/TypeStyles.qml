@@ -52,6 +52,7 @@ QtObject {
     readonly property TextStyle control: Display { size: 13; line: 16; weight: Font.Medium }
     readonly property TextStyle menuLabel: Display { size: 13; line: 18; weight: Font.Medium }
     readonly property TextStyle notice: Display { size: 13; line: 20; weight: Font.Medium }
+    readonly property TextStyle noticeAction: Display { size: 13; line: 20; weight: Font.DemiBold }
     readonly property TextStyle smallControl: Display { size: 12; line: 16; weight: Font.Medium }
     readonly property TextStyle status: Display { size: 12; line: 20; weight: Font.Medium }
     readonly property TextStyle small: Display { size: 12; line: 16 }

@@ -7,8 +7,7 @@ import QtQuick
 import Selvane
 
 /// The application's messages and questions over a window. Every window shows that work is in progress; only
-/// the key window shows notices, errors and the questions of a launch, one at a time. A notice stays until the
-/// user can have seen it: its time runs only while the application is the active one.
+/// the key window shows notices, errors and the questions of a launch, one at a time.
 Item {
     id: feedback
 
@@ -16,6 +15,7 @@ Item {
     required property bool isKey
     property bool isActive: Application.state === Qt.ApplicationActive
     property int noticeDuration: Theme.motion.noticeDuration
+    property int offerDuration: Theme.motion.offerDuration
     property ModalLayer alert: null
     property string alertKind
 
@@ -63,30 +63,18 @@ Item {
     Connections {
         target: feedback.app
 
-        function onNoticeShown(): void {
-            if (feedback.isKey)
-                Announcer.announce(toast, feedback.app.notice)
-            if (noticeTimer.running)
-                noticeTimer.restart()
-        }
         function onErrorMessageChanged(): void {
             if (feedback.alertKind === "error" && feedback.app.errorMessage !== "")
                 (feedback.alert as AlertDialog).message = feedback.app.errorMessage
         }
     }
-    Timer {
-        id: noticeTimer
-
-        interval: feedback.noticeDuration
-        running: toast.isShown && feedback.isActive
-        onTriggered: feedback.app.clearNotice()
-    }
-
-    Toast {
-        id: toast
-
-        objectName: "toast"
-        text: feedback.isKey ? feedback.app.notice : ""
+    NoticeLayer {
+        app: feedback.app
+        isKey: feedback.isKey
+        isActive: feedback.isActive
+        isCovered: feedback.covers
+        noticeDuration: feedback.noticeDuration
+        offerDuration: feedback.offerDuration
     }
     BusyOverlay {
         id: busy

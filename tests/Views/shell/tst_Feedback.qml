@@ -49,6 +49,9 @@ Item {
         }
     }
     Component { id: busy; BusyOverlay { message: "" } }
+    Component { id: field; TextInput { text: "testo" } }
+    Component { id: emptying; EmptyingLeaf { filled: 1 } }
+    ProfileDetailModel { id: detail; app: home.app }
     SignalSpy { id: newProfile; signalName: "newProfileAsked" }
 
     ViewTestCase {
@@ -190,6 +193,104 @@ Item {
             compare(notice(key), "Già sincronizzato")
             key.isActive = true
             tryVerify(() => notice(key) === "")
+        }
+
+        /// A notice that can be taken back.
+        function deleteProfile(): void {
+            home.makeProfile("Lavoro")
+            detail.remove("lavoro")
+            tryCompare(home.app, "notice", "Profilo «Lavoro» spostato nel Cestino")
+            verify(home.app.canTakeBack)
+        }
+        function isBack(): bool {
+            return home.what(".claude-profiles/lavoro") === "/"
+        }
+
+        function test_offer_IsTakenWithItsKey_ButNotWhileTyping(): void {
+            deleteProfile()
+            const text = createTemporaryObject(field, scene)
+            text.forceActiveFocus()
+            keyClick(Qt.Key_Z, Qt.ControlModifier)
+            verify(home.app.canTakeBack)
+            text.focus = false
+            keyClick(Qt.Key_Z, Qt.ControlModifier)
+            tryCompare(home.app, "notice", "Profilo «Lavoro» rimesso al suo posto")
+            verify(isBack())
+            verify(!home.app.canTakeBack)
+            compare(home.app.selection, "lavoro")
+            tryVerify(() => notice(key) === "")
+        }
+
+        function test_offer_GetsTheFocusOnlyWhenAsked_AndGivesItBack(): void {
+            const button = findChild(key, "toastAction")
+            const before = scene.Window.activeFocusItem
+            deleteProfile()
+            compare(button.label, "Annulla")
+            verify(!button.activeFocus)
+            keyClick(Qt.Key_F6)
+            verify(button.activeFocus)
+            keyClick(Qt.Key_Escape)
+            compare(scene.Window.activeFocusItem, before)
+            keyClick(Qt.Key_F6)
+            keyClick(Qt.Key_Return)
+            tryVerify(isBack)
+            verify(!button.activeFocus)
+        }
+
+        function test_offer_LastsWhileSomebodyMayTakeIt(): void {
+            const toast = findChild(key, "toast")
+            const button = findChild(key, "toastAction")
+            key.offerDuration = 300
+            key.isActive = false
+            deleteProfile()
+            wait(400)
+            compare(toast.remaining, 1)
+            key.isActive = true
+            tryVerify(() => toast.remaining < 1)
+            mouseMove(button)
+            tryVerify(() => toast.isHeld)
+            const left = toast.remaining
+            wait(400)
+            compare(toast.remaining, left)
+            keyClick(Qt.Key_F6)
+            mouseMove(scene, 1, 1)
+            wait(400)
+            compare(toast.remaining, left)
+            keyClick(Qt.Key_Escape)
+            tryVerify(() => notice(key) === "")
+            verify(!home.app.canTakeBack)
+            verify(!isBack())
+        }
+
+        function test_offer_GoesWithItsNotice(): void {
+            deleteProfile()
+            home.makeProfile("Studio")
+            home.app.sync("studio")
+            compare(notice(key), "Già sincronizzato")
+            keyClick(Qt.Key_Z, Qt.ControlModifier)
+            keyClick(Qt.Key_F6)
+            verify(!findChild(key, "toastAction").activeFocus)
+            verify(!isBack())
+        }
+
+        function test_offer_ChangedMeanwhile_SaysSoAndDoesNothing(): void {
+            deleteProfile()
+            home.write(".claude-profiles/lavoro/nota.md", "di altri")
+            home.act(findChild(key, "toastAction"), "Press")
+            tryVerify(() => home.app.errorMessage.startsWith("\"lavoro\" è cambiato nel frattempo"))
+            compare(home.what(".claude-profiles/lavoro/nota.md"), "di altri")
+        }
+
+        function test_leaf_WithReducedMotion_EmptiesInFourSteps(): void {
+            const leaf = createTemporaryObject(emptying, scene)
+            leaf.filled = 0.6
+            compare(leaf.shown, 0.6)
+            Theme.reducedMotion = true
+            compare([1, 0.76, 0.6, 0.5, 0.1, 0].map(filled => {
+                leaf.filled = filled
+                return leaf.shown
+            }), [1, 1, 0.75, 0.5, 0.25, 0])
+            Theme.reducedMotion = false
         }
 
         function test_busy_TakesAllKeys(): void {

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Selvane developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Selvane
+
+/// Counts down while it runs; while it doesn't, keeps what is left.
+Timer {
+    id: countdown
+
+    required property int duration
+    property real left: 1 ///< of the duration; 0 when it has elapsed
+    property double last: 0
+
+    signal elapsed
+
+    function begin(): void {
+        countdown.left = 1
+        countdown.last = Date.now()
+    }
+
+    interval: Theme.motion.countdownInterval
+    repeat: true
+    onRunningChanged: last = Date.now()
+    onTriggered: {
+        const now = Date.now()
+        countdown.left = Math.max(0, countdown.left - (now - countdown.last) / countdown.duration)
+        countdown.last = now
+        if (countdown.left === 0)
+            countdown.elapsed()
+    }
+}
