@@ -19,6 +19,7 @@
 #include "AppModel/WorkProgress.h"
 #include "PictureHome.h"
 #include "Scene.h"
+#include "Views/manage/ProfileDetailModel.h"
 #include "Views/shell/LauncherApp.h"
 #include "Views/shell/QmlModule.h"
 #include "artwork/Brand.h"
@@ -185,6 +186,30 @@ void takeProgress(Scene& scene) {
         "busy-cancelling");
 }
 
+void waitUntilIdle(const AppModel& model) {
+    while (!model.busyMessage().isEmpty())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+/// The notice of something that can be taken back, with the focus on its button, and of that it was.
+void takeOffer(Scene& scene) {
+    ProfileDetailModel detail;
+    detail.setApp(&scene.model);
+    detail.remove("laboratorio");
+    waitUntilIdle(scene.model);
+    scene.take(kManage, "notice-offer");
+    QQuickItem* toast = itemWith(*scene.launcher.window(kManage)->contentItem(), "offers", true);
+    if (toast == nullptr)
+        qFatal("nothing can be taken back");
+    QMetaObject::invokeMethod(toast, "takeFocus");
+    scene.take(kManage, "notice-offer-focused");
+    scene.model.takeBack();
+    waitUntilIdle(scene.model);
+    scene.take(kManage, "notice-taken-back");
+    scene.model.clearNotice();
+    scene.model.select("lavoro");
+}
+
 void takeFeedback(Scene& scene) {
     scene.takeWith(kManage, "AlertDialog",
                    {{"title", "Spostare «Lavoro» nel Cestino?"},
@@ -244,6 +269,7 @@ int takeAll(const std::optional<QDir>& folder, const std::string& place) {
         takeManage(scene);
         takeDrift(scene, home);
         takeSignIn(scene, home);
+        takeOffer(scene);
         takeFeedback(scene);
         takeLargeText(scene);
         takeDamaged(scene, home);
