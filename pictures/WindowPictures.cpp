@@ -198,10 +198,9 @@ void takeOffer(Scene& scene) {
     detail.remove("laboratorio");
     waitUntilIdle(scene.model);
     scene.take(kManage, "notice-offer");
-    QQuickItem* toast = itemWith(*scene.launcher.window(kManage)->contentItem(), "offers", true);
-    if (toast == nullptr)
+    auto* const toast = scene.launcher.window(kManage)->findChild<QQuickItem*>(QStringLiteral("toast"));
+    if (toast == nullptr || !QMetaObject::invokeMethod(toast, "takeFocus"))
         qFatal("nothing can be taken back");
-    QMetaObject::invokeMethod(toast, "takeFocus");
     scene.take(kManage, "notice-offer-focused");
     scene.model.takeBack();
     waitUntilIdle(scene.model);

@@ -59,6 +59,6 @@ Column {
         width: 480
         height: 88
 
-        Toast { text: "Aggiunti 2, rimosso 1 collegamento" }
+        Toast { text: "Aggiunti 2, rimosso 1 collegamento"; remaining: 1 }
     }
 }

@@ -13,7 +13,7 @@ Item {
 
     required property string text
     property string action ///< the label of its button; empty for none
-    property real remaining: 1
+    required property real remaining ///< of the time, from 1 down to 0
     property string lastText ///< still readable while it leaves
     property string lastAction
     property Item previousFocus: null

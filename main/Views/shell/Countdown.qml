@@ -11,13 +11,14 @@ Timer {
     id: countdown
 
     required property int duration
-    property real left: 1 ///< of the duration; 0 when it has elapsed
+    property real passed ///< of the duration; 1 when it has elapsed
+    readonly property real left: 1 - passed
     property double last: 0
 
     signal elapsed
 
     function begin(): void {
-        countdown.left = 1
+        countdown.passed = 0
         countdown.last = Date.now()
     }
 
@@ -26,7 +27,7 @@ Timer {
     onRunningChanged: last = Date.now()
     onTriggered: {
         const now = Date.now()
-        countdown.left = Math.max(0, countdown.left - (now - countdown.last) / countdown.duration)
+        countdown.passed = Math.min(1, countdown.passed + (now - countdown.last) / countdown.duration)
         countdown.last = now
         if (countdown.left === 0)
             countdown.elapsed()

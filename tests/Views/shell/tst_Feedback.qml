@@ -223,9 +223,9 @@ Item {
 
         function test_offer_GetsTheFocusOnlyWhenAsked_AndGivesItBack(): void {
             const button = findChild(key, "toastAction")
-            const before = scene.Window.activeFocusItem
             deleteProfile()
-            compare(button.label, "Annulla")
+            tryCompare(button, "label", "Annulla")
+            const before = scene.Window.activeFocusItem
             verify(!button.activeFocus)
             keyClick(Qt.Key_F6)
             verify(button.activeFocus)
