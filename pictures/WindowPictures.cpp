@@ -191,17 +191,15 @@ void waitUntilIdle(const AppModel& model) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
-/// The notice of something that can be taken back, with the focus on its button, and of that it was.
+/// The notice of something that can be taken back, and that it was.
 void takeOffer(Scene& scene) {
     ProfileDetailModel detail;
     detail.setApp(&scene.model);
     detail.remove("laboratorio");
     waitUntilIdle(scene.model);
+    if (!scene.model.canTakeBack())
+        qFatal("nothing can be taken back: %s", qPrintable(scene.model.errorMessage()));
     scene.take(kManage, "notice-offer");
-    auto* const toast = scene.launcher.window(kManage)->findChild<QQuickItem*>(QStringLiteral("toast"));
-    if (toast == nullptr || !QMetaObject::invokeMethod(toast, "takeFocus"))
-        qFatal("nothing can be taken back");
-    scene.take(kManage, "notice-offer-focused");
     scene.model.takeBack();
     waitUntilIdle(scene.model);
     scene.take(kManage, "notice-taken-back");
