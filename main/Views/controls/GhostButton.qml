@@ -17,6 +17,7 @@ Pressable {
     property int size: GhostButton.Medium ///< Large: beside a confirm button
     property bool bare: false ///< no border at rest
     property bool soft: false ///< the label is as faint as the icon
+    property bool held: false ///< lit while what it has opened is open
     property real gap: small ? Theme.space6 : Theme.space8 ///< from the icon to the label
 
     readonly property bool iconOnly: text === ""
@@ -33,7 +34,7 @@ Pressable {
     Rectangle {
         anchors.fill: parent
         radius: Theme.radiusControl
-        color: button.pressed ? Theme.separator : button.hovered ? Theme.raised : Qt.alpha(Theme.raised, 0)
+        color: button.pressed || button.held ? Theme.separator : button.hovered ? Theme.raised : Qt.alpha(Theme.raised, 0)
         border.width: Theme.hairline
         border.color: button.active ? Theme.controlBorder : button.bare ? Qt.alpha(Theme.separator, 0)
                                                                         : Theme.separator
@@ -59,7 +60,7 @@ Pressable {
             visible: button.symbol !== ""
             symbol: button.symbol
             size: button.iconOnly ? Theme.iconAlone : Theme.iconControl
-            color: button.active ? Theme.text : Theme.textSoft
+            color: button.active || button.held ? Theme.text : Theme.textSoft
         }
         StyledText {
             anchors.verticalCenter: parent.verticalCenter

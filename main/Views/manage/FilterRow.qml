@@ -46,7 +46,8 @@ Item {
         text: row.items.filter
         onTextEdited: {
             row.items.filter = text
-            Announcer.announce(tally, tally.text)
+            if (tally.visible)
+                Announcer.announce(tally, tally.text)
         }
         Keys.onEscapePressed: event => {
             event.accepted = text !== ""

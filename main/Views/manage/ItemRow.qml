@@ -107,6 +107,7 @@ Item {
         bare: true
         size: GhostButton.Small
         symbol: "ellipsis.circle"
+        held: row.hasMenu
         label: qsTr("Azioni per «%1»").arg(row.name)
         onClicked: row.menuAsked(null)
     }
