@@ -17,6 +17,8 @@ struct Differences {
     int count = 0;     ///< different lines of text
     bool isKnown = false;
 
+    bool operator==(const Differences&) const = default;
+
     QString summary() const; ///< such as "12 righe diverse in SKILL.md"
 };
 

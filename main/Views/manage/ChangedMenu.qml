@@ -16,6 +16,7 @@ RowMenu {
     readonly property bool isFile: item === ""
 
     narrowest: Theme.manage.changedMenuWidth
+    onClosed: menu.component.forgetDifference()
 
     signal compareAsked(ComponentModel component, int row)
 

@@ -64,12 +64,24 @@ QString ComponentModel::difference() const {
 void ComponentModel::readDifference(int row) {
     m_difference = {};
     emit differenceChanged();
-    if (const ChangedItem* item = changedItem(row))
-        m_differenceReading.begin([item = *item] { return differencesBetween(item.source, item.own); },
+    const ChangedItem* item = changedItem(row);
+    m_compared = item == nullptr ? std::nullopt : std::optional(*item);
+    readDifferenceAgain();
+}
+
+void ComponentModel::readDifferenceAgain() {
+    if (m_compared)
+        m_differenceReading.begin([item = *m_compared] { return differencesBetween(item.source, item.own); },
                                   [this](Differences found) {
+                                      if (found == m_difference)
+                                          return;
                                       m_difference = std::move(found);
                                       emit differenceChanged();
                                   });
+}
+
+void ComponentModel::forgetDifference() {
+    m_compared.reset();
 }
 
 bool ComponentModel::compare(int row) {

@@ -58,6 +58,7 @@ void ComponentModel::setProfile(AppModel* app, const Profile* profile) {
     const bool isSame = m_profile && profile != nullptr && m_profile->id == profile->id;
     m_profile = profile == nullptr ? std::nullopt : std::optional(*profile);
     if (!isSame) {
+        forgetDifference();
         m_items.setFilter({});
         setContent({});
     }
@@ -70,6 +71,7 @@ void ComponentModel::setContent(Content content) {
     m_items.setEntries(std::exchange(content.items, {}));
     m_content = std::move(content);
     emit contentChanged();
+    readDifferenceAgain();
 }
 
 ComponentModel::Content ComponentModel::read(const ProfileStore& store, const Profile& profile,

@@ -55,7 +55,8 @@ class ComponentModel : public QObject {
     Q_PROPERTY(QString relinkQuestion READ relinkQuestion NOTIFY contentChanged)
     Q_PROPERTY(QString relinkConsequence READ relinkConsequence NOTIFY contentChanged)
     Q_PROPERTY(QString bringConsequence READ bringConsequence NOTIFY profileChanged)
-    /// How much the item of the last `readDifference` differs from the source's.
+    /// How much the item of the last `readDifference` differs from the source's. It is read again with the
+    /// content, until `forgetDifference`.
     Q_PROPERTY(QString difference READ difference NOTIFY differenceChanged)
     Q_PROPERTY(QList<QString> differenceLines READ differenceLines NOTIFY differenceChanged)
 
@@ -117,6 +118,7 @@ public slots:
     void revealItem(int row);
     // The same for a changed item; a single file has row -1.
     void readDifference(int row);
+    void forgetDifference();
     bool compare(int row); ///< false if the desktop has no program for that
     void relink(int row);
     void bring(int row);
@@ -132,6 +134,7 @@ signals:
 
 private:
     const ChangedItem* changedItem(int row) const;
+    void readDifferenceAgain();
     std::filesystem::path place() const;
 
     const Component m_component;
@@ -139,6 +142,7 @@ private:
     std::optional<Profile> m_profile;
     ItemListModel m_items;
     Content m_content;
+    std::optional<ChangedItem> m_compared; ///< whose difference is followed
     Differences m_difference;
     Reading<Differences> m_differenceReading;
 };

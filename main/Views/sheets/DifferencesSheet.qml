@@ -18,6 +18,7 @@ Sheet {
     plateWidth: Theme.sheets.differencesWidth
     spacing: Theme.space12
     firstFocus: view
+    onClosed: sheet.component.forgetDifference()
 
     StyledText {
         id: note

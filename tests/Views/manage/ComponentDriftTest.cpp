@@ -85,6 +85,22 @@ TEST_F(ComponentDriftTest, changedItems_AreTold) {
     EXPECT_EQ(model().notice(), "Già sincronizzato") << "told once";
 }
 
+TEST_F(ComponentDriftTest, difference_IsFollowedUntilForgotten) {
+    ComponentModel& skills = shown(Component::skills);
+    EXPECT_EQ(differenceOf(skills, "una"), "3 righe diverse in SKILL.md");
+    const auto become = [&](const std::string& text) {
+        writeFile(folder / "skills/una/SKILL.md", text);
+        model().reload();
+        waitUntilRead();
+    };
+    become(readFile(home / ".claude/skills/una/SKILL.md"));
+    waitUntil([&] { return skills.difference() == "Il contenuto è uguale"; });
+    EXPECT_TRUE(skills.differenceLines().empty());
+    skills.forgetDifference();
+    become("altro");
+    EXPECT_EQ(skills.difference(), "Il contenuto è uguale") << "nobody looks any more";
+}
+
 TEST_F(ComponentDriftTest, changedItems_GoEachWay) {
     ComponentModel& skills = shown(Component::skills);
     skills.bring(skills.items()->rowOf("una"));
