@@ -50,6 +50,8 @@ private:
 
 /// The conversations, and the sheet in which one of them goes on, over the management window.
 void takeConversations(Scene& scene);
+/// A notice of something that can be taken back, and that it was.
+void takeOffer(Scene& scene);
 /// The sheet that restores, with an archive of the profiles.
 void takeRestore(Scene& scene);
 

@@ -19,7 +19,6 @@
 #include "AppModel/WorkProgress.h"
 #include "PictureHome.h"
 #include "Scene.h"
-#include "Views/manage/ProfileDetailModel.h"
 #include "Views/shell/LauncherApp.h"
 #include "Views/shell/QmlModule.h"
 #include "artwork/Brand.h"
@@ -184,27 +183,6 @@ void takeProgress(Scene& scene) {
         kPicker, "BusyOverlay",
         {{"message", "Creazione di «Lavoro»…"}, {"delay", 0}, {"work", QVariant::fromValue(&work)}},
         "busy-cancelling");
-}
-
-void waitUntilIdle(const AppModel& model) {
-    while (!model.busyMessage().isEmpty())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-}
-
-/// The notice of something that can be taken back, and that it was.
-void takeOffer(Scene& scene) {
-    ProfileDetailModel detail;
-    detail.setApp(&scene.model);
-    detail.remove("laboratorio");
-    waitUntilIdle(scene.model);
-    if (!scene.model.canTakeBack())
-        qFatal("nothing can be taken back: %s", qPrintable(scene.model.errorMessage()));
-    scene.take(kManage, "notice-offer");
-    scene.model.takeBack();
-    waitUntilIdle(scene.model);
-    scene.take(kManage, "notice-taken-back");
-    scene.model.clearNotice();
-    scene.model.select("lavoro");
 }
 
 void takeFeedback(Scene& scene) {

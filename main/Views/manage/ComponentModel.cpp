@@ -226,12 +226,10 @@ bool ComponentModel::canReimport() const {
 
 void ComponentModel::setMode(int index) {
     const auto allowed = allowedModes(m_component);
-    if (!m_profile || index < 0 || index >= static_cast<int>(allowed.size()))
+    if (!m_profile || index < 0 || index >= static_cast<int>(allowed.size()) || index == modeIndex())
         return;
     const ShareMode mode = allowed[static_cast<std::size_t>(index)];
     const ShareMode before = m_profile->mode(m_component);
-    if (mode == before)
-        return;
     const QString done = tr("%1: %2").arg(title(), qtText(label(mode)));
     m_app->performLong(
         tr("Cambio di «%1»…").arg(title()),
