@@ -7,6 +7,7 @@
 
 #include <map>
 
+#include "desktop/AgentProcess.h"
 #include "support/TemporaryFolder.h"
 
 namespace selvane {
@@ -355,6 +356,21 @@ TEST(OpenCopies, Wrappers_AreSeenThrough) {
          },
          {copy(kLavoro, kConfig), copy(kLavoro2, "?", 210)}},
     });
+}
+
+TEST(AgentProcess, Sessions_CountOnceEach_OnlyBelowTheirCopy) {
+    Machine m;
+    m.addMain("");
+    EXPECT_EQ(agentSessions(m.processes, 100), 0);
+    m.add(110, 100, kApp, {kApp, "--type=utility"});
+    m.add(120, 110, "/home/a/.config/Claude/claude-code/2.1/claude", {"claude", "--resume"});
+    m.add(121, 120, "/bin/sh", {"sh", "-c", "ls"});
+    m.add(122, 121, "/usr/bin/claude", {"claude", "-p"}); // begun by the session itself
+    m.add(130, 110, "/usr/bin/node", {"node", "/lib/@anthropic-ai/claude-code/cli.js"});
+    m.add(140, 110, "/usr/bin/node", {"node", "server.js"});
+    m.add(900, 1, "/usr/bin/claude", {"claude"}); // in a terminal
+    EXPECT_EQ(agentSessions(m.processes, 100), 2);
+    EXPECT_EQ(agentSessions(m.processes, 101), std::nullopt);
 }
 
 TEST(DataFolders, AFileBehindALink_LiesInTheFolder) {

@@ -5,6 +5,7 @@
 
 #include <array>
 
+#include "desktop/AgentProcess.h"
 #include "platform/files/NormalizedPath.h"
 #include "platform/process/ProcInfo.h"
 
@@ -12,19 +13,6 @@ namespace selvane {
 namespace {
 
 constexpr std::array<std::string_view, 2> kVariables = {"CLAUDE_CONFIG_DIR", "HOME"};
-
-bool isNamedClaude(std::string_view path) {
-    return path.substr(path.rfind('/') + 1) == "claude";
-}
-
-/// As a program of its own, or as a script that Node runs under that name.
-bool isAgent(const ProcInfo& process) {
-    if (isNamedClaude(process.path) || (!process.args.empty() && isNamedClaude(process.args[0])))
-        return true;
-    return process.args.size() > 1 &&
-           (isNamedClaude(process.args[1]) ||
-            process.args[1].find("/@anthropic-ai/claude-code/") != std::string::npos);
-}
 
 } // namespace
 
