@@ -44,6 +44,16 @@ AppModel::~AppModel() {
     m_work.waitForFinished();
 }
 
+QString AppModel::nameOf(const QString& id) const {
+    const Profile* const found = profile(id);
+    return found == nullptr ? QString() : QString::fromStdString(found->meta.name);
+}
+
+LookValue AppModel::lookOf(const QString& id) const {
+    const Profile* const found = profile(id);
+    return found == nullptr ? LookValue() : LookValue(found->meta.look);
+}
+
 const Profile* AppModel::profile(const QString& id) const {
     const std::string wanted = id.toStdString();
     for (const Profile& candidate : m_profiles) {

@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "AppModel/DesktopBridge.h"
+#include "AppModel/LookValue.h"
 #include "AppModel/Preferences.h"
 #include "AppModel/ToldChanges.h"
 #include "AppModel/WorkProgress.h"
@@ -58,8 +59,11 @@ class AppModel : public QObject {
     /// Ids of the profiles waiting for a confirmation and for a forced quit; empty for none.
     Q_PROPERTY(QString pendingLaunch READ pendingLaunch NOTIFY pendingLaunchChanged)
     Q_PROPERTY(QString offerForceQuit READ offerForceQuit NOTIFY offerForceQuitChanged)
-    /// The question for `pendingLaunch`.
-    Q_PROPERTY(QString closeMessage READ pendingCloseMessage NOTIFY pendingLaunchChanged)
+    /// The question for `pendingLaunch`, what closing would cut off, and the id of the profile that is open;
+    /// empty where there is nothing to say or it isn't known.
+    Q_PROPERTY(QString closeMessage READ closeMessage NOTIFY pendingLaunchChanged)
+    Q_PROPERTY(QString closeWarning READ closeWarning NOTIFY pendingLaunchChanged)
+    Q_PROPERTY(QString openToClose READ openToClose NOTIFY pendingLaunchChanged)
     /// A sign-in that waits for the user's choice: the profiles that it may be for, what is known of each,
     /// the likely one, and what may be shown of the link. Without one they are empty, and the preset is -1.
     Q_PROPERTY(QList<QString> signInNames READ signInNames NOTIFY signInChanged)
@@ -117,7 +121,11 @@ public:
     WorkProgress* work() { return &m_workProgress; }
 
     bool restoresFirst() const;
-    QString closeMessage(const Profile& target) const;
+    QString closeMessage() const { return m_closeQuestion.message; }
+    QString closeWarning() const { return m_closeQuestion.warning; }
+    QString openToClose() const { return m_closeQuestion.open; }
+    Q_INVOKABLE QString nameOf(const QString& id) const; ///< empty if no loaded profile has that id
+    Q_INVOKABLE selvane::LookValue lookOf(const QString& id) const;
     void setNotice(const QString& text);
 
     /// Work on another thread: changes files through the store that it is given, and returns what to tell the
@@ -210,6 +218,11 @@ private:
         std::shared_ptr<const Reversal> reversal; ///< null for none
         QString takenBack;
     };
+    struct CloseQuestion {
+        QString message;
+        QString warning;
+        QString open;
+    };
     struct SignIn {
         SignInLink link;
         SignInTargets to;
@@ -230,8 +243,7 @@ private:
     void report(const std::exception& error);
     std::function<void()> sayUnreached(const QString& problem, const std::filesystem::path& item);
     void setText(QString& member, const QString& value, void (AppModel::*changed)());
-    const Profile* openProfile(const Profile& sameAccount) const;
-    QString pendingCloseMessage() const;
+    CloseQuestion closeQuestion(const Profile& target) const;
 
     ProfileStore& m_store;
     const ClaudeApp& m_claude;
@@ -247,6 +259,7 @@ private:
     QString m_notice;
     Offer m_offer;
     QString m_pendingLaunch;
+    CloseQuestion m_closeQuestion;
     QString m_offerForceQuit;
     std::optional<SignIn> m_signIn;
     QString m_signInOffer;

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "AppModel/Background.h"
+#include "desktop/AgentProcess.h"
 
 namespace selvane {
 
@@ -26,19 +27,6 @@ struct AppModel::LaunchResult {
     QString news; ///< about items that no longer follow their source
 };
 
-/// The profile with which another profile's account is open; null if unknown.
-const Profile* AppModel::openProfile(const Profile& sameAccount) const {
-    try {
-        const auto copy = m_store.instance(sameAccount);
-        for (const Profile& candidate : m_profiles) {
-            if (copy && m_store.runs(*copy, candidate))
-                return &candidate;
-        }
-    } catch (const std::exception&) { // its record has become invalid meanwhile
-    }
-    return nullptr;
-}
-
 bool AppModel::restoresFirst() const {
     try {
         return m_store.needsDesktopRestore();
@@ -47,23 +35,45 @@ bool AppModel::restoresFirst() const {
     }
 }
 
-QString AppModel::closeMessage(const Profile& target) const {
-    const QString name = QString::fromStdString(target.meta.name);
-    if (restoresFirst())
-        return tr("Per passare alle istanze separate Claude va chiuso una volta e riaperto con «%1». Le "
-                  "sessioni in corso verranno interrotte.")
-            .arg(name);
-    const Profile* open = openProfile(target);
-    const QString other =
-        open == nullptr ? tr("Un altro profilo") : "«" + QString::fromStdString(open->meta.name) + "»";
-    return tr("%1 usa lo stesso account Claude ed è aperto: per avviare «%2» va chiuso. Le sessioni in corso "
-              "verranno interrotte.")
-        .arg(other, name);
+namespace {
+
+QString interrupted(int sessions) {
+    return sessions == 0   ? QString()
+           : sessions == 1 ? AppModel::tr("1 sessione attiva verrà interrotta")
+                           : AppModel::tr("%1 sessioni attive verranno interrotte").arg(sessions);
 }
 
-QString AppModel::pendingCloseMessage() const {
-    const Profile* waiting = profile(m_pendingLaunch);
-    return waiting == nullptr ? QString() : closeMessage(*waiting);
+} // namespace
+
+AppModel::CloseQuestion AppModel::closeQuestion(const Profile& target) const {
+    const QString name = QString::fromStdString(target.meta.name);
+    if (restoresFirst())
+        return {.message = tr("Per passare alle istanze separate Claude va chiuso una volta e riaperto con "
+                              "«%1». Le sessioni in corso verranno interrotte.")
+                               .arg(name),
+                .warning = {},
+                .open = {}};
+    const Profile* open = nullptr; // null if it isn't known
+    std::optional<int> sessions;
+    try {
+        if (const auto copy = m_store.instance(target)) {
+            const auto runs = [&](const Profile& each) { return m_store.runs(*copy, each); };
+            const auto found = std::ranges::find_if(m_profiles, runs);
+            open = found == m_profiles.end() ? nullptr : &*found;
+            sessions = agentSessions(ProcInfo::all(), copy->pid());
+        }
+    } catch (const std::exception&) { // its record has become invalid meanwhile
+    }
+    CloseQuestion question;
+    const QString other =
+        open == nullptr ? tr("Un altro profilo") : "«" + QString::fromStdString(open->meta.name) + "»";
+    question.message =
+        tr("%1 usa lo stesso account Claude ed è aperto: per avviare «%2» va chiuso.").arg(other, name);
+    if (!sessions)
+        question.message += " " + tr("Le sessioni in corso verranno interrotte.");
+    question.warning = interrupted(sessions.value_or(0));
+    question.open = open == nullptr ? QString() : QString::fromStdString(open->id);
+    return question;
 }
 
 AppModel::LaunchPlan AppModel::planFor(const Profile& profile) const {
@@ -97,6 +107,7 @@ void AppModel::startLaunch(const QString& id, LaunchStep step) {
         } else if (step == LaunchStep::asked && offersSignIns(*wanted)) {
             setText(m_signInOffer, id, &AppModel::signInOfferChanged);
         } else if (!plan.toClose.empty() && step == LaunchStep::asked) {
+            m_closeQuestion = closeQuestion(*wanted);
             setText(m_pendingLaunch, id, &AppModel::pendingLaunchChanged);
         } else {
             runLaunch(std::move(plan), step);

@@ -93,9 +93,9 @@ TEST_F(AppModelLaunch, launch_AccountOpenElsewhere_AsksThenReplacesTheCopy) {
     model().launch("ospite");
     EXPECT_EQ(model().pendingLaunch(), "ospite");
     EXPECT_EQ(model().property("closeMessage").toString(),
-              "«Principale» usa lo stesso account Claude ed è aperto: per avviare «Ospite» va chiuso. Le "
-              "sessioni in "
-              "corso verranno interrotte.");
+              "«Principale» usa lo stesso account Claude ed è aperto: per avviare «Ospite» va chiuso.");
+    EXPECT_EQ(model().closeWarning(), "") << "no session runs below the copy";
+    EXPECT_EQ(model().openToClose(), "default");
     model().cancelLaunch();
     EXPECT_EQ(model().pendingLaunch(), "");
     expectUpToDate();
@@ -116,6 +116,7 @@ TEST_F(AppModelLaunch, launch_CopyThatStays_IsOfferedToBeForced) {
     model().launch("ospite");
     EXPECT_TRUE(
         model().property("closeMessage").toString().startsWith("Un altro profilo usa lo stesso account"));
+    EXPECT_EQ(model().openToClose(), "");
     model().confirmLaunch();
     waitUntilIdle();
     EXPECT_EQ(model().offerForceQuit(), "ospite");

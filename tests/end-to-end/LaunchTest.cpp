@@ -63,14 +63,13 @@ TEST_F(Windows, AnOpenAccountIsTakenOverOnceThatIsConfirmed) {
     home.output({"create", "Ospite", "--account", "default"});
     const Json builtIn = launch("default", normalData);
     auto selvane = start();
-    for (const auto answer : std::initializer_list<xcb_keysym_t>{XK_Escape, XK_Return}) {
+    for (const auto& answer : {std::vector<xcb_keysym_t>{XK_Escape}, {XK_Tab, XK_Return}}) {
         press({'2'});
         EXPECT_EQ(selvane.find(ATSPI_ROLE_ALERT, kAccountIsOpen).description(),
-                  "«Principale» usa lo stesso account Claude ed è aperto: per avviare «Ospite» va chiuso. Le "
-                  "sessioni in corso verranno interrotte.");
-        selvane.waitForFocus("Chiudi e riapri");
+                  "«Principale» usa lo stesso account Claude ed è aperto: per avviare «Ospite» va chiuso.");
+        selvane.waitForFocus("Annulla");
         EXPECT_TRUE(isOpen(builtIn));
-        press({answer});
+        press(answer);
         selvane.waitUntilGone(ATSPI_ROLE_ALERT, kAccountIsOpen);
     }
     EXPECT_EQ(selvane.status(), 0);
@@ -84,8 +83,8 @@ TEST_F(Windows, NothingElseIsLaunchedWhileACopyCloses) {
     const Json builtIn = launch("default", normalData);
     auto selvane = start();
     press({'2'});
-    selvane.waitForFocus("Chiudi e riapri");
-    press({XK_Return});
+    selvane.waitForFocus("Annulla");
+    press({XK_Tab, XK_Return});
     selvane.find(ATSPI_ROLE_ALERT, "Chiusura di Claude…");
     press({'1'});
     selvane.find(ATSPI_ROLE_ALERT, "Chiusura di Claude…");

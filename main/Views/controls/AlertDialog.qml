@@ -6,8 +6,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Selvane
 
-/// A question or an error. The focus starts on the confirm button, or on "Annulla" if confirming is
-/// destructive.
+/// A question or an error. The focus starts on the confirm button, or on "Annulla" if confirming ends
+/// something.
 ModalLayer {
     id: alert
 
@@ -16,14 +16,17 @@ ModalLayer {
     property string cancelText: qsTr("Annulla") ///< empty: no cancel button
     property bool destructive: false
     property bool isError: false
+    property string warning ///< what confirming ends, below the message
+    property bool startsOnCancel: destructive
+    property real textTop: Theme.space24 ///< leaves room for a picture above
 
     z: Theme.alertLayer
-    firstFocus: destructive && cancelText !== "" ? buttons.cancelButton : buttons.confirmButton
+    firstFocus: startsOnCancel && cancelText !== "" ? buttons.cancelButton : buttons.confirmButton
     plateWidth: Theme.sheets.alertWidth
-    plateHeight: texts.height + buttons.height + 2 * Theme.space24 + Theme.space20
+    plateHeight: textTop + texts.height + Theme.space20 + buttons.height + Theme.space24
 
     Accessible.role: Accessible.AlertMessage
-    Accessible.description: message
+    Accessible.description: warning === "" ? message : message + " " + warning
 
     PathIcon {
         id: sign
@@ -39,7 +42,7 @@ ModalLayer {
         id: texts
 
         x: alert.isError ? sign.x + sign.width + Theme.space12 : Theme.space24
-        y: Theme.space24
+        y: alert.textTop
         width: parent.width - x - Theme.space24
         spacing: Theme.space6
 
@@ -55,6 +58,23 @@ ModalLayer {
             text: alert.message
             color: Theme.textSoft
             wrapMode: Text.Wrap
+        }
+        Row {
+            topPadding: Theme.space6
+            visible: alert.warning !== ""
+            spacing: Theme.space8
+
+            PathIcon {
+                y: Theme.space6 + Math.round((Theme.type.notice.lineHeight - height) / 2)
+                symbol: "exclamationmark.triangle"
+                size: Theme.iconControl
+                color: Theme.danger
+            }
+            StyledText {
+                look: Theme.type.notice
+                text: alert.warning
+                color: Theme.danger
+            }
         }
     }
     DialogButtons {

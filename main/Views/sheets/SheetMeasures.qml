@@ -29,6 +29,8 @@ Measures {
     readonly property real sessionListHeight: 280
     readonly property real sessionSourceWidth: 200
     readonly property real alertSign: 22
+    readonly property real partyWidth: 132 ///< of each of two profiles side by side
+    readonly property real partyGlyph: 56
     readonly property real busyWidth: 304 ///< at least
     readonly property real busyMargin: 32 ///< above and below
     readonly property real busySide: 40

@@ -45,7 +45,7 @@ Item {
         if (feedback.alertKind === "error")
             feedback.alert = errorAlert.createObject(feedback, {message: feedback.app.errorMessage}) as ModalLayer
         else if (feedback.alertKind === "launch")
-            feedback.alert = launchAlert.createObject(feedback, {message: feedback.app.closeMessage}) as ModalLayer
+            feedback.alert = launchAlert.createObject(feedback, {launching: feedback.app.pendingLaunch}) as ModalLayer
         else if (feedback.alertKind === "force")
             feedback.alert = forceAlert.createObject(feedback) as ModalLayer
         else if (feedback.alertKind === "offer")
@@ -104,11 +104,10 @@ Item {
     Component {
         id: launchAlert
 
-        AlertDialog {
+        AccountAlert {
             id: alert
 
-            title: qsTr("Account già aperto in Claude")
-            confirmText: qsTr("Chiudi e riapri")
+            app: feedback.app
             onConfirmed: feedback.app.confirmLaunch()
             onCancelled: feedback.app.cancelLaunch()
             onClosed: alert.destroy()

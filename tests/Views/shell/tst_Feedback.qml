@@ -147,6 +147,12 @@ Item {
             home.makeProfile("Lavoro", {account: "default"})
             home.openClaude("default")
             home.app.launch("lavoro")
+            keyClick(Qt.Key_Return) // begins on "Annulla"
+            compare(home.app.pendingLaunch, "")
+            compare(home.asked().terminated, 0)
+            tryVerify(() => !key.alert)
+            home.app.launch("lavoro")
+            keyClick(Qt.Key_Tab)
             keyClick(Qt.Key_Return)
             tryVerify(() => home.asked().launches === 1)
             compare(home.asked().terminated, 1)
