@@ -115,6 +115,13 @@ void AppModel::setCloseAfterLaunch(bool value) {
     emit closeAfterLaunchChanged();
 }
 
+void AppModel::setRecentFirst(bool value) {
+    if (recentFirst() == value)
+        return;
+    m_preferences.setRecentFirst(value);
+    emit recentFirstChanged();
+}
+
 void AppModel::reload() {
     m_profiles = m_store.loadAll();
     auto damaged = m_store.damagedProfiles();

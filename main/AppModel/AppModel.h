@@ -77,6 +77,8 @@ class AppModel : public QObject {
     Q_PROPERTY(QString signInOffer READ signInOffer NOTIFY signInOfferChanged)
     Q_PROPERTY(
         bool closeAfterLaunch READ closeAfterLaunch WRITE setCloseAfterLaunch NOTIFY closeAfterLaunchChanged)
+    /// Whether the picker begins with the profiles launched last.
+    Q_PROPERTY(bool recentFirst READ recentFirst WRITE setRecentFirst NOTIFY recentFirstChanged)
 
 public:
     AppModel(ProfileStore& store, const ClaudeApp& claude, DesktopBridge& desktop, Preferences& preferences,
@@ -105,7 +107,9 @@ public:
     QString pendingLaunch() const { return m_pendingLaunch; }
     QString offerForceQuit() const { return m_offerForceQuit; }
     bool closeAfterLaunch() const { return m_preferences.closeAfterLaunch(); }
+    bool recentFirst() const { return m_preferences.recentFirst(); }
     void setCloseAfterLaunch(bool value);
+    void setRecentFirst(bool value);
 
     QStringList signInNames() const;
     QStringList signInDetails() const;
@@ -205,6 +209,7 @@ signals:
     void pendingLaunchChanged();
     void offerForceQuitChanged();
     void closeAfterLaunchChanged();
+    void recentFirstChanged();
     void signInChanged();
     void receivesSignInsChanged();
     void signInOfferChanged();

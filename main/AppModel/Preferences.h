@@ -24,6 +24,9 @@ public:
     bool closeAfterLaunch() const { return m_settings->value(kCloseAfterLaunch, true).toBool(); }
     void setCloseAfterLaunch(bool value) { m_settings->setValue(kCloseAfterLaunch, value); }
 
+    bool recentFirst() const { return m_settings->value(kRecentFirst, false).toBool(); }
+    void setRecentFirst(bool value) { m_settings->setValue(kRecentFirst, value); }
+
     QString lastSelection() const { return m_settings->value(kLastSelection, "default").toString(); }
     void setLastSelection(const QString& id) { m_settings->setValue(kLastSelection, id); }
 
@@ -51,6 +54,7 @@ private:
 
     static constexpr auto kCloseAfterLaunch = "closeAfterLaunch";
     static constexpr auto kFoldedSections = "foldedSections";
+    static constexpr auto kRecentFirst = "recentFirst";
     static constexpr auto kLastSelection = "lastSelection";
     static constexpr auto kSignInsOffered = "signInsOffered";
 

@@ -28,6 +28,19 @@ TEST_F(Windows, AProfileIsChosenByItsKeysAndLaunched) {
               Json({"--password-store=basic", "--user-data-dir=" + lavoroData.string()}));
 }
 
+TEST_F(Windows, AProfileIsFoundByTypingAndLaunched) {
+    home.output({"create", "Cliente Aurora"});
+    home.output({"create", "Lavoro"});
+    auto selvane = start();
+    selvane.waitForFocus("Principale");
+    press({'l', 'a', 'v'});
+    selvane.waitForFocus("Lavoro");
+    selvane.find(ATSPI_ROLE_LABEL, "Cerca: lav, 1 di 3 profili");
+    press({XK_Return});
+    EXPECT_EQ(selvane.status(), 0);
+    EXPECT_EQ(opened(lavoroData)["claudeConfigDir"], profile("lavoro").string());
+}
+
 TEST_F(Windows, WhatCannotBeLaunchedIsExplained) {
     fs::remove(program);
     auto selvane = start();

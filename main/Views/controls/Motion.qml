@@ -17,6 +17,8 @@ QtObject {
     readonly property int tileFocus: moving(140)
     readonly property int tilePress: moving(100)
     readonly property int stripScroll: moving(180)
+    readonly property int tileFade: moving(120) ///< a tile that comes or goes
+    readonly property int tileMove: moving(180) ///< the others, which close up or make room
     readonly property int hover: fading(120)
     readonly property int toggle: moving(120)
     readonly property int menuIn: fading(120)

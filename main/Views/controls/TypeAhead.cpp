@@ -5,17 +5,12 @@
 
 #include <algorithm>
 
+#include "Views/controls/FoldedText.h"
+
 namespace selvane {
 namespace {
 
 constexpr qint64 kPauseMilliseconds = 1000;
-
-/// Without case and accents.
-QString folded(const QString& text) {
-    QString letters = text.normalized(QString::NormalizationForm_KD).toCaseFolded();
-    letters.removeIf([](QChar letter) { return letter.category() == QChar::Mark_NonSpacing; });
-    return letters;
-}
 
 } // namespace
 

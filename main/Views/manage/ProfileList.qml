@@ -15,6 +15,7 @@ FocusScope {
     required property ConversationListModel conversations
     required property bool showsConversations
     property ProfileMenu menu: null ///< created when first opened
+    property SearchCapsule capsule: null ///< created when something is first typed
 
     signal newProfileAsked(string source)
     signal backupAsked
@@ -47,23 +48,28 @@ FocusScope {
     Eyebrow {
         x: Theme.manage.sidebarMargin
         y: Theme.manage.sidebarMargin
+        visible: search.text === ""
         text: qsTr("Profili")
         Accessible.role: Accessible.Heading
     }
     ListView {
         id: list
 
-        readonly property ProfileListModel profiles: ProfileListModel { app: sidebar.app }
+        readonly property ProfileListModel profiles: ProfileListModel {
+            app: sidebar.app
+            search: search.text
+            onSearchChanged: list.followSearch()
+        }
 
         function go(row: int): void {
             sidebar.app.select(list.profiles.idNear(row))
             sidebar.profilePicked()
         }
-        function goToText(letter: string): bool {
-            const found = typeAhead.findRow(letter, list.currentIndex, list.profiles, "name")
-            if (found >= 0)
-                go(found)
-            return found >= 0
+        function followSearch(): void {
+            if (!sidebar.capsule)
+                sidebar.capsule = capsuleComponent.createObject(sidebar) as SearchCapsule
+            if (search.text !== "" && list.count > 0)
+                list.go(0)
         }
         function openCurrentMenu(): void {
             sidebar.openMenu(sidebar.app.selection, list.currentItem, Theme.manage.listInset, Theme.manage.profileHeight)
@@ -105,7 +111,7 @@ FocusScope {
             else if (event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier)
                 openCurrentMenu()
             else
-                event.accepted = goToText(event.text)
+                event.accepted = search.take(event.key, event.modifiers, event.text)
         }
 
         delegate: ProfileRow {
@@ -126,8 +132,10 @@ FocusScope {
             onMenuAsked: (x, y) => sidebar.openMenu(row.profileId, row, x, y)
         }
     }
-    TypeAhead {
-        id: typeAhead
+    SearchText {
+        id: search
+
+        beginsWithDigits: true
     }
     ThinScrollBar {
         flickable: list
@@ -154,6 +162,23 @@ FocusScope {
         onBackupAsked: sidebar.backupAsked()
         onPickerAsked: sidebar.pickerAsked()
         onAboutAsked: sidebar.aboutAsked()
+    }
+    Component {
+        id: capsuleComponent
+
+        SearchCapsule {
+            x: Theme.manage.listInset
+            y: Theme.manage.sidebarMargin + Math.round((Theme.type.overline.lineHeight - height) / 2)
+            width: sidebar.width - 2 * x
+            visible: text !== ""
+            text: search.text
+            count: qsTr("%1 di %2").arg(list.count).arg(list.profiles.total)
+            onCleared: search.clear()
+            onCountChanged: {
+                if (visible)
+                    Announcer.announce(this, list.profiles.countText)
+            }
+        }
     }
     Component {
         id: menuComponent

@@ -63,42 +63,71 @@ void ProfileListModel::setApp(AppModel* app) {
 
 void ProfileListModel::update() {
     std::vector<Profile> profiles = m_app == nullptr ? std::vector<Profile>{} : m_app->profiles();
+    if (m_recentFirst)
+        std::ranges::stable_sort(
+            profiles, [](const auto& a, const auto& b) { return a > b; },
+            [](const Profile& profile) { return profile.meta.lastLaunched; });
     m_activeID = m_app == nullptr ? std::nullopt : m_app->activeID();
-    RowUpdate::apply(*this, m_profiles, std::move(profiles),
-                     [](const Profile& profile) { return profile.id; });
+    RowUpdate::apply(*this, m_rows, foundProfiles(profiles, m_search),
+                     [](const ListedProfile& row) { return row.profile.id; });
     changed({});
     emit countChanged();
 }
 
+void ProfileListModel::setSearch(const QString& text) {
+    if (m_search == text)
+        return;
+    m_search = text;
+    update();
+    emit searchChanged();
+}
+
+void ProfileListModel::setRecentFirst(bool recentFirst) {
+    if (m_recentFirst == recentFirst)
+        return;
+    m_recentFirst = recentFirst;
+    update();
+    emit recentFirstChanged();
+}
+
+int ProfileListModel::total() const {
+    return m_app == nullptr ? 0 : static_cast<int>(m_app->profiles().size());
+}
+
+QString ProfileListModel::countText() const {
+    return tr("%1 di %2 profili").arg(count()).arg(total());
+}
+
 void ProfileListModel::changed(const QList<int>& roles) {
-    if (!m_profiles.empty())
+    if (!m_rows.empty())
         emit dataChanged(index(0), index(count() - 1), roles);
 }
 
 int ProfileListModel::indexOf(const QString& profileId) const {
     const std::string wanted = profileId.toStdString();
-    for (std::size_t i = 0; i < m_profiles.size(); ++i) {
-        if (m_profiles[i].id == wanted)
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        if (m_rows[i].profile.id == wanted)
             return static_cast<int>(i);
     }
     return -1;
 }
 
 QString ProfileListModel::idNear(int row) const {
-    if (m_profiles.empty())
+    if (m_rows.empty())
         return {};
     const int nearest = std::clamp(row, 0, count() - 1);
-    return QString::fromStdString(m_profiles[static_cast<std::size_t>(nearest)].id);
+    return QString::fromStdString(m_rows[static_cast<std::size_t>(nearest)].profile.id);
 }
 
 int ProfileListModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(m_profiles.size());
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
 }
 
 QVariant ProfileListModel::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
-    const Profile& profile = m_profiles.at(static_cast<std::size_t>(index.row()));
+    const ListedProfile& row = m_rows.at(static_cast<std::size_t>(index.row()));
+    const Profile& profile = row.profile;
     switch (role) {
     case IdRole:
         return QString::fromStdString(profile.id);
@@ -124,6 +153,10 @@ QVariant ProfileListModel::data(const QModelIndex& index, int role) const {
         return lastLaunch(profile);
     case SubtitleRole:
         return subtitle(profile);
+    case FoundInNameRole:
+        return QVariant::fromValue(row.inName);
+    case FoundInSummaryRole:
+        return QVariant::fromValue(row.inSummary);
     default:
         return {};
     }
@@ -141,7 +174,9 @@ QHash<int, QByteArray> ProfileListModel::roleNames() const {
             {SourceNameRole, "sourceName"},
             {WasLaunchedRole, "wasLaunched"},
             {LastLaunchRole, "lastLaunch"},
-            {SubtitleRole, "subtitle"}};
+            {SubtitleRole, "subtitle"},
+            {FoundInNameRole, "foundInName"},
+            {FoundInSummaryRole, "foundInSummary"}};
 }
 
 } // namespace selvane

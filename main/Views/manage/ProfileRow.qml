@@ -13,6 +13,7 @@ Item {
     required property string name
     required property string subtitle
     required property profileLook look
+    required property list<int> foundInName
     required property string sourceName
     required property bool hasOwnAccount
     required property bool hasSource
@@ -77,8 +78,9 @@ Item {
         width: marks.x - x - Theme.space8
         spacing: Theme.hairline
 
-        StyledText {
+        FoundText {
             width: parent.width
+            found: row.foundInName
             look: Theme.type.rowName
             text: row.name
             elide: Text.ElideRight

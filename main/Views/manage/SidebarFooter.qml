@@ -67,6 +67,15 @@ Item {
             onToggled: checked => footer.app.closeAfterLaunch = checked
         }
         SwitchRow {
+            width: parent.width
+            look: Theme.type.small
+            textColor: Theme.textSoft
+            text: qsTr("Prima i più recenti")
+            help: qsTr("La scelta del profilo comincia da quelli avviati per ultimi")
+            checked: footer.app.recentFirst
+            onToggled: checked => footer.app.recentFirst = checked
+        }
+        SwitchRow {
             visible: footer.app.canReceiveSignIns
             width: parent.width
             look: Theme.type.small

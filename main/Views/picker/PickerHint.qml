@@ -10,6 +10,8 @@ import Selvane
 Row {
     id: hint
 
+    property bool isSearching: false
+
     component Words: StyledText {
         anchors.verticalCenter: parent.verticalCenter
         look: Theme.type.small
@@ -25,7 +27,9 @@ Row {
     spacing: Theme.space8
 
     Accessible.role: Accessible.StaticText
-    Accessible.name: Theme.keyText(qsTr("← → per scegliere · invio per avviare · ⌘, impostazioni"))
+    Accessible.name: isSearching
+                     ? qsTr("← → per scegliere · invio per avviare · Esc per rivedere tutti i profili")
+                     : Theme.keyText(qsTr("← → per scegliere · invio per avviare · scrivi per cercare · ⌘, impostazioni"))
 
     KeyCap { keys: "←" }
     KeyCap { keys: "→" }
@@ -34,6 +38,15 @@ Row {
     KeyCap { keys: qsTr("invio") }
     Words { text: qsTr("per avviare") }
     Dot {}
-    KeyCap { keys: Theme.keyText("⌘,") }
-    Words { text: qsTr("impostazioni") }
+    Row {
+        anchors.verticalCenter: parent.verticalCenter
+        visible: !hint.isSearching
+        spacing: Theme.space4
+
+        Words { text: qsTr("scrivi"); color: Theme.textSoft }
+        Words { text: qsTr("per cercare") }
+    }
+    Dot { visible: !hint.isSearching }
+    KeyCap { keys: hint.isSearching ? "Esc" : Theme.keyText("⌘,") }
+    Words { text: hint.isSearching ? qsTr("per rivedere tutti i profili") : qsTr("impostazioni") }
 }

@@ -59,6 +59,7 @@ Measures {
     readonly property real tileSummaryTop: tileNameTop + scaled(28)
     readonly property real tileBadgeBottom: 16 + scaled(32)
     readonly property real statusDot: 8
+    readonly property real lastMark: 9
     readonly property real addTileWidth: scaled(124)
     readonly property real addLeaf: 56
     readonly property real addIcon: 24
@@ -70,4 +71,8 @@ Measures {
     readonly property real stripSpare: 12 ///< keeps the scale, ring and shadow of a tile from being clipped
     readonly property real stripEdge: 48
     readonly property real stripFade: 40
+
+    // ---- The search
+
+    readonly property real capsule: 380
 }

@@ -28,6 +28,7 @@ FocusScope {
 
     property bool isCovered: false ///< whether something lies over the whole view
     property ModalLayer sheet: null
+    property Item finder: null ///< a PickerSearch, which isn't even loaded before something is typed
     readonly property bool canBeUsed: !view.isCovered && !(view.sheet && view.sheet.isOpen)
     property string focusedBelow ///< the tile that had the focus when the sheet opened
 
@@ -57,14 +58,24 @@ FocusScope {
         strip.takeFocus()
         return moved
     }
-
     function moveTo(row: int): void {
         view.picker.focused = strip.profiles.idNear(row)
+        strip.takeFocus()
+    }
+    function followSearch(): void {
+        if (!view.finder)
+            view.finder = Qt.createComponent("PickerSearch.qml").createObject(layers, {
+                search: search, profiles: strip.profiles, indent: Qt.binding(() => view.columnLeft),
+                capsuleTop: Qt.binding(() => view.places.subtitle + view.spareAbove),
+                tilesTop: Qt.binding(() => strip.y + Theme.picker.stripSpare)
+            }) as Item
+        view.picker.followSearch(search.text !== "")
         strip.takeFocus()
     }
 
     focus: true
 
+    Component.onCompleted: view.picker.rows = strip.profiles
     Keys.onLeftPressed: event => event.accepted = view.move(-1)
     Keys.onRightPressed: event => event.accepted = view.move(1)
     Keys.onReturnPressed: event => event.accepted = view.picker.launchFocused()
@@ -79,7 +90,12 @@ FocusScope {
         else if (event.key === Qt.Key_End)
             view.moveTo(strip.count - 1)
         else
-            event.accepted = view.picker.launchNumber(event.text)
+            event.accepted = view.canBeUsed && search.take(event.key, event.modifiers, event.text)
+                             || view.picker.launchNumber(event.text)
+    }
+
+    SearchText {
+        id: search
     }
 
     BrandBackground {}
@@ -89,49 +105,22 @@ FocusScope {
         visible: !view.isCompact
     }
 
-    BrandLockup {
+    PickerBar {
         x: view.columnLeft
         y: view.places.barTop
+        width: view.columnWidth
         height: Theme.picker.bar
-    }
-    Row {
-        anchors.right: parent.right
-        anchors.rightMargin: view.columnLeft
-        y: view.places.barTop + (Theme.picker.bar - height) / 2
-        spacing: Theme.space8
         enabled: view.canBeUsed
-
-        GhostButton {
-            text: qsTr("Gestisci profili")
-            symbol: "slider.horizontal.3"
-            onClicked: view.manageAsked()
-        }
-        GhostButton {
-            symbol: "gearshape"
-            label: qsTr("Impostazioni")
-            help: Theme.keyText(qsTr("Impostazioni (⌘,)"))
-            onClicked: view.manageAsked()
-        }
+        offersNewProfile: strip.isLong
+        onManageAsked: view.manageAsked()
+        onNewProfileAsked: view.newProfile(view.picker.focused)
     }
-
-    Eyebrow {
-        x: view.columnLeft
-        y: view.places.overline + view.spareAbove
-        text: qsTr("Scegli un profilo")
-    }
-    PickerQuestion {
-        x: view.columnLeft - Theme.picker.opticalMargin
-        y: view.places.title + view.spareAbove
+    PickerHeading {
+        y: view.spareAbove
+        places: view.places
+        indent: view.columnLeft
         isCompact: view.isCompact
-    }
-    StyledText {
-        x: view.columnLeft
-        y: view.places.subtitle + view.spareAbove
-        look: Theme.type.subtitle
-        text: qsTr("Ogni profilo ha il suo account, le sue skill e le sue regole.")
-        color: Theme.textSoft
-        Accessible.role: Accessible.StaticText
-        Accessible.name: text
+        isSearching: search.text !== ""
     }
 
     TileStrip {
@@ -143,10 +132,16 @@ FocusScope {
         anchors { left: parent.left; right: parent.right }
         y: view.places.tiles + view.spareAbove - Theme.picker.stripSpare
         height: (view.isCompact ? Theme.picker.tileHeightCompact : Theme.picker.tileHeight) + 2 * Theme.picker.stripSpare
-        profiles: ProfileListModel { app: view.app }
+        profiles: ProfileListModel {
+            app: view.app
+            search: search.text
+            recentFirst: view.app.recentFirst
+            onSearchChanged: view.followSearch()
+        }
         focused: view.picker.focused
         showsFocused: !view.isFocusElsewhere
         isCompact: view.isCompact
+        isSearched: search.text !== ""
         margin: view.columnLeft
         onLaunched: profileId => view.app.launch(profileId)
         onSettingsAsked: profileId => view.manage(profileId)
@@ -166,6 +161,7 @@ FocusScope {
     }
     PickerHint {
         visible: !view.isCompact || !damaged.visible // a small window has no room for both
+        isSearching: search.text !== ""
         x: view.columnLeft
         y: view.height - view.places.footer - height
     }
@@ -183,6 +179,13 @@ FocusScope {
 
         anchors.fill: parent
         enabled: !view.isCovered
+    }
+    Connections {
+        target: view.picker
+
+        function onAllAsked(): void {
+            search.clear()
+        }
     }
     Connections {
         target: view.sheet

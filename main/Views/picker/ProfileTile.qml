@@ -13,6 +13,9 @@ Item {
     required property string name
     required property string summary
     required property profileLook look
+    required property list<int> foundInName
+    required property list<int> foundInSummary
+    required property bool isActive
     required property bool isRunning
     required property bool hasOwnAccount
     required property string lastLaunch
@@ -22,6 +25,7 @@ Item {
     required property bool isFocused
     required property bool isLit ///< looks focused
     required property bool isCompact
+    required property bool hasDigit ///< launches it
 
     readonly property int position: index + 1
     readonly property string status: isRunning ? qsTr("Aperto") : lastLaunch
@@ -39,7 +43,8 @@ Item {
     Accessible.role: Accessible.Button
     Accessible.name: name
     Accessible.description: {
-        const told = [qsTr("%1, profilo %2 di %3").arg(status).arg(position).arg(count)]
+        const when = isActive ? qsTr("ultimo, %1").arg(status) : status
+        const told = [qsTr("%1, profilo %2 di %3").arg(when).arg(position).arg(count)]
         if (tile.hasOwnAccount)
             told.push(qsTr("Account Claude separato"))
         if (tile.summary !== "")
@@ -84,13 +89,17 @@ Item {
         name: tile.name
         summary: tile.summary
         look: tile.look
+        foundInName: tile.foundInName
+        foundInSummary: tile.foundInSummary
         status: tile.status
+        isActive: tile.isActive
         position: tile.position
         isRunning: tile.isRunning
         wasLaunched: tile.wasLaunched
         hasOwnAccount: tile.hasOwnAccount
         isFocused: tile.isLit
         isCompact: tile.isCompact
+        hasDigit: tile.hasDigit
 
         Behavior on scale {
             NumberAnimation { duration: Theme.motion.tilePress; easing.type: Easing.OutQuad }

@@ -13,13 +13,17 @@ Item {
     required property string name
     required property string summary
     required property profileLook look
+    required property list<int> foundInName
+    required property list<int> foundInSummary
     required property string status
+    required property bool isActive ///< launched last
     required property int position
     required property bool isRunning
     required property bool wasLaunched
     required property bool hasOwnAccount
     required property bool isFocused
     required property bool isCompact
+    required property bool hasDigit
     readonly property int digitKeys: 9 ///< only these profiles have a key of their own
 
     Accessible.ignored: true
@@ -32,15 +36,16 @@ Item {
         isLit: label.isFocused
         isFramed: false // the tile is
     }
-    StyledText {
+    FoundText {
         anchors { left: parent.left; right: parent.right; margins: Theme.space16 }
         y: Theme.picker.tileNameTop
+        found: label.foundInName
         look: Theme.type.tileName
         text: label.name
         elide: Text.ElideRight
         Accessible.ignored: true
     }
-    StyledText {
+    FoundText {
         readonly property int lines: label.isCompact && label.hasOwnAccount ? 2 : 3
         readonly property bool hasPath: Theme.hasPaths(label.summary)
 
@@ -51,6 +56,7 @@ Item {
         height: Math.min(implicitHeight, lines * look.lineHeight)
         clip: hasPath
         look: Theme.type.summary
+        found: hasPath ? [] : label.foundInSummary
         text: hasPath ? Theme.withPaths(label.summary, look) : label.summary
         textFormat: hasPath ? Text.RichText : Text.PlainText
         color: Theme.textSoft
@@ -82,9 +88,14 @@ Item {
         anchors { left: parent.left; bottom: parent.bottom; margins: Theme.space16 }
         spacing: Theme.space8
 
+        Repeater {
+            model: label.isActive ? 1 : 0
+
+            delegate: LastMark {}
+        }
         Rectangle {
             anchors.verticalCenter: parent.verticalCenter
-            visible: label.isRunning
+            visible: label.isRunning && !label.isActive
             width: Theme.picker.statusDot
             height: Theme.picker.statusDot
             radius: Theme.picker.statusDot / 2
@@ -99,7 +110,7 @@ Item {
     }
     StyledText {
         anchors { right: parent.right; bottom: parent.bottom; margins: Theme.space16 }
-        visible: label.position <= label.digitKeys
+        visible: label.hasDigit && label.position <= label.digitKeys
         look: Theme.type.digit
         text: label.position
         color: Theme.textFaint

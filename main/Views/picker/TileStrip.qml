@@ -14,6 +14,7 @@ ListView {
     required property string focused
     required property bool showsFocused ///< lights the focused tile
     required property bool isCompact
+    required property bool isSearched ///< shows only what a search has found
     required property real margin
     property var menu: null ///< a TileMenu, which isn't even loaded before it first opens
 
@@ -47,11 +48,17 @@ ListView {
     /// What the list says of its own width is a guess until it has made its last tile.
     readonly property real tilesWidth: count * (Theme.picker.tileWidth + Theme.cardGap) - Theme.cardGap
     readonly property real tileWidth: Theme.picker.tileWidth ///< grows with the desktop's text scale
+    /// Whether all tiles together, and what follows them, are wider than the strip.
+    readonly property bool isLong: (profiles.total - count) * (tileWidth + Theme.cardGap) + tilesWidth
+                                   + Theme.cardGap + Theme.picker.addTileWidth > width - 2 * margin
+    property bool hasSettled: false ///< until then, nothing is seen to scroll
     readonly property real lastX: Math.max(firstX, originX + tilesWidth + rightMargin - width)
 
     function scrollTo(x: real): void {
         scrolling.to = Math.max(strip.firstX, Math.min(strip.lastX, x))
         scrolling.restart()
+        if (!strip.hasSettled)
+            scrolling.complete()
     }
     /// Keeps the focused tile away from the edges.
     function showFocused(): void {
@@ -64,26 +71,43 @@ ListView {
     }
     /// Gives the keyboard focus to the focused tile.
     function takeFocus(): void {
-        if (strip.currentItem)
-            strip.currentItem.forceActiveFocus(Qt.OtherFocusReason)
+        strip.forceLayout()
+        const item = strip.currentItem ?? strip
+        item.forceActiveFocus(Qt.OtherFocusReason)
     }
     function settle(): void {
         strip.showFocused()
         scrolling.complete()
+        strip.hasSettled = true
     }
 
     orientation: ListView.Horizontal
     boundsBehavior: Flickable.StopAtBounds
     leftMargin: margin
-    rightMargin: margin + end.width + Theme.cardGap
+    rightMargin: margin + (isSearched ? 0 : end.width + Theme.cardGap)
     spacing: Theme.cardGap
     model: profiles
     currentIndex: profiles.count > 0 ? profiles.indexOf(focused) : -1
     highlightFollowsCurrentItem: false
     keyNavigationEnabled: false
     onCurrentIndexChanged: showFocused()
+    onCountChanged: showFocused()
     onWidthChanged: settling.restart()
     onTileWidthChanged: settling.restart()
+
+    add: Transition {
+        NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Theme.motion.tileFade }
+    }
+    remove: Transition {
+        NumberAnimation { property: "opacity"; to: 0; duration: Theme.motion.tileFade }
+    }
+    move: moving
+    displaced: Transition {
+        id: moving
+
+        NumberAnimation { property: "x"; duration: Theme.motion.tileMove; easing.type: Easing.OutCubic }
+        NumberAnimation { property: "opacity"; to: 1; duration: Theme.motion.tileFade } // where coming was cut short
+    }
 
     Accessible.role: Accessible.List
     Accessible.name: qsTr("Profili")
@@ -148,6 +172,7 @@ ListView {
         isFocused: profileId === strip.focused
         isLit: isFocused && strip.showsFocused
         isCompact: strip.isCompact
+        hasDigit: !strip.isSearched
         onLaunched: strip.launched(tile.profileId)
         onSettingsAsked: strip.settingsAsked(tile.profileId)
         onMenuAsked: (x, y) => {
@@ -155,31 +180,17 @@ ListView {
             strip.openMenuAt(tile, x, y)
         }
     }
-    Row {
+    StripEnd {
         id: end
-
-        readonly property real taken: strip.count * (Theme.picker.tileWidth + Theme.cardGap) + Theme.picker.addTileWidth
-        readonly property real free: strip.width - 2 * strip.margin - taken
-        readonly property int seats: Math.floor(free / (Theme.picker.tileWidth + Theme.cardGap))
 
         // Outside the scrolled item: inside it, Tab would reach this before the tiles.
         parent: strip
         x: strip.originX + strip.contentWidth + Theme.cardGap - strip.contentX
         y: Theme.picker.stripSpare
-        spacing: Theme.cardGap
-
-        AddProfileTile {
-            isCompact: strip.isCompact
-            onClicked: strip.newProfileAsked(strip.focused)
-        }
-        Repeater {
-            model: strip.isCompact ? 0 : Math.max(0, Math.min(Theme.picker.seatOpacities.length, end.seats))
-
-            delegate: EmptySeat {
-                required property int index
-
-                opacity: Theme.picker.seatOpacities[index]
-            }
-        }
+        visible: !strip.isSearched
+        tiles: strip.count
+        free: strip.width - 2 * strip.margin
+        isCompact: strip.isCompact
+        onNewProfileAsked: strip.newProfileAsked(strip.focused)
     }
 }

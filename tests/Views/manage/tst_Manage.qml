@@ -143,44 +143,6 @@ Item {
             verify(hasFocus(items))
         }
 
-        function test_sidebar_IsOneListOfFewRows(): void {
-            for (let i = 0; i < 200; ++i) {
-                const id = "p" + String(i).padStart(3, "0")
-                home.write(`.claude-profiles/${id}/.launcher.json`, `{"name": "${id}"}`)
-            }
-            home.app.reload()
-            show("default")
-            const rows = () => all(item => item instanceof ProfileRow)
-            const selected = () => the(item => item instanceof ProfileRow && item.isSelected)
-            verify(rows().length < 40)
-            compare(selected().mapToItem(scene, 0, 0).x, Theme.manage.listInset)
-            press(Qt.Key_Up)
-            compare(home.app.selection, "default")
-            press(Qt.Key_Down, Qt.Key_Down)
-            compare(home.app.selection, "p001")
-            verify(selected().isRinged)
-            for (const letter of "P15")
-                keyClick(letter)
-            compare(home.app.selection, "p150")
-            press(Qt.Key_End)
-            compare(home.app.selection, "p199")
-            tryVerify(() => isInSight(selected()))
-            verify(rows().length < 40)
-            const place = selected().ListView.view.contentY
-            home.app.reload()
-            settle()
-            compare(selected().name, "p199")
-            compare(selected().ListView.view.contentY, place)
-            press(Qt.Key_Menu, Qt.Key_Down, Qt.Key_Return)
-            compare(home.asked().revealed, ["~/.claude-profiles/p199"])
-            verify(hasFocus(selected().ListView.view))
-            press(Qt.Key_Up, Qt.Key_Menu, Qt.Key_Down, Qt.Key_Return)
-            compare(home.asked().revealed[1], "~/.claude-profiles/p198")
-            keyClick(Qt.Key_F10, Qt.ShiftModifier)
-            press(Qt.Key_Up, Qt.Key_Return)
-            verify(view.hasSheet)
-        }
-
         function test_whatIsOffered_DependsOnTheProfile(): void {
             home.makeProfile("Lavoro", {account: "default"})
             show("default")

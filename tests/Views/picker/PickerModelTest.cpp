@@ -4,6 +4,7 @@
 #include "Views/picker/PickerModel.h"
 
 #include "AppModel/AppModelFixture.h"
+#include "Views/manage/ProfileListModel.h"
 
 namespace selvane::test {
 namespace {
@@ -14,7 +15,10 @@ protected:
         for (const char* name : {"Bea", "alfa"})
             home.make(name);
         picker.setProperty("app", QVariant::fromValue(&model()));
+        rows.setApp(&model());
+        picker.setProperty("rows", QVariant::fromValue<QAbstractItemModel*>(&rows));
     }
+    ProfileListModel rows;
     PickerModel picker;
 };
 
@@ -47,6 +51,7 @@ TEST_F(PickerModelTest, keys_LaunchOnlyWhatIsThere) {
     EXPECT_EQ(home.store.activeID(), "alfa");
     PickerModel next;
     next.setApp(&model());
+    next.setProperty("rows", QVariant::fromValue<QAbstractItemModel*>(&rows));
     next.begin();
     EXPECT_EQ(next.focused(), "alfa") << "the profile launched last";
     next.begin();

@@ -93,6 +93,93 @@ Item {
             compare(home.app.selection, "default")
         }
 
+        function type(text: string): void {
+            for (const letter of text)
+                keyClick(letter)
+        }
+        function shown(): var {
+            const strip = findChild(view, "strip")
+            return Array.from({length: strip.profiles.count}, (_, row) => strip.profiles.idNear(row))
+        }
+
+        function test_typing_LeavesWhatIsFound_AndReturnLaunchesTheFirst(): void {
+            home.makeProfile("Cliente Aurora")
+            home.makeProfile("Cliente 2")
+            show()
+            const strip = findChild(view, "strip")
+            type("CLI")
+            compare(shown(), ["cliente-2", "cliente-aurora"])
+            const capsule = visibleItems(item => item instanceof SearchCapsule, view)[0]
+            compare([capsule.text, capsule.count], ["CLI", "2 di 5 profili"])
+            tryVerify(() => tile("Cliente 2") && tile("Cliente 2").activeFocus && tile("Cliente 2").isLit)
+            compare(Array.from(tile("Cliente 2").foundInName), [0, 3])
+            verify(!tile("Cliente 2").hasDigit)
+            tryVerify(() => tile("Studio") === null && tile("Cliente 2").mapToItem(strip, 0, 0).x === strip.margin)
+            keyClick(Qt.Key_Right)
+            compare(view.picker.focused, "cliente-aurora")
+            type(" 2") // a digit is text now
+            compare(shown(), ["cliente-2"])
+            compare(launchedInto(), "0 ")
+            keyClick(Qt.Key_Return)
+            compare(launchedInto(), "1 ")
+            compare(view.picker.focused, "cliente-2")
+
+            type("x")
+            compare(shown(), [])
+            verify(visibleItems(item => item.text === "Nessun profilo con «CLI 2x»", view).length === 1)
+            keyClick(Qt.Key_Return)
+            compare(launchedInto(), "1 ")
+            keyClick(Qt.Key_Backspace)
+            compare(shown(), ["cliente-2"])
+            keyClick(Qt.Key_Escape)
+            compare(shown().length, 5)
+            compare(view.picker.focused, "cliente-2")
+            verify(!capsule.visible)
+            tryVerify(() => tile("Studio") !== null)
+            keyClick(Qt.Key_1)
+            compare(launchedInto(), "2 ")
+        }
+
+        function test_search_EndsWhenAnotherProfileIsSelected(): void {
+            show()
+            type("stu")
+            home.app.select("lavoro")
+            compare(shown().length, 3)
+            tryVerify(() => tile("Lavoro") && tile("Lavoro").activeFocus)
+            type("a")
+            compare(view.picker.focused, "default") // in its description
+            keyClick(Qt.Key_Backspace)
+            compare(shown().length, 3)
+        }
+
+        function test_order_RecentFirst_MarksTheLastOne(): void {
+            show()
+            keyClick(Qt.Key_3)
+            compare(launchedInto(), "1 ")
+            compare(shown(), ["default", "lavoro", "studio"])
+            home.app.recentFirst = true
+            compare(shown(), ["studio", "default", "lavoro"])
+            tryVerify(() => tile("Studio").index === 0 && tile("Studio").Accessible.description.startsWith("ultimo, "))
+            keyClick(Qt.Key_2)
+            compare(view.picker.focused, "default")
+            compare(launchedInto(), "2 ")
+            home.app.recentFirst = false
+        }
+
+        function test_newProfile_IsInTheBarWhileTheStripScrolls(): void {
+            const offers = () => visibleItems(item => item instanceof GhostButton && item.text === "Nuovo profilo", view)
+            show()
+            compare(offers().length, 0)
+            for (let i = 0; i < 4; ++i)
+                home.makeProfile("p" + i, {source: ""})
+            home.app.reload()
+            tryVerify(() => offers().length === 1)
+            type("p0") // which is too few to scroll
+            compare(offers().length, 1)
+            mouseClick(offers()[0])
+            verify(view.sheet)
+        }
+
         function test_pointer_FocusesLaunchesAndOpensSettings(): void {
             show()
             const work = tile("Lavoro")
