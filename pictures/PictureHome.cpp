@@ -27,9 +27,12 @@ PictureHome::PictureHome(const std::string& place) : Home(Processes::seen, place
     fillBuiltIn();
     makeWork();
     makeOthers();
-    launched("lavoro", 26h);
     launched("cliente-aurora", 75h);
+    launched("cliente-borea", 15 * 24h);
+    launched("scrittura", 5 * 24h);
+    launched("universita", 16 * 24h);
     launched("default", 2h);
+    launched("lavoro", 26h); // last
     openInClaude(builtIn());
 }
 
@@ -156,6 +159,18 @@ void PictureHome::makeOthers() {
     laboratory.summary = "Prove con agenti e server MCP";
     laboratory.look = {"flask", "Muschio"};
     store.create(laboratory);
+    NewProfile shop = request("Cliente Borea", builtIn());
+    shop.summary = "Sito e negozio, consegne a fine mese";
+    shop.look = {"globe", "Lago"};
+    store.create(shop);
+    NewProfile writing = request("Scrittura", {}, "default");
+    writing.summary = "Articoli, newsletter e traduzioni";
+    writing.look = {"pencil.and.ruler", "Erica"};
+    store.create(writing);
+    NewProfile studies = request("Università", builtIn(), "default");
+    studies.summary = "Appunti, esercizi e tesi";
+    studies.look = {"graduationcap", "Betulla"};
+    store.create(studies);
 }
 
 void PictureHome::launched(const std::string& id, std::chrono::hours ago) {

@@ -11,7 +11,7 @@
 
 namespace selvane::test {
 
-/// A home that has been in use, for the pictures of the windows: four profiles, one of them open in Claude
+/// A home that has been in use, for the pictures of the windows: seven profiles, one of them open in Claude
 /// Desktop, items of every kind, sessions of the Code tab.
 class PictureHome : public Home {
 public:

@@ -52,6 +52,8 @@ private:
 void takeConversations(Scene& scene);
 /// A notice of something that can be taken back, and that it was.
 void takeOffer(Scene& scene);
+/// The picker, and what typing there finds.
+void takePicker(Scene& scene);
 /// The sheet that restores, with an archive of the profiles.
 void takeRestore(Scene& scene);
 

@@ -84,15 +84,6 @@ void scrollTo(Scene& scene, const char* label, double y) {
     }
 }
 
-void takePicker(Scene& scene) {
-    scene.model.select("lavoro");
-    scene.launcher.showPicker();
-    scene.take(kPicker, "picker");
-    scene.resize(kPicker, {720, 560});
-    scene.take(kPicker, "picker-narrow");
-    scene.resize(kPicker, {980, 660});
-}
-
 void takeManage(Scene& scene) {
     scene.launcher.showManage();
     scene.resize(kManage, {880, 600});
