@@ -3,11 +3,11 @@
 
 #include "desktop/SignInHandler.h"
 
-#include <algorithm>
-
 #include "model/LauncherError.h"
 #include "platform/files/FileManager.h"
+#include "platform/files/Locations.h"
 #include "platform/process/SchemeHandler.h"
+#include "platform/text/EntryText.h"
 #include "platform/text/Text.h"
 
 namespace selvane {
@@ -18,41 +18,17 @@ namespace fs = std::filesystem;
 constexpr const char* kScheme = "claude";
 constexpr std::string_view kFormerKey = "\nX-Selvane-Former=";
 
-/// A word of an entry's command line: quoted for the command line, then for the file. "%" begins a field
-/// code.
-std::string quoted(const std::string& word) {
-    std::string result = "\"";
-    for (const char byte : word) {
-        if (byte == '"' || byte == '`' || byte == '$')
-            result += "\\\\";
-        else if (byte == '\\')
-            result += "\\\\\\";
-        else if (byte == '%')
-            result += '%';
-        result += byte;
-    }
-    return result + '"';
-}
-
 std::string entryText(const fs::path& program, const std::string& former) {
-    const std::string path = program.string();
-    std::string text = "[Desktop Entry]\nType=Application\nName=Selvane\nNoDisplay=true\nTerminal=false\n";
-    text += "Exec=" + quoted(path) + " %u\n";
-    text += "MimeType=x-scheme-handler/" + std::string(kScheme) + ";";
-    return text.append(kFormerKey).append(former).append("\n");
-}
-
-fs::path dataHome(const Environment& environment) {
-    const auto configured = environment.find("XDG_DATA_HOME");
-    if (configured != environment.end() && configured->second.starts_with('/'))
-        return configured->second;
-    return homeFolder(environment) / ".local/share";
+    std::string entry = "[Desktop Entry]\nType=Application\nName=Selvane\nNoDisplay=true\nTerminal=false\n";
+    entry += "Exec=" + text::entryWord(program.string()) + " %u\n";
+    entry += "MimeType=x-scheme-handler/" + std::string(kScheme) + ";";
+    return entry.append(kFormerKey).append(former).append("\n");
 }
 
 } // namespace
 
 SignInHandler::SignInHandler(const Environment& environment)
-    : m_entry(dataHome(environment) / "applications/org.selvane.Selvane.sign-in.desktop") {}
+    : m_entry(userDataFolder(environment) / "applications/org.selvane.Selvane.sign-in.desktop") {}
 
 /// Who had the links before, as the entry says; empty if nobody, or if there is no entry.
 std::string SignInHandler::former() const {

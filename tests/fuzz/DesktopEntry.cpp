@@ -5,6 +5,7 @@
 
 #include "Fuzzing.h"
 #include "platform/linux/services/FieldCodes.h"
+#include "platform/text/EntryText.h"
 
 namespace selvane::fuzz {
 namespace {
@@ -49,6 +50,18 @@ public:
         require(size <= text.size(), "the arguments are the entry's");
     }
 
+    /// An entry of our own says and starts just what it was made for.
+    void checkWritten(std::string_view text) {
+        if (!text::fitsEntry(text))
+            return;
+        require(text::fromEntryValue(text::entryValue(text)) == text, "a value reads back as it was written");
+        m_entry->set("[Desktop Entry]\nType=Application\nName=" + text::entryValue(text) + "\nExec=claude " +
+                     text::entryWord(text) + "\n");
+        const auto application = findApplication({{"a"}, "none"}, m_environment);
+        require(application && application->arguments == std::vector{std::string(text)},
+                "a word is one argument, and the same");
+    }
+
 private:
     const std::filesystem::path m_home = newFolder();
     std::optional<ChangingFile> m_entry;
@@ -63,5 +76,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string_view text = selvane::fuzz::textOf(data, size);
     selvane::fuzz::checkWord(text);
     entries.check(text);
+    entries.checkWritten(text);
     return 0;
 }

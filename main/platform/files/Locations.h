@@ -16,6 +16,9 @@ namespace selvane {
 std::filesystem::path applicationDataFolder(const Environment& environment, const std::string& name,
                                             const std::function<bool()>& isInstalled);
 
+/// Where programs put what they add for this user alone, such as entries of the desktop's menu and icons.
+std::filesystem::path userDataFolder(const Environment& environment);
+
 /// Whether command-line programs keep their logins in the system's keychain; elsewhere they keep them in
 /// files of the home folder.
 bool keepsLoginsWithTheSystem();

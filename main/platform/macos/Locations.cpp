@@ -11,6 +11,10 @@ std::filesystem::path applicationDataFolder(const Environment& environment, cons
     return homeFolder(environment) / "Library/Application Support" / name;
 }
 
+std::filesystem::path userDataFolder(const Environment& environment) {
+    return homeFolder(environment) / "Library/Application Support";
+}
+
 bool keepsLoginsWithTheSystem() {
     return true;
 }
