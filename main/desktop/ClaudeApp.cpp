@@ -71,7 +71,7 @@ ApplicationIdentity ClaudeApp::identity() {
 }
 
 ClaudeApp::ClaudeApp(Workspace& workspace, Clock& clock, const Environment& environment)
-    : m_workspace(workspace), m_clock(clock), m_notes(environment) {}
+    : m_workspace(workspace), m_clock(clock), m_notes(environment), m_entries(environment) {}
 
 std::optional<Application> ClaudeApp::application() const {
     return m_workspace.application();
@@ -226,6 +226,8 @@ void ClaudeApp::launch(const Profile& profile, ProfileStore& store, const Enviro
         note.config = normalizedPath(profile.configDir);
     OpenConfiguration opening = configuration(profile, dataDir, store.liveDesktopDir());
     opening.environment.insert(start.begin(), start.end());
+    const std::vector<std::string> ofEntry = m_entries.windowArguments(profile);
+    opening.arguments.insert(opening.arguments.begin(), ofEntry.begin(), ofEntry.end());
     if (link)
         opening.arguments.push_back(link->secretText());
     note.opened = m_workspace.open(installed, opening);

@@ -15,6 +15,7 @@
 #include "desktop/DataFolders.h"
 #include "desktop/LaunchNotes.h"
 #include "desktop/OpenCopies.h"
+#include "desktop/ProfileEntries.h"
 #include "desktop/SignInLink.h"
 #include "model/Profile.h"
 #include "platform/process/Clock.h"
@@ -46,7 +47,8 @@ public:
     /// The names by which the system knows the application, for `makeWorkspace`.
     static ApplicationIdentity identity();
 
-    /// `environment` is that of the user's session: it says where the launch notes are.
+    /// `environment` is that of the user's session: it says where the launch notes and the entries among the
+    /// desktop's applications are.
     ClaudeApp(Workspace& workspace, Clock& clock, const Environment& environment);
 
     std::optional<Application> application() const; ///< nothing if not installed
@@ -58,6 +60,9 @@ public:
     /// Every process whose executable is Claude Desktop's or is inside a data folder.
     std::vector<ProcInfo> allProcesses(const DataFolders& folders) const;
 
+    /// The profiles that have an entry of their own among the desktop's applications.
+    const ProfileEntries& entries() const { return m_entries; }
+
     /// Asks for the copy's window to come to the front. False if the window system doesn't allow that.
     bool activate(const Instance& instance) const;
     /// Asks the copies to end, then waits until they all have and `until` holds, for `timeout` at most (three
@@ -67,8 +72,8 @@ public:
     /// Brings the profile up to date, opens a new copy with it and waits up to three seconds for the copy to
     /// show its data folder. Throws if nothing was opened, or if the copy uses another data folder or
     /// configuration; that copy stays open. `start` holds variables for this one start, such as what lets the
-    /// new window come to the front. Blocks.
-    /// The copy gets `link`, if there is one, as its last argument.
+    /// new window come to the front. The copy gets `link`, if there is one, as its last argument; and if the
+    /// profile has an entry of its own among the applications, its windows get that entry's class. Blocks.
     void launch(const Profile& profile, ProfileStore& store, const Environment& start = {},
                 const std::optional<SignInLink>& link = {}) const;
     /// Hands a sign-in over to an open copy: starts the application as for a second copy with the same data
@@ -93,6 +98,7 @@ private:
     Workspace& m_workspace;
     Clock& m_clock;
     const LaunchNotes m_notes;
+    const ProfileEntries m_entries;
 };
 
 /// The processes in `all` that belong to the data folder `dataDir` (normalized): their executable is inside
