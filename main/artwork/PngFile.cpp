@@ -6,21 +6,27 @@
 #include <QBuffer>
 
 #include <cmath>
+#include <utility>
 
 #include "platform/files/FileManager.h"
 
 namespace selvane {
 
-bool writePng(QImage image, int scale, const std::filesystem::path& file) {
+QByteArray pngBytes(QImage image, int scale) {
     constexpr double kPointsAMetre = 72 / 0.0254;
     const int dots = static_cast<int>(std::lround(kPointsAMetre * scale));
     image.setDotsPerMeterX(dots);
     image.setDotsPerMeterY(dots);
     QBuffer buffer;
     buffer.open(QBuffer::WriteOnly);
-    if (image.isNull() || !image.save(&buffer, "PNG"))
+    return !image.isNull() && image.save(&buffer, "PNG") ? buffer.data() : QByteArray();
+}
+
+bool writePng(QImage image, int scale, const std::filesystem::path& file) {
+    const QByteArray bytes = pngBytes(std::move(image), scale);
+    if (bytes.isEmpty())
         return false;
-    FileManager().write(file, {buffer.data().constData(), static_cast<std::size_t>(buffer.size())});
+    FileManager().write(file, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
     return true;
 }
 

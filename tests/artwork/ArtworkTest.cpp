@@ -9,6 +9,7 @@
 #include "artwork/Brand.h"
 #include "artwork/HuePalette.h"
 #include "artwork/Icons.h"
+#include "artwork/ProfileIcon.h"
 #include "support/Command.h"
 #include "support/Home.h"
 
@@ -80,6 +81,28 @@ TEST(Artwork, renderDMGBackground_TwoResolutionsOfOneSize_TheSameEachTime) {
     }
     ASSERT_EQ(home.execute({"render-dmg-background", folder.string()}), (Outcome{0, "", ""}));
     EXPECT_EQ(treeOf(folder), first);
+}
+
+TEST(Artwork, profileIcon_EverySize_ALeafOfItsOwn) {
+    const auto icon = profileIcon({"briefcase", "Genziana"});
+    EXPECT_EQ(icon, profileIcon({"briefcase", "Genziana"}));
+    EXPECT_EQ(icon.size(), ApplicationEntries::iconSizes().size());
+    for (const IconImage& image : icon) {
+        const QImage picture = QImage::fromData(QByteArray::fromStdString(image.png));
+        const int pixels = image.size.points * image.size.scale;
+        EXPECT_EQ(picture.size(), QSize(pixels, pixels));
+        EXPECT_NE(image.png.find(kIconMark), std::string::npos) << pixels;
+        // Near the bottom there is the body, or the leaf.
+        const QColor bottom = picture.pixelColor(pixels / 2, pixels * 86 / 100);
+        EXPECT_EQ(bottom.alpha(), 255) << pixels;
+        EXPECT_EQ(bottom.lightness() < 64, image.size.points >= 48) << pixels;
+    }
+    const auto flatLeaf = [](const ProfileLook& look) {
+        return profilePicture(look, {32, 1}).pixelColor(16, 3);
+    };
+    EXPECT_EQ(flatLeaf({"briefcase", "Genziana"}), QColor(0xA0, 0xB6, 0xF9));
+    EXPECT_EQ(flatLeaf({"flame", "Sconosciuta"}), Brand::accent);
+    EXPECT_NE(profilePicture({"briefcase", ""}, {48, 1}), profilePicture({"flame", ""}, {48, 1}));
 }
 
 TEST(Artwork, iconForSymbol_Unknown_IsAPerson) {
