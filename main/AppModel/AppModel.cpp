@@ -83,8 +83,12 @@ void AppModel::setText(QString& member, const QString& value, void (AppModel::*c
     emit(this->*changed)();
 }
 
+void AppModel::setError(const QString& text) {
+    setText(m_errorMessage, text, &AppModel::errorMessageChanged);
+}
+
 void AppModel::report(const std::exception& error) {
-    setText(m_errorMessage, explained(error), &AppModel::errorMessageChanged);
+    setError(explained(error));
 }
 
 void AppModel::setNotice(const QString& text) {

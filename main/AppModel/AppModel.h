@@ -131,6 +131,7 @@ public:
     Q_INVOKABLE QString nameOf(const QString& id) const; ///< empty if no loaded profile has that id
     Q_INVOKABLE selvane::LookValue lookOf(const QString& id) const;
     void setNotice(const QString& text);
+    void setError(const QString& text);
 
     /// Work on another thread: changes files through the store that it is given, and returns what to tell the
     /// user, if anything. Only values may be taken along.

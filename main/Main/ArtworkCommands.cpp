@@ -16,10 +16,10 @@ const std::string& folderArgument(const Call& call) {
 } // namespace
 
 void renderIcon(const Call& call) {
-    call.artwork.renderIcon(folderArgument(call));
+    call.windows.renderIcon(folderArgument(call));
 }
 void renderDMGBackground(const Call& call) {
-    call.artwork.renderDMGBackground(folderArgument(call));
+    call.windows.renderDMGBackground(folderArgument(call));
 }
 
 } // namespace selvane::CLI

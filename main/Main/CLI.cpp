@@ -18,7 +18,7 @@ constexpr std::array<Command, 16> kCommands = {{
     {"list", "", list},
     {"create", "<nome> [--from <id>] [--mode comp=modo]", create, "--from --account --mode --isolated"},
     {"sync", "<id>", sync},
-    {"launch", "<id>", launch},
+    {"launch", "<id>", launch, "--windows"},
     {"path", "<id>", path},
     {"items", "<id>", items},
     {"set-mode", "<id> componente=modalità", setMode},
@@ -54,6 +54,7 @@ bool isOption(const Command& command, std::string_view argument) {
 std::string help() {
     std::string text = "Uso: selvane                     apre le finestre\n"
                        "     selvane --new-profile       le apre su un nuovo profilo\n"
+                       "     selvane --manage            apre la gestione dei profili\n"
                        "     selvane --help | --version  mostra questo aiuto o la versione\n"
                        "     selvane <comando> ...       esegue un comando e termina\n"
                        "\nComandi:\n";

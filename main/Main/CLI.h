@@ -15,12 +15,15 @@
 
 namespace selvane {
 
-/// The drawing commands, which need the windows' module.
-class Artwork {
+/// What commands need the windows' module for.
+class Windows {
 public:
-    virtual ~Artwork() = default;
+    virtual ~Windows() = default;
     virtual void renderIcon(const std::filesystem::path& iconset) = 0;
     virtual void renderDMGBackground(const std::filesystem::path& folder) = 0;
+    // These show the picker until it is closed, or hand over to the one that is open.
+    virtual void launch(const Profile& profile) = 0; ///< as if the user had chosen it there
+    virtual void showError(const std::string& message) = 0;
 };
 
 namespace CLI {
@@ -30,7 +33,7 @@ struct Call {
     const std::vector<std::string>& arguments;
     ProfileStore& store;
     const ClaudeApp& claude;
-    Artwork& artwork;
+    Windows& windows;
     std::ostream& out;
 };
 

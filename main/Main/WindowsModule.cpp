@@ -6,6 +6,7 @@
 #include <dlfcn.h>
 
 #include "model/LauncherError.h"
+#include "model/WindowRequests.h"
 #include "platform/services/ModuleFolder.h"
 #include "platform/services/Received.h"
 
@@ -35,6 +36,20 @@ void* WindowsModule::function(const char* name) {
 
 int WindowsModule::runWindows(int argc, char** argv) {
     return reinterpret_cast<RunFunction>(function("selvane_run_windows"))(argc, argv);
+}
+
+void WindowsModule::runWindows(std::string request) {
+    std::string name = "selvane";
+    char* words[] = {name.data(), request.data(), nullptr};
+    runWindows(2, words);
+}
+
+void WindowsModule::launch(const Profile& profile) {
+    runWindows(std::string(kLaunchRequest) + profile.id);
+}
+
+void WindowsModule::showError(const std::string& message) {
+    runWindows(std::string(kErrorRequest) + message);
 }
 
 void WindowsModule::render(const char* name, const std::filesystem::path& folder) {

@@ -59,6 +59,25 @@ TEST_F(CommandLaunch, EachProfileGetsItsFoldersAndNothingOfOurs) {
     EXPECT_TRUE(fs::is_symlink(profile("lavoro") / "skills/nuova"));
 }
 
+TEST_F(CommandLaunch, FromAMenu_TheWindowsAskAndTell) {
+    home.output({"create", "Ospite", "--account", "default"});
+    EXPECT_EQ(home.run({"launch", "default", "--windows"}), Outcome{});
+    const Json builtIn = opened(normalData);
+    EXPECT_EQ(home.run({"launch", "default", "--windows"}), Outcome{});
+    EXPECT_EQ(*home.told, std::vector<std::string>());
+    EXPECT_EQ(home.run({"launch", "ospite", "--windows"}), Outcome{});
+    EXPECT_TRUE(isOpen(builtIn)) << "nobody has agreed to close it";
+    quit(builtIn);
+    EXPECT_EQ(home.run({"launch", "assente", "--windows"}), failure("Profilo sconosciuto: assente"));
+    fs::remove(program);
+    EXPECT_EQ(home.run({"launch", "ospite", "--windows"}),
+              failure("Claude.app non trovata. Installala in /Applications."));
+    EXPECT_EQ(*home.told, (std::vector<std::string>{"launch ospite", "error Profilo sconosciuto: assente",
+                                                    "launch ospite"}));
+    home.environment["DISPLAY"] = ":9999";
+    EXPECT_EQ(home.execute({"launch", "assente", "--windows"}).status, 1);
+}
+
 TEST_F(CommandLaunch, AnOpenAccountIsActivatedTakenOverAndGuarded) {
     home.output({"create", "Lavoro"});
     home.output({"create", "Ospite", "--account", "default"});

@@ -48,6 +48,7 @@ expect() {
 expect 'selvane re' 'render-dmg-background render-icon restore-desktop'
 expect 'selvane --n' '--new-profile'
 expect 'selvane --v' '--version'
+expect 'selvane launch lavoro --' '--windows'
 expect 'selvane path ' 'cliente-x default lavoro'
 expect 'selvane path lavoro ' ''
 expect 'selvane set-mode l' 'lavoro'

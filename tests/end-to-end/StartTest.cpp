@@ -30,6 +30,15 @@ TEST_F(Windows, AStartCanAskForANewProfile) {
     selvane.waitForFocus("Nome");
 }
 
+TEST_F(Windows, AStartCanAskForTheManagementWindow) {
+    auto selvane = start({"--manage"});
+    selvane.waitForWindow("Impostazioni");
+    press({XK_Control_L, '0'});
+    selvane.waitForWindow("Selvane");
+    EXPECT_EQ(home.execute({"--manage"}), Outcome{});
+    selvane.waitForWindow("Impostazioni");
+}
+
 TEST_F(Windows, AStartAfterACrashIsAFirstOne) {
     {
         auto crashed = start();

@@ -55,13 +55,19 @@ private:
     std::vector<char*> m_pointers;
 };
 
-class NoArtwork final : public Artwork {
+class ToldWindows final : public Windows {
 public:
+    explicit ToldWindows(std::vector<std::string>& told) : m_told(told) {}
+
     void renderIcon(const fs::path& iconset) override { refuse(iconset); }
     void renderDMGBackground(const fs::path& folder) override { refuse(folder); }
+    void launch(const Profile& profile) override { m_told.push_back("launch " + profile.id); }
+    void showError(const std::string& message) override { m_told.push_back("error " + message); }
 
 private:
     static void refuse(const fs::path& folder) { ADD_FAILURE() << "draws " << folder; }
+
+    std::vector<std::string>& m_told;
 };
 
 } // namespace
@@ -116,10 +122,10 @@ Outcome CommandHome::run(const std::vector<std::string>& arguments) const {
     const auto workspace = makeWorkspace(ClaudeApp::identity(), environment);
     const ClaudeApp claude(*workspace, *clock, environment);
     ProfileStore store(environment, claude);
-    NoArtwork artwork;
+    ToldWindows windows(*told);
     std::ostringstream out;
     std::ostringstream err;
-    const int status = CLI::run({arguments, store, claude, artwork, out}, err);
+    const int status = CLI::run({arguments, store, claude, windows, out}, err);
     return {status, out.str(), err.str()};
 }
 

@@ -43,6 +43,9 @@ public:
     /// What later runs in the test wait with.
     std::shared_ptr<Clock> clock = std::make_shared<SystemClock>();
 
+    /// What the windows would have shown in all runs in the test: "launch ID" or "error MESSAGE".
+    std::shared_ptr<std::vector<std::string>> told = std::make_shared<std::vector<std::string>>();
+
     /// Runs a command in the test itself. None that draws.
     Outcome run(const std::vector<std::string>& arguments) const;
     /// The output of a run, which must succeed.

@@ -25,11 +25,10 @@
 #include "Views/shell/WindowPlace.h"
 #include "artwork/Brand.h"
 #include "model/LauncherError.h"
+#include "model/WindowRequests.h"
 
 namespace selvane {
 namespace {
-
-constexpr auto kNewProfileOption = "--new-profile";
 
 /// If a display is named but doesn't answer, Qt would abort the process.
 void endWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& /*message*/) {
@@ -134,24 +133,32 @@ void LauncherApp::offerNewProfile() {
 void LauncherApp::answerStart(const QByteArray& request, const QByteArray& token) {
     m_app.perform([&] {
         useStartToken(token);
-        show(Picker);
-        answer(request);
+        answer(request.toStdString());
     });
 }
 
-void LauncherApp::answer(const QByteArray& request) {
-    if (request == kNewProfileOption)
+/// Returns the window that it has shown.
+LauncherApp::WindowName LauncherApp::answer(const std::string& request) {
+    const WindowName wanted = request == kManageRequest ? Manage : Picker;
+    show(wanted);
+    if (request == kNewProfileRequest) {
         offerNewProfile();
-    else
-        m_app.receiveSignIn(request);
+    } else if (request.starts_with(kLaunchRequest)) {
+        m_app.reload(); // it may be a new one
+        m_app.launch(QString::fromStdString(request.substr(kLaunchRequest.size())));
+    } else if (request.starts_with(kErrorRequest)) {
+        m_app.setError(QString::fromStdString(request.substr(kErrorRequest.size())));
+    } else {
+        m_app.receiveSignIn(QByteArray::fromStdString(request));
+    }
+    return wanted;
 }
 
 void LauncherApp::start(const QByteArray& request) {
-    show(Picker);
-    answer(request);
+    const WindowName first = answer(request.toStdString());
     // Only after the first window: none of the rest is worth a delay.
     const auto once = static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection);
-    connect(window(Picker), &QQuickWindow::frameSwapped, this, &LauncherApp::begun, once);
+    connect(window(first), &QQuickWindow::frameSwapped, this, &LauncherApp::begun, once);
     m_engine.singletonInstance<SystemAppearance*>(qmlTypeId("Selvane", 1, 0, "SystemAppearance"))->read();
 }
 

@@ -42,8 +42,8 @@ public:
     Updates* updates() const { return &m_updates; }
     QSize room() const;
     WindowName keyWindow() const { return m_keyWindow; }
-    /// Opens the picker and follows the desktop's settings. Throws `LauncherError` if the picker can't be
-    /// created. `request` is as for `answerStart`.
+    /// Opens the first window and follows the desktop's settings. Throws `LauncherError` if the window can't
+    /// be created. `request` is as for `answerStart`.
     void start(const QByteArray& request = {});
     /// Null until it is first shown.
     QQuickWindow* window(WindowName name) const { return m_windows.at(name).get(); }
@@ -52,8 +52,9 @@ public slots:
     // These open a window or bring it to the front, showing what is on disk now.
     void showPicker() { tryToShow(Picker); }
     void showManage() { tryToShow(Manage); }
-    /// Does what starting Selvane with this argument asks for: "--new-profile", a link that ends a sign-in,
-    /// or anything else. `token` lets the window come to the front, where that takes one.
+    /// Shows a window and does what starting Selvane with this argument asks for: one of the requests in
+    /// `model/WindowRequests.h`, a link that ends a sign-in, or anything else. `token` lets the window come
+    /// to the front, where that takes one.
     void answerStart(const QByteArray& request, const QByteArray& token = {});
     /// Asks for a path in the key window; `archiveChosen` follows.
     void askForArchive(const QString& proposedPlace, bool isThere);
@@ -64,7 +65,7 @@ signals:
     /// "Nuovo profilo…" was chosen; the key window responds.
     void newProfile();
     void keyWindowChanged();
-    /// The picker's first frame has been shown.
+    /// The first frame of the first window has been shown.
     void begun();
     /// Whether any window is visible now.
     void shownChanged(bool isShown);
@@ -75,7 +76,7 @@ signals:
 private:
     void show(WindowName name);
     void offerNewProfile();
-    void answer(const QByteArray& request);
+    WindowName answer(const std::string& request);
     void tryToShow(WindowName name);
     std::unique_ptr<QQuickWindow> makeWindow(WindowName name);
     QObject* makeLayer(const char* type, QVariantMap properties);

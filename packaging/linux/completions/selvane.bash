@@ -39,7 +39,7 @@ _selvane() {
     if ((cword == 1)); then
         _selvane_words list create sync launch path items set-mode install-helper sessions import-sessions \
             restore-desktop desktop-status backup processes render-icon render-dmg-background --new-profile \
-            --help --version
+            --manage --help --version
         return
     fi
     case ${words[1]} in
@@ -51,8 +51,14 @@ _selvane() {
                 *) _selvane_words --from --account --mode --isolated ;;
             esac
             ;;
-        sync | launch | path | items | sessions)
+        sync | path | items | sessions)
             ((cword > 2)) || _selvane_records selvane list
+            ;;
+        launch)
+            case $cword in
+                2) _selvane_records selvane list ;;
+                3) _selvane_words --windows ;;
+            esac
             ;;
         set-mode)
             case $cword in

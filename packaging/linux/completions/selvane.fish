@@ -37,6 +37,7 @@ end
 
 complete -c selvane -f
 complete -c selvane -n __fish_is_first_token -l new-profile -d 'Open the windows and ask for a new profile'
+complete -c selvane -n __fish_is_first_token -l manage -d 'Open the management window'
 complete -c selvane -n __fish_is_first_token -s h -l help -d 'Say how it is used'
 complete -c selvane -n __fish_is_first_token -l version -d 'Say which version it is'
 
@@ -59,6 +60,7 @@ complete -c selvane -n __fish_is_first_token -a render-dmg-background -d 'Draw t
 
 complete -c selvane -n '__selvane_argument 0 sync launch path items sessions set-mode import-sessions' \
     -a '(__selvane_profiles)'
+complete -c selvane -n '__selvane_argument 1 launch' -l windows -d 'Ask and tell in the windows'
 complete -c selvane -n '__selvane_argument 1 import-sessions' -a '(__selvane_profiles)'
 complete -c selvane -n '__selvane_argument 1 set-mode' -a '(__selvane_modes)'
 complete -c selvane -n '__fish_seen_subcommand_from import-sessions; and test (count (__selvane_words)) -ge 3' \
