@@ -31,7 +31,8 @@ QString changedLinks(qsizetype added, qsizetype removed) {
 
 AppModel::AppModel(ProfileStore& store, const ClaudeApp& claude, DesktopBridge& desktop,
                    Preferences& preferences, QObject* parent)
-    : QObject(parent), m_store(store), m_claude(claude), m_desktop(desktop), m_preferences(preferences) {
+    : QObject(parent), m_store(store), m_claude(claude), m_desktop(desktop), m_preferences(preferences),
+      m_entries(*this, claude.entries(), desktop) {
     reload();
     const QString last = m_preferences.lastSelection();
     m_selection = profile(last) == nullptr ? QString::fromUtf8(Profile::kDefaultId) : last;

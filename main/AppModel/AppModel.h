@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "AppModel/DesktopBridge.h"
+#include "AppModel/EntryKeeper.h"
 #include "AppModel/LookValue.h"
 #include "AppModel/Preferences.h"
 #include "AppModel/ToldChanges.h"
@@ -48,7 +49,8 @@ class AppModel : public QObject {
     Q_PROPERTY(QString selection READ selection WRITE select NOTIFY selectionChanged)
     Q_PROPERTY(QString errorMessage READ errorMessage NOTIFY errorMessageChanged)
     Q_PROPERTY(QString busyMessage READ busyMessage NOTIFY busyMessageChanged)
-    Q_PROPERTY(selvane::WorkProgress* work READ work CONSTANT) ///< how far what `busyMessage` names is
+    Q_PROPERTY(selvane::WorkProgress* work READ work CONSTANT)      ///< how far what `busyMessage` names is
+    Q_PROPERTY(selvane::EntryKeeper* entries READ entries CONSTANT) ///< among the desktop's applications
     Q_PROPERTY(QString notice READ notice NOTIFY noticeChanged)
     /// Whether what the notice tells can be taken back.
     Q_PROPERTY(bool canTakeBack READ canTakeBack NOTIFY noticeChanged)
@@ -123,6 +125,7 @@ public:
     void receiveSignIn(const QByteArray& request);
 
     WorkProgress* work() { return &m_workProgress; }
+    EntryKeeper* entries() { return &m_entries; }
 
     bool restoresFirst() const;
     QString closeMessage() const { return m_closeQuestion.message; }
@@ -273,6 +276,7 @@ private:
     qint64 m_revision = 0;
     ToldChanges m_toldChanges;
     WorkProgress m_workProgress;
+    EntryKeeper m_entries;
     QString m_launching;        ///< id of the profile that is being launched; empty for none
     int m_archiveQuestions = 0; ///< how many save dialogs haven't been answered
     QFuture<void> m_work;

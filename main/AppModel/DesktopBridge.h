@@ -10,7 +10,10 @@
 #include <filesystem>
 #include <functional>
 #include <optional>
+#include <vector>
 
+#include "model/ProfileLook.h"
+#include "platform/process/ApplicationEntries.h"
 #include "platform/process/Process.h"
 
 namespace selvane {
@@ -36,6 +39,12 @@ public:
     /// Asks where to save a zip archive; `done` gets nothing if the user cancels. Doesn't block.
     virtual void askForArchive(const QString& proposedName,
                                std::function<void(std::optional<std::filesystem::path>)> done) = 0;
+
+    // For the profiles' entries among the desktop's applications. Both may be called on any thread.
+    /// The program that is running: an absolute path.
+    virtual std::filesystem::path program() const = 0;
+    /// See `ProfileEntries::Draw`.
+    virtual std::vector<IconImage> drawIcon(const ProfileLook& look) const = 0;
 
     // The links with which the browser ends a sign-in (see `SignInHandler`).
     virtual bool canReceiveSignIns() const = 0; ///< whether this system lets Selvane have them

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <atomic>
 #include <functional>
 #include <optional>
 #include <utility>
@@ -30,6 +31,14 @@ struct FakeBridge final : DesktopBridge {
     bool canReceive = false; ///< sign-ins
     bool receives = false;
 
+    std::filesystem::path selvane = "/bin/true"; ///< the program
+    mutable std::atomic<int> drawings = 0;
+
+    std::filesystem::path program() const override { return selvane; }
+    std::vector<IconImage> drawIcon(const ProfileLook& look) const override {
+        ++drawings;
+        return {{{48, 1}, look.symbol + std::string(kIconMark)}};
+    }
     bool canReceiveSignIns() const override { return canReceive; }
     bool receivesSignIns() const override { return receives; }
     void setReceivesSignIns(bool value) override { receives = value; }

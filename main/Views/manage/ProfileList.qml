@@ -184,6 +184,7 @@ FocusScope {
         id: menuComponent
 
         ProfileMenu {
+            app: sidebar.app
             onLaunched: profileId => sidebar.app.launch(profileId)
             onRevealed: profileId => sidebar.app.revealProfile(profileId)
             onNewProfileAsked: source => sidebar.newProfileAsked(source)

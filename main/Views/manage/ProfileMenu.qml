@@ -10,6 +10,7 @@ import Selvane
 ContextMenu {
     id: menu
 
+    required property AppModel app
     property string profileId
 
     signal launched(string profileId)
@@ -30,5 +31,9 @@ ContextMenu {
         text: qsTr("Nuovo profilo da qui…")
         symbol: "plus.square.on.square"
         onTriggered: menu.newProfileAsked(menu.profileId)
+    }
+    EntryCommand {
+        app: menu.app
+        profileId: menu.profileId
     }
 }

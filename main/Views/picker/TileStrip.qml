@@ -39,7 +39,7 @@ ListView {
         strip.menu.openAt(tile, x, y, 0)
     }
     function makeMenu(): void {
-        strip.menu = Qt.createComponent("TileMenu.qml").createObject(strip)
+        strip.menu = Qt.createComponent("TileMenu.qml").createObject(strip, {app: strip.profiles.app})
         strip.menu.launched.connect(strip.launched)
         strip.menu.settingsAsked.connect(strip.settingsAsked)
         strip.menu.newProfileAsked.connect(strip.newProfileAsked)

@@ -230,6 +230,7 @@ int runLauncherApp(int argc, char** argv) {
 
     QObject::connect(&launcher, &LauncherApp::begun, &watch, &FolderWatch::start);
     QObject::connect(&launcher, &LauncherApp::begun, &model, &AppModel::completeRestoring);
+    QObject::connect(&launcher, &LauncherApp::begun, model.entries(), &EntryKeeper::start);
     QObject::connect(&instance, &SingleInstance::startedAgain, &launcher, &LauncherApp::answerStart);
     QObject::connect(&launcher, &LauncherApp::shownChanged, &bridge, &SystemBridge::setWatching);
     QObject::connect(&model, &AppModel::reloaded, &bridge, &SystemBridge::lookForCopiesAnew);

@@ -15,6 +15,7 @@
 
 #include "Views/shell/FileUrl.h"
 #include "Views/shell/SystemShell.h"
+#include "artwork/ProfileIcon.h"
 #include "desktop/SignInHandler.h"
 
 namespace selvane {
@@ -80,6 +81,14 @@ bool SystemBridge::compare(const fs::path& first, const fs::path& second) {
     return false;
 }
 
+fs::path SystemBridge::program() const {
+    return pathOf(QCoreApplication::applicationFilePath());
+}
+
+std::vector<IconImage> SystemBridge::drawIcon(const ProfileLook& look) const {
+    return profileIcon(look);
+}
+
 bool SystemBridge::canReceiveSignIns() const {
     return selvane::canReceiveSignIns();
 }
@@ -91,7 +100,7 @@ bool SystemBridge::receivesSignIns() const {
 void SystemBridge::setReceivesSignIns(bool value) {
     const SignInHandler handler(currentEnvironment());
     if (value)
-        handler.turnOn(pathOf(QCoreApplication::applicationFilePath()));
+        handler.turnOn(program());
     else
         handler.turnOff();
 }

@@ -25,6 +25,8 @@ public:
     void reveal(const std::filesystem::path& item, std::function<void()> failed) override;
     void open(const std::filesystem::path& file, std::function<void()> failed) override;
     bool compare(const std::filesystem::path& first, const std::filesystem::path& second) override;
+    std::filesystem::path program() const override;
+    std::vector<IconImage> drawIcon(const ProfileLook& look) const override;
     bool canReceiveSignIns() const override;
     bool receivesSignIns() const override;
     void setReceivesSignIns(bool value) override;
