@@ -3,12 +3,15 @@
 
 #include <csignal>
 #include <map>
+#include <sstream>
 
 #include "chromium/Chromium.h"
 #include "end-to-end/RunningSelvane.h"
 
 namespace selvane::test {
 namespace {
+
+namespace fs = std::filesystem;
 
 /// Lavoro and Cliente are profiles with accounts of their own; Ospite shares Lavoro's.
 class ChromiumWindows : public Chromium {
@@ -76,6 +79,46 @@ TEST_F(ChromiumWindows, ASignInGoesToTheRightOneOfThreeCopies) {
     EXPECT_EQ(windows(principale), 1U);
     EXPECT_EQ(windows(lavoro), 1U);
     EXPECT_EQ(mains(), std::set({principale, cliente, lavoro}));
+}
+
+TEST_F(ChromiumWindows, AProfileStartsFromAMenu_AndItsWindowsAreKnownByItsEntry) {
+    const auto key = [this](const std::string& name) {
+        EXPECT_EQ(home.shell("xdotool key " + name), Outcome{});
+    };
+    {
+        auto selvane = start();
+        for (const auto& [name, focus] : {std::pair("Right", "Cliente"),
+                                          {"Right", "Lavoro"},
+                                          {"Menu", "Avvia Claude"},
+                                          {"Up", "Aggiungi alle applicazioni"}}) {
+            key(name);
+            selvane.waitForFocus(focus);
+        }
+        key("Return");
+        ASSERT_TRUE(
+            soon([this] { return fs::exists(home / ".local/share/applications/selvane-lavoro.desktop"); }));
+        key("ctrl+q");
+        EXPECT_EQ(selvane.status(), 0);
+    }
+    Program menu({"rofi", "-show", "drun", "-filter", "Claude — Lavoro"}, home.environment, home.path());
+    ASSERT_TRUE(soon([this] { return home.shell("xdotool search --onlyvisible --class rofi").status == 0; }));
+    key("Return");
+    const pid_t lavoro = opened("lavoro", "lavoro");
+    const pid_t cliente = launched("cliente", "cliente");
+    const std::string windows = home.shell("wmctrl -lpx").out;
+    const auto classOf = [&](pid_t pid) {
+        std::istringstream list(windows);
+        std::string window, workspace, owner, name, title;
+        while (list >> window >> workspace >> owner >> name && std::getline(list, title)) {
+            if (owner == std::to_string(pid))
+                return name.substr(name.rfind('.') + 1);
+        }
+        return std::string();
+    };
+    EXPECT_EQ(classOf(lavoro), "selvane-lavoro");
+    EXPECT_EQ(classOf(cliente), "Chromium") << "as ever";
+    EXPECT_EQ(openCopies(), std::set({copy(lavoro, data("lavoro"), configuration("lavoro")),
+                                      copy(cliente, data("cliente"), configuration("cliente"))}));
 }
 
 } // namespace
