@@ -16,8 +16,6 @@
 namespace selvane::test {
 namespace {
 
-constexpr auto kWindow = LauncherApp::Manage;
-
 std::int64_t hoursAgo(int hours) {
     using namespace std::chrono;
     return duration_cast<milliseconds>((system_clock::now() - std::chrono::hours(hours)).time_since_epoch())
@@ -63,16 +61,16 @@ void addConversations(const ProfileStore& store) {
 
 void takeConversations(Scene& scene) {
     addConversations(scene.model.store());
-    QQuickWindow* const window = scene.launcher.window(kWindow);
+    QQuickWindow* const window = scene.launcher.window(kManage);
     auto* const view = window->findChild<QQuickItem*>(QStringLiteral("manage"));
     QMetaObject::invokeMethod(view, "openConversations");
     auto* const list = view->findChild<ConversationListModel*>();
     while (list->isLoading())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    scene.take(kWindow, "conversations");
+    scene.take(kManage, "conversations");
     view->findChild<QQuickItem*>(QStringLiteral("conversations"))->setProperty("currentIndex", 1);
-    scene.take(kWindow, "conversations-selected");
-    scene.takeWith(kWindow, "ContinuationSheet",
+    scene.take(kManage, "conversations-selected");
+    scene.takeWith(kManage, "ContinuationSheet",
                    {{"app", QVariant::fromValue(&scene.model)},
                     {"conversations", QVariant::fromValue(list)},
                     {"row", 0}},
@@ -90,7 +88,7 @@ void takeRestore(Scene& scene) {
     QObject::connect(&form, &RestoreForm::checked, &checked, &QEventLoop::quit);
     QTimer::singleShot(0, &form, &RestoreForm::choose);
     checked.exec();
-    scene.takeWith(kWindow, "RestoreSheet",
+    scene.takeWith(kManage, "RestoreSheet",
                    {{"app", QVariant::fromValue(&scene.model)}, {"form", QVariant::fromValue(&form)}},
                    "restore-sheet");
     std::filesystem::remove(archive);

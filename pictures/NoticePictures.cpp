@@ -10,8 +10,6 @@
 namespace selvane::test {
 namespace {
 
-constexpr auto kManage = LauncherApp::Manage;
-
 void waitUntilIdle(const AppModel& model) {
     while (!model.busyMessage().isEmpty())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);

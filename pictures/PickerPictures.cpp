@@ -9,8 +9,6 @@
 namespace selvane::test {
 namespace {
 
-constexpr auto kPicker = LauncherApp::Picker;
-
 void press(QQuickWindow* window, int key, const QString& text = {}) {
     QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
     QCoreApplication::sendEvent(window, &press);

@@ -17,6 +17,9 @@
 
 namespace selvane::test {
 
+inline constexpr auto kPicker = LauncherApp::Picker;
+inline constexpr auto kManage = LauncherApp::Manage;
+
 /// The application with its windows for one home.
 class Scene {
 public:

@@ -39,9 +39,6 @@ void noteWarnings(QtMsgType type, const QMessageLogContext& /*context*/, const Q
     hasWarned = hasWarned || (type != QtDebugMsg && !isUsual);
 }
 
-constexpr auto kPicker = LauncherApp::Picker;
-constexpr auto kManage = LauncherApp::Manage;
-
 /// Scrolls the detail of the management window.
 void scrollDetail(QQuickWindow* window, double y) {
     for (QQuickItem* view : window->findChildren<QQuickItem*>()) {

@@ -63,12 +63,6 @@ const FlatDesign& flatDesign(int pixels) {
                          [pixels](const FlatDesign& design) { return pixels % design.grid == 0; });
 }
 
-QPainterPath roundedRect(const QRectF& box, qreal radius) {
-    QPainterPath path;
-    path.addRoundedRect(box, radius, radius);
-    return path;
-}
-
 void paintWithDepth(QPainter& painter, int pixels) {
     paintIconBody(painter, pixels, {Brand::accent, {480, 652}, 0.30});
     painter.translate(212, 212);
@@ -82,7 +76,9 @@ void paintFlat(QPainter& painter, int pixels) {
     const FlatDesign& design = flatDesign(pixels);
     const qreal scale = static_cast<qreal>(pixels) / design.grid;
     painter.scale(scale, scale);
-    painter.fillPath(roundedRect(design.body, design.radius), QColor("#1d2a25"));
+    QPainterPath body;
+    body.addRoundedRect(design.body, design.radius, design.radius);
+    painter.fillPath(body, QColor("#1d2a25"));
     painter.fillPath(svgPath(design.upper), Brand::cool);
     painter.fillPath(svgPath(design.lower), Brand::accent);
 }
