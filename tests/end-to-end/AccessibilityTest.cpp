@@ -50,7 +50,7 @@ TEST_F(Windows, ThePickerIsToldAndReachedByTheKeyboard) {
     auto selvane = start();
     expectNames(selvane);
     const std::vector<std::pair<std::string, std::string>> tiles = {
-        {"Principale", "Aperto, profilo 1 di 3, La configurazione standard di Claude (~/.claude)"},
+        {"Principale", "ultimo, Aperto, profilo 1 di 3, La configurazione standard di Claude (~/.claude)"},
         {"Lavoro", "Mai avviato, profilo 2 di 3, Account Claude separato"},
         {"Ospite", "Mai avviato, profilo 3 di 3"},
     };

@@ -167,16 +167,18 @@ FocusScope {
         id: capsuleComponent
 
         SearchCapsule {
+            id: shown
+
             x: Theme.manage.listInset
             y: Theme.manage.sidebarMargin + Math.round((Theme.type.overline.lineHeight - height) / 2)
             width: sidebar.width - 2 * x
-            visible: text !== ""
+            visible: search.text !== ""
             text: search.text
             count: qsTr("%1 di %2").arg(list.count).arg(list.profiles.total)
             onCleared: search.clear()
             onCountChanged: {
-                if (visible)
-                    Announcer.announce(this, list.profiles.countText)
+                if (shown.visible)
+                    Announcer.announce(shown, list.profiles.countText)
             }
         }
     }

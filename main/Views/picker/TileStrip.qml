@@ -49,7 +49,7 @@ ListView {
     readonly property real tilesWidth: count * (Theme.picker.tileWidth + Theme.cardGap) - Theme.cardGap
     readonly property real tileWidth: Theme.picker.tileWidth ///< grows with the desktop's text scale
     /// Whether all tiles together, and what follows them, are wider than the strip.
-    readonly property bool isLong: (profiles.total - count) * (tileWidth + Theme.cardGap) + tilesWidth
+    readonly property bool isLong: width > 0 && (profiles.total - count) * (tileWidth + Theme.cardGap) + tilesWidth
                                    + Theme.cardGap + Theme.picker.addTileWidth > width - 2 * margin
     property bool hasSettled: false ///< until then, nothing is seen to scroll
     readonly property real lastX: Math.max(firstX, originX + tilesWidth + rightMargin - width)
@@ -72,8 +72,10 @@ ListView {
     /// Gives the keyboard focus to the focused tile.
     function takeFocus(): void {
         strip.forceLayout()
-        const item = strip.currentItem ?? strip
-        item.forceActiveFocus(Qt.OtherFocusReason)
+        if (strip.currentItem)
+            strip.currentItem.forceActiveFocus(Qt.OtherFocusReason)
+        else
+            strip.forceActiveFocus(Qt.OtherFocusReason)
     }
     function settle(): void {
         strip.showFocused()

@@ -72,7 +72,7 @@ Item {
             press(Qt.Key_Up, Qt.Key_Menu, Qt.Key_Down, Qt.Key_Return)
             compare(home.asked().revealed[1], "~/.claude-profiles/p198")
             keyClick(Qt.Key_F10, Qt.ShiftModifier)
-            press(Qt.Key_Up, Qt.Key_Return)
+            press(Qt.Key_Up, Qt.Key_Up, Qt.Key_Return)
             verify(view.hasSheet)
         }
     }

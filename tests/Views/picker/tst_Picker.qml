@@ -114,7 +114,9 @@ Item {
             tryVerify(() => tile("Cliente 2") && tile("Cliente 2").activeFocus && tile("Cliente 2").isLit)
             compare(Array.from(tile("Cliente 2").foundInName), [0, 3])
             verify(!tile("Cliente 2").hasDigit)
-            tryVerify(() => tile("Studio") === null && tile("Cliente 2").mapToItem(strip, 0, 0).x === strip.margin)
+            // The lit tile is a little larger.
+            tryVerify(() => tile("Studio") === null
+                            && Math.abs(tile("Cliente 2").mapToItem(strip, 0, 0).x - strip.margin) < 8)
             keyClick(Qt.Key_Right)
             compare(view.picker.focused, "cliente-aurora")
             type(" 2") // a digit is text now
@@ -205,7 +207,7 @@ Item {
 
             mouseClick(tile("Studio"), 50, 50, Qt.RightButton)
             compare(launchedInto(), "0 ")
-            keyClick(Qt.Key_Up)
+            press(Qt.Key_Up, Qt.Key_Up)
             keyClick(Qt.Key_Return)
             verify(view.sheet)
             compare(view.sheet.initialSource, "studio")
