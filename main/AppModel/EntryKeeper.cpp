@@ -54,25 +54,31 @@ void EntryKeeper::refresh() {
     m_looksAgain = m_isLooking;
     if (std::exchange(m_isLooking, true))
         return;
-    const auto look = [this, profiles = m_app.profiles(), gone = m_gone, root = m_app.store().root()] {
-        return refreshed(profiles, gone, root);
-    };
+    const auto look = [this, profiles = m_app.profiles(), known = m_known, gone = m_gone,
+                       root = m_app.store().root()] { return refreshed(profiles, known, gone, root); };
     m_look = runInBackground(this, look, [this](const Outcome& outcome) { take(outcome); });
 }
 
 /// On the other thread: uses only what never changes.
-EntryKeeper::Outcome EntryKeeper::refreshed(const std::vector<Profile>& profiles, Folders gone,
-                                            const std::filesystem::path& root) const {
+EntryKeeper::Outcome EntryKeeper::refreshed(const std::vector<Profile>& profiles, const MadeAt& known,
+                                            MadeAt gone, const std::filesystem::path& root) const {
     const std::filesystem::path program = m_desktop.program();
     for (const Profile& profile : profiles) {
-        if (gone.erase(profile.configDir) > 0)
+        const auto found = gone.find(profile.configDir);
+        if (found == gone.end())
+            continue;
+        if (found->second == profile.meta.created)
             failureOf([&] { m_entries.add(profile, program, draw()); });
+        gone.erase(found);
+    }
+    for (const std::filesystem::path& folder : m_entries.refresh(profiles, root, program, draw())) {
+        if (const auto found = known.find(folder); found != known.end())
+            gone.insert(*found);
     }
     Outcome outcome;
-    for (std::filesystem::path& folder : m_entries.refresh(profiles, root, program, draw()))
-        gone.insert(std::move(folder));
     outcome.gone = std::move(gone);
     for (const Profile& profile : profiles) {
+        outcome.known[profile.configDir] = profile.meta.created;
         if (m_entries.isThere(profile))
             outcome.ids += QString::fromStdString(profile.id);
     }
@@ -81,6 +87,7 @@ EntryKeeper::Outcome EntryKeeper::refreshed(const std::vector<Profile>& profiles
 
 void EntryKeeper::take(const Outcome& outcome) {
     m_isLooking = false;
+    m_known = outcome.known;
     m_gone = outcome.gone;
     if (m_ids != outcome.ids) {
         m_ids = outcome.ids;

@@ -10,7 +10,7 @@
 #include <QStringList>
 
 #include <filesystem>
-#include <set>
+#include <map>
 
 #include "AppModel/DesktopBridge.h"
 #include "desktop/ProfileEntries.h"
@@ -43,14 +43,15 @@ signals:
     void idsChanged();
 
 private:
-    using Folders = std::set<std::filesystem::path>;
+    using MadeAt = std::map<std::filesystem::path, Timestamp>; ///< by a profile's folder
     struct Outcome {
         QStringList ids;
-        Folders gone;
+        MadeAt known;
+        MadeAt gone;
     };
 
     void refresh();
-    Outcome refreshed(const std::vector<Profile>& profiles, Folders gone,
+    Outcome refreshed(const std::vector<Profile>& profiles, const MadeAt& known, MadeAt gone,
                       const std::filesystem::path& root) const;
     void take(const Outcome& outcome);
     ProfileEntries::Draw draw() const;
@@ -59,9 +60,10 @@ private:
     const ProfileEntries& m_entries;
     const DesktopBridge& m_desktop;
     QStringList m_ids;
-    /// The profiles that were removed with their entry. One that comes back, because the user has taken that
-    /// back, gets its entry again.
-    Folders m_gone;
+    MadeAt m_known; ///< the profiles at the last look
+    /// Those that were removed with their entry. One that comes back, because the user has taken that back,
+    /// gets its entry again; a new one in the same folder doesn't.
+    MadeAt m_gone;
     bool m_isLooking = false;
     bool m_looksAgain = false; ///< something has been reloaded meanwhile
     QFuture<void> m_look;

@@ -53,16 +53,29 @@ TEST_F(EntryKeeperTest, reload_CorrectsEntries_AndGivesThemBack) {
     EXPECT_NE(entry().find("Name=Claude — Clienti\n"), std::string::npos);
     EXPECT_EQ(bridge.drawings, 2);
 
-    fs::rename(lavoro.configDir, home / "cestino");
-    writeFile(home.store.root() / ".active", "default");
-    model().reload();
-    waitForIds({});
-    EXPECT_EQ(entry(), "");
+    const auto remove = [&] {
+        fs::rename(lavoro.configDir, home / "cestino");
+        writeFile(home.store.root() / ".active", "default");
+        model().reload();
+        waitForIds({});
+        EXPECT_EQ(entry(), "");
+    };
+    remove();
     fs::rename(home / "cestino", lavoro.configDir);
     model().reload();
     model().reload();
     waitForIds({"lavoro"});
     EXPECT_NE(entry().find("Name=Claude — Clienti\n"), std::string::npos);
+
+    remove();
+    fs::rename(home / "cestino", lavoro.configDir);
+    home.make("Altro"); // to see when it has been looked at
+    home.claude.entries().add(*home.store.profile("altro"), bridge.program(),
+                              [](auto&) { return std::vector<IconImage>(); });
+    home.store.changeMeta(lavoro, [](ProfileMeta& meta) { meta.created += std::chrono::hours(1); });
+    model().reload();
+    waitForIds({"altro"});
+    EXPECT_EQ(entry(), "") << "another profile by that name";
 }
 
 } // namespace

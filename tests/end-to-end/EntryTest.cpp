@@ -43,6 +43,8 @@ TEST_F(Entries, AProfileIsPutAmongTheApplications_AndStartsFromThere) {
 
     EXPECT_EQ(home.shell("/usr/bin/gio launch '" + entry.string() + "'"), Outcome{});
     const Json report = opened(lavoroData);
+    // A start whose home goes away under it would open a window over the next test.
+    waitUntil([this] { return readFile(home / ".claude-profiles/.active") == "lavoro"; }, "its end");
     EXPECT_EQ(report["claudeConfigDir"], profile("lavoro").string());
     EXPECT_EQ(report["arguments"], Json({"--password-store=basic", "--class=selvane-lavoro",
                                          "--user-data-dir=" + lavoroData.string()}));
