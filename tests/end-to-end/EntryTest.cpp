@@ -60,6 +60,7 @@ TEST_F(Entries, AStartThatFails_IsExplainedInAWindow) {
     EXPECT_EQ(unknown.find(ATSPI_ROLE_ALERT, "Errore").description(), "Profilo sconosciuto: assente");
     unknown.waitForFocus("OK");
     press({XK_Return});
+    unknown.waitUntilGone(ATSPI_ROLE_ALERT, "Errore");
     unknown.waitForFocus("Principale");
     fs::remove(program);
     // Handed over to the windows that are open.
