@@ -98,9 +98,14 @@ ListView {
     onTileWidthChanged: settling.restart()
 
     add: Transition {
+        enabled: !Theme.reducedMotion
+
         NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Theme.motion.tileFade }
     }
+    // One that takes no time would leave the tiles where they were.
     remove: Transition {
+        enabled: !Theme.reducedMotion
+
         NumberAnimation { property: "opacity"; to: 0; duration: Theme.motion.tileFade }
     }
     move: moving

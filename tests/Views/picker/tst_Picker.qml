@@ -196,6 +196,18 @@ Item {
             compare(launchedInto(), "1 ")
         }
 
+        function test_typing_WithReducedMotion_LeavesNothingBehind(): void {
+            Theme.reducedMotion = true
+            home.makeProfile("Cliente Aurora")
+            home.makeProfile("Zeta")
+            show()
+            type("cli")
+            wait(100)
+            compare(visibleItems(item => item instanceof ProfileTile && item.opacity > 0, view).map(item => item.name),
+                    ["Cliente Aurora"])
+            Theme.reducedMotion = false
+        }
+
         function test_menu_ByKeyAndPointer(): void {
             show()
             keyClick(Qt.Key_Right)
