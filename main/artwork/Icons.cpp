@@ -20,10 +20,10 @@ struct SymbolEntry {
 
 constexpr std::string_view kUnknown = "user-circle";
 
-constexpr auto keyOf(const IconEntry& entry) {
+constexpr auto nameAndWeight(const IconEntry& entry) {
     return std::tuple(entry.name, entry.weight);
 }
-static_assert(std::ranges::is_sorted(kIconTable, {}, keyOf));
+static_assert(std::ranges::is_sorted(kIconTable, {}, nameAndWeight));
 
 constexpr SymbolEntry kSymbols[] = {
     // profiles
@@ -108,8 +108,8 @@ std::string_view iconForSymbol(std::string_view symbol) {
 
 std::string_view iconData(std::string_view name, IconWeight weight) {
     const std::tuple key(name, weight);
-    const auto* const found = std::ranges::lower_bound(kIconTable, key, {}, keyOf);
-    if (found != std::end(kIconTable) && keyOf(*found) == key)
+    const auto* const found = std::ranges::lower_bound(kIconTable, key, {}, nameAndWeight);
+    if (found != std::end(kIconTable) && nameAndWeight(*found) == key)
         return found->data;
     return weight == IconWeight::regular ? std::string_view() : iconData(name, IconWeight::regular);
 }

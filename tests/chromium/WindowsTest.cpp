@@ -103,7 +103,7 @@ TEST_F(ChromiumWindows, AProfileStartsFromAMenu_AndItsWindowsAreKnownByItsEntry)
     Program menu({"rofi", "-show", "drun", "-filter", "Claude — Lavoro"}, home.environment, home.path());
     ASSERT_TRUE(soon([this] { return home.shell("xdotool search --onlyvisible --class rofi").status == 0; }));
     key("Return");
-    const pid_t lavoro = opened("lavoro", "lavoro");
+    const pid_t lavoro = opened("lavoro");
     const pid_t cliente = launched("cliente", "cliente");
     const std::string windows = home.shell("wmctrl -lpx").out;
     const auto classOf = [&](pid_t pid) {

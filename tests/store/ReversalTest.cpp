@@ -281,7 +281,7 @@ TEST_F(TakingBack, WhatElseHasChangedMeanwhile_Stays) {
     writeFile(place / ".claude.json", state);
     place.home.store.takeBack(*reversal);
     state = readFile(place / ".claude.json");
-    EXPECT_NE(state.find("8"), state.npos) << state;
+    EXPECT_NE(state.find('8'), state.npos) << state;
     EXPECT_NE(state.find("suo"), state.npos) << state;
     EXPECT_EQ(state.find("mio"), state.npos) << state;
 

@@ -49,14 +49,20 @@ Item {
     visible: plate.opacity > 0
 
     // Both may change, one after the other.
-    onTextChanged: Qt.callLater(toast.keep)
+    onTextChanged: keeping.restart()
     onActionChanged: {
-        Qt.callLater(toast.keep)
+        keeping.restart()
         if (toast.action === "")
             toast.giveFocusBack()
     }
     Component.onCompleted: keep()
 
+    Timer {
+        id: keeping
+
+        interval: 0
+        onTriggered: toast.keep()
+    }
     LeafShape {
         id: plate
 

@@ -106,7 +106,6 @@ Sheet {
 
                         required property int index
                         required property var modelData
-                        readonly property alias row: target
                         readonly property bool isLast: index === targets.count - 1
                         readonly property var organisations: form.target === index ? form.organisations : []
 
@@ -122,7 +121,7 @@ Sheet {
                             isOpen: entry.modelData.isOpen
                             checked: form.target === entry.index
                             hasLine: !entry.isLast || entry.organisations.length > 0
-                            others: () => Array.from({ length: targets.count }, (_, i) => targets.itemAt(i).row)
+                            group: profiles
                             onChosen: form.target = entry.index
                             onActiveFocusChanged: {
                                 if (activeFocus)

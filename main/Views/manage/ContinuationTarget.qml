@@ -17,15 +17,25 @@ Choice {
     property profileLook look ///< of a profile
     property bool isOpen: false
     property bool hasLine: false ///< at its foot
-    property var others: () => Array.from(row.parent.children).filter(item => item instanceof ContinuationTarget)
+    required property Item group ///< with all to choose from somewhere below it
 
     readonly property bool isProfile: look.symbol !== ""
     readonly property real indent: isProfile ? Theme.space16 : Theme.sheets.organisationLeft
 
     signal chosen
 
+    function rowsBelow(item: Item): var {
+        let rows = []
+        for (const child of Array.from(item.children)) {
+            if (!(child instanceof ContinuationTarget))
+                rows = rows.concat(rowsBelow(child))
+            else if (child.isProfile === row.isProfile)
+                rows.push(child)
+        }
+        return rows
+    }
     function chooseFrom(step: int): void {
-        const rows = row.others()
+        const rows = rowsBelow(row.group)
         const next = rows[(rows.indexOf(row) + step + rows.length) % rows.length] as ContinuationTarget
         next.forceActiveFocus(Qt.TabFocusReason)
         next.chosen()

@@ -38,6 +38,7 @@ Column {
             required property var modelData
 
             width: list.width
+            group: list
             text: modelData.name
             shortId: modelData.shortId
             note: modelData.note

@@ -12,7 +12,7 @@ MenuEntry {
 
     required property AppModel app
     required property string profileId
-    readonly property bool isThere: command.app.entries.ids.includes(command.profileId)
+    readonly property bool isThere: Array.from(command.app.entries.ids).includes(command.profileId)
 
     text: command.isThere ? qsTr("Togli dalle applicazioni") : qsTr("Aggiungi alle applicazioni")
     symbol: "square.grid.2x2"

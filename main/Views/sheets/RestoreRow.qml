@@ -21,7 +21,7 @@ Choice {
     label: title
     implicitHeight: Theme.controls.listRow
 
-    Accessible.description: [group, detail, mark, aside].filter(text => text !== "").join(", ")
+    Accessible.description: Array.of(group, detail, mark, aside).filter(text => text !== "").join(", ")
 
     Rectangle {
         anchors.fill: parent
