@@ -295,6 +295,11 @@ def _taken_back():
 
     def without_plugins(home):
         home.set_mode("copia", "plugins", "none")
+
+    def without_leftovers(home):
+        # It would come back with the profile, as if it were new.
+        home.remove(WORK + ".pending-sessions/.selvane-0123456789abcdef")
+    prepares = {"relink": changed, "bring": changed, "delete": without_leftovers}
     tried = {
         "delete": ["delete", "lavoro"],
         "remove-link": ["remove", "lavoro", "skills", "revisione"],
@@ -310,7 +315,7 @@ def _taken_back():
         "bring-folder": ["bring", "lavoro", "skills", "revisione"],
     }
     for name, words in tried.items():
-        prepare = (changed if words[0] in ("relink", "bring") else without_plugins if name == "plugins" else _nothing)
+        prepare = without_plugins if name == "plugins" else prepares.get(words[0], _nothing)
         # Where names can't be exchanged, what was made instead has no name for a moment.
         for setting, gap in (("", "$^"), ("renameat2:error=EINVAL", WORK + "|.claude/|" + COPY + "plugins")):
             yield Operation(f"take-back-{name}" + ("-in-steps" if setting else ""), ["operation", "take-back", *words],
