@@ -66,7 +66,10 @@ Item {
         subject.begin(profileId)
         sheets.current = kind.createObject(sheets, values) as ModalLayer
     }
+    /// For one that has faded. One that another has replaced meanwhile says so too, and must not take that along.
     function drop(): void {
+        if (!sheets.current || sheets.covers)
+            return
         sheets.current.destroy()
         sheets.current = null
     }
