@@ -119,6 +119,7 @@ Item {
                 home.write(`.claude/skills/${i}.md`)
             makeTarget()
             openSheet(items)
+            tryVerify(() => nameOf(focused()) === "1000.md") // they are listed on another thread
             press(Qt.Key_Space, Qt.Key_PageDown, Qt.Key_End)
             compare(nameOf(focused()), "1499.md")
             tryVerify(() => isInSight(focused()))
