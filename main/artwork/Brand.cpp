@@ -22,11 +22,8 @@ Brand::Brand(QObject* parent) : QObject(parent) {
 }
 
 void Brand::registerFonts() {
+    readFonts();
     static const bool registered = [] {
-        const QDir folder(QString::fromStdString(resourcePath("Fonts").string()));
-        const QStringList kinds = {QStringLiteral("*.ttf"), QStringLiteral("*.woff2")};
-        for (const QString& file : folder.entryList(kinds, QDir::Files, QDir::Name))
-            QFontDatabase::addApplicationFont(folder.filePath(file));
         // Qt Quick compares every text with the application's font. The body font is loaded anyway.
         QFont body(displayFamily);
         body.setPixelSize(kBodySize);
@@ -34,6 +31,17 @@ void Brand::registerFonts() {
         return true;
     }();
     Q_UNUSED(registered)
+}
+
+void Brand::readFonts() {
+    static const bool read = [] {
+        const QDir folder(QString::fromStdString(resourcePath("Fonts").string()));
+        const QStringList kinds = {QStringLiteral("*.ttf"), QStringLiteral("*.woff2")};
+        for (const QString& file : folder.entryList(kinds, QDir::Files, QDir::Name))
+            QFontDatabase::addApplicationFont(folder.filePath(file));
+        return true;
+    }();
+    Q_UNUSED(read)
 }
 
 } // namespace selvane

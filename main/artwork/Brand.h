@@ -37,8 +37,10 @@ public:
     explicit Brand(QObject* parent = nullptr);
 
     /// Makes the fonts in the "Fonts" folder known to this process; only the first call does anything.
-    /// Without the folder, the system's own fonts are used. Needs a QGuiApplication.
+    /// Without the folder, the system's own fonts are used. Needs a QGuiApplication. `readFonts` is the part
+    /// that takes long; it may be called before, in any thread.
     static void registerFonts();
+    static void readFonts();
 
     static inline const QString name = QStringLiteral("Selvane");
 

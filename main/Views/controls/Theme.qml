@@ -65,12 +65,7 @@ QtObject {
     /// Size of a path inside a sentence, relative to the text around it.
     readonly property real inlinePathSize: 0.92
 
-    readonly property TypeStyles type: TypeStyles {
-        displayFamily: theme.brand.displayFamily
-        serifFamily: theme.brand.serifFamily
-        monoFamily: theme.brand.monoFamily
-        textScale: theme.textScale
-    }
+    readonly property TypeStyles type: TypeStyles { textScale: theme.textScale }
 
     /// A hint that names one key with ⌘, in the system's own notation: only macOS has that key.
     function keyText(hint: string): string {

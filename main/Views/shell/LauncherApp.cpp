@@ -13,10 +13,12 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <future>
 #include <utility>
 
 #include "AppModel/FolderWatch.h"
 #include "AppModel/Preferences.h"
+#include "Views/controls/TypeStyles.h"
 #include "Views/shell/QmlModule.h"
 #include "Views/shell/SingleInstance.h"
 #include "Views/shell/SystemAppearance.h"
@@ -200,6 +202,8 @@ int runLauncherApp(int argc, char** argv) {
     qInstallMessageHandler(usual);
     QGuiApplication::setApplicationName(Brand::name);
     QGuiApplication::setDesktopFileName(QStringLiteral("org.selvane.Selvane"));
+    // In this thread, later, if there can't be another.
+    std::future<void> fonts = std::async(std::launch::async | std::launch::deferred, &Brand::readFonts);
     const QByteArray request = argc > 1 ? argv[1] : "";
     SingleInstance instance;
     if (!instance.claim(request, token))
@@ -219,14 +223,17 @@ int runLauncherApp(int argc, char** argv) {
     Preferences preferences(openSettings());
     SystemBridge bridge([&store] { return store.claudeInstances(); });
     serveLoading();
-    Brand::registerFonts();
-    serveLoading();
     AppModel model(store, claude, bridge, preferences);
     FolderWatch watch(model);
     Updates updates(makeUpdater());
     LauncherApp launcher(engine, model, updates);
     const std::unique_ptr<QObject> shell = makeSystemShell(launcher);
-    serveLoading();
+    fonts.get();
+    Brand::registerFonts();
+    TypeStyles().preload([&] {
+        serveLoading();
+        return loading.isLoading();
+    });
 
     QObject::connect(&launcher, &LauncherApp::begun, &watch, &FolderWatch::start);
     QObject::connect(&launcher, &LauncherApp::begun, &model, &AppModel::completeRestoring);
