@@ -88,6 +88,7 @@ constexpr SymbolEntry kSymbols[] = {
     {"arrow.right", "arrow-right"},
     {"trash", "trash"},
     {"bubble.left.and.text.bubble.right", "chats"},
+    {"macwindow", "app-window"},
     {"link", "link"},
     {"shield", "shield"},
     {"exclamationmark.triangle", "warning"},

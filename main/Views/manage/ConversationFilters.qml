@@ -14,37 +14,69 @@ Item {
 
     implicitHeight: choices.height
 
+    /// Between two groups that stand beside each other.
+    component Divider: Item {
+        id: divider
+
+        required property Item next
+
+        width: Theme.hairline
+        height: Theme.controls.smallHeight
+
+        Rectangle {
+            anchors.centerIn: parent
+            width: parent.width
+            height: Theme.space16
+            visible: divider.next.y === divider.parent.y
+            color: Theme.separator
+        }
+    }
+
     Flow {
         id: choices
 
         width: parent.width - hint.width - Theme.space12
         spacing: Theme.space8
 
-        DropDown {
-            label: qsTr("Profilo")
-            isChip: true
-            labels: filters.conversations.profiles
-            currentIndex: filters.conversations.profile
-            onChosen: index => filters.conversations.profile = index
+        Row {
+            spacing: Theme.space8
+
+            DropDown {
+                label: qsTr("Profilo")
+                isChip: true
+                labels: filters.conversations.profiles
+                currentIndex: filters.conversations.profile
+                onChosen: index => filters.conversations.profile = index
+            }
+            DropDown {
+                label: qsTr("Cartella")
+                isChip: true
+                labels: filters.conversations.folders
+                currentIndex: filters.conversations.folder
+                onChosen: index => filters.conversations.folder = index
+            }
+            Divider { next: origins }
+        }
+        Row {
+            id: origins
+
+            spacing: Theme.space8
+
+            Chip {
+                text: qsTr("App")
+                checked: filters.conversations.fromApp
+                onToggled: checked => filters.conversations.fromApp = checked
+            }
+            Chip {
+                text: qsTr("Terminale")
+                checked: filters.conversations.fromTerminal
+                onToggled: checked => filters.conversations.fromTerminal = checked
+            }
+            Divider { next: period }
         }
         DropDown {
-            label: qsTr("Cartella")
-            isChip: true
-            labels: filters.conversations.folders
-            currentIndex: filters.conversations.folder
-            onChosen: index => filters.conversations.folder = index
-        }
-        Chip {
-            text: qsTr("App")
-            checked: filters.conversations.fromApp
-            onToggled: checked => filters.conversations.fromApp = checked
-        }
-        Chip {
-            text: qsTr("Terminale")
-            checked: filters.conversations.fromTerminal
-            onToggled: checked => filters.conversations.fromTerminal = checked
-        }
-        DropDown {
+            id: period
+
             label: qsTr("Periodo")
             isChip: true
             labels: filters.conversations.periods

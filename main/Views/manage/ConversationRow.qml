@@ -133,7 +133,7 @@ Item {
                 id: icon
 
                 anchors.verticalCenter: parent.verticalCenter
-                symbol: row.isTerminal ? "terminal" : "bubble.left.and.text.bubble.right"
+                symbol: row.isTerminal ? "terminal" : "macwindow"
                 size: Theme.iconSmall
                 weight: PathIcon.Regular
                 color: Theme.textFaint
