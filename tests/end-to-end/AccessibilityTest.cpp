@@ -9,6 +9,8 @@
 namespace selvane::test {
 namespace {
 
+namespace fs = std::filesystem;
+
 bool contains(const std::vector<Seen>& some, const Seen& wanted) {
     return std::any_of(some.begin(), some.end(), [&](const Seen& each) { return each.isSameAs(wanted); });
 }
@@ -41,6 +43,13 @@ void expectNames(const RunningSelvane& selvane) {
         const bool isControl = seen.canBePressed() || (seen.is(ATSPI_STATE_FOCUSABLE) && !isText);
         EXPECT_TRUE(!isControl || controls.contains(seen.role())) << seen;
     }
+}
+
+void expectInside(const Seen& sheet, const std::vector<Seen>& stops) {
+    const auto inside = sheet.withDescendants();
+    EXPECT_GT(stops.size(), 2U);
+    for (const Seen& stop : stops)
+        EXPECT_TRUE(contains(inside, stop)) << stop;
 }
 
 TEST_F(Windows, ThePickerIsToldAndReachedByTheKeyboard) {
@@ -102,11 +111,8 @@ TEST_F(Manage, SheetsKeepTheKeyboardInside) {
         press({XK_space});
         const Seen sheet = selvane.find(ATSPI_ROLE_DIALOG, title);
         expectNames(selvane);
-        const auto stops = tabAround(selvane);
-        EXPECT_GT(stops.size(), 2U);
+        expectInside(sheet, tabAround(selvane));
         const auto inside = sheet.withDescendants();
-        for (const Seen& stop : stops)
-            EXPECT_TRUE(contains(inside, stop)) << stop;
         for (const Seen& seen : selvane.everything()) {
             if (seen.canBePressed() && !contains(inside, seen))
                 seen.press();
@@ -118,6 +124,83 @@ TEST_F(Manage, SheetsKeepTheKeyboardInside) {
             EXPECT_FALSE(seen.role() == ATSPI_ROLE_DIALOG || seen.role() == ATSPI_ROLE_ALERT) << seen;
         EXPECT_TRUE(pids().empty());
     }
+}
+
+TEST_F(Manage, ConversationsAreFoundAndContinued) {
+    const auto says = [&](const std::string& id, const std::string& words) {
+        writeFile(home / ".claude/projects/-srv-sito" / (id + ".jsonl"),
+                  R"({"type":"user","cwd":"/srv/sito","timestamp":"2026-01-03T10:00:00Z","message":)"
+                  R"({"role":"user","content":")" +
+                      words + "\"}}\n");
+    };
+    says("uno", "cambia i listini");
+    says("due", "perché fallisce?");
+    auto selvane = start();
+    selectLavoro(selvane);
+    press({XK_Control_L, 'f'});
+    const Seen field = selvane.waitForFocus("Cerca nelle conversazioni");
+    const std::string first = "perché fallisce?, terminale, /srv/sito, Principale, 3 gennaio, 125 byte";
+    selvane.find(ATSPI_ROLE_LIST_ITEM, first);
+    expectNames(selvane);
+    const auto stops = tabAround(selvane);
+    for (const Seen& seen : selvane.everything())
+        EXPECT_TRUE(!isTabStop(seen) || contains(stops, seen)) << seen;
+
+    tabTo(selvane, first);
+    press({XK_Down});
+    selvane.waitForFocus("cambia i listini, terminale, /srv/sito, Principale, 3 gennaio, 124 byte");
+    press({XK_Control_L, 'f'});
+    selvane.waitForFocus(field.name());
+    type("perche");
+    selvane.find(ATSPI_ROLE_LABEL, "1 di 2 conversazioni");
+    press({XK_Down, XK_Return});
+    const Seen sheet = selvane.find(ATSPI_ROLE_DIALOG, "Continua in…");
+    selvane.waitForFocus("Lavoro");
+    expectNames(selvane);
+    expectInside(sheet, tabAround(selvane));
+    press({XK_Return});
+    waitUntil([&] { return fs::exists(home / ".claude-profiles/lavoro/projects/-srv-sito/due.jsonl"); },
+              "the transcript's copy");
+    selvane.waitForFocus(field.name());
+}
+
+TEST_F(Manage, AnArchiveIsReadAndRestoredInPart) {
+    const fs::path skill = home / ".claude/skills/pdf/SKILL.md";
+    const fs::path rules = home / ".claude/CLAUDE.md";
+    const fs::path added = home / ".claude-profiles/lavoro/agents/dopo.md";
+    writeFile(rules, "prima");
+    home.output({"backup", (home / "Copia.zip").string()});
+    writeFile(skill, "dopo");
+    writeFile(rules, "dopo");
+    writeFile(added, "dopo");
+    auto selvane = start();
+    selectLavoro(selvane);
+    tabTo(selvane, "Esporta un backup");
+    press({XK_space});
+    tabTo(selvane, "Ripristina…");
+    press({XK_space});
+    selvane.waitForFocus("File");
+    press({XK_Control_L, 'a'});
+    type("~/Copia.zip");
+    press({XK_Return});
+    const Seen sheet = selvane.find(ATSPI_ROLE_DIALOG, "Ripristina da un archivio");
+    selvane.waitForFocus("Cambia…");
+    expectNames(selvane);
+    expectInside(sheet, tabAround(selvane));
+    // Only the profile stays as it is.
+    tabTo(selvane, "Principale");
+    press({XK_Down});
+    const std::string description = selvane.waitForFocus("Lavoro").description();
+    EXPECT_TRUE(description.starts_with("Profili, ")) << description;
+    EXPECT_TRUE(description.ends_with(", già presente: andrà nel Cestino")) << description;
+    press({XK_space});
+    selvane.find(ATSPI_ROLE_LABEL, "1 di 2 selezionati");
+    tabTo(selvane, "Ripristina");
+    press({XK_space});
+    waitUntil([&] { return readFile(rules) == "prima"; }, "what the archive holds");
+    selvane.waitForFocus("Esporta un backup");
+    EXPECT_EQ(readFile(skill), "testo");
+    EXPECT_EQ(readFile(added), "dopo");
 }
 
 } // namespace

@@ -41,6 +41,7 @@ Item {
 
     Accessible.role: Accessible.ListItem
     Accessible.name: description
+    Accessible.focusable: true
     Accessible.selectable: true
     Accessible.selected: isSelected
     Accessible.onPressAction: row.pressed()

@@ -22,6 +22,9 @@ FocusScope {
     }
     function go(row: int): void {
         list.currentIndex = Math.max(0, Math.min(row, list.count - 1))
+        const current = list.currentItem as ConversationRow
+        if (current && !list.activeFocus)
+            Announcer.announce(current, current.description) // the focus stays in the field
     }
     function goOn(): void {
         if (list.currentItem && !(list.currentItem as ConversationRow).isLost)
@@ -107,6 +110,8 @@ FocusScope {
         onActiveFocusChanged: {
             if (activeFocus && currentIndex < 0)
                 view.go(0)
+            if (!activeFocus && currentItem)
+                currentItem.focus = true // Tab comes back to it, not to its last button
         }
         Keys.onUpPressed: view.go(currentIndex - 1)
         Keys.onDownPressed: view.go(currentIndex + 1)
