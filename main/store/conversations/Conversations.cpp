@@ -5,6 +5,7 @@
 
 #include <limits>
 #include <memory>
+#include <span>
 #include <sys/stat.h>
 #include <unordered_map>
 
@@ -196,16 +197,19 @@ void Listing::readTranscripts() {
             };
             if (place.transcripts.size() > 1)
                 std::ranges::sort(place.transcripts, {}, rank);
-            for (const std::string& path : place.transcripts) {
+            std::span<const std::string> unread = place.transcripts;
+            if (place.record.empty()) {
+                if (auto summary = ends->read(unread.front())) {
+                    place.lastActivity = summary->lastActivity;
+                    place.size = summary->size;
+                    reading.summary = std::move(*summary);
+                    unread = unread.subspan(1);
+                }
+            }
+            for (const std::string& path : unread) {
                 struct stat status = {};
                 if (::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode))
                     place.size += static_cast<std::int64_t>(status.st_size);
-            }
-            if (!place.record.empty())
-                return;
-            if (auto summary = ends->read(place.transcripts.front())) {
-                place.lastActivity = summary->lastActivity;
-                reading.summary = std::move(*summary);
             }
         };
     });
