@@ -14,6 +14,7 @@ RowMenu {
 
     readonly property string sourceName: component?.sourceName ?? ""
     readonly property bool isFile: item === ""
+    readonly property bool isFeminine: component?.isFeminine ?? false
 
     narrowest: Theme.manage.changedMenuWidth
     onClosed: menu.component.forgetDifference()
@@ -54,7 +55,7 @@ RowMenu {
         onTriggered: menu.compareAsked(menu.component, menu.row)
     }
     MenuEntry {
-        text: (menu.isFile ? qsTr("Riprendi quello di «%1»") : qsTr("Riprendi quella di «%1»")).arg(menu.sourceName)
+        text: (menu.isFeminine ? qsTr("Riprendi quella di «%1»") : qsTr("Riprendi quello di «%1»")).arg(menu.sourceName)
         icon: "arrow-u-down-left"
         explanation: qsTr("La versione di qui va nel Cestino")
         onTriggered: menu.component.relink(menu.row)
@@ -66,10 +67,10 @@ RowMenu {
         onTriggered: menu.component.bring(menu.row)
     }
     MenuEntry {
-        text: menu.isFile ? qsTr("Tieni come proprio") : qsTr("Tieni come propria")
+        text: menu.isFeminine ? qsTr("Tieni come propria") : qsTr("Tieni come proprio")
         icon: "file-text"
-        explanation: menu.isFile ? qsTr("Resta qui così com'è e non viene più segnalato")
-                                 : qsTr("Resta qui così com'è e non viene più segnalata")
+        explanation: menu.isFeminine ? qsTr("Resta qui così com'è e non viene più segnalata")
+                                     : qsTr("Resta qui così com'è e non viene più segnalato")
         onTriggered: menu.component.keepOwn(menu.row)
     }
     MenuDivider {}

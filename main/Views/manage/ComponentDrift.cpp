@@ -27,7 +27,10 @@ QString ComponentModel::changed() const {
     const auto count = static_cast<qsizetype>(m_content.changed.size());
     if (count == 0)
         return {};
-    return isCollection() ? counted(count, tr("1 modificata"), tr("%1 modificate")) : tr("modificato qui");
+    if (!isCollection())
+        return tr("modificato qui");
+    return isFeminine() ? counted(count, tr("1 modificata"), tr("%1 modificate"))
+                        : counted(count, tr("1 modificato"), tr("%1 modificati"));
 }
 
 QString ComponentModel::relinkQuestion() const {

@@ -27,6 +27,7 @@ class ComponentModel : public QObject {
     Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(QString symbol READ symbol CONSTANT)
     Q_PROPERTY(bool isCollection READ isCollection CONSTANT)
+    Q_PROPERTY(bool isFeminine READ isFeminine CONSTANT) ///< what an item of it is called in Italian
 
     /// How the profile takes it from its source; there is a choice only if it has a source.
     Q_PROPERTY(bool hasModes READ hasModes NOTIFY profileChanged)
@@ -84,6 +85,7 @@ public:
     QString title() const;
     QString symbol() const;
     bool isCollection() const;
+    bool isFeminine() const { return areItemsFeminine(m_component); }
     bool hasModes() const { return m_profile && m_profile->meta.source; }
     QStringList modes() const;
     QStringList modeExplanations() const;

@@ -108,6 +108,7 @@ Item {
 
             width: ListView.view.width
             sourceName: list.component.sourceName
+            isFeminine: list.component.isFeminine
             hasMenu: list.menu.isOpenFor(list.component, row.index)
                      || list.changedMenu.isOpenFor(list.component, row.index)
             onPressed: {

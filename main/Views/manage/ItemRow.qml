@@ -15,6 +15,7 @@ Item {
     required property int kind
     required property bool isLink
     required property string sourceName
+    required property bool isFeminine
     property bool hasMenu: false ///< whether its menu is open
 
     readonly property string origin: {
@@ -26,7 +27,7 @@ Item {
         case ItemListModel.Broken:
             return qsTr("collegamento interrotto")
         case ItemListModel.Changed:
-            return qsTr("modificata qui")
+            return row.isFeminine ? qsTr("modificata qui") : qsTr("modificato qui")
         default:
             return qsTr("propria")
         }

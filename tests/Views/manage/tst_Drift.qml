@@ -32,13 +32,15 @@ Item {
             enter(items)
             press(Qt.Key_Return)
             tryCompare(button("Confronta con «Principale»"), "explanation", "1 riga diversa in a.md")
+            button("Tieni come proprio") // an agent is masculine
+            compare(items.currentItem.origin, "modificato qui")
             keyClick(Qt.Key_Return)
             const sheet = the(item => item instanceof DifferencesSheet)
             tryVerify(() => sheet.component.differenceLines.includes("+x"))
             keyClick(Qt.Key_Escape)
             tryVerify(() => visibleItems(item => item instanceof DifferencesSheet, view).length === 0)
             press(Qt.Key_Return, Qt.Key_Down, Qt.Key_Return) // Riprendi
-            tryCompare(items.component, "changed", "1 modificata")
+            tryCompare(items.component, "changed", "1 modificato")
             compare(home.what(".claude-profiles/lavoro/agents/a.md"), "-> ~/.claude/agents/a.md")
             press(Qt.Key_Down, Qt.Key_Return, Qt.Key_Down, Qt.Key_Down, Qt.Key_Return) // Porta
             tryCompare(items.component, "changed", "")
