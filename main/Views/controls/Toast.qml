@@ -14,6 +14,7 @@ Item {
     required property string text
     property string action ///< the label of its button; empty for none
     required property real remaining ///< of the time, from 1 down to 0
+    property real aside: 0 ///< how much at the left it keeps clear of, as far as there is room
     property string lastText ///< still readable while it leaves
     property string lastAction
     property Item previousFocus: null
@@ -69,8 +70,9 @@ Item {
         property real slide: toast.isShown ? 0 : Theme.motion.toastSlide
 
         readonly property real captionRight: toast.offers ? Theme.space16 + button.width + Theme.space8 : Theme.space20
+        readonly property real rightmost: toast.width - Theme.sheets.toastMargin - width
 
-        anchors.horizontalCenter: parent.horizontalCenter
+        x: Math.round(Math.min(rightmost, (toast.aside + toast.width - width) / 2))
         y: toast.height - height - Theme.sheets.toastMargin + slide
         width: Math.min(caption.x + Math.ceil(caption.implicitWidth) + captionRight, toast.width - 2 * Theme.sheets.toastMargin)
         height: Theme.sheets.toastHeight

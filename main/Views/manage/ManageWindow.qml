@@ -41,6 +41,7 @@ Window {
 
         app: window.launcher.app
         isKey: window.launcher.keyWindow === LauncherApp.Manage
+        noticesAside: Theme.manage.sidebarWidth
         onNewProfileAsked: view.newProfile("")
     }
     MenuCommands {

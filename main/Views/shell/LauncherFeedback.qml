@@ -16,6 +16,7 @@ Item {
     property bool isActive: Application.state === Qt.ApplicationActive
     property int noticeDuration: Theme.motion.noticeDuration
     property int offerDuration: Theme.motion.offerDuration
+    property real noticesAside: 0 ///< how much at the left notices keep clear of
     property ModalLayer alert: null
     property string alertKind
 
@@ -75,6 +76,7 @@ Item {
         isCovered: feedback.covers
         noticeDuration: feedback.noticeDuration
         offerDuration: feedback.offerDuration
+        aside: feedback.noticesAside
     }
     BusyOverlay {
         id: busy

@@ -18,6 +18,7 @@ Item {
     required property bool isCovered
     required property int noticeDuration
     required property int offerDuration
+    required property real aside ///< how much at the left notices keep clear of
 
     readonly property bool offers: toast.isShown && toast.action !== "" && !isCovered
     readonly property bool isTyping: Window.activeFocusItem instanceof TextInput || Window.activeFocusItem instanceof TextEdit
@@ -73,6 +74,7 @@ Item {
         text: notices.isKey ? notices.app.notice : ""
         action: notices.isKey && notices.app.canTakeBack ? qsTr("Annulla") : ""
         remaining: countdown.left
+        aside: notices.aside
         onTriggered: notices.app.takeBack()
     }
 }

@@ -74,6 +74,20 @@ Item {
             return findChild(feedback, "toast").text
         }
 
+        function test_notice_KeepsClearOfASidebar_WhileThereIsRoom(): void {
+            const toast = findChild(key, "toast")
+            const plate = Array.from(toast.children).find(item => item instanceof LeafShape)
+            home.makeProfile("Lavoro")
+            home.app.sync("lavoro")
+            tryVerify(() => plate.width > Theme.sheets.toastHeight)
+            for (const aside of [0, 272]) {
+                key.noticesAside = aside
+                fuzzyCompare(plate.x + plate.width / 2, (aside + scene.width) / 2, 1)
+            }
+            key.noticesAside = scene.width - 60
+            compare(plate.x + plate.width, scene.width - Theme.sheets.toastMargin)
+        }
+
         function test_notice_OnlyInKeyWindow_GoesAfterAWhile_NewerOneStaysItsOwn(): void {
             home.makeProfile("Lavoro")
             home.app.sync("lavoro")
