@@ -20,10 +20,11 @@ FocusScope {
     /// How much of the unused height goes above the heading and the tiles.
     readonly property real spareAbove: Math.max(0, height - places.height) * Theme.picker.spareAbove
 
-    /// Whether a button shows the focus, so that the tiles mustn't. A tile keeps it while its menu is open.
+    /// Whether a button shows the focus, so that the tiles mustn't. A tile keeps it while its menu is open, and
+    /// below what lies over the whole view.
     readonly property bool isFocusElsewhere: {
         const button = Window.activeFocusItem as Pressable
-        return button !== null && button.ringed && !strip.menu?.isOpen
+        return button !== null && button.ringed && view.canBeUsed && !strip.menu?.isOpen
     }
 
     property bool isCovered: false ///< whether something lies over the whole view

@@ -28,6 +28,7 @@ Item {
             Component.onCompleted: picker.begin()
         }
     }
+    Component { id: alertButton; GhostButton { text: "Annulla" } }
     SignalSpy { id: manageAsked; signalName: "manageAsked" }
 
     ViewTestCase {
@@ -90,6 +91,11 @@ Item {
             verify(tile("Studio").isLit && tile("Studio").activeFocus)
             keyClick(Qt.Key_Tab)
             verify(!tile("Studio").isLit) // one frame at a time
+            const cancel = createTemporaryObject(alertButton, scene)
+            view.isCovered = true
+            cancel.forceActiveFocus(Qt.TabFocusReason)
+            verify(cancel.ringed)
+            verify(tile("Studio").isLit) // below an alert, which begins on a button
             compare(home.app.selection, "default")
         }
 
