@@ -55,9 +55,9 @@ Pressable {
         PathIcon {
             anchors.centerIn: parent
             symbol: "pencil"
-            size: Theme.iconSmall
+            size: Theme.iconControl
             weight: PathIcon.Regular
-            color: button.hovered ? Theme.text : Theme.textSoft
+            color: Theme.text
         }
     }
     Component {

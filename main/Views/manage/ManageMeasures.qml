@@ -18,6 +18,7 @@ Measures {
     readonly property real sidebarMargin: 20
     readonly property real listTop: scaled(48)
     readonly property real listInset: 12
+    readonly property real listFade: 16 ///< at the top of a list that is scrolled
     readonly property real profileHeight: scaled(52)
     readonly property real profileGap: 4
     readonly property real profileGlyph: 32

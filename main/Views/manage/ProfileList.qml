@@ -132,6 +132,9 @@ FocusScope {
             onMenuAsked: (x, y) => sidebar.openMenu(row.profileId, row, x, y)
         }
     }
+    ListFade {
+        list: list
+    }
     SearchText {
         id: search
 

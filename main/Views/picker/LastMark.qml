@@ -8,7 +8,7 @@ import Selvane
 
 /// Marks the profile that was launched last.
 Row {
-    spacing: Theme.space8
+    spacing: Theme.space4
 
     LeafShape {
         anchors.verticalCenter: parent.verticalCenter
@@ -18,6 +18,7 @@ Row {
         color: Theme.lit
     }
     StyledText {
+        leftPadding: Theme.space4
         look: Theme.type.status
         text: qsTr("ultimo")
         Accessible.ignored: true

@@ -86,7 +86,7 @@ Item {
     }
     Row {
         anchors { left: parent.left; bottom: parent.bottom; margins: Theme.space16 }
-        spacing: Theme.space8
+        spacing: label.isActive ? Theme.space4 : Theme.space8
 
         Repeater {
             model: label.isActive ? 1 : 0
