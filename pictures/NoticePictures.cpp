@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <QKeyEvent>
 
 #include "Scene.h"
 #include "Views/manage/ProfileDetailModel.h"
@@ -15,6 +16,11 @@ void waitUntilIdle(const AppModel& model) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
+void press(const Scene& scene, int key) {
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+    QCoreApplication::sendEvent(scene.launcher.window(kManage), &press);
+}
+
 } // namespace
 
 void takeOffer(Scene& scene) {
@@ -25,6 +31,8 @@ void takeOffer(Scene& scene) {
     if (!scene.model.canTakeBack())
         qFatal("nothing can be taken back: %s", qPrintable(scene.model.errorMessage()));
     scene.take(kManage, "notice-offer");
+    press(scene, Qt::Key_F6);
+    scene.take(kManage, "notice-focus");
     scene.model.takeBack();
     waitUntilIdle(scene.model);
     scene.take(kManage, "notice-taken-back");

@@ -19,12 +19,13 @@
 namespace selvane::test {
 
 /// A real process with these arguments and this environment. It does nothing and has no files open for as
-/// long as this object lives. `name` is what it calls itself.
+/// long as this object lives. `name` is what it calls itself, `script` what it runs in the shell; that ends
+/// with its input.
 class RunningProcess {
 public:
     RunningProcess(const std::vector<std::string>& arguments, const Environment& environment,
-                   const std::string& name = "sh") {
-        std::vector<std::string> texts = {name, "-c", "read line", "sh"};
+                   const std::string& name = "sh", const std::string& script = "read line") {
+        std::vector<std::string> texts = {name, "-c", script, "sh"};
         texts.insert(texts.end(), arguments.begin(), arguments.end());
         std::vector<std::string> variables;
         for (const auto& [variable, value] : environment)
