@@ -188,8 +188,9 @@ private:
         try {
             m_files.move(origin, change.path);
         } catch (...) {
-            static_cast<void>(files::renameExclusively(aside.path(), change.path));
-            aside.setPlaced();
+            // It may have moved although the disk reports an error. Then what was there instead can go.
+            if (files::renameExclusively(aside.path(), change.path) == 0 || !isGone(origin))
+                aside.setPlaced();
             throw;
         }
         return true;
@@ -221,6 +222,11 @@ private:
         static_cast<void>(files::renameExclusively(aside.path(), change.path));
         aside.setPlaced();
         throw changed(change.path, change.former);
+    }
+
+    static bool isGone(const fs::path& path) {
+        struct stat status = {};
+        return !files::isAnything(path, status) && files::meansMissing(errno);
     }
 
     /// Nobody else knows the path, so what it tells holds.
