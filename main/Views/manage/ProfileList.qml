@@ -85,6 +85,7 @@ FocusScope {
         focus: true
         activeFocusOnTab: true
         boundsBehavior: Flickable.StopAtBounds
+        reuseItems: true
         highlightMoveDuration: 0
         keyNavigationEnabled: false
         model: profiles

@@ -52,12 +52,12 @@ ProfileListModel::ProfileListModel(QObject* parent) : QAbstractListModel(parent)
 
 void ProfileListModel::setApp(AppModel* app) {
     const auto connectTo = [this](AppModel& followed) {
-        connect(&followed, &AppModel::reloaded, this, &ProfileListModel::update);
+        connect(&followed, &AppModel::reloaded, this, &ProfileListModel::refresh);
         connect(&followed, &AppModel::runningChanged, this, [this] { changed({IsRunningRole}); });
     };
     if (!follow(app, m_app, this, connectTo))
         return;
-    update();
+    refresh();
     emit appChanged();
 }
 
@@ -69,8 +69,12 @@ void ProfileListModel::update() {
             [](const Profile& profile) { return profile.meta.lastLaunched; });
     m_activeID = m_app == nullptr ? std::nullopt : m_app->activeID();
     RowUpdate::apply(*this, m_rows, foundProfiles(profiles, m_search),
-                     [](const ListedProfile& row) { return row.profile.id; });
+                     [](const ListedProfile& row) -> const std::string& { return row.profile.id; });
     changed({});
+}
+
+void ProfileListModel::refresh() {
+    update();
     emit countChanged();
 }
 
@@ -79,14 +83,15 @@ void ProfileListModel::setSearch(const QString& text) {
         return;
     m_search = text;
     update();
-    emit searchChanged();
+    emit searchChanged(); // first: by the count, views look for the row that they now choose
+    emit countChanged();
 }
 
 void ProfileListModel::setRecentFirst(bool recentFirst) {
     if (m_recentFirst == recentFirst)
         return;
     m_recentFirst = recentFirst;
-    update();
+    refresh();
     emit recentFirstChanged();
 }
 

@@ -71,6 +71,7 @@ private:
     friend struct RowUpdate;
 
     void update();
+    void refresh();
     void changed(const QList<int>& roles);
 
     AppModel* m_app = nullptr;
