@@ -5,6 +5,7 @@
 
 #include <QPointer>
 
+#include <chrono>
 #include <utility>
 
 #include "AppModel/Wording.h"
@@ -27,12 +28,18 @@ QString changedLinks(qsizetype added, qsizetype removed) {
                                 AppModel::tr("Aggiunti %1 collegamenti"));
 }
 
+/// Writing waits for the disk, which would be felt by somebody who moves through the list.
+constexpr std::chrono::seconds kSelectionSaving(1);
+
 } // namespace
 
 AppModel::AppModel(ProfileStore& store, const ClaudeApp& claude, DesktopBridge& desktop,
                    Preferences& preferences, QObject* parent)
     : QObject(parent), m_store(store), m_claude(claude), m_desktop(desktop), m_preferences(preferences),
       m_entries(*this, claude.entries(), desktop) {
+    m_selectionSaving.setSingleShot(true);
+    m_selectionSaving.setInterval(kSelectionSaving);
+    connect(&m_selectionSaving, &QTimer::timeout, this, &AppModel::saveSelection);
     reload();
     const QString last = m_preferences.lastSelection();
     m_selection = profile(last) == nullptr ? QString::fromUtf8(Profile::kDefaultId) : last;
@@ -41,6 +48,8 @@ AppModel::AppModel(ProfileStore& store, const ClaudeApp& claude, DesktopBridge& 
 }
 
 AppModel::~AppModel() {
+    if (m_selectionSaving.isActive())
+        saveSelection();
     // Work on the other thread uses the store, which may be destroyed right after this.
     m_work.waitForFinished();
 }
@@ -152,9 +161,18 @@ void AppModel::refreshRunning() {
 }
 
 void AppModel::select(const QString& id) {
-    if (!id.isEmpty())
-        m_preferences.setLastSelection(id);
+    if (id == m_selection)
+        return;
     setText(m_selection, id, &AppModel::selectionChanged);
+    if (id.isEmpty())
+        return;
+    m_unsavedSelection = id;
+    m_selectionSaving.start();
+}
+
+void AppModel::saveSelection() {
+    m_selectionSaving.stop();
+    m_preferences.setLastSelection(m_unsavedSelection);
 }
 
 void AppModel::perform(const std::function<void()>& action) {

@@ -8,6 +8,7 @@
 #include <QQmlEngine>
 #include <QString>
 #include <QStringList>
+#include <QTimer>
 
 #include <functional>
 #include <map>
@@ -253,6 +254,7 @@ private:
     std::function<void()> sayUnreached(const QString& problem, const std::filesystem::path& item);
     void setText(QString& member, const QString& value, void (AppModel::*changed)());
     CloseQuestion closeQuestion(const Profile& target) const;
+    void saveSelection();
 
     ProfileStore& m_store;
     const ClaudeApp& m_claude;
@@ -263,6 +265,8 @@ private:
     std::vector<DamagedProfile> m_damaged;
     std::set<std::string> m_running;
     QString m_selection;
+    QString m_unsavedSelection; ///< while `m_selectionSaving` runs
+    QTimer m_selectionSaving;
     QString m_errorMessage;
     QString m_busyMessage;
     QString m_notice;

@@ -4,6 +4,7 @@
 #include "AppModel/FolderWatch.h"
 
 #include <QFile>
+#include <QSet>
 
 #include <algorithm>
 #include <filesystem>
@@ -44,7 +45,8 @@ void FolderWatch::follow() {
     const QStringList wanted = places();
     const QStringList watched = m_watcher->directories() + m_watcher->files();
     const auto without = [](QStringList some, const QStringList& others) {
-        some.removeIf([&](const QString& path) { return others.contains(path); });
+        const QSet<QString> known(others.begin(), others.end());
+        some.removeIf([&](const QString& path) { return known.contains(path); });
         return some;
     };
     if (const QStringList gone = without(watched, wanted); !gone.isEmpty())

@@ -29,7 +29,16 @@ TEST_F(AppModelTest, start_StoredSelection_CountsOnlyWhileTheProfileIsThere) {
     EXPECT_EQ(model().selection(), "") << "no selection stays none";
     EXPECT_EQ(preferences.lastSelection(), "lavoro") << "and is not remembered";
     preferences.setLastSelection("andato");
-    EXPECT_EQ(AppModel(home.store, home.claude, bridge, preferences).selection(), "default");
+    {
+        AppModel other(home.store, home.claude, bridge, preferences);
+        EXPECT_EQ(other.selection(), "default");
+        const QString id = QString::fromStdString(home.make("Studio").id);
+        other.reload();
+        other.select(id);
+        other.select("");
+        EXPECT_EQ(preferences.lastSelection(), "andato") << "others may follow at once";
+    }
+    EXPECT_EQ(preferences.lastSelection(), "studio");
 }
 
 TEST_F(AppModelTest, perform_Failure_IsShownAndReloads) {
