@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <map>
 #include <tuple>
 
 #include "artwork/IconTable.h"
@@ -116,7 +117,11 @@ std::string_view iconData(std::string_view name, IconWeight weight) {
 }
 
 QPainterPath iconPath(std::string_view name, IconWeight weight) {
-    return svgPath(iconData(name, weight));
+    // A list that is typed in makes the same few icons again and again.
+    thread_local std::map<const char*, QPainterPath> paths;
+    const std::string_view data = iconData(name, weight);
+    const auto found = paths.find(data.data());
+    return found != paths.end() ? found->second : paths.emplace(data.data(), svgPath(data)).first->second;
 }
 
 } // namespace selvane
