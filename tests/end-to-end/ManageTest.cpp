@@ -66,6 +66,44 @@ TEST_F(Manage, ASectionIsFoldedAndStaysSo) {
     EXPECT_FALSE(tabTo(selvane, "Skill").is(ATSPI_STATE_EXPANDED));
 }
 
+TEST_F(Manage, AProfileIsFound_ItsListFiltered_AndItsColourChosen) {
+    for (char letter = 'a'; letter < 'n'; ++letter)
+        writeFile(home / ".claude/skills" / (std::string("skill-") + letter) / "SKILL.md", "testo");
+    home.output({"sync", "lavoro"});
+    auto selvane = start();
+    press({XK_Control_L, ','});
+    selvane.waitForWindow("Impostazioni");
+    selvane.waitForFocus("Principale");
+    type("lav");
+    selvane.find(ATSPI_ROLE_LABEL, "Cerca: lav, 1 di 2");
+    selvane.waitForFocus("Lavoro");
+    press({XK_Escape});
+    selvane.waitUntilGone(ATSPI_ROLE_LABEL, "Cerca: lav, 1 di 2");
+
+    const Seen icon = tabTo(selvane, "Cambia icona");
+    press({XK_space});
+    selvane.waitForFocusAfter(icon);
+    press({XK_Tab});
+    EXPECT_EQ(selvane.waitForFocus("Nessuna").role(), ATSPI_ROLE_RADIO_BUTTON);
+    press({XK_Right});
+    selvane.waitForFocus("Muschio");
+    press({XK_space});
+    const fs::path record = profile("lavoro") / ".launcher.json";
+    waitUntil([&] { return readFile(record).find("Muschio") != std::string::npos; }, "the colour");
+    press({XK_Escape});
+    selvane.waitForFocus("Cambia icona");
+
+    const Seen filter = tabTo(selvane, "Filtra le 14 skill");
+    EXPECT_EQ(filter.role(), ATSPI_ROLE_TEXT);
+    type("pd");
+    selvane.find(ATSPI_ROLE_LABEL, "1 di 14");
+    selvane.waitUntilGone(ATSPI_ROLE_LIST_ITEM, "skill-a");
+    selvane.find(ATSPI_ROLE_LIST_ITEM, "pdf");
+    press({XK_Escape});
+    selvane.find(ATSPI_ROLE_LIST_ITEM, "skill-a");
+    EXPECT_EQ(filter.text(), "");
+}
+
 TEST_F(Manage, AProfileIsDeletedOnceThatIsConfirmed_AndTakenBack) {
     const std::string question = "Spostare «Lavoro» nel Cestino?";
     auto selvane = start();
