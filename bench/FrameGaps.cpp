@@ -8,8 +8,10 @@
 //   import   every session of the built-in profile into the profile "altro"
 //   lock     a synchronisation of the profile "altro" while another process holds its lock for two seconds
 //   backup   an archive of everything
-//   scroll   through the list of all conversations, 240 pixels a frame; also prints what memory that list
-//   takes
+//   scroll   through the list of all conversations, 240 pixels a frame; also prints what memory it takes
+//   search   in the picker, and
+//   sidebar  in the management window's list: looks for a profile by typing. Prints the longest time between two
+//   frames after a key, and for how much of such a time the main thread was at work: the most, and the median
 
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -22,12 +24,14 @@
 
 #include <algorithm>
 #include <cmath>
+#include <ctime>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <utility>
 
 #include "AppModel/FakeBridge.h"
+#include "Views/manage/ProfileListModel.h"
 #include "Views/shell/LauncherApp.h"
 #include "Views/shell/QmlModule.h"
 #include "artwork/Brand.h"
@@ -49,6 +53,8 @@ public:
             if (m_sinceLast.isValid())
                 m_longest = std::max(m_longest, m_sinceLast.nsecsElapsed());
             m_sinceLast.start();
+            const double work = workDone();
+            m_mostWork = std::max(m_mostWork, work - std::exchange(m_workAtLast, work));
             ++m_frames;
             window.update();
         });
@@ -59,11 +65,22 @@ public:
         m_longest = m_frames = 0;
         m_sinceLast.start();
     }
+    /// Counts on from the last frame.
+    void forget() { m_mostWork = static_cast<double>(m_longest = 0); }
     double longest() const { return static_cast<double>(m_longest) / 1e6; } ///< milliseconds
+    double mostWork() const { return m_mostWork; } ///< of this thread between two frames, in milliseconds
     qint64 frames() const { return m_frames; }
 
 private:
+    static double workDone() {
+        timespec time = {};
+        ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+        return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
+    }
+
     QElapsedTimer m_sinceLast;
+    double m_workAtLast = workDone();
+    double m_mostWork = 0;
     qint64 m_longest = 0; ///< nanoseconds
     qint64 m_frames = 0;
 };
@@ -94,9 +111,9 @@ long peakMemory() {
     return usage.ru_maxrss / 1024;
 }
 
-void press(QQuickWindow& window, int key, Qt::KeyboardModifiers modifiers) {
+void press(QQuickWindow& window, int key, Qt::KeyboardModifiers modifiers, const QString& text = {}) {
     for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-        QKeyEvent event(type, key, modifiers);
+        QKeyEvent event(type, key, modifiers, text);
         QCoreApplication::sendEvent(&window, &event);
     }
 }
@@ -125,6 +142,55 @@ void scroll(QQuickItem& list, const FrameWatch& frames) {
         const qreal end = list.property("contentHeight").toReal() - list.height();
         list.setProperty("contentY", std::fmod(list.property("contentY").toReal() + kStep, end));
     }
+}
+
+struct SearchTimes { // milliseconds
+    double longestGap = 0;
+    std::vector<double> work; ///< between two frames after each key
+};
+
+/// What typing costs; empty if it finds nothing.
+SearchTimes search(QQuickWindow& window, FrameWatch& frames, const QAbstractItemModel& found) {
+    constexpr int kSettling = 400; // what has moved has come to rest
+    const int all = found.rowCount({});
+    int least = all;
+    SearchTimes times;
+    const auto measured = [&](int key, const QString& text) {
+        frames.forget();
+        press(window, key, Qt::NoModifier, text);
+        wait(kSettling);
+        times.longestGap = std::max(times.longestGap, frames.longest());
+        times.work.push_back(frames.mostWork());
+        least = std::min(least, found.rowCount({}));
+    };
+    for (const char* const words : {"cli 0001", "figli"}) {
+        for (const QChar letter : QString(words))
+            measured(0, letter);
+        for (int removed = 0; removed < 3; ++removed)
+            measured(Qt::Key_Backspace, {});
+        measured(Qt::Key_Escape, {});
+    }
+    return least == 0 || least == all || found.rowCount({}) != all ? SearchTimes() : times;
+}
+
+/// Measures a search in a window; the status of the program.
+int measureSearch(const QString& job, QQuickWindow& window) {
+    const auto* const profiles = window.findChild<ProfileListModel*>();
+    FrameWatch frames(window);
+    wait(1000); // what the first frames need
+    SearchTimes times = profiles == nullptr ? SearchTimes() : search(window, frames, *profiles);
+    if (times.work.empty())
+        return 1;
+    std::ranges::sort(times.work);
+    QTextStream(stdout) << QString("%1 %2 profiles, %3 keys, longest gap %4 ms, work %5 ms, "
+                                   "median %6 ms\n")
+                               .arg(job, -8)
+                               .arg(profiles->rowCount({}))
+                               .arg(times.work.size())
+                               .arg(times.longestGap, 0, 'f', 1)
+                               .arg(times.work.back(), 0, 'f', 1)
+                               .arg(times.work[times.work.size() / 2], 0, 'f', 1);
+    return 0;
 }
 
 /// Begins a job; false if there is none of that name. `sessions`: those of the built-in profile, which a
@@ -168,7 +234,13 @@ int measure(const QString& job) {
     AppModel model(store, claude, bridge, preferences);
     Updates updates(nullptr);
     LauncherApp launcher(engine, model, updates);
+    if (job == "search") {
+        launcher.showPicker();
+        return measureSearch(job, *launcher.window(LauncherApp::Picker));
+    }
     launcher.showManage();
+    if (job == "sidebar")
+        return measureSearch(job, *launcher.window(LauncherApp::Manage));
     QQuickWindow& window = *launcher.window(LauncherApp::Manage);
     FrameWatch frames(window);
     wait(1000); // what the first frames need

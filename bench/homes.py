@@ -7,6 +7,7 @@ import os
 import random
 
 COLLECTIONS = ["skills", "agents", "commands", "output-styles", "rules"]
+COLORS = ["Muschio", "Betulla", "Argilla", "Erica", "Glicine", "Genziana", "Lago", "Ardesia"]
 PROJECT_FOLDERS = 200
 UNSAID = "kwyxj"  # no transcript has it: its letters aren't in any word
 
@@ -40,28 +41,30 @@ def bare(home):
     write(f"{home}/.claude.json", b'{\n  "hasCompletedOnboarding": true,\n  "mcpServers": {}\n}\n')
 
 
-def profile_record(name, modes, source=None):
+def profile_record(name, modes, source=None, color=None):
     record = {
         "created": "2026-03-01T09:30:00Z", "excluded": {}, "lastLaunched": "2026-11-15T17:05:12Z",
         "modes": modes, "name": name, "summary": "Lavoro per " + name, "symbol": "briefcase",
     }
     if source:
         record["source"] = source
+    if color:
+        record["color"] = color
     return json.dumps(record, indent=2, sort_keys=True).encode()
 
 
-def add_profile(home, ident, modes, source=None, number=0):
+def add_profile(home, ident, modes, source=None, number=0, color=None):
     folder = f"{home}/.claude-profiles/{ident}"
     os.makedirs(folder)
-    write(f"{folder}/.launcher.json", profile_record(f"Cliente {number:05} & figli", modes, source))
+    write(f"{folder}/.launcher.json", profile_record(f"Cliente {number:05} & figli", modes, source, color))
 
 
 def profiles(home, count):
-    """`count` profiles that share everything with the built-in one."""
+    """`count` profiles of all colours that share everything with the built-in one."""
     bare(home)
     modes = dict.fromkeys(COLLECTIONS, "shared") | {"CLAUDE.md": "extend", "settings": "separate"}
     for number in range(count):
-        add_profile(home, f"cliente-{number:05}", modes, "default", number)
+        add_profile(home, f"cliente-{number:05}", modes, "default", number, COLORS[number % len(COLORS)])
 
 
 def items(home, count):
