@@ -26,4 +26,11 @@ void createOwnFolder(const Profile& profile, const std::filesystem::path& folder
     createOwnFolder(profile.configDir, folder);
 }
 
+void OwnFolders::create(const std::filesystem::path& folder) {
+    if (m_created.contains(folder.native()))
+        return;
+    createOwnFolder(m_profile, folder);
+    m_created.insert(folder.native());
+}
+
 } // namespace selvane

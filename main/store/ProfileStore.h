@@ -34,6 +34,7 @@
 namespace selvane {
 
 class FileBatch;
+class OwnFolders;
 class Progress;
 struct Conversation;
 struct ConversationList;
@@ -298,7 +299,7 @@ private:
     std::optional<std::filesystem::path> sessionPlace(const std::filesystem::path& dataDir) const;
     std::vector<std::string> queuedSessions(const Profile& profile) const;
     void copyTranscript(const std::string& cliSessionID, const std::filesystem::path& folder,
-                        const Profile& target, Existing existing, FileBatch& batch);
+                        OwnFolders& target, Existing existing, FileBatch& batch);
     std::filesystem::path queuedPlace(const std::filesystem::path& queue, const std::string& name,
                                       const std::filesystem::path& data,
                                       const std::filesystem::path& usual) const;

@@ -156,12 +156,12 @@ std::optional<fs::path> ProfileStore::sessionPlace(const fs::path& dataDir) cons
 }
 
 /// The transcript of one of the agent's sessions, with its companion folder, from a project folder.
-void ProfileStore::copyTranscript(const std::string& cliSessionID, const fs::path& folder,
-                                  const Profile& target, Existing existing, FileBatch& batch) {
-    const fs::path place = target.configDir / "projects" / folder.filename();
-    createOwnFolder(target, place);
+void ProfileStore::copyTranscript(const std::string& cliSessionID, const fs::path& folder, OwnFolders& target,
+                                  Existing existing, FileBatch& batch) {
+    const fs::path place = target.profile().configDir / "projects" / folder.filename();
+    target.create(place);
     for (const TranscriptCopy& copy : transcriptCopies(cliSessionID, folder, place, existing)) {
-        createOwnFolder(target, copy.to.parent_path());
+        target.create(copy.to.parent_path());
         if (copy.kind == TranscriptCopy::Kind::added)
             batch.copy(copy.from, copy.to);
         else if (copy.kind == TranscriptCopy::Kind::continued)
@@ -184,9 +184,10 @@ int ProfileStore::importTranscripts(const std::vector<std::string>& cliSessionID
         announce(*folder / id);
     }
     FileBatch batch(target.configDir, m_progress);
+    OwnFolders folders(target);
     if (source.configDir != target.configDir) {
         for (const auto& [id, folder] : found)
-            copyTranscript(id, folder, target, existing, batch);
+            copyTranscript(id, folder, folders, existing, batch);
     }
     batch.finish();
     return static_cast<int>(found.size());
@@ -216,6 +217,7 @@ ImportCount ProfileStore::importSessions(const std::vector<CodeSession>& session
         }
     }
     FileBatch batch(target.configDir, m_progress);
+    OwnFolders folders(target);
     std::set<std::string> knownTranscripts;
     std::set<std::string> knownRecords;
     ImportCount count;
@@ -223,7 +225,7 @@ ImportCount ProfileStore::importSessions(const std::vector<CodeSession>& session
         for (const std::string& id : session.cliSessionIDs) {
             const auto folder = sameConfiguration ? std::nullopt : index.transcriptFolder(id);
             if (folder && knownTranscripts.insert(id).second)
-                copyTranscript(id, *folder, target, existing, batch);
+                copyTranscript(id, *folder, folders, existing, batch);
         }
         if (sameAccount) { // both profiles already read this record
             ++count.copied;

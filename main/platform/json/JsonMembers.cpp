@@ -92,7 +92,10 @@ private:
         return backslashes % 2 == 1;
     }
 
-    static void breakLine(std::size_t depth, std::string& out) { out.append(1, '\n').append(2 * depth, ' '); }
+    static void breakLine(std::size_t depth, std::string& out) {
+        static const std::string longest = "\n" + std::string(2 * kDeepest, ' ');
+        out.append(longest, 0, 1 + 2 * depth);
+    }
 
     /// Appends what stands between this value and the next; returns the depth of the next.
     std::size_t separators(std::size_t depth, std::size_t outside, std::string& out) {

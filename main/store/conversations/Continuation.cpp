@@ -122,8 +122,9 @@ ImportCount ProfileStore::continueIn(const ConversationList& list, const Convers
             announce(transcript);
             announce(transcript.parent_path() / transcript.stem());
         }
+        OwnFolders folders(target);
         for (const fs::path transcript : furthest.transcripts)
-            copyTranscript(transcript.stem(), transcript.parent_path(), target, Existing::continued, batch);
+            copyTranscript(transcript.stem(), transcript.parent_path(), folders, Existing::continued, batch);
     }
     const bool isQueued = plan.record == Continuation::Record::atNextLaunch;
     if (isQueued || plan.record == Continuation::Record::now) {
