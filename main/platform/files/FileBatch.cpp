@@ -3,16 +3,12 @@
 
 #include "platform/files/FileBatch.h"
 
-#include <algorithm>
-#include <atomic>
-#include <cstdio>
 #include <sys/stat.h>
-#include <vector>
+#include <utility>
 
-#include "platform/files/FileChanges.h"
+#include "platform/files/FileBatchRound.h"
 #include "platform/files/FileCopy.h"
 #include "platform/files/FileRemoval.h"
-#include "platform/files/Placement.h"
 #include "platform/files/Temporary.h"
 
 namespace selvane {
@@ -22,9 +18,6 @@ using files::fail;
 using files::Replaces;
 
 namespace {
-
-/// So many get their names together. Waiting for so many costs little beside writing them.
-constexpr std::size_t kRound = 1024;
 
 constexpr std::string_view kTemporaryFolder = "batch-";
 
@@ -42,26 +35,6 @@ void removeLeftovers(const std::filesystem::path& folder) {
 }
 
 } // namespace
-
-/// What gets its names together.
-struct FileBatch::Round {
-    std::vector<Entry> entries;
-    std::filesystem::path temporary; ///< the folder that they are made in
-    std::atomic<bool> isCopied = false;
-    std::shared_ptr<void> copying; ///< kept by all that is still to be copied; sets that when nobody is left
-
-    std::mutex mutex;            ///< of the following
-    std::size_t failed = kRound; ///< the first entry that failed
-    std::exception_ptr failure;
-
-    void fail(std::size_t position, std::exception_ptr why) {
-        const std::lock_guard guard(mutex);
-        if (position >= failed)
-            return;
-        failed = position;
-        failure = std::move(why);
-    }
-};
 
 FileBatch::FileBatch(const std::filesystem::path& folder, Progress* progress, FileChanges* changes)
     : m_folder(folder), m_mount(files::mountOf(folder)), m_progress(progress), m_changes(changes),
@@ -142,7 +115,7 @@ void FileBatch::move(const std::filesystem::path& from, const std::filesystem::p
 FileBatch::Entry& FileBatch::add(const std::filesystem::path& target, Replaces kind) {
     if (m_progress != nullptr && m_progress->isCancelled())
         fail("create", target, ECANCELED);
-    if (m_open && m_open->entries.size() >= kRound) {
+    if (m_open && m_open->entries.size() >= Round::kMost) {
         close();
         m_copier.run([this] { settleCopied(); });
     }
@@ -151,7 +124,7 @@ FileBatch::Entry& FileBatch::add(const std::filesystem::path& target, Replaces k
         m_open->copying = {nullptr, [round = m_open.get()](void*) { round->isCopied = true; }};
         m_copier.keepWhileCopying(m_open->copying);
     }
-    const Folder& folder = folderAt(files::folderOf(target));
+    Folder& folder = folderAt(files::folderOf(target));
     m_open->entries.push_back({&folder, target.filename().native(), {}, kind});
     ++m_count;
     return m_open->entries.back();
@@ -159,7 +132,7 @@ FileBatch::Entry& FileBatch::add(const std::filesystem::path& target, Replaces k
 
 std::filesystem::path FileBatch::addNew(const std::filesystem::path& target, Replaces kind) {
     Entry& entry = add(target, kind);
-    Folder& folder = folderAt(files::folderOf(target));
+    Folder& folder = *entry.folder;
     // Each round has a folder of its own: its files get their names while those of the next are made.
     std::filesystem::path& temporary = folder.isElsewhere ? folder.temporary : m_open->temporary;
     if (temporary.empty())
@@ -186,7 +159,10 @@ std::filesystem::path FileBatch::makeTemporary(const std::filesystem::path& in,
     const std::filesystem::path path = in / name;
     if (::mkdir(path.c_str(), S_IRWXU) != 0)
         fail("create", target, errno);
-    m_temporaries.push_back(path);
+    {
+        const std::lock_guard guard(m_mutex);
+        m_temporaries.insert(path);
+    }
     const Descriptor folder(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
     if (!folder)
         fail("create", target, errno);
@@ -201,91 +177,6 @@ void FileBatch::close() {
     m_copier.keepWhileCopying(nullptr);
     m_open->copying.reset();
     m_open.reset();
-}
-
-/// The next round in order if it is copied. Otherwise, or if copying has failed, nothing.
-std::shared_ptr<FileBatch::Round> FileBatch::nextCopied() {
-    const std::lock_guard guard(m_mutex);
-    if (m_closed.empty() || !m_closed.front()->isCopied || m_copier.hasFailed())
-        return nullptr;
-    auto round = std::move(m_closed.front());
-    m_closed.pop_front();
-    return round;
-}
-
-/// Other threads go on copying meanwhile.
-void FileBatch::settleCopied() {
-    const std::lock_guard settling(m_settling);
-    while (const auto round = nextCopied())
-        settle(*round);
-}
-
-void FileBatch::settle(const Round& round) {
-    m_written.waitFor(m_folder);
-    const std::size_t end = std::min(round.failed, round.entries.size());
-    for (std::size_t position = 0; position < end; ++position)
-        place(round.entries[position]);
-    if (round.failure)
-        std::rethrow_exception(round.failure);
-}
-
-void FileBatch::place(const Entry& entry) {
-    const std::filesystem::path target = entry.folder->path / entry.name;
-    FileChanges::Former former = files::Nothing{};
-    files::FileState present = files::Nothing{};
-    if (m_changes != nullptr) {
-        present = m_changes->stateOfNew(entry.temporary);
-        if (const auto link = FileManager().linkTarget(target))
-            former = files::LinkText{*link};
-    }
-    if (const int error = files::place(entry.temporary, target, entry.kind); error != 0)
-        fail("create", target, error);
-    if (m_changes != nullptr)
-        m_changes->add(target, std::move(former), std::move(present));
-}
-
-void FileBatch::finish() {
-    if (m_count == 0)
-        return;
-    if (m_open)
-        close();
-    m_copier.finish();
-    try {
-        settleCopied();
-    } catch (const std::exception&) {
-        waitForNames(); // those before the failure
-        throw;
-    }
-    waitForNames();
-    removeOriginals();
-    removeTemporaries();
-}
-
-void FileBatch::waitForNames() {
-    for (const Folder& folder : m_folders) {
-        if (const int error = m_written.addFolder(folder.path); error != 0)
-            fail("write", folder.path, error);
-    }
-    m_written.waitFor(m_folder);
-}
-
-/// What was copied to another file system counts as moved now that its copy is on the disk.
-void FileBatch::removeOriginals() {
-    while (!m_originals.empty()) {
-        const std::filesystem::path original = std::move(m_originals.back());
-        m_originals.pop_back();
-        files::removeTree(original, original);
-    }
-}
-
-void FileBatch::removeTemporaries() {
-    m_places.clear();
-    m_folders.clear();
-    while (!m_temporaries.empty()) {
-        const std::filesystem::path temporary = std::move(m_temporaries.back());
-        m_temporaries.pop_back();
-        files::removeTree(temporary, temporary.parent_path());
-    }
 }
 
 } // namespace selvane

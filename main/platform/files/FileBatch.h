@@ -10,9 +10,11 @@
 #include <functional>
 #include <memory>
 #include <mutex>
+#include <set>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 #include "platform/files/DiskSync.h"
 #include "platform/files/FileCopier.h"
@@ -65,7 +67,7 @@ private:
         std::filesystem::path temporary{}; ///< then inside it; empty if there is none
     };
     struct Entry {
-        const Folder* folder;
+        Folder* folder;
         std::string name;
         std::filesystem::path temporary; ///< where it is until it has its name
         files::Replaces kind;
@@ -82,9 +84,11 @@ private:
     void writeNew(const std::filesystem::path& temporary, const std::filesystem::path& target,
                   std::string_view bytes, Privacy privacy);
     void close();
-    std::shared_ptr<Round> nextCopied();
+    std::vector<std::shared_ptr<Round>> takeCopied();
     void settleCopied();
+    void settleAllCopied();
     void settle(const Round& round);
+    void removeUsed();
     void place(const Entry& entry);
     void waitForNames();
     void removeOriginals();
@@ -96,13 +100,14 @@ private:
     FileChanges* m_changes;
     files::DiskSync m_written;
     std::deque<std::filesystem::path> m_originals;     ///< of copies, to be removed
-    std::deque<std::filesystem::path> m_temporaries;   ///< all the temporary folders
     std::deque<Folder> m_folders;                      ///< those whose names change
     std::unordered_map<std::string, Folder*> m_places; ///< the same by path
     std::size_t m_count = 0;                           ///< of all that was added
     std::shared_ptr<Round> m_open;                     ///< gets what is added next
-    std::mutex m_settling;                             ///< held while names are given
+    std::mutex m_settling;                             ///< held while names are given; of the next
+    std::vector<std::filesystem::path> m_used;         ///< temporary folders no longer needed
     std::mutex m_mutex;                                ///< of the following
+    std::set<std::filesystem::path> m_temporaries;     ///< all the temporary folders
     std::deque<std::shared_ptr<Round>> m_closed;       ///< whose names aren't given yet, in order
     FileCopier m_copier;                               ///< ends before what its threads use
 };

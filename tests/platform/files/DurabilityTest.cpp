@@ -144,6 +144,27 @@ TEST(Durability, ManyRoundsKeepWhatCameBeforeAFailure) {
         EXPECT_EQ(kFiles.read(top / std::to_string(i)), std::to_string(i));
 }
 
+TEST(Durability, RoundsClearUpBehindThemselves) {
+    const TemporaryFolder folder;
+    const fs::path& top = folder.path();
+    constexpr int kItems = 8 * 1024;
+    kFiles.createFolder(top / "to");
+    makeFile(top / "from", "new", 0644);
+    for (int i = 0; i < kItems; ++i)
+        kFiles.createLink(top / "from", top / "to" / std::to_string(i));
+    FileBatch batch(top);
+    std::size_t left = 0;
+    const WaitWatch watch(WaitWatch::For::disk,
+                          [&](const fs::path&) { left = kFiles.entries(top).size() - 2; });
+    for (int i = 0; i < kItems; ++i)
+        batch.copyOverLink(top / "from", top / "to" / std::to_string(i));
+    batch.finish();
+    EXPECT_LT(left, 8U) << "of the first rounds, no folder is left when the last names are waited for";
+    EXPECT_EQ(kFiles.entries(top).size(), 2U) << "and in the end, none";
+    for (int i = 0; i < kItems; ++i)
+        ASSERT_FALSE(kFiles.linkTarget(top / "to" / std::to_string(i))) << i;
+}
+
 /// A folder of 20 folders with 20 files each.
 void makeManyFiles(const fs::path& top) {
     kFiles.createFolder(top);
