@@ -41,6 +41,8 @@ Item {
     signal menuAsked(var pointer) ///< where it is in the row; null for the button
 
     implicitHeight: Theme.manage.itemHeight
+    ListView.onPooled: visible = false // also to screen readers
+    ListView.onReused: visible = true
 
     Accessible.role: Accessible.ListItem
     Accessible.name: name

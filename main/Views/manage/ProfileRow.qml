@@ -26,6 +26,8 @@ Item {
     signal menuAsked(real x, real y)
 
     implicitHeight: Theme.manage.profileHeight
+    ListView.onPooled: visible = false // also to screen readers
+    ListView.onReused: visible = true
 
     Accessible.role: Accessible.ListItem
     Accessible.name: name
