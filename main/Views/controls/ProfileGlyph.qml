@@ -30,13 +30,16 @@ Item {
             ColorAnimation { duration: Theme.motion.tileFocus; easing.type: Easing.OutCubic }
         }
     }
-    LeafShape {
-        anchors.fill: parent
-        anchors.margins: -Theme.ringGap
-        visible: glyph.isFramed && glyph.isLit && Theme.hues.has(glyph.look.color)
-        tip: Theme.ringTip
-        borderWidth: Theme.thickLine
-        borderColor: Theme.lit
+    Repeater {
+        model: glyph.isFramed && glyph.isLit && Theme.hues.has(glyph.look.color) ? 1 : 0
+
+        delegate: LeafShape {
+            anchors.fill: glyph
+            anchors.margins: -Theme.ringGap
+            tip: Theme.ringTip
+            borderWidth: Theme.thickLine
+            borderColor: Theme.lit
+        }
     }
     PathIcon {
         anchors.centerIn: parent

@@ -13,8 +13,8 @@ Item {
     required property LauncherApp launcher
     required property ProfilePicker view
     required property Window target
-    /// Loaded before the first letter is typed, so that its tiles don't wait for it.
-    readonly property Component finder: Qt.createComponent("PickerSearch.qml", Component.Asynchronous, overlays)
+    // What the first letter shows needn't be made then.
+    Component.onCompleted: overlays.view.makeFinder()
 
     LauncherFeedback {
         id: feedback

@@ -20,8 +20,7 @@ FocusScope {
     /// How much of the unused height goes above the heading and the tiles.
     readonly property real spareAbove: Math.max(0, height - places.height) * Theme.picker.spareAbove
 
-    /// Whether a button shows the focus, so that the tiles mustn't. A tile keeps it while its menu is open, and
-    /// below what lies over the whole view.
+    /// Whether a button here shows the focus, so that the tiles mustn't. A tile keeps it while its menu is open.
     readonly property bool isFocusElsewhere: {
         const button = Window.activeFocusItem as Pressable
         return button !== null && button.ringed && view.canBeUsed && !strip.menu?.isOpen
@@ -48,7 +47,6 @@ FocusScope {
         view.focusedBelow = view.picker.focused
         view.sheet = component.createObject(layers, {app: view.app, initialSource: source}) as ModalLayer
     }
-
     function dropSheet(): void {
         view.sheet?.destroy()
         view.sheet = null
@@ -63,13 +61,16 @@ FocusScope {
         view.picker.focused = strip.profiles.idNear(row)
         strip.takeFocus()
     }
-    function followSearch(): void {
+    function makeFinder(): void {
         if (!view.finder)
             view.finder = Qt.createComponent("PickerSearch.qml").createObject(layers, {
                 search: search, profiles: strip.profiles, indent: Qt.binding(() => view.columnLeft),
                 capsuleTop: Qt.binding(() => view.places.subtitle + view.spareAbove),
                 tilesTop: Qt.binding(() => strip.y + Theme.picker.stripSpare)
             }) as Item
+    }
+    function followSearch(): void {
+        view.makeFinder()
         view.picker.followSearch(search.text !== "")
         strip.takeFocus()
     }
@@ -169,8 +170,7 @@ FocusScope {
     Kelvo8Logo {
         size: Theme.controls.keyCapHeight
         color: Theme.textFaint
-        anchors.right: parent.right
-        anchors.rightMargin: view.columnLeft
+        anchors { right: parent.right; rightMargin: view.columnLeft }
         y: view.height - view.places.footer - height
         visible: !view.isCompact
     }

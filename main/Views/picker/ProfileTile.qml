@@ -39,6 +39,14 @@ Item {
     scale: isLit ? Theme.motion.focusedScale : 1
     z: isLit ? 1 : 0
     activeFocusOnTab: isFocused
+    ListView.onPooled: {
+        focus = false // before it is another one's
+        visible = false // also to screen readers
+    }
+    ListView.onReused: {
+        visible = true
+        opacity = 1 // it may have faded out
+    }
 
     Accessible.role: Accessible.Button
     Accessible.name: name

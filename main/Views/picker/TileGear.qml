@@ -17,11 +17,14 @@ Pressable {
     implicitWidth: Theme.picker.tileGear
     implicitHeight: Theme.picker.tileGear
 
-    Rectangle {
-        anchors.fill: parent
-        radius: width / 2
-        visible: gear.hovered
-        color: Theme.text
+    Repeater {
+        model: gear.hovered ? 1 : 0
+
+        delegate: Rectangle {
+            anchors.fill: gear
+            radius: width / 2
+            color: Theme.text
+        }
     }
     PathIcon {
         anchors.centerIn: parent

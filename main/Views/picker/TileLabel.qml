@@ -65,23 +65,12 @@ Item {
         elide: Text.ElideRight
         Accessible.ignored: true
     }
-    Row {
-        anchors { left: parent.left; bottom: parent.bottom; leftMargin: Theme.space16; bottomMargin: Theme.picker.tileBadgeBottom }
-        spacing: Theme.space4
-        visible: label.hasOwnAccount
+    // What few tiles have isn't even made for the others, of which a search may show many at once.
+    Repeater {
+        model: label.hasOwnAccount ? 1 : 0
 
-        PathIcon {
-            anchors.verticalCenter: parent.verticalCenter
-            symbol: "person.badge.key"
-            weight: PathIcon.Bold
-            size: Theme.iconCaret
-            color: Theme.linked
-        }
-        StyledText {
-            look: Theme.type.badge
-            text: qsTr("Account Claude separato")
-            color: Theme.linked
-            Accessible.ignored: true
+        delegate: AccountMark {
+            anchors { left: label.left; bottom: label.bottom; leftMargin: Theme.space16; bottomMargin: Theme.picker.tileBadgeBottom }
         }
     }
     Row {

@@ -88,6 +88,7 @@ ListView {
     leftMargin: margin
     rightMargin: margin + (isSearched ? 0 : end.width + Theme.cardGap)
     spacing: Theme.cardGap
+    reuseItems: true
     model: profiles
     currentIndex: profiles.count > 0 ? profiles.indexOf(focused) : -1
     highlightFollowsCurrentItem: false
