@@ -186,8 +186,9 @@ void PictureHome::launched(const std::string& id, std::chrono::hours ago) {
 void PictureHome::openInClaude(const Profile& profile) {
     const auto data = store.desktopDataDir(profile);
     const auto agent = path / "bin/claude";
-    writeTree(path, {{"bin/claude", "-> /bin/cat"}});
-    const std::string start = "'" + agent.string() + "' <&3 & "; // what runs behind has an input of its own
+    writeTree(path, {{"bin/claude", "-> /bin/sh"}});
+    const std::string start =
+        "'" + agent.string() + "' -c 'read line' <&3 & "; // what runs behind has an input of its own
     m_copy = std::make_unique<RunningProcess>(std::vector<std::string>{"--user-data-dir=" + data.string()},
                                               Environment{{"PATH", "/bin"}}, "sh",
                                               "exec 3<&0; " + start + start + start + "read line");
