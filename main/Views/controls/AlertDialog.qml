@@ -60,7 +60,6 @@ ModalLayer {
             wrapMode: Text.Wrap
         }
         Row {
-            topPadding: Theme.space6
             visible: alert.warning !== ""
             spacing: Theme.space8
 
@@ -71,6 +70,7 @@ ModalLayer {
                 color: Theme.danger
             }
             StyledText {
+                topPadding: Theme.space6
                 look: Theme.type.notice
                 text: alert.warning
                 color: Theme.danger
