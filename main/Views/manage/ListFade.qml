@@ -13,9 +13,9 @@ Rectangle {
 
     required property ListView list
 
-    anchors { left: list.left; right: list.right; top: list.top }
+    anchors { left: fade.list.left; right: fade.list.right; top: fade.list.top }
     height: Theme.manage.listFade
-    visible: list.contentY > list.originY
+    visible: fade.list.contentY > fade.list.originY
     gradient: Gradient {
         GradientStop { position: 0; color: Theme.surface }
         GradientStop { position: 0.4; color: Theme.surface }
