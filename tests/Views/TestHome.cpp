@@ -138,6 +138,11 @@ void TestHome::closeClaude() {
     workspace.whenEnded();
 }
 
+void TestHome::loseClaude() {
+    place().home.workspace.apps.clear();
+    place().claude.reset();
+}
+
 void TestHome::ignoreTerminations(int count) {
     place().home.workspace.terminationsIgnored = count;
 }

@@ -50,6 +50,7 @@ public:
     /// A copy of Claude Desktop that runs for a profile until it is asked to end.
     Q_INVOKABLE void openClaude(const QString& profileId);
     Q_INVOKABLE void closeClaude();
+    Q_INVOKABLE void loseClaude(); ///< the same, without a word about it
     /// How many polite requests to end are ignored.
     Q_INVOKABLE void ignoreTerminations(int count);
     /// The path that the user chooses for an archive; by default the dialog is cancelled.

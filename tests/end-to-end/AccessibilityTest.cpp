@@ -177,6 +177,7 @@ TEST_F(Manage, AnArchiveIsReadAndRestoredInPart) {
     selectLavoro(selvane);
     tabTo(selvane, "Esporta un backup");
     press({XK_space});
+    selvane.find(ATSPI_ROLE_DIALOG, "Cosa salvare");
     tabTo(selvane, "Ripristina…");
     press({XK_space});
     selvane.waitForFocus("File");

@@ -36,6 +36,7 @@ QtObject {
     readonly property int busyLeast: 400 ///< so that it doesn't flash
     readonly property int noticeDuration: 2500
     readonly property int offerDuration: 8000 ///< of a notice whose action can be chosen
+    readonly property int lookAgain: 1000 ///< at what changes without a word
     readonly property int countdownSteps: 4 ///< with reduced motion
     readonly property int countdownInterval: 40
     readonly property int toolTipDelay: 600

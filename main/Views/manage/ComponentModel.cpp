@@ -122,10 +122,6 @@ QString ComponentModel::symbol() const {
     return qtText(selvane::symbol(m_component));
 }
 
-bool ComponentModel::isCollection() const {
-    return selvane::isCollection(m_component);
-}
-
 QStringList ComponentModel::modes() const {
     QStringList labels;
     for (const ShareMode mode : allowedModes(m_component))

@@ -84,7 +84,7 @@ public:
     QString component() const;
     QString title() const;
     QString symbol() const;
-    bool isCollection() const;
+    bool isCollection() const { return selvane::isCollection(m_component); }
     bool isFeminine() const { return areItemsFeminine(m_component); }
     bool hasModes() const { return m_profile && m_profile->meta.source; }
     QStringList modes() const;

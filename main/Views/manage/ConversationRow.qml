@@ -89,10 +89,7 @@ Item {
             anchors.fill: parent
             hoverEnabled: true
             onClicked: row.pressed()
-            onDoubleClicked: {
-                if (!row.isLost)
-                    row.continueAsked()
-            }
+            onDoubleClicked: row.continueAsked()
         }
         ProfileGlyph {
             x: Theme.space16

@@ -142,7 +142,7 @@ FocusScope {
                 list.forceActiveFocus(Qt.MouseFocusReason)
                 view.go(row.index)
             }
-            onContinueAsked: view.continueAsked(row.index)
+            onContinueAsked: view.goOn() // it is the selected one
             onCommandAsked: view.conversations.copyCommand(row.index)
             onShowAsked: view.conversations.show(row.index)
         }

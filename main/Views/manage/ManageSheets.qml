@@ -41,11 +41,8 @@ Item {
         }, profile.profileId)
     }
     function askToReimport(profileId: string, component: ComponentModel): void {
-        sheets.open(reimportAlert, {
-            profileId: profileId,
-            component: component,
-            title: qsTr("Reimportare da «%1»?").arg(component.sourceName)
-        }, profileId)
+        const title = qsTr("Reimportare da «%1»?").arg(component.sourceName)
+        sheets.open(reimportAlert, {profileId, component, title}, profileId)
     }
     function askToRelink(profileId: string, component: ComponentModel): void {
         sheets.open(relinkAlert, {profileId, component, title: component.relinkQuestion}, profileId)

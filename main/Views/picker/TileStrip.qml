@@ -25,11 +25,10 @@ ListView {
 
     /// Opens the focused tile's menu below its glyph, for the keyboard.
     function openMenu(): void {
-        const tile = strip.itemAtIndex(strip.currentIndex)
-        if (!tile)
-            return
-        strip.openMenuAt(tile, Theme.space16, Theme.picker.tileNameTop)
-        strip.menu.move(1)
+        if (strip.currentItem) {
+            strip.openMenuAt(strip.currentItem, Theme.space16, Theme.picker.tileNameTop)
+            strip.menu.move(1)
+        }
     }
     /// Opens the focused tile's menu at a point in the tile.
     function openMenuAt(tile: Item, x: real, y: real): void {
@@ -46,11 +45,10 @@ ListView {
     }
     readonly property real firstX: originX - leftMargin
     /// What the list says of its own width is a guess until it has made its last tile.
-    readonly property real tilesWidth: count * (Theme.picker.tileWidth + Theme.cardGap) - Theme.cardGap
-    readonly property real tileWidth: Theme.picker.tileWidth ///< grows with the desktop's text scale
+    readonly property real tilesWidth: count * pitch - Theme.cardGap
+    readonly property real pitch: Theme.picker.tileWidth + Theme.cardGap ///< grows with the desktop's text scale
     /// Whether all tiles together, and what follows them, are wider than the strip.
-    readonly property bool isLong: width > 0 && (profiles.total - count) * (tileWidth + Theme.cardGap) + tilesWidth
-                                   + Theme.cardGap + Theme.picker.addTileWidth > width - 2 * margin
+    readonly property bool isLong: width > 0 && profiles.total * pitch + Theme.picker.addTileWidth > width - 2 * margin
     property bool hasSettled: false ///< until then, nothing is seen to scroll
     readonly property real lastX: Math.max(firstX, originX + tilesWidth + rightMargin - width)
 
@@ -64,7 +62,7 @@ ListView {
     function showFocused(): void {
         if (strip.currentIndex < 0)
             return
-        const left = strip.originX + strip.currentIndex * (Theme.picker.tileWidth + Theme.cardGap)
+        const left = strip.originX + strip.currentIndex * strip.pitch
         const leftmost = left + Theme.picker.tileWidth + Theme.picker.stripEdge - strip.width
         const rightmost = strip.currentIndex === 0 ? strip.firstX : left - Theme.picker.stripEdge
         strip.scrollTo(Math.max(leftmost, Math.min(rightmost, strip.contentX)))
@@ -72,10 +70,8 @@ ListView {
     /// Gives the keyboard focus to the focused tile.
     function takeFocus(): void {
         strip.forceLayout()
-        if (strip.currentItem)
-            strip.currentItem.forceActiveFocus(Qt.OtherFocusReason)
-        else
-            strip.forceActiveFocus(Qt.OtherFocusReason)
+        const target = strip.currentItem ? strip.currentItem : strip
+        target.forceActiveFocus(Qt.OtherFocusReason)
     }
     function settle(): void {
         strip.showFocused()
@@ -96,7 +92,7 @@ ListView {
     onCurrentIndexChanged: showFocused()
     onCountChanged: showFocused()
     onWidthChanged: settling.restart()
-    onTileWidthChanged: settling.restart()
+    onPitchChanged: settling.restart()
 
     add: Transition {
         enabled: !Theme.reducedMotion

@@ -47,6 +47,7 @@ public:
     Q_INVOKABLE void choose();  ///< asks for an archive; `checked` follows if it is one of Selvane's
     Q_INVOKABLE void tryOnly(); ///< changes nothing; a notice tells what would happen
     Q_INVOKABLE void submit();
+    Q_INVOKABLE void lookForClaude(); ///< finds out again whether it runs, in the background
 
 signals:
     void checked();
@@ -58,7 +59,6 @@ signals:
 private:
     void take(CheckedArchive archive);
     std::vector<RestorePart> chosen() const;
-    void lookForClaude();
 
     AppModel* m_app = nullptr;
     CheckedArchive m_archive;

@@ -32,6 +32,12 @@ Sheet {
             sheet.close()
         }
     }
+    Timer {
+        interval: Theme.motion.lookAgain
+        running: sheet.form.claudeRuns
+        repeat: true
+        onTriggered: sheet.form.lookForClaude() // nobody tells when an agent in a terminal ends
+    }
     Item {
         width: parent.width
         height: Theme.controls.listRow

@@ -84,6 +84,10 @@ Item {
             verify(itemsOf(sheet).some(item => item instanceof IconNote && item.text.startsWith("Chiudi Claude")))
             home.closeClaude()
             tryVerify(() => sheet.confirmEnabled)
+            home.openClaude("default")
+            tryVerify(() => !sheet.confirmEnabled)
+            home.loseClaude() // as an agent in a terminal does, which nobody tells of
+            tryVerify(() => sheet.confirmEnabled)
         }
 
         function test_whatIsNoBackup_IsRefused(): void {
