@@ -190,7 +190,7 @@ void PictureHome::openInClaude(const Profile& profile) {
     const std::string start =
         "'" + agent.string() + "' -c 'read line' <&3 & "; // what runs behind has an input of its own
     m_copy = std::make_unique<RunningProcess>(std::vector<std::string>{"--user-data-dir=" + data.string()},
-                                              Environment{{"PATH", "/bin"}}, "sh",
+                                              Environment{{"PATH", "/bin"}, {"HOME", path}}, "sh",
                                               "exec 3<&0; " + start + start + start + "read line");
     workspace.apps = {m_copy->app()};
 }

@@ -154,13 +154,15 @@ TEST_F(Manage, ConversationsAreFoundAndContinued) {
     type("perche");
     selvane.find(ATSPI_ROLE_LABEL, "1 di 2 conversazioni");
     press({XK_Down, XK_Return});
-    const Seen sheet = selvane.find(ATSPI_ROLE_DIALOG, "Continua in…");
+    const std::string title = "Continua in…";
+    const Seen sheet = selvane.find(ATSPI_ROLE_DIALOG, title);
     selvane.waitForFocus("Lavoro");
     expectNames(selvane);
     expectInside(sheet, tabAround(selvane));
     press({XK_Return});
     waitUntil([&] { return fs::exists(home / ".claude-profiles/lavoro/projects/-srv-sito/due.jsonl"); },
               "the transcript's copy");
+    selvane.waitUntilGone(ATSPI_ROLE_DIALOG, title);
     selvane.waitForFocus(field.name());
 }
 
@@ -170,6 +172,8 @@ TEST_F(Manage, AnArchiveIsReadAndRestoredInPart) {
     const fs::path added = home / ".claude-profiles/lavoro/agents/dopo.md";
     writeFile(rules, "prima");
     home.output({"backup", (home / "Copia.zip").string()});
+    // Tests beside this one open copies of Claude, which are in the way of a restore.
+    home.environment["CLAUDE_LAUNCHER_DESKTOP_DIR"] = home / ".config/Claude";
     writeFile(skill, "dopo");
     writeFile(rules, "dopo");
     writeFile(added, "dopo");
