@@ -176,7 +176,7 @@ int ProfileStore::importTranscripts(const std::vector<std::string>& cliSessionID
     const TranscriptIndex index = transcripts(source, Unreadable::fails);
     std::vector<std::pair<std::string, fs::path>> found;
     for (const std::string& id : std::set<std::string>(cliSessionIDs.begin(), cliSessionIDs.end())) {
-        const auto folder = index.transcriptFolder(id);
+        const fs::path* const folder = index.transcriptFolder(id);
         if (!folder)
             continue;
         found.emplace_back(id, *folder);
@@ -206,16 +206,18 @@ ImportCount ProfileStore::importSessions(const std::vector<CodeSession>& session
     const FolderLock placeLock = canPlace ? FolderLock(destination) : FolderLock(fs::path());
     const TranscriptIndex index = transcripts(source, Unreadable::fails);
 
-    for (const CodeSession& session : sessions) {
+    const auto announceAll = [&](const CodeSession& session) {
         if (!sameAccount)
             announce(session.file);
         for (const std::string& id : session.cliSessionIDs) {
-            if (const auto folder = sameConfiguration ? std::nullopt : index.transcriptFolder(id)) {
+            if (const fs::path* const folder = sameConfiguration ? nullptr : index.transcriptFolder(id)) {
                 announce(*folder / (id + ".jsonl"));
                 announce(*folder / id);
             }
         }
-    }
+    };
+    if (m_progress != nullptr)
+        std::for_each(sessions.begin(), sessions.end(), announceAll);
     FileBatch batch(target.configDir, m_progress);
     OwnFolders folders(target);
     std::set<std::string> knownTranscripts;
@@ -223,7 +225,7 @@ ImportCount ProfileStore::importSessions(const std::vector<CodeSession>& session
     ImportCount count;
     const auto import = [&](const CodeSession& session) {
         for (const std::string& id : session.cliSessionIDs) {
-            const auto folder = sameConfiguration ? std::nullopt : index.transcriptFolder(id);
+            const fs::path* const folder = sameConfiguration ? nullptr : index.transcriptFolder(id);
             if (folder && knownTranscripts.insert(id).second)
                 copyTranscript(id, *folder, folders, existing, batch);
         }

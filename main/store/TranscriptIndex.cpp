@@ -20,10 +20,9 @@ TranscriptIndex::TranscriptIndex(const std::filesystem::path& configDir, Unreada
     }
 }
 
-std::optional<std::filesystem::path>
-TranscriptIndex::transcriptFolder(const std::string& cliSessionID) const {
+const std::filesystem::path* TranscriptIndex::transcriptFolder(const std::string& cliSessionID) const {
     const auto entry = m_folderOfSession.find(cliSessionID);
-    return entry == m_folderOfSession.end() ? std::nullopt : std::optional(m_folders[entry->second]);
+    return entry == m_folderOfSession.end() ? nullptr : &m_folders[entry->second];
 }
 
 bool TranscriptIndex::hasTranscript(const CodeSession& session) const {

@@ -4,7 +4,6 @@
 #pragma once
 
 #include <filesystem>
-#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -20,8 +19,9 @@ public:
     /// Reads `configDir`/projects.
     TranscriptIndex(const std::filesystem::path& configDir, Unreadable unreadable);
 
-    /// The project folder that holds a Claude Code session's transcript: the first one listed.
-    std::optional<std::filesystem::path> transcriptFolder(const std::string& cliSessionID) const;
+    /// The project folder that holds a Claude Code session's transcript: the first one listed. Null without
+    /// one.
+    const std::filesystem::path* transcriptFolder(const std::string& cliSessionID) const;
     /// Calls `use` with each session and the project folder that holds its transcript, in no particular
     /// order.
     template <typename Use>

@@ -100,7 +100,8 @@ TEST_F(Sessions, codeSessions_AllKindsOfRecords_ListsTheNewestFirst) {
     const TranscriptIndex index = home.store.transcripts(home.builtIn());
     EXPECT_FALSE(index.hasTranscript(sessions[0]));
     EXPECT_TRUE(index.hasTranscript(sessions[1]));
-    EXPECT_EQ(index.transcriptFolder("c0"), home / ".claude/projects/q");
+    ASSERT_NE(index.transcriptFolder("c0"), nullptr);
+    EXPECT_EQ(*index.transcriptFolder("c0"), home / ".claude/projects/q");
     EXPECT_FALSE(home.store.transcripts(lavoro).hasTranscript(sessions[1]));
     EXPECT_TRUE(home.store.codeSessions(lavoro).empty());
 }
