@@ -10,8 +10,9 @@
 //   backup   an archive of everything
 //   scroll   through the list of all conversations, 240 pixels a frame; also prints what memory it takes
 //   search   in the picker, and
-//   sidebar  in the management window's list: looks for a profile by typing. Prints the longest time between two
-//   frames after a key, and for how much of such a time the main thread was at work: the most, and the median
+//   sidebar  in the management window's list: looks for a profile by typing. Prints the longest time between
+//   two frames after a key, and for how much of such a time the main thread was at work: the most, and the
+//   median
 
 #include <QElapsedTimer>
 #include <QGuiApplication>

@@ -3,12 +3,10 @@
 
 #include "Views/controls/TextStyle.h"
 
-#include <utility>
-
 namespace selvane {
 
-TextStyle::TextStyle(QFont font, qreal line, QObject* parent)
-    : QObject(parent), m_made(std::move(font)), m_line(line) {}
+TextStyle::TextStyle(const QFont& font, qreal line, QObject* parent)
+    : QObject(parent), m_made(font), m_line(line) {}
 
 void TextStyle::setScale(qreal scale) {
     m_font.setPixelSize(qRound(m_made.pixelSize() * scale));

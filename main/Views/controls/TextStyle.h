@@ -20,7 +20,7 @@ class TextStyle : public QObject {
 
 public:
     /// `font` has a size in pixels, and absolute letter spacing if any.
-    TextStyle(QFont font, qreal line, QObject* parent);
+    TextStyle(const QFont& font, qreal line, QObject* parent);
 
     /// Makes everything larger by this factor than it was made with. Sizes and heights are whole pixels.
     void setScale(qreal scale);
