@@ -202,12 +202,12 @@ int runLauncherApp(int argc, char** argv) {
     qInstallMessageHandler(usual);
     QGuiApplication::setApplicationName(Brand::name);
     QGuiApplication::setDesktopFileName(QStringLiteral("org.selvane.Selvane"));
-    // In this thread, later, if there can't be another.
-    std::future<void> fonts = std::async(std::launch::async | std::launch::deferred, &Brand::readFonts);
     const QByteArray request = argc > 1 ? argv[1] : "";
     SingleInstance instance;
     if (!instance.claim(request, token))
         return 0;
+    // In this thread, later, if there can't be another.
+    std::future<void> fonts = std::async(std::launch::async | std::launch::deferred, &Brand::readFonts);
     qml_register_types_Selvane();
     QQmlEngine engine;
     // Loaded on the engine's own thread while this one does other things. From time to time, it needs this
