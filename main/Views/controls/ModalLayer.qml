@@ -22,6 +22,7 @@ FocusScope {
     property real plateHeight: 0
     property Item previousFocus: null
     property bool isOpen: false
+    property bool hasBegun: false ///< it has the focus of its window
 
     signal confirmed
     signal cancelled
@@ -46,6 +47,11 @@ FocusScope {
             layer.previousFocus.forceActiveFocus(Qt.OtherFocusReason)
         layer.enabled = false // only now: nothing else has the focus in between
     }
+    function begin(): void {
+        layer.previousFocus = layer.Window.activeFocusItem
+        layer.hasBegun = true
+        layer.takeFocus()
+    }
     function takeFocus(): void {
         if (layer.firstFocus)
             layer.firstFocus.forceActiveFocus(Qt.OtherFocusReason)
@@ -60,15 +66,22 @@ FocusScope {
     Accessible.name: title
 
     Component.onCompleted: {
-        previousFocus = Window.activeFocusItem
         isOpen = true
-        takeFocus()
+        if (Window.active || Window.activeFocusItem)
+            begin()
     }
     Keys.onEscapePressed: cancel()
     Keys.onReturnPressed: confirm()
     Keys.onEnterPressed: confirm()
     // Tab belongs to the window, which moves the focus.
     Keys.onPressed: event => event.accepted = event.key !== Qt.Key_Tab && event.key !== Qt.Key_Backtab
+
+    // A window in the background tells what has its focus only once it has the keyboard.
+    Timer {
+        interval: 0
+        running: layer.isOpen && !layer.hasBegun && layer.Window.active
+        onTriggered: layer.begin()
+    }
 
     states: State {
         name: "open"

@@ -49,6 +49,14 @@ Item {
         value: "Lavoro"
     }
 
+    Component {
+        id: otherWindow
+
+        Window {
+            visible: true
+        }
+    }
+
     SignalSpy { id: confirmed; signalName: "confirmed" }
     SignalSpy { id: cancelled; signalName: "cancelled" }
     SignalSpy { id: closed; signalName: "closed" }
@@ -134,6 +142,18 @@ Item {
             keyClick(Qt.Key_Escape)
             keyClick(Qt.Key_Return)
             compare(submitted.count, 1)
+        }
+
+        function test_openedInTheBackground_TheFocusComesBack(): void {
+            behind.forceActiveFocus()
+            const other = createTemporaryObject(otherWindow, null)
+            other.requestActivate()
+            tryVerify(() => other.active && !behind.activeFocus)
+            const layer = createTemporaryObject(alertComponent, scene)
+            scene.Window.window.requestActivate()
+            tryVerify(() => layer.activeFocus)
+            layer.cancel()
+            tryVerify(() => behind.activeFocus)
         }
     }
 }
