@@ -25,7 +25,8 @@ class RunningProcess {
 public:
     RunningProcess(const std::vector<std::string>& arguments, const Environment& environment,
                    const std::string& name = "sh", const std::string& script = "read line") {
-        std::vector<std::string> texts = {name, "-c", script, "sh"};
+        // Not before the shell runs does the system show what it was started with.
+        std::vector<std::string> texts = {name, "-c", "exec >&-; " + script, "sh"};
         texts.insert(texts.end(), arguments.begin(), arguments.end());
         std::vector<std::string> variables;
         for (const auto& [variable, value] : environment)
@@ -37,7 +38,7 @@ public:
         m_pid = fork();
         if (m_pid == 0) {
             dup2(input[0], STDIN_FILENO);
-            close(STDOUT_FILENO);
+            dup2(started[1], STDOUT_FILENO);
             close(STDERR_FILENO);
             close_range(STDERR_FILENO + 1, ~0U, CLOSE_RANGE_CLOEXEC);
             execve("/bin/sh", pointers(texts).data(), pointers(variables).data());
@@ -46,7 +47,7 @@ public:
         close(input[0]);
         close(started[1]);
         char none = 0;
-        static_cast<void>(!read(started[0], &none, 1)); // returns when the process is running
+        static_cast<void>(!read(started[0], &none, 1)); // returns when the shell has closed its output
         close(started[0]);
     }
     RunningProcess(const RunningProcess&) = delete;
