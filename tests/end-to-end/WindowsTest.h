@@ -20,8 +20,16 @@ protected:
         home.environment.merge(desktop().environment());
         writeFile(home / ".config/selvane/preferenze.conf", "[General]\nsignInsOffered=true\n");
     }
-    /// Errors in the views are only printed, and would otherwise go unnoticed.
-    void TearDown() override { EXPECT_EQ(readFile(home / "selvane.err"), ""); }
+    /// Errors in the views are only printed, and would otherwise go unnoticed. Qt says one thing of its own,
+    /// now and then: it stops the clock of its animations a moment after the last one, when that may already
+    /// stand still.
+    void TearDown() override {
+        std::string errors = readFile(home / "selvane.err");
+        const std::string clock = "QUnifiedTimer::stopAnimationDriver: driver is not running\n";
+        if (const auto at = errors.find(clock); at != std::string::npos)
+            errors.erase(at, clock.size());
+        EXPECT_EQ(errors, "");
+    }
 
     /// Starts the windows; they stay until the end of the test or until they close.
     RunningSelvane start(std::vector<std::string> arguments = {}) const {
