@@ -24,7 +24,7 @@ Item {
     property bool ringed: activeFocus && Theme.showsFocus
 
     readonly property bool wantsHelp: help !== "" && !pressed && (hovered || ringed)
-    property ToolTipBubble bubble: null
+    property Item bubble: null ///< a ToolTipBubble, which isn't even loaded before one first shows
 
     signal clicked
 
@@ -34,11 +34,11 @@ Item {
         control.clicked()
     }
 
-    // A Loader would do, but in Qt 6.4 it can't create bound components.
     onWantsHelpChanged: {
-        if (bubble)
-            bubble.destroy()
-        bubble = wantsHelp ? bubbleComponent.createObject(control) as ToolTipBubble : null
+        control.bubble?.destroy()
+        control.bubble = !wantsHelp ? null : Qt.createComponent("ToolTipBubble.qml").createObject(control, {
+            target: control, text: Qt.binding(() => control.help)
+        }) as Item
     }
 
     activeFocusOnTab: tabStop
@@ -69,14 +69,5 @@ Item {
         anchors.fill: parent
         hoverEnabled: true
         onClicked: control.press()
-    }
-
-    Component {
-        id: bubbleComponent
-
-        ToolTipBubble {
-            target: control
-            text: control.help
-        }
     }
 }

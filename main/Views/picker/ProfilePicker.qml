@@ -27,7 +27,7 @@ FocusScope {
     }
 
     property bool isCovered: false ///< whether something lies over the whole view
-    property ModalLayer sheet: null
+    property var sheet: null ///< a NewProfileSheet, a third of all there is: it is loaded only when first needed
     property Item finder: null ///< a PickerSearch, which isn't even loaded before something is typed
     readonly property bool canBeUsed: !view.isCovered && !(view.sheet && view.sheet.isOpen)
     property string focusedBelow ///< the tile that had the focus when the sheet opened
@@ -38,14 +38,13 @@ FocusScope {
         view.app.select(profileId)
         view.manageAsked()
     }
-    /// The sheet is a third of everything the picker can show, so it is loaded only when first needed.
     function newProfile(source: string): void {
         if (view.sheet && view.sheet.isOpen)
             return
         view.dropSheet()
         const component = Qt.createComponent("NewProfileSheet.qml")
         view.focusedBelow = view.picker.focused
-        view.sheet = component.createObject(layers, {app: view.app, initialSource: source}) as ModalLayer
+        view.sheet = component.createObject(layers, {app: view.app, initialSource: source})
     }
     function dropSheet(): void {
         view.sheet?.destroy()
@@ -151,7 +150,7 @@ FocusScope {
         onNewProfileAsked: source => view.newProfile(source)
     }
 
-    DamagedProfiles {
+    Loader {
         id: damaged
 
         x: view.columnLeft
@@ -159,10 +158,11 @@ FocusScope {
         width: view.columnWidth
         height: Theme.controls.smallHeight
         enabled: view.canBeUsed
-        app: view.app
+        active: view.app.damaged.length > 0
+        Component.onCompleted: setSource("DamagedProfiles.qml", {app: view.app})
     }
     PickerHint {
-        visible: !view.isCompact || !damaged.visible // a small window has no room for both
+        visible: !view.isCompact || !damaged.active // a small window has no room for both
         isSearching: search.text !== ""
         x: view.columnLeft
         y: view.height - view.places.footer - height
