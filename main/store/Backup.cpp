@@ -192,9 +192,9 @@ fs::path temporaryFolder(const Environment& environment) {
 std::vector<fs::path> ProfileStore::backupSources(BackupScope scope) const {
     std::vector<fs::path> sources;
     if (scope.contains(BackupScope::principal()))
-        sources = {m_defaultDir, m_defaultGlobalJSON, liveDesktopDir()};
+        sources = {defaultDir(), defaultGlobalJSON(), liveDesktopDir()};
     if (scope.contains(BackupScope::profiles()))
-        sources.push_back(m_root);
+        sources.push_back(root());
     std::erase_if(sources, [](const fs::path& source) {
         std::error_code failure;
         const fs::file_type type = fs::symlink_status(source, failure).type();
@@ -238,27 +238,27 @@ BackupResult ProfileStore::backup(BackupScope scope, const fs::path& archive) {
     std::vector<fs::path> ownFolders = dataFolders;
     if (scope.contains(BackupScope::profiles())) {
         ownFolders.push_back(desktopStore());
-        for (const std::string& name : entriesToSave(m_root)) {
+        for (const std::string& name : entriesToSave(root())) {
             std::error_code failure;
-            const fs::file_type record = fs::status(m_root / name / kMetaFileName, failure).type();
+            const fs::file_type record = fs::status(root() / name / kMetaFileName, failure).type();
             if (record != fs::file_type::not_found)
-                ownFolders.push_back(m_root / name);
+                ownFolders.push_back(root() / name);
         }
     }
-    const TemporaryFolder readmeFolder(temporaryFolder(m_environment));
+    const TemporaryFolder readmeFolder(temporaryFolder(environment()));
     const fs::path partial = target.string() + ".partial";
     if (m_files.exists(partial))
         m_files.removeFile(partial);
     const WorkFolder work(target, m_progress);
-    ZipList list = zipList(sources, dataFolders, ownFolders, m_home);
-    list.exclusions.emplace_back(relativeToHome(work.path(), m_home) + "/", "*");
+    ZipList list = zipList(sources, dataFolders, ownFolders, home());
+    list.exclusions.emplace_back(relativeToHome(work.path(), home()) + "/", "*");
 
     BackupResult result{.archive = target};
     try {
-        BackupContents contents(list, m_home);
+        BackupContents contents(list, home());
         BackupProgress progress(m_progress, contents.bytes());
         const auto look = [&](std::int32_t zip) { progress.look(zip); };
-        const int status = runZip(zipArguments(list, partial, work.path()), m_environment, m_home, look);
+        const int status = runZip(zipArguments(list, partial, work.path()), environment(), home(), look);
         requireSuccess(status == kZipSkippedFiles ? 0 : status);
         ArchiveReader reader(partial);
         contents.compare(reader);
@@ -269,7 +269,7 @@ BackupResult ProfileStore::backup(BackupScope scope, const fs::path& archive) {
         m_files.write(readme, backupReadme(list.paths, missing));
         requireSuccess(
             runZip({"-j", "-q", "-g", "-b", work.path().string(), partial.string(), readme.string()},
-                   m_environment, readmeFolder.path()));
+                   environment(), readmeFolder.path()));
         m_files.setMode(partial, 0600);
         startWriting(partial);
         requireWhole(partial, contents.archived() + 1, progress);

@@ -40,7 +40,7 @@ std::string checkedName(const std::string& name) {
 std::string ProfileStore::freeSlug(const std::string& name) {
     const std::string base = slug(name);
     std::string candidate = base;
-    for (int number = 2; m_files.exists(m_root / candidate) && !removeUnfinished(candidate); ++number)
+    for (int number = 2; m_files.exists(root() / candidate) && !removeUnfinished(candidate); ++number)
         candidate = base + "-" + std::to_string(number);
     return candidate;
 }
@@ -48,7 +48,7 @@ std::string ProfileStore::freeSlug(const std::string& name) {
 /// Removes what an interrupted `create` has left of a profile; false if the folder is anything else, or if
 /// another Selvane is creating it now.
 bool ProfileStore::removeUnfinished(const std::string& id) {
-    const fs::path folder = m_root / id;
+    const fs::path folder = root() / id;
     if (!m_files.isFolder(folder))
         return false;
     const auto lock = FolderLock::ifFree(folder);
@@ -63,7 +63,7 @@ bool ProfileStore::removeUnfinished(const std::string& id) {
 
 /// Hides the folder before it removes anything: if that is interrupted, the rest occupies no id.
 void ProfileStore::removeNewFolder(const fs::path& folder) {
-    const fs::path aside = m_root / (std::string(FileManager::kTemporaryPrefix) + "new-profile");
+    const fs::path aside = root() / (std::string(FileManager::kTemporaryPrefix) + "new-profile");
     std::error_code error;
     m_files.removeTree(aside);
     fs::rename(folder, aside, error);
@@ -83,10 +83,10 @@ std::pair<Profile, FolderLock> ProfileStore::createFolder(const NewProfile& requ
     profile.meta.account = request.account;
     profile.meta.isolated = request.isolated;
 
-    m_files.createFolders(m_root, Privacy::ownerOnly);
-    const FolderLock others(m_root, m_progress);
+    m_files.createFolders(root(), Privacy::ownerOnly);
+    const FolderLock others(root(), m_progress);
     profile.id = freeSlug(name);
-    profile.configDir = m_root / profile.id;
+    profile.configDir = root() / profile.id;
     m_files.createFolder(profile.configDir);
     try {
         FolderLock lock(profile.configDir, m_progress);
@@ -124,7 +124,7 @@ Profile ProfileStore::create(const NewProfile& request) {
             throw fs::filesystem_error("create", profile.configDir,
                                        std::make_error_code(std::errc::operation_canceled));
         completeFolder(profile);
-        m_files.waitForNames(m_root);
+        m_files.waitForNames(root());
     } catch (...) {
         try {
             removeNewFolder(profile.configDir);

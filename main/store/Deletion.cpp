@@ -14,8 +14,8 @@ void ProfileStore::deleteProfile(const Profile& profile) {
         throw LauncherError("Il profilo principale non può essere eliminato");
     const FolderLock lock = locked(profile);
     std::vector<Profile> others = {loadDefault()};
-    for (const std::string& id : m_files.entries(m_root)) {
-        if (m_root / id == profile.configDir)
+    for (const std::string& id : m_files.entries(root())) {
+        if (root() / id == profile.configDir)
             continue;
         if (auto other = validProfile(id))
             others.push_back(std::move(*other));

@@ -27,7 +27,7 @@ constexpr std::array<std::string_view, 3> kSeededItems = {"claude_desktop_config
 } // namespace
 
 fs::path ProfileStore::desktopStore() const {
-    return m_root / ".desktop-data";
+    return root() / ".desktop-data";
 }
 
 /// An account's own folder in the store. Records can be edited by hand, so anything but a plain name, which
@@ -61,13 +61,13 @@ DataFolders ProfileStore::dataFolders(Unreadable unreadable) const {
 }
 
 bool ProfileStore::desktopDataInUse(const fs::path& folder) const {
-    return !m_testMode && !m_claude.processes(folder, dataFolders()).empty();
+    return !testMode() && !claude().processes(folder, dataFolders()).empty();
 }
 
 std::vector<ClaudeApp::Instance> ProfileStore::claudeInstances() const {
-    if (m_testMode)
+    if (testMode())
         return {};
-    std::vector<ClaudeApp::Instance> copies = m_claude.instances(dataFolders(Unreadable::leftOut));
+    std::vector<ClaudeApp::Instance> copies = claude().instances(dataFolders(Unreadable::leftOut));
     for (ClaudeApp::Instance& copy : copies) {
         if (!copy.isConfigKnown)
             assumeConfig(copy);
@@ -113,7 +113,7 @@ bool ProfileStore::runs(const ClaudeApp::Instance& instance, const Profile& prof
     if (!instance.isConfigKnown)
         return false;
     // A copy without a configuration folder, such as one started by hand, uses the built-in profile's.
-    const std::string config = instance.config.value_or(normalizedPath(m_defaultDir));
+    const std::string config = instance.config.value_or(normalizedPath(defaultDir()));
     return config == normalizedPath(profile.configDir);
 }
 
@@ -155,7 +155,7 @@ void ProfileStore::makeDesktopStore() {
 }
 
 void ProfileStore::restoreDesktopData() {
-    const FolderLock lock(m_root, m_progress);
+    const FolderLock lock(root(), m_progress);
     const std::string owner = desktopLiveOwner();
     desktopFolder(owner); // throws on an invalid marker before anything is touched
     makeDesktopStore();
@@ -164,7 +164,7 @@ void ProfileStore::restoreDesktopData() {
         m_files.completeMove(builtIn, liveDesktopDir());
     if (!needsDesktopRestore())
         return;
-    if (!m_testMode && !m_claude.allProcesses(dataFolders()).empty())
+    if (!testMode() && !claude().allProcesses(dataFolders()).empty())
         throw LauncherError(
             "Per passare alle istanze separate Claude va chiuso una volta: chiudilo e riprova.");
     swapLiveData(owner);

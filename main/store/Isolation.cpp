@@ -15,10 +15,10 @@ namespace selvane {
 namespace fs = std::filesystem;
 
 InstructionExcludes ProfileStore::excludes(const Profile& profile) const {
-    Instructions taken(m_home);
+    Instructions taken(home());
     taken.addFile(profile.url(Component::claudeMd));
     taken.addRules(profile.url(Component::rules));
-    return InstructionExcludes::of(m_defaultDir, taken);
+    return InstructionExcludes::of(defaultDir(), taken);
 }
 
 bool ProfileStore::isolationMatters(const NewProfile& request) const {
@@ -26,7 +26,7 @@ bool ProfileStore::isolationMatters(const NewProfile& request) const {
         const auto chosen = request.modes.find(component);
         return chosen == request.modes.end() ? defaultMode(component) : chosen->second;
     };
-    Instructions taken(m_home);
+    Instructions taken(home());
     try {
         if (request.from && (modeOf(Component::claudeMd) == ShareMode::shared ||
                              modeOf(Component::claudeMd) == ShareMode::extend))
@@ -38,7 +38,7 @@ bool ProfileStore::isolationMatters(const NewProfile& request) const {
                     taken.addLinkTo(item.url);
             }
         }
-        return InstructionExcludes::of(m_defaultDir, taken).matchesAny;
+        return InstructionExcludes::of(defaultDir(), taken).matchesAny;
     } catch (const fs::filesystem_error&) { // creating it will say why
         return true;
     }
@@ -75,7 +75,7 @@ void ProfileStore::updateExcludes(const Profile& profile) {
     const fs::path file = profile.url(Component::settings);
     const std::vector<std::string> entries = excludes(profile).entries;
     updateJson(file, [&](const JsonState& state) {
-        auto changed = withInstructionExcludes(state.object, entries, m_defaultDir);
+        auto changed = withInstructionExcludes(state.object, entries, defaultDir());
         if (changed && m_files.linkTarget(file))
             throw LauncherError(text::singleLine(file.string()) +
                                 " è un collegamento: il profilo è isolato solo con impostazioni sue");
@@ -89,7 +89,7 @@ void ProfileStore::removeExcludes(const fs::path& file) {
     if (m_files.linkTarget(file))
         return;
     updateJson(file, [&](const JsonState& state) {
-        return withInstructionExcludes(state.object, {}, m_defaultDir);
+        return withInstructionExcludes(state.object, {}, defaultDir());
     });
 }
 
@@ -99,7 +99,7 @@ void ProfileStore::exchangeExcludes(const fs::path& copy, const Profile& to, con
     try {
         const Json settings = json::parse(files.read(copy), copy);
         const auto entries = to.meta.isolated ? excludes(to).entries : std::vector<std::string>();
-        if (const auto changed = withInstructionExcludes(settings, entries, m_defaultDir))
+        if (const auto changed = withInstructionExcludes(settings, entries, defaultDir()))
             files.write(copy, json::serialized(*changed));
     } catch (const JsonError&) { // no JSON; it stays as it is
     }

@@ -50,7 +50,7 @@ std::string sharedItemsLine(const std::string& components, const Profile& source
 
 std::string ProfileStore::profileNote(const Profile& profile) const {
     const std::string name = quotedName(profile);
-    const std::string dir = shortened(profile.configDir, m_home);
+    const std::string dir = shortened(profile.configDir, home());
     std::string note =
         "<!-- Written by Selvane for Claude on every launch: changes to this file are overwritten. -->\n";
     note += "# Selvane profile " + name + "\n";

@@ -4,7 +4,6 @@
 #include "store/ProfileStore.h"
 
 #include "model/LauncherError.h"
-#include "platform/files/Locations.h"
 #include "platform/files/NormalizedPath.h"
 #include "platform/files/Progress.h"
 #include "platform/text/ErrorText.h"
@@ -27,47 +26,18 @@ LauncherError damaged(const fs::path& record) {
                          " è danneggiato: correggilo o spostalo nel Cestino");
 }
 
-/// Links and logins are tied to the spelling.
-fs::path location(const Environment& environment, const std::string& variable, const fs::path& standard) {
-    const auto entry = environment.find(variable);
-    return normalizedPath(entry == environment.end() || entry->second.empty() ? standard
-                                                                              : fs::path(entry->second));
-}
-
 } // namespace
 
 ProfileStore::ProfileStore(const Environment& environment, const ClaudeApp& claude)
-    : m_claude(claude), m_environment(environment), m_home(normalizedPath(homeFolder(environment))),
-      m_root(location(environment, "CLAUDE_LAUNCHER_ROOT", m_home / ".claude-profiles")),
-      m_defaultDir(location(environment, "CLAUDE_LAUNCHER_DEFAULT_DIR", m_home / ".claude")),
-      m_defaultGlobalJSON(location(environment, "CLAUDE_LAUNCHER_DEFAULT_JSON", m_home / ".claude.json")),
-      m_testMode(environment.contains("CLAUDE_LAUNCHER_DESKTOP_DIR")) {
+    : ProfileLocations(environment, claude) {
     try {
-        m_files.createFolders(m_root, Privacy::ownerOnly);
+        m_files.createFolders(root(), Privacy::ownerOnly);
     } catch (const fs::filesystem_error&) { // operations that need the root report it themselves
     }
 }
 
 ProfileStore::ProfileStore(const ProfileStore& other, Progress* progress, Reversal* reversal)
-    : m_progress(progress), m_reversal(reversal), m_files(progress, changes()), m_claude(other.m_claude),
-      m_environment(other.m_environment), m_home(other.m_home), m_root(other.m_root),
-      m_defaultDir(other.m_defaultDir), m_defaultGlobalJSON(other.m_defaultGlobalJSON),
-      m_testMode(other.m_testMode) {}
-
-fs::path ProfileStore::liveDesktopDir() const {
-    const std::lock_guard guard(m_liveDesktopDirMutex);
-    if (!m_liveDesktopDir.empty())
-        return m_liveDesktopDir;
-    const auto entry = m_environment.find("CLAUDE_LAUNCHER_DESKTOP_DIR");
-    if (entry != m_environment.end() && !entry->second.empty())
-        return m_liveDesktopDir = normalizedPath(entry->second);
-    bool isSettled = true; // installing the application can still change it
-    const auto isInstalled = [&] { return isSettled = m_claude.application().has_value(); };
-    fs::path folder = normalizedPath(applicationDataFolder(m_environment, "Claude", isInstalled));
-    if (isSettled)
-        m_liveDesktopDir = folder;
-    return folder;
-}
+    : ProfileLocations(other), m_progress(progress), m_reversal(reversal), m_files(progress, changes()) {}
 
 FileChanges* ProfileStore::changes() const {
     return m_reversal == nullptr ? nullptr : &m_reversal->files;
@@ -87,15 +57,15 @@ Profile ProfileStore::loadDefault() const {
     meta.name = kDefaultName;
     meta.summary = kDefaultSummary;
     meta.look.symbol = kDefaultSymbol;
-    if (const auto text = m_files.readIfPossible(m_root / kDefaultMetaFileName, FileManager::kLongestRecord))
+    if (const auto text = m_files.readIfPossible(root() / kDefaultMetaFileName, FileManager::kLongestRecord))
         meta = decodedProfileMeta(*text).value_or(meta);
-    return {std::string(Profile::kDefaultId), meta, m_defaultDir, m_defaultGlobalJSON};
+    return {std::string(Profile::kDefaultId), meta, defaultDir(), defaultGlobalJSON()};
 }
 
 std::optional<Profile> ProfileStore::loadProfile(const std::string& id) const {
     if (!Profile::isPossibleId(id))
         return std::nullopt;
-    const fs::path folder = m_root / id;
+    const fs::path folder = root() / id;
     const auto text = m_files.readIfPossible(folder / kMetaFileName, FileManager::kLongestRecord);
     if (!text)
         return std::nullopt;
@@ -118,7 +88,7 @@ std::optional<ProfileMeta> ProfileStore::readRecord(const fs::path& file) const 
 std::optional<Profile> ProfileStore::validProfile(const std::string& id) const {
     if (!Profile::isPossibleId(id))
         return std::nullopt;
-    Profile found{id, {}, m_root / id};
+    Profile found{id, {}, root() / id};
     auto meta = readRecord(recordOf(found));
     if (!meta)
         return std::nullopt;
@@ -128,7 +98,7 @@ std::optional<Profile> ProfileStore::validProfile(const std::string& id) const {
 
 std::vector<Profile> ProfileStore::loadAll() const {
     std::vector<Profile> found;
-    for (const std::string& name : m_files.entriesIfReadable(m_root)) {
+    for (const std::string& name : m_files.entriesIfReadable(root())) {
         if (auto profile = loadProfile(name))
             found.push_back(std::move(*profile));
     }
@@ -144,13 +114,13 @@ std::vector<Profile> ProfileStore::loadAll() const {
 
 std::vector<DamagedProfile> ProfileStore::damagedProfiles() const {
     std::vector<DamagedProfile> found;
-    for (const std::string& id : text::sorted(m_files.entriesIfReadable(m_root))) {
+    for (const std::string& id : text::sorted(m_files.entriesIfReadable(root()))) {
         if (!Profile::isPossibleId(id))
             continue;
         try {
-            static_cast<void>(readRecord(m_root / id / kMetaFileName));
+            static_cast<void>(readRecord(root() / id / kMetaFileName));
         } catch (const std::exception& error) {
-            found.push_back({id, m_root / id, describe(error)});
+            found.push_back({id, root() / id, describe(error)});
         }
     }
     return found;
@@ -168,7 +138,7 @@ std::optional<Profile> ProfileStore::sourceOf(const Profile& profile) const {
 }
 
 fs::path ProfileStore::recordOf(const Profile& profile) const {
-    return profile.isDefault() ? m_root / kDefaultMetaFileName : profile.configDir / kMetaFileName;
+    return profile.isDefault() ? root() / kDefaultMetaFileName : profile.configDir / kMetaFileName;
 }
 
 void ProfileStore::saveMeta(const Profile& profile) {
@@ -195,8 +165,8 @@ void ProfileStore::noteRecord(const Profile& profile, const ProfileMeta& before)
 void ProfileStore::repair(const std::string& id) {
     if (!Profile::isPossibleId(id))
         throw LauncherError("Profilo sconosciuto: " + text::singleLine(id));
-    const FolderLock lock(m_root / id, m_progress);
-    const fs::path file = m_root / id / kMetaFileName;
+    const FolderLock lock(root() / id, m_progress);
+    const fs::path file = root() / id / kMetaFileName;
     try {
         if (readRecord(file)) // repaired meanwhile
             return;
@@ -242,20 +212,20 @@ void ProfileStore::markLaunched(const Profile& profile) {
     } catch (const std::exception&) { // a launch never fails because of its record
     }
     try {
-        m_files.write(m_root / kActiveFileName, profile.id);
+        m_files.write(root() / kActiveFileName, profile.id);
     } catch (const std::exception&) { // likewise
     }
 }
 
 std::optional<std::string> ProfileStore::activeID() const {
-    const auto content = m_files.readIfPossible(m_root / kActiveFileName, FileManager::kLongestRecord);
+    const auto content = m_files.readIfPossible(root() / kActiveFileName, FileManager::kLongestRecord);
     return content ? std::optional(std::string(text::trimmed(*content))) : std::nullopt;
 }
 
 std::vector<fs::path> ProfileStore::recordPlaces() const {
-    std::vector<fs::path> places = {m_root, m_root / kDefaultMetaFileName};
-    for (const std::string& name : m_files.entriesIfReadable(m_root)) {
-        if (const fs::path folder = m_root / name; Profile::isPossibleId(name) && m_files.isFolder(folder))
+    std::vector<fs::path> places = {root(), root() / kDefaultMetaFileName};
+    for (const std::string& name : m_files.entriesIfReadable(root())) {
+        if (const fs::path folder = root() / name; Profile::isPossibleId(name) && m_files.isFolder(folder))
             places.insert(places.end(), {folder, folder / kMetaFileName});
     }
     return places;

@@ -6,7 +6,6 @@
 #include <filesystem>
 #include <functional>
 #include <map>
-#include <mutex>
 #include <optional>
 #include <set>
 #include <string>
@@ -25,8 +24,8 @@
 #include "model/SyncReport.h"
 #include "platform/files/FileManager.h"
 #include "platform/files/FolderLock.h"
-#include "platform/process/Process.h"
 #include "store/NewProfile.h"
+#include "store/ProfileLocations.h"
 #include "store/Reversal.h"
 #include "store/SignInTargets.h"
 #include "store/TranscriptIndex.h"
@@ -44,9 +43,8 @@ struct InstructionExcludes;
 ///
 /// Operations throw `LauncherError` for Selvane's own errors and let file-system and JSON errors pass;
 /// whatever a failed operation had already finished stays. Listings never fail: they leave out what can't be
-/// read. If several Selvanes change one profile at once, each waits its turn. Paths are absolute and always
-/// spelled the same way.
-class ProfileStore {
+/// read. If several Selvanes change one profile at once, each waits its turn.
+class ProfileStore : public ProfileLocations {
 public:
     static constexpr std::string_view kMetaFileName = ".launcher.json";
     static constexpr std::string_view kProfileNoteName = "selvane-profile.md";
@@ -59,18 +57,6 @@ public:
     /// may be null.
     ProfileStore(const ProfileStore& other, Progress* progress, Reversal* reversal);
     Progress* progress() const { return m_progress; } ///< null if it tells nobody
-
-    // Locations (ProfileStore.cpp)
-    const std::filesystem::path& home() const { return m_home; }
-    const std::filesystem::path& root() const { return m_root; }
-    const std::filesystem::path& defaultDir() const { return m_defaultDir; }
-    const std::filesystem::path& defaultGlobalJSON() const { return m_defaultGlobalJSON; }
-    /// The data folder that Claude Desktop uses unless told otherwise.
-    std::filesystem::path liveDesktopDir() const;
-    /// Set when a substitute data folder is in use: processes are never looked at, and Claude Desktop counts
-    /// as not running.
-    bool testMode() const { return m_testMode; }
-    std::filesystem::path globalJSON(const Profile& profile) const;
 
     // Loading and saving (ProfileStore.cpp)
     std::vector<Profile> loadAll() const;                ///< the built-in profile, then the others by name
@@ -88,6 +74,7 @@ public:
     void markLaunched(const Profile& profile);   ///< never fails
     std::optional<std::string> activeID() const; ///< may name a profile that no longer exists
     bool exists(const std::filesystem::path& path) const { return m_files.exists(path); }
+    std::filesystem::path globalJSON(const Profile& profile) const;
     /// What `loadAll` and `activeID` read, to be watched; not all of it has to exist.
     std::vector<std::filesystem::path> recordPlaces() const;
     /// Those that the listings of a profile's items, files and sessions read.
@@ -308,16 +295,6 @@ private:
     Progress* m_progress = nullptr;
     Reversal* m_reversal = nullptr;
     FileManager m_files;
-    const ClaudeApp& m_claude;
-    Environment m_environment;
-    std::filesystem::path m_home;
-    std::filesystem::path m_root;
-    std::filesystem::path m_defaultDir;
-    std::filesystem::path m_defaultGlobalJSON;
-    bool m_testMode;
-    // Determined on first use, as it may take a search for the installed application.
-    mutable std::mutex m_liveDesktopDirMutex;
-    mutable std::filesystem::path m_liveDesktopDir; ///< empty until it can no longer change
 };
 
 } // namespace selvane

@@ -74,7 +74,7 @@ std::optional<Json> takenBack(const Reversal::Servers& servers, Json state) {
 std::vector<FolderLock> ProfileStore::lockedFor(const Reversal& reversal) {
     std::vector<FolderLock> locks;
     if (reversal.isDeletion) {
-        locks.emplace_back(m_root, m_progress); // as for a new one
+        locks.emplace_back(root(), m_progress); // as for a new one
         return locks;
     }
     std::map<fs::path, Profile> profiles;

@@ -28,11 +28,11 @@ exec claude "$@"
 } // namespace
 
 std::filesystem::path ProfileStore::installTerminalHelper() {
-    const std::filesystem::path folder = m_root / "bin";
-    m_files.createFolders(m_root, Privacy::ownerOnly);
-    createOwnFolder(m_root, folder);
+    const std::filesystem::path folder = root() / "bin";
+    m_files.createFolders(root(), Privacy::ownerOnly);
+    createOwnFolder(root(), folder);
     const std::filesystem::path script = folder / "claude-profile";
-    m_files.write(script, std::string(kScriptBegin) + text::quotedForShell(m_root.string()) +
+    m_files.write(script, std::string(kScriptBegin) + text::quotedForShell(root().string()) +
                               std::string(kScriptEnd));
     m_files.setMode(script, 0755);
     m_files.waitForContent(script);
