@@ -1,6 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Selvane developers
 # SPDX-License-Identifier: MIT
-"""What script/bench runs: compare.py BINARIES WORK-FOLDER [--rounds N] [--no-growth] [--write FILE] [LINE...]"""
+"""What script/bench runs: compare.py BINARIES WORK-FOLDER [--rounds N] [--no-growth] [--write FILE]
+[--fresh COMMAND] [LINE...]"""
 
 import argparse
 import contextlib
@@ -372,6 +373,9 @@ class Bench:
 
     @contextlib.contextmanager
     def home(self, group, fill, size):
+        if self.options.fresh:
+            os.chdir("/")  # out of the last one
+            subprocess.run(shlex.split(self.options.fresh), check=True)
         home = f"{self.options.folder}/h{next(self.homes)}"
         os.mkdir(home)
         fill(home, size)
@@ -536,6 +540,7 @@ def main():
     parser.add_argument("--scale", type=float, default=1.0)
     parser.add_argument("--no-growth", dest="growth", action="store_false")
     parser.add_argument("--write")
+    parser.add_argument("--fresh")  # a command that makes the folder an empty file system
     parser.add_argument("line", nargs="*")
     options = parser.parse_intermixed_args()
     bench = Bench(options)
