@@ -258,7 +258,7 @@ class Programs:
     @contextlib.contextmanager
     def sleepers(self, count):
         program = subprocess.Popen([f"{self.binaries}/sleepers", str(count)], stdin=subprocess.PIPE,
-                                   stdout=subprocess.PIPE, start_new_session=True)
+                                   stdout=subprocess.PIPE, start_new_session=True, cwd="/")
         with program:
             try:
                 require(program.stdout.readline() == b"ready\n", f"{count} processes could not be started")

@@ -137,8 +137,10 @@ std::vector<CodeSession> ProfileStore::codeSessions(const Profile& profile, Unre
     const auto activity = [](const CodeSession& session) {
         return session.lastActivity.value_or(-std::numeric_limits<double>::infinity());
     };
-    std::stable_sort(sessions.begin(), sessions.end(),
-                     [&](const CodeSession& a, const CodeSession& b) { return activity(a) > activity(b); });
+    // Not a stable sort, which takes memory for as many again; the paths decide between equals.
+    std::sort(sessions.begin(), sessions.end(), [&](const CodeSession& a, const CodeSession& b) {
+        return activity(a) != activity(b) ? activity(a) > activity(b) : a.file < b.file;
+    });
     return sessions;
 }
 
