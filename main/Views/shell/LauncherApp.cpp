@@ -161,7 +161,6 @@ void LauncherApp::start(const QByteArray& request) {
     // Only after the first window: none of the rest is worth a delay.
     const auto once = static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection);
     connect(window(first), &QQuickWindow::frameSwapped, this, &LauncherApp::begun, once);
-    m_engine.singletonInstance<SystemAppearance*>(qmlTypeId("Selvane", 1, 0, "SystemAppearance"))->read();
 }
 
 void LauncherApp::tryToShow(WindowName name) {
@@ -235,6 +234,10 @@ int runLauncherApp(int argc, char** argv) {
         return loading.isLoading();
     });
 
+    // What the desktop answers comes after the first frame anyway.
+    auto* const appearance =
+        engine.singletonInstance<SystemAppearance*>(qmlTypeId("Selvane", 1, 0, "SystemAppearance"));
+    QObject::connect(&launcher, &LauncherApp::begun, appearance, &SystemAppearance::read);
     QObject::connect(&launcher, &LauncherApp::begun, &watch, &FolderWatch::start);
     QObject::connect(&launcher, &LauncherApp::begun, &model, &AppModel::completeRestoring);
     QObject::connect(&launcher, &LauncherApp::begun, model.entries(), &EntryKeeper::start);

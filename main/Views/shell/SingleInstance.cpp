@@ -46,8 +46,7 @@ bool SingleInstance::claim(const QByteArray& request, const QByteArray& token) {
         while (QLocalSocket* caller = m_server.nextPendingConnection())
             hear(caller);
     });
-    m_server.setSocketOptions(QLocalServer::UserAccessOption);
-    m_server.listen(name);
+    m_server.listen(name); // nobody else gets into its folder
     return true;
 }
 
