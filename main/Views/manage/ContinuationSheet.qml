@@ -81,7 +81,10 @@ Sheet {
         Flickable {
             id: pane
 
+            property Item inSight: null ///< the row that had the focus last
+
             function showRow(row: Item): void {
+                inSight = row
                 const top = row.mapToItem(contentItem, 0, 0).y
                 contentY = Math.max(Math.min(contentY, top), top + row.height - height)
             }
@@ -90,6 +93,11 @@ Sheet {
             contentHeight: profiles.height
             boundsBehavior: Flickable.StopAtBounds
             clip: true
+            // The first row gets the focus before there is any height.
+            onHeightChanged: {
+                if (inSight)
+                    showRow(inSight)
+            }
 
             Column {
                 id: profiles

@@ -170,6 +170,19 @@ Item {
             verify(home.what(other + folder + "/local_1.json").includes("Prezzi"))
         }
 
+        function test_chosenProfile_IsInSight_AmongMany(): void {
+            for (const name of ["Aurora", "Borea", "Laboratorio", "Scrittura", "Studio", "Vela"])
+                home.makeProfile(name)
+            open()
+            press(Qt.Key_Down, Qt.Key_Return)
+            const sheet = the(item => item instanceof ContinuationSheet)
+            tryVerify(() => sheet.confirmEnabled)
+            const well = visibleItems(item => item instanceof ListWell, sheet)[0]
+            const targets = visibleItems(item => item instanceof ContinuationTarget, sheet)
+            const place = targets.find(target => target.checked).mapToItem(well, 0, 0)
+            verify(place.y >= 0 && place.y < well.height, place.y)
+        }
+
         function test_organisation_IsNotAskedForATerminalsConversation(): void {
             open()
             const other = ".claude-profiles/.desktop-data/lavoro/claude-code-sessions/a/"
