@@ -30,8 +30,8 @@ struct ArchiveEntry {
 
 /// Reads a zip archive from its first entry to its last. It changes nothing and unpacks nothing.
 ///
-/// An archive that can't be read to its end, or whose content doesn't match its checksums, throws
-/// `LauncherError`; a file that can't be opened, `std::filesystem::filesystem_error`.
+/// An archive that can't be read to its end, or whose content doesn't match its checksums or sizes,
+/// throws `LauncherError`; a file that can't be opened, `std::filesystem::filesystem_error`.
 class ArchiveReader {
 public:
     explicit ArchiveReader(const std::filesystem::path& archive);
@@ -42,7 +42,7 @@ public:
     /// The next entry; nothing after the last.
     std::optional<ArchiveEntry> next();
     /// Passes the content of the current entry to `use`, piece by piece. Only after the last piece is it
-    /// known to match its checksum.
+    /// known to match its checksum and size.
     void read(const std::function<void(std::string_view bytes)>& use);
 
 private:

@@ -33,7 +33,8 @@ struct Archives {
     enum class Step : int { entry, end, failure };
     /// Passes the next entry to the sink, if there is one.
     Step (*next)(void* reader, ArchivedEntrySink sink, void* context) noexcept;
-    /// Passes on the content of the current entry. False if it doesn't match its checksum or can't be read.
+    /// Passes on the content of the current entry. False if it doesn't match its checksum or size, or can't
+    /// be read.
     bool (*read)(void* reader, ByteSink sink, void* context) noexcept;
 };
 

@@ -3,6 +3,7 @@
 
 #include <initializer_list>
 #include <new>
+#include <optional>
 
 #include <archive.h>
 #include <archive_entry.h>
@@ -81,10 +82,12 @@ public:
         if (archive_entry_is_encrypted(entry) != 0)
             return Archives::Step::failure;
         const char* const target = archive_entry_symlink(entry);
-        const auto size = target != nullptr ? static_cast<std::int64_t>(__builtin_strlen(target))
-                                            : archive_entry_size(entry);
-        sink(context, {name, kindOf(entry), static_cast<std::uint64_t>(size), target,
-                       static_cast<std::uint32_t>(archive_entry_perm(entry)),
+        const auto size =
+            static_cast<std::uint64_t>(target != nullptr ? static_cast<std::int64_t>(__builtin_strlen(target))
+                                                         : archive_entry_size(entry));
+        const ArchivedEntry::Kind kind = kindOf(entry);
+        m_fileSize = kind == ArchivedEntry::Kind::file ? std::optional(size) : std::nullopt;
+        sink(context, {name, kind, size, target, static_cast<std::uint32_t>(archive_entry_perm(entry)),
                        static_cast<std::int64_t>(archive_entry_mtime(entry))});
         return Archives::Step::entry;
     }
@@ -93,13 +96,16 @@ public:
         const void* bytes = nullptr;
         std::size_t count = 0;
         la_int64_t offset = 0;
+        std::uint64_t total = 0;
         while (true) {
             // A wrong checksum is a warning.
             const int result = archive_read_data_block(m_archive, &bytes, &count, &offset);
+            // A file that is said to take no bytes in the archive counts as empty, whatever its size is.
             if (result == ARCHIVE_EOF)
-                return true;
+                return total == m_fileSize.value_or(total);
             if (result != ARCHIVE_OK)
                 return false;
+            total += count;
             sink(context, static_cast<const char*>(bytes), count);
         }
     }
@@ -107,6 +113,7 @@ public:
 private:
     archive* m_archive;
     bool m_isOpen = false;
+    std::optional<std::uint64_t> m_fileSize; ///< of the current entry, if it is a file
 };
 
 } // namespace

@@ -74,6 +74,14 @@ TEST_F(ArchiveReaderTest, ADamagedArchiveIsAnError) {
     ++damaged[whole.find("it is")];
     kFiles.write(m_archive, damaged);
     EXPECT_THROW(contentOf(m_archive), LauncherError);
+
+    // A file of 15 bytes that takes none, says the entry as well as the directory.
+    std::string emptied = whole;
+    emptied[whole.rfind("PK\3\4") + 18] = 0;
+    emptied[whole.rfind("PK\1\2") + 20] = 0;
+    ASSERT_NE(emptied, whole);
+    kFiles.write(m_archive, emptied);
+    EXPECT_THROW(contentOf(m_archive), LauncherError);
 }
 
 } // namespace
