@@ -225,6 +225,8 @@ void keep(Object& object, Predicate stays) {
 Json parse(std::string_view text, const std::filesystem::path& file) {
     if (text.starts_with(kByteOrderMark))
         text.remove_prefix(kByteOrderMark.size());
+    if (text.starts_with(kByteOrderMark)) // a second one, which the parser would leave out too
+        failAt(0, text, file);
     std::string copy;
     const std::vector<WrittenNumber> written = takeOutNumbers(text, copy);
     if (written.empty())

@@ -83,6 +83,7 @@ TEST(JsonTest, namesThePlaceOfAnError) {
         {"[1.0]\n\0x"s, "riga 2, colonna 1"},
         {"[\"\xFF\"]", "riga 1, colonna 3"},
         {"// no\n1", "riga 1, colonna 1"},
+        {"\xEF\xBB\xBF\xEF\xBB\xBF{}", "riga 1, colonna 1"},
     };
     for (const auto& [text, place] : table)
         EXPECT_EQ(errorOf(text), "f.json: JSON non valido (" + place + ")") << text;
