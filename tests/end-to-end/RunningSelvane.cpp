@@ -14,17 +14,6 @@ namespace {
 
 constexpr const char* kFocusEvent = "object:state-changed:focused";
 
-/// The first of an object and its descendants that fits. Looking at all of them costs hundreds of messages.
-std::optional<Seen> firstOf(const Seen& seen, const std::function<bool(const Seen&)>& fits) {
-    if (fits(seen))
-        return seen;
-    for (const Seen& child : seen.children()) {
-        if (const auto found = firstOf(child, fits))
-            return found;
-    }
-    return std::nullopt;
-}
-
 void print(const Seen& seen, int depth, std::ostream& out) {
     out << std::string(static_cast<std::size_t>(2 * depth), ' ') << seen << '\n';
     for (const Seen& child : seen.children())
@@ -46,7 +35,7 @@ RunningSelvane::RunningSelvane(const Environment& environment, const std::filesy
     // Shortcuts and messages come after the first frame; the layer of messages can be seen.
     const auto look = [&] {
         const auto window = activeWindow();
-        return window && firstOf(*window, [](const Seen& seen) { return seen.role() == ATSPI_ROLE_ALERT; });
+        return window && std::ranges::count(Seen::rolesOf(window->withDescendants()), ATSPI_ROLE_ALERT) > 0;
     };
     waitFor(look, "the picker");
 }
@@ -76,18 +65,17 @@ std::optional<Seen> RunningSelvane::activeWindow() const {
 
 std::vector<Seen> RunningSelvane::everything() const {
     const auto window = activeWindow();
-    std::vector<Seen> result;
-    for (const Seen& each : window ? window->withDescendants() : std::vector<Seen>{}) {
-        if (Seen seen = each.withStates(); seen.is(ATSPI_STATE_SHOWING))
-            result.push_back(std::move(seen));
-    }
-    return result;
+    return window ? window->shown() : std::vector<Seen>{};
 }
 
 std::optional<Seen> RunningSelvane::shown(const Seen& window, AtspiRole role, const std::string& name) {
-    return firstOf(window, [&](const Seen& seen) {
-        return seen.role() == role && seen.name() == name && seen.is(ATSPI_STATE_SHOWING);
-    });
+    const std::vector<Seen> all = window.shown();
+    const std::vector<AtspiRole> roles = Seen::rolesOf(all);
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        if (roles[i] == role && all[i].name() == name)
+            return all[i];
+    }
+    return std::nullopt;
 }
 
 Seen RunningSelvane::find(AtspiRole role, const std::string& name) const {

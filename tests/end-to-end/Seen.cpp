@@ -3,6 +3,8 @@
 
 #include "end-to-end/Seen.h"
 
+#include <algorithm>
+#include <functional>
 #include <stdexcept>
 #include <string_view>
 #include <utility>
@@ -29,10 +31,78 @@ int pressAction(AtspiAction* actions) {
     return -1;
 }
 
-void collect(const Seen& seen, std::vector<Seen>& into) {
-    into.push_back(seen);
-    for (const Seen& child : seen.children())
-        collect(child, into);
+using Message = std::unique_ptr<DBusMessage, decltype(&dbus_message_unref)>;
+
+constexpr const char* kAccessible = "org.a11y.atspi.Accessible";
+
+/// Sends a question and doesn't wait for the answer; null if that isn't possible.
+DBusPendingCall* sent(const AtspiObject& object, const char* interface, const char* method,
+                      const char* property) {
+    const Message question(dbus_message_new_method_call(object.app->bus_name, object.path, interface, method),
+                           &dbus_message_unref);
+    if (property != nullptr)
+        dbus_message_append_args(question.get(), DBUS_TYPE_STRING, &kAccessible, DBUS_TYPE_STRING, &property,
+                                 DBUS_TYPE_INVALID);
+    DBusPendingCall* pending = nullptr;
+    dbus_connection_send_with_reply(object.app->bus, question.get(), &pending, DBUS_TIMEOUT_USE_DEFAULT);
+    return pending;
+}
+
+/// The answer; an error or null if the object is gone.
+Message received(DBusPendingCall* pending) {
+    if (pending == nullptr)
+        return {nullptr, &dbus_message_unref};
+    dbus_pending_call_block(pending);
+    Message reply(dbus_pending_call_steal_reply(pending), &dbus_message_unref);
+    dbus_pending_call_unref(pending);
+    return reply;
+}
+
+/// The elements of an answer, or of an array or structure in it.
+class Elements {
+public:
+    explicit Elements(DBusMessage* message) {
+        if (message != nullptr && dbus_message_get_type(message) == DBUS_MESSAGE_TYPE_METHOD_RETURN)
+            m_isThere = dbus_message_iter_init(message, &m_iterator) != FALSE;
+    }
+    Elements inner() {
+        Elements result(nullptr);
+        if (m_isThere)
+            dbus_message_iter_recurse(&m_iterator, &result.m_iterator);
+        result.m_isThere =
+            m_isThere && dbus_message_iter_get_arg_type(&result.m_iterator) != DBUS_TYPE_INVALID;
+        return result;
+    }
+    bool isThere() const { return m_isThere; }
+    /// The present one, if there is one; goes on to the next.
+    template <typename Value>
+    Value take() {
+        Value value{};
+        if (m_isThere)
+            dbus_message_iter_get_basic(&m_iterator, &value);
+        next();
+        return value;
+    }
+    void next() { m_isThere = m_isThere && dbus_message_iter_next(&m_iterator) != FALSE; }
+
+private:
+    DBusMessageIter m_iterator{};
+    bool m_isThere = false;
+};
+
+gint64 readStates(const Seen&, DBusMessage* reply) {
+    Elements words = Elements(reply).inner();
+    const auto low = words.take<dbus_uint32_t>();
+    return static_cast<gint64>(words.take<dbus_uint32_t>()) << 32 | low;
+}
+
+AtspiRole readRole(const Seen&, DBusMessage* reply) {
+    return static_cast<AtspiRole>(Elements(reply).take<dbus_uint32_t>());
+}
+
+std::string readName(const Seen&, DBusMessage* reply) {
+    const auto* const name = Elements(reply).inner().take<const char*>();
+    return name == nullptr ? "" : name;
 }
 
 } // namespace
@@ -66,23 +136,8 @@ bool Seen::isSameAs(const Seen& other) const {
     return std::string_view(m_object->parent.path) == other.m_object->parent.path;
 }
 
-gint64 Seen::states() const {
-    const Owned<AtspiStateSet> states(atspi_accessible_get_state_set(m_object.get()), &g_object_unref);
-    if (!states)
-        return 0;
-    // With its object at hand the set asks again at each look at it, and before every other question.
-    states->accessible = nullptr;
-    return states->states;
-}
-
 bool Seen::is(AtspiStateType state) const {
-    return (((m_states ? *m_states : states()) >> state) & 1) != 0;
-}
-
-Seen Seen::withStates() const {
-    Seen result = *this;
-    result.m_states = states();
-    return result;
+    return m_states ? ((*m_states >> state) & 1) != 0 : withStates({*this}).front().is(state);
 }
 
 bool Seen::canBePressed() const {
@@ -108,10 +163,83 @@ std::vector<Seen> Seen::children() const {
     return result;
 }
 
-std::vector<Seen> Seen::withDescendants() const {
+template <typename Answer>
+std::vector<Answer> Seen::ask(const std::vector<Seen>& some, const char* interface, const char* method,
+                              const char* property, Answer (*read)(const Seen& seen, DBusMessage* reply)) {
+    std::vector<DBusPendingCall*> questions;
+    for (const Seen& each : some)
+        questions.push_back(sent(each.m_object->parent, interface, method, property));
+    std::vector<Answer> answers;
+    for (std::size_t i = 0; i < some.size(); ++i)
+        answers.push_back(read(some[i], received(questions[i]).get()));
+    return answers;
+}
+
+std::vector<Seen> Seen::readChildren(const Seen& seen, DBusMessage* reply) {
+    std::vector<Seen> children;
+    for (Elements list = Elements(reply).inner(); list.isThere(); list.next()) {
+        Elements reference = list.inner();
+        reference.next(); // the application, which is the same
+        auto* const child = static_cast<AtspiAccessible*>(g_object_new(ATSPI_TYPE_ACCESSIBLE, nullptr));
+        child->parent.app = static_cast<AtspiApplication*>(g_object_ref(seen.m_object->parent.app));
+        child->parent.path = g_strdup(reference.take<const char*>());
+        children.emplace_back(child);
+    }
+    return children;
+}
+
+std::vector<Seen> Seen::gathered(bool onlyShown) const {
+    const auto counts = [&](const Seen& seen) { return !onlyShown || seen.is(ATSPI_STATE_SHOWING); };
+    std::vector<Seen> found = {*this}; // level by level
+    std::vector<std::vector<std::size_t>> below(1);
+    for (std::size_t at = 0; at < found.size();) {
+        std::vector<Seen> level(found.begin() + static_cast<std::ptrdiff_t>(at), found.end());
+        if (onlyShown)
+            level = withStates(std::move(level));
+        std::ranges::copy(level, found.begin() + static_cast<std::ptrdiff_t>(at));
+        std::erase_if(level, std::not_fn(counts));
+        const auto children = ask(level, kAccessible, "GetChildren", nullptr, &Seen::readChildren);
+        auto next = children.begin();
+        for (const std::size_t end = found.size(); at < end; ++at) {
+            for (const Seen& child : counts(found[at]) ? *next++ : std::vector<Seen>{}) {
+                below[at].push_back(found.size());
+                found.push_back(child);
+                below.emplace_back();
+            }
+        }
+    }
     std::vector<Seen> result;
-    collect(*this, result);
+    const std::function<void(std::size_t)> add = [&](std::size_t index) {
+        if (!counts(found[index]))
+            return;
+        result.push_back(found[index]);
+        std::ranges::for_each(below[index], add);
+    };
+    add(0);
     return result;
+}
+
+std::vector<Seen> Seen::withDescendants() const {
+    return gathered(false);
+}
+
+std::vector<Seen> Seen::shown() const {
+    return gathered(true);
+}
+
+std::vector<AtspiRole> Seen::rolesOf(const std::vector<Seen>& some) {
+    return ask(some, kAccessible, "GetRole", nullptr, &readRole);
+}
+
+std::vector<std::string> Seen::namesOf(const std::vector<Seen>& some) {
+    return ask(some, DBUS_INTERFACE_PROPERTIES, "Get", "Name", &readName);
+}
+
+std::vector<Seen> Seen::withStates(std::vector<Seen> some) {
+    const std::vector<gint64> states = ask(some, kAccessible, "GetState", nullptr, &readStates);
+    for (std::size_t i = 0; i < some.size(); ++i)
+        some[i].m_states = states[i];
+    return some;
 }
 
 std::ostream& operator<<(std::ostream& out, const Seen& seen) {

@@ -26,18 +26,30 @@ public:
     std::string description() const;
     std::string text() const; ///< the contents of a field
     bool is(AtspiStateType state) const;
-    Seen withStates() const; ///< the same with its present states, which cost nothing to ask for from then on
     guint processId() const;
     bool isSameAs(const Seen& other) const;
     bool canBePressed() const;
     void press() const; ///< as assistive technology does
     std::vector<Seen> children() const;
+    /// Itself first, each before what it contains. As for the following, all are asked at once, because a
+    /// question takes mostly waiting.
     std::vector<Seen> withDescendants() const;
+    /// The same without what isn't shown, with their states at this moment, which cost nothing to ask for.
+    std::vector<Seen> shown() const;
+    static std::vector<AtspiRole> rolesOf(const std::vector<Seen>& some);
+    static std::vector<std::string> namesOf(const std::vector<Seen>& some);
 
     friend std::ostream& operator<<(std::ostream& out, const Seen& seen);
 
 private:
-    gint64 states() const;
+    /// Each object's answer to the same question.
+    template <typename Answer>
+    static std::vector<Answer> ask(const std::vector<Seen>& some, const char* interface, const char* method,
+                                   const char* property,
+                                   Answer (*read)(const Seen& seen, DBusMessage* reply));
+    static std::vector<Seen> readChildren(const Seen& seen, DBusMessage* reply);
+    std::vector<Seen> gathered(bool onlyShown) const;
+    static std::vector<Seen> withStates(std::vector<Seen> some);
 
     std::shared_ptr<AtspiAccessible> m_object;
     std::optional<gint64> m_states;
