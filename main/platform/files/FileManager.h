@@ -129,7 +129,7 @@ public:
     void copy(const std::filesystem::path& from, const std::filesystem::path& to,
               Privacy privacy = Privacy::inherited) const;
     /// Moves, even across file systems: then the original is removed once the copy is on the disk. Fails if
-    /// anything is at `to`.
+    /// anything is at `to`. What can't be moved stays where it was.
     void move(const std::filesystem::path& from, const std::filesystem::path& to) const;
     /// If `to` is a complete copy of `from`, as a move to another file system leaves it when it is
     /// interrupted, removes `from`. Otherwise changes nothing and returns false.

@@ -166,9 +166,14 @@ void FileManager::move(const std::filesystem::path& from, const std::filesystem:
     const std::filesystem::path target = withoutEndingSlash(to);
     int error = files::renameExclusively(origin, target);
     if (error == 0) {
-        waitForPlaceOf(target);
-        if (files::folderOf(origin) != files::folderOf(target))
-            waitForPlaceOf(origin);
+        try {
+            waitForPlaceOf(target);
+            if (files::folderOf(origin) != files::folderOf(target))
+                waitForPlaceOf(origin);
+        } catch (...) { // what is reported as failed stays where it was
+            static_cast<void>(files::renameExclusively(target, origin));
+            throw;
+        }
         return;
     }
     if (error == EINVAL && isFolder(origin))
