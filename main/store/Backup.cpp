@@ -74,7 +74,7 @@ public:
                  (std::string(FileManager::kTemporaryPrefix) + archive.filename().string())) {
         do { // another backup that held the lock has removed the folder
             m_files.createFolders(m_path, Privacy::ownerOnly);
-            m_lock.emplace(m_path, progress);
+            lock(progress);
         } while (!m_files.isPresent(m_path));
         for (const std::string& name : m_files.entries(m_path))
             m_files.removeTree(m_path / name);
@@ -91,6 +91,15 @@ public:
     const fs::path& path() const { return m_path; }
 
 private:
+    void lock(const Progress* progress) {
+        try {
+            m_lock.emplace(m_path, progress);
+        } catch (const fs::filesystem_error&) { // nobody else can have locked it either
+            m_files.removeEmptyFolder(m_path);
+            throw;
+        }
+    }
+
     FileManager m_files;
     fs::path m_path;
     std::optional<FolderLock> m_lock; ///< two backups must not write the same archive
