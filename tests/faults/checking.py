@@ -16,6 +16,8 @@ TRASH = ".local/share/Trash"
 # Of Selvane, and of zip, which leaves them beside an archive.
 _TEMPORARY = re.compile(r"(^|/)(\.selvane-[^/]*|selvane-backup-[^/]*|zi\w{6}|[^/]*\.partial)(/|$)")
 _REMOVES = re.compile(r"unlink|rmdir|stat|getdents|openat?\(.*O_DIRECTORY|close")
+_README = "LEGGIMI-backup.txt"
+_SKIPPED = re.compile(r"^  (?:~/)?(.*)$", re.M)
 _TIME = re.compile(rb"\d{4}-\d\d-\d\dT\d\d:\d\d:\d\dZ")
 
 
@@ -26,16 +28,23 @@ class Entry:
     content: str            # a digest of the bytes, or a link's text
     kept: tuple = ()        # the old time and the attributes that a copy keeps
     secret: bool = False
+    # Of an archive: the path, checksum and mode of each but the readme, and the paths that this names as missing.
+    parts: tuple = dataclasses.field(default=(), compare=False, repr=False)
+    skipped: tuple = dataclasses.field(default=(), compare=False, repr=False)
 
 
-def _archive(path):
-    """The content of an archive except its readme, which contains the date."""
+def _path_of(part):
+    return os.fsdecode(part.filename.encode("utf-8" if part.flag_bits & 0x800 else "cp437")).rstrip("/")
+
+
+def _parts_and_skipped(path):
     try:
         with zipfile.ZipFile(path) as archive:
-            parts = sorted((part.filename, part.CRC) for part in archive.infolist())
-            return repr([part for part in parts if part[0] != "LEGGIMI-backup.txt"])
+            parts = {_path_of(part): (part.CRC, part.external_attr >> 16) for part in archive.infolist()}
+            readme = archive.read(_README).decode() if parts.pop(_README, None) else ""
     except zipfile.BadZipFile:
-        return None
+        return (), ()
+    return tuple(sorted(parts.items())), tuple(_SKIPPED.findall(readme.partition("Non è stato possibile salvare")[2]))
 
 
 def _attributes(path):
@@ -58,14 +67,15 @@ def _entry(path, rename):
         return Entry(kind, mode, "", (old,))
     with open(path, "rb") as file:
         bytes_ = file.read()
-    content = _archive(path) if path.endswith(".zip") else None
-    if content is None:
+    parts, skipped = _parts_and_skipped(path) if path.endswith(".zip") else ((), ())
+    content = "an archive"
+    if not parts:
         content = rename(bytes_)
         if os.path.basename(path) in OWN_FILES:
             content = _TIME.sub(b"TIME", content)
         content = hashlib.sha1(content).hexdigest()
     secret = SECRET in bytes_ or path.endswith((".zip", ".partial")) and bytes_.startswith(b"PK")
-    return Entry(kind, mode, content, (old, _attributes(path)), secret)
+    return Entry(kind, mode, content, (old, _attributes(path)), secret, parts, skipped)
 
 
 def scan(home, renamed=("", "")):
@@ -157,6 +167,12 @@ class Expectation:
         return [f"not as it should be: {path} ({found.get(path)})" for path in {*wanted, *found}
                 if found.get(path) != wanted.get(path) and not re.match(loose, path)]
 
+    def unsaved(self, now, may_name=True):
+        """What an archive lacks, or has otherwise than it should have, unless it may name that and does."""
+        return [f"missing in {path}: {part}" for path, wanted in self.new.items() if path in now and now[path].parts
+                for part in dict(set(wanted.parts) - set(now[path].parts))
+                if not may_name or part not in now[path].skipped]
+
     def leftovers(self, now, hits=(), resumes="$^"):
         """Temporaries left behind, except one whose own removal failed, or a look at it, as removing takes."""
         return [f"left behind: {path}" for path in now
@@ -168,8 +184,8 @@ class Expectation:
 def problems_after(operation, expectation, run, point, now):
     """What is wrong after a run with a fault."""
     problems = expectation.lost(now) + expectation.opened(now)
-    problems += expectation.between(now, operation.moves, operation.gap)
-    if point.error == KILL and not point.family:
+    problems += expectation.between(now, operation.moves, operation.gap) + expectation.unsaved(now)
+    if point.error == KILL and not point.zip:
         return problems
     problems += expectation.leftovers(now, run.hits, operation.resumes if run.status else "$^")
     if run.status == 0:

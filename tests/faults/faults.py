@@ -17,6 +17,7 @@ import time
 import checking
 import home as homes
 import tracing
+import zip_under_strace
 from operations import OPERATIONS
 
 
@@ -78,6 +79,7 @@ def again(operation, command, expectation, home, now):
     problems = expectation.lost(then) + expectation.opened(then)
     return problems + ["after a second run " + problem for problem in
                        expectation.unlike(then, expectation.after, operation.loose) +
+                       expectation.unsaved(then, may_name=False) +
                        [path for path in expectation.leftovers(then) if "/.selvane-batch-" in path]]
 
 
@@ -166,11 +168,16 @@ def run_without_fault(operation, place):
         home.run(*operation.undoes)
     before = checking.scan(home)
     place.restore("before")
-    own, others = tracing.calls(home.command(operation.command), home, operation.setting)
+    command = home.command(operation.command)
+    calls = tracing.calls(command, home, operation.setting)
     if operation.undoes:
-        done = next(at for at, point in enumerate(own) if "/.take-back" in point.line)
-        own = own[done + 1:]
-    return checking.Expectation(before, checking.scan(home)), own + (others if operation.archive else [])
+        done = next(at for at, point in enumerate(calls) if "/.take-back" in point.line)
+        calls = calls[done + 1:]
+    expectation = checking.Expectation(before, checking.scan(home))
+    for step in zip_under_strace.STEPS if operation.archive and _worker["options"].apart else ():
+        place.restore("before")
+        calls += tracing.calls_of_zip(command, home, step)
+    return expectation, calls
 
 
 def try_operation(number):
@@ -239,6 +246,7 @@ def arguments():
     parser.add_argument("--build", required=True)
     parser.add_argument("--quick", action="store_true")
     parser.add_argument("--full", action="store_true")
+    parser.add_argument("--apart", action="store_true", help="in a mount namespace of its own, as root")
     parser.add_argument("--calls", choices=("all", "changes", "reads"), default="all")
     parser.add_argument("--part", type=lambda text: tuple(map(int, text.split("/"))), metavar="K/N")
     parser.add_argument("--only", metavar="OPERATION[:CALL:N:ERROR]")
@@ -256,6 +264,10 @@ def main():
         options.only = None
     folder = tempfile.mkdtemp(prefix="selvane-faults-", dir=options.folder)
     try:
+        if options.apart:
+            zip_under_strace.install(folder)
+        elif not options.full:
+            print("faults: SKIPPED: the calls of zip, which need root", file=sys.stderr)
         with multiprocessing.Pool(options.jobs, start_worker, (options, folder)) as pool:
             succeeded = report(pool.imap(try_operation, numbers))
     finally:

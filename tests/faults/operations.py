@@ -26,7 +26,7 @@ class Operation:
     leaves_nothing: bool = False     # if it fails, everything is as before
     moves: bool = False              # moves whole folders, perhaps through another place
     edits: typing.Sequence[str] = () # the user's files whose bytes it changes without keeping the old ones
-    archive: bool = False            # runs zip, which is made to fail as well
+    archive: bool = False            # zip is made to fail as well
     gap: str = "$^"                  # what is missing for a moment; never the user's only copy
     resumes: str = "$^"              # what a failed run leaves so that the next one completes it
     undoes: typing.Sequence[str] = () # what the command does first; only the calls with which it undoes that are tried

@@ -9,6 +9,8 @@ import re
 import subprocess
 import time
 
+import zip_under_strace
+
 KILL = "KILL"
 TIME_LIMIT = 30  # seconds; nothing takes a tenth of that
 PR_SET_CHILD_SUBREAPER = 36
@@ -58,13 +60,14 @@ class Point:
     call: str
     number: int
     error: str
-    family: bool = False  # also follow the processes that Selvane starts
+    zip: str = ""         # a step of zip's that makes the call; otherwise Selvane itself does
     reads: bool = False   # changes nothing itself
     line: str = ""        # what strace wrote about it
     place: int = 0        # its place among the points with this name and kind
 
     def __str__(self):
-        return f"{self.call}:{self.number}:{self.error}"
+        program = f"zip-{self.zip}." if self.zip else ""
+        return f"{program}{self.call}:{self.number}:{self.error}"
 
 
 @dataclasses.dataclass
@@ -133,7 +136,7 @@ def _placed(points):
     """The points, each with its place among those of its name and kind."""
     seen = {}
     for point in points:
-        kind = point.call, point.family, point.reads
+        kind = point.call, point.zip, point.reads
         yield dataclasses.replace(point, place=seen.get(kind, 0))
         seen[kind] = seen.get(kind, 0) + 1
 
@@ -141,11 +144,10 @@ def _placed(points):
 def found_again(point, command, home, setting):
     """The same call in another run, in which it may have another number: a program that looks at the processes
     makes more calls when there are more of them. None if that run doesn't make the call."""
-    for points in calls(command, home, setting):
-        for other in points:
-            if (other.call, other.family, other.reads, other.place) == (
-                    point.call, point.family, point.reads, point.place):
-                return dataclasses.replace(point, number=other.number, line=other.line)
+    points = calls_of_zip(command, home, point.zip) if point.zip else calls(command, home, setting)
+    for other in points:
+        if (other.call, other.reads, other.place) == (point.call, point.reads, point.place):
+            return dataclasses.replace(point, number=other.number, line=other.line)
     return None
 
 
@@ -153,32 +155,44 @@ def _injections(*faults):
     return [f"--inject={fault}" for fault in faults if fault]
 
 
-def calls(command, home, setting):
-    """The changing and reading calls of Selvane itself and, separately, the changing ones of the programs that it
-    starts, in one run."""
-    names = ",".join("?" + name for name in {**ERRORS, **READ_ERRORS})
-    done = run(command, home, ["-f", f"--trace={names}", *_injections(setting)], 10 * TIME_LIMIT)
-    if done.status != 0:
-        raise RuntimeError(f"{command} ends with {done.status} without any fault: {done.err}")
-    counts, own, others = {}, [], []
-    first = _CALL.match(done.hits[0]).group(1)
-    for line in done.hits:
+_TRACED = "--trace=" + ",".join("?" + name for name in {**ERRORS, **READ_ERRORS})
+
+
+def _points(lines, home, setting="", step=""):
+    """The changing and reading calls of the first process in a log."""
+    counts, points = {}, []
+    first = _CALL.match(lines[0]).group(1)
+    for line in lines:
         match = _CALL.match(line)
-        if not match:
+        if not match or match.group(1) != first:
             continue
-        process, call, arguments = match.groups()
-        number = counts[process, call] = counts.get((process, call), 0) + 1
+        call, arguments = match.group(2, 3)
+        number = counts[call] = counts.get(call, 0) + 1
         if setting.startswith(call + ":"):
             continue
-        if is_change(call, arguments, str(home.path)):
-            (own if process == first else others).append(Point(call, number, "", process != first, False, line))
-        elif process == first and is_read(call, arguments, str(home.path)):
-            own.append(Point(call, number, "", False, True, line))
-    # A fault can't be aimed at one of several processes, so it must come after all of Selvane's own calls of
-    # that name, including those that tidy up.
-    return list(_placed(own)), list(_placed(
-        point for point in others if ERRORS[point.call] != _REMOVING
-        and point.number > counts.get((first, point.call), 0)))
+        reads = is_read(call, arguments, str(home.path))
+        if reads or is_change(call, arguments, str(home.path)):
+            points.append(Point(call, number, "", step, reads, line))
+    return list(_placed(points))
+
+
+def _run_well(command, home, options=()):
+    done = run(command, home, options, 10 * TIME_LIMIT)
+    if done.status != 0:
+        raise RuntimeError(f"{command} ends with {done.status} without any fault: {done.err}")
+    return done
+
+
+def calls(command, home, setting):
+    """The changing and reading calls of Selvane itself, in one run."""
+    return _points(_run_well(command, home, ["-f", _TRACED, *_injections(setting)]).hits, home, setting)
+
+
+def calls_of_zip(command, home, step):
+    """The changing and reading calls of zip, in one run."""
+    with zip_under_strace.options(home, step, [_TRACED]) as log:
+        _run_well(command, home)
+        return _points(log.read_text(errors="replace").splitlines(), home, step=step)
 
 
 def faults(point):
@@ -192,7 +206,12 @@ def run_with_fault(command, home, setting, point):
     # Only traced calls can be made to fail.
     traced = ",".join({point.call, setting.split(":")[0] or point.call})
     options = [f"--trace={traced}", *_injections(setting, f"{point.call}:{kind}:when={point.number}")]
-    done = run(command, home, [*(["-f"] if point.family else []), *options])
+    if point.zip:
+        with zip_under_strace.options(home, point.zip, options) as log:
+            done = run(command, home)
+            done.hits = log.read_text(errors="replace").splitlines()
+    else:
+        done = run(command, home, options)
     if point.error == KILL:
         # The last call before each process was killed.
         ends = [at for at, line in enumerate(done.hits) if "killed by SIGKILL" in line]
