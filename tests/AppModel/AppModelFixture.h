@@ -3,15 +3,13 @@
 
 #pragma once
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
-
 #include <gtest/gtest.h>
 #include <memory>
 
 #include "AppModel/AppModel.h"
 #include "AppModel/FakeBridge.h"
 #include "AppModel/Mirror.h"
+#include "support/HandleUntil.h"
 #include "support/Home.h"
 
 namespace selvane::test {
@@ -36,9 +34,7 @@ protected:
     /// Whether every property's change has been told so far.
     void expectUpToDate() const { m_mirror->expectUpToDate(); }
     void waitUntilIdle() {
-        const QDeadlineTimer limit(20'000);
-        while (!model().busyMessage().isEmpty() && !limit.hasExpired())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+        handleUntil([this] { return model().busyMessage().isEmpty(); });
         QCoreApplication::processEvents();
         ASSERT_EQ(model().busyMessage(), "");
         m_mirror->expectUpToDate();

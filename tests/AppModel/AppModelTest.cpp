@@ -197,9 +197,7 @@ TEST_F(AppModelTest, work_TellsHowFarItIs) {
     const auto progress = std::make_shared<Progress>();
     work.begin(progress);
     const auto waitFor = [&](const QString& detail) {
-        const QDeadlineTimer limit(20'000);
-        while (work.detail() != detail && !limit.hasExpired())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+        handleUntil([&] { return work.detail() == detail; });
         EXPECT_EQ(work.detail(), detail);
     };
     progress->advance(1, 1'000'000);

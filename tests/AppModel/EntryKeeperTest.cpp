@@ -13,9 +13,7 @@ protected:
     EntryKeeper& keeper() { return *model().entries(); }
     /// Waits until exactly these profiles have an entry.
     void waitForIds(const QStringList& ids) {
-        const QDeadlineTimer limit(20'000);
-        while (keeper().ids() != ids && !limit.hasExpired())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+        handleUntil([&] { return keeper().ids() == ids; });
         ASSERT_EQ(keeper().ids(), ids);
     }
     std::string entry() const { return readFile(home / ".local/share/applications/selvane-lavoro.desktop"); }

@@ -3,33 +3,27 @@
 
 #include "Views/Events.h"
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QQuickWindow>
-#include <QTimer>
+
+#include "support/HandleUntil.h"
 
 namespace selvane::test {
 namespace {
 
 template <typename Condition>
-bool handleUntil(const Condition& holds) {
+bool handleAllUntil(const Condition& holds) {
     constexpr int kMilliseconds = 5000;
-    const QDeadlineTimer deadline(kMilliseconds);
-    QTimer beat; // some of what is waited for comes without an event
-    beat.start(20);
-    while (!holds()) {
-        if (deadline.hasExpired())
-            return false;
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    const auto holdsAfterDeletions = [&] {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-    return true;
+        return holds();
+    };
+    return handleUntil(holdsAfterDeletions, QDeadlineTimer(kMilliseconds));
 }
 
 } // namespace
 
 bool Events::handleUntil(const QJSValue& holds) {
-    return test::handleUntil([&] {
+    return handleAllUntil([&] {
         const QJSValue result = holds.call();
         return !result.isError() && result.toBool();
     });
@@ -41,7 +35,7 @@ bool Events::handleFrame(QQuickItem* item) {
     const QMetaObject::Connection connection =
         QObject::connect(window, &QQuickWindow::frameSwapped, window, [&] { isShown = true; });
     window->update();
-    test::handleUntil([&] { return isShown; });
+    handleAllUntil([&] { return isShown; });
     QObject::disconnect(connection);
     return isShown;
 }

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 #include <QDBusArgument>
-#include <QDeadlineTimer>
 #include <QGuiApplication>
 
 #include <gtest/gtest.h>
@@ -11,16 +10,14 @@
 #include "Views/linux/FakePortal.h"
 #include "Views/linux/PortalSaveDialog.h"
 #include "Views/shell/SystemAppearance.h"
+#include "support/HandleUntil.h"
 
 namespace selvane::test {
 
 namespace {
 
 void waitUntil(const std::function<bool()>& holds) {
-    const QDeadlineTimer limit(20'000);
-    while (!holds() && !limit.hasExpired())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
-    ASSERT_TRUE(holds());
+    ASSERT_TRUE(handleUntil(holds));
 }
 
 class Portal : public testing::Test {

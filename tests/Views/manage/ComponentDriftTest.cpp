@@ -1,8 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Selvane developers
 // SPDX-License-Identifier: MIT
 
-#include <QDeadlineTimer>
-
 #include "AppModel/AppModelFixture.h"
 #include "Views/manage/ProfileDetailModel.h"
 #include "Views/manage/ProfileFacts.h"
@@ -33,10 +31,7 @@ protected:
     }
     template <typename Condition>
     void waitUntil(Condition condition) {
-        const QDeadlineTimer limit(20'000);
-        while (!condition() && !limit.hasExpired())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
-        ASSERT_TRUE(condition());
+        ASSERT_TRUE(handleUntil(condition));
     }
     void waitUntilRead() {
         waitUntilIdle();

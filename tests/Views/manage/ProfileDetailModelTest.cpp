@@ -23,9 +23,7 @@ protected:
         waitUntilRead();
     }
     void waitUntilRead() {
-        const QDeadlineTimer limit(20'000);
-        while (detail.isReading() && !limit.hasExpired())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+        handleUntil([this] { return !detail.isReading(); });
         QCoreApplication::processEvents();
         ASSERT_FALSE(detail.isReading());
     }

@@ -81,10 +81,7 @@ TEST_F(FormsTest, newProfile_IsIsolatedWhereThatMattersUntilChosen) {
     NewProfileForm form;
     prepare(form, {{"name", "Nuovo"}});
     const auto becomes = [&](bool isolated) {
-        const QDeadlineTimer limit(20'000);
-        while (form.isIsolated() != isolated && !limit.hasExpired())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
-        return form.isIsolated() == isolated;
+        return handleUntil([&] { return form.isIsolated() == isolated; });
     };
     EXPECT_TRUE(becomes(true)) << "it starts empty";
     form.setSource("default");
@@ -176,11 +173,7 @@ TEST_F(FormsTest, sessionImport_SearchNarrowsWhatIsChosen) {
     prepare(form, {{"target", "lavoro"}});
     form.componentComplete();
     EXPECT_TRUE(form.isLoading());
-    const auto waitUntilRead = [&] {
-        const QDeadlineTimer limit(20'000);
-        while (form.isLoading() && !limit.hasExpired())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
-    };
+    const auto waitUntilRead = [&] { handleUntil([&] { return !form.isLoading(); }); };
     waitUntilRead();
     ChoiceListModel& sessions = *form.sessions();
     const Mirror seenForm(form);
