@@ -41,6 +41,7 @@ public:
         joinRecords();
         placeTranscripts();
         placeRecords();
+        forgetWhatIsPlaced();
         readTranscripts();
         complete();
         return std::move(m_list);
@@ -57,6 +58,7 @@ private:
     void joinRecords();
     void placeTranscripts();
     void placeRecords();
+    void forgetWhatIsPlaced();
     void readTranscripts();
     void complete();
     void completeTerminal(Conversation& row, const TranscriptSummary& latest);
@@ -175,6 +177,15 @@ void Listing::placeRecords() {
             }
         }
     }
+}
+
+/// Of many conversations, that is more memory than the list itself takes.
+void Listing::forgetWhatIsPlaced() {
+    const auto free = [](auto& container) { std::remove_reference_t<decltype(container)>().swap(container); };
+    free(m_records);
+    free(m_transcripts);
+    free(m_recordsOfRow);
+    free(m_rowOfTranscript);
 }
 
 /// Of transcripts with a record, only the sizes are needed.
