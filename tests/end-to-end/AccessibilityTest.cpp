@@ -32,6 +32,8 @@ void expectNames(const RunningSelvane& selvane) {
     const auto roles = Seen::rolesOf(all);
     EXPECT_GT(all.size(), 10U);
     for (std::size_t i = 0; i < all.size(); ++i) {
+        if (names[i].empty() && all[i].isGone()) // while the others were asked
+            continue;
         EXPECT_NE(names[i], "") << all[i];
         // Qt lets every text take the focus.
         const bool isText = roles[i] == ATSPI_ROLE_LABEL || roles[i] == ATSPI_ROLE_ALERT;

@@ -140,6 +140,10 @@ bool Seen::is(AtspiStateType state) const {
     return m_states ? ((*m_states >> state) & 1) != 0 : withStates({*this}).front().is(state);
 }
 
+bool Seen::isGone() const {
+    return withStates({*this}).front().m_states == 0; // anything there has some
+}
+
 bool Seen::canBePressed() const {
     const Owned<AtspiAction> actions(atspi_accessible_get_action_iface(m_object.get()), &g_object_unref);
     return pressAction(actions.get()) >= 0;

@@ -26,6 +26,7 @@ public:
     std::string description() const;
     std::string text() const; ///< the contents of a field
     bool is(AtspiStateType state) const;
+    bool isGone() const; ///< by now
     guint processId() const;
     bool isSameAs(const Seen& other) const;
     bool canBePressed() const;
