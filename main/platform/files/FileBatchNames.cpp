@@ -101,8 +101,8 @@ void FileBatch::finish() {
         return;
     if (m_open)
         close();
-    m_copier.finish();
     try {
+        m_copier.finish();
         const std::lock_guard settling(m_settling);
         settleAllCopied();
     } catch (const std::exception&) {

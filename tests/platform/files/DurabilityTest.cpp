@@ -30,6 +30,26 @@ std::string shown(const fs::path& folder) {
     return std::accumulate(entries.begin(), entries.end(), std::string());
 }
 
+/// While it lives, no file gets larger than so many bytes.
+class FileSizeLimit {
+public:
+    explicit FileSizeLimit(rlim_t bytes) : m_signal(std::signal(SIGXFSZ, SIG_IGN)) {
+        EXPECT_EQ(::getrlimit(RLIMIT_FSIZE, &m_before), 0);
+        const rlimit small = {bytes, m_before.rlim_max};
+        EXPECT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
+    }
+    ~FileSizeLimit() {
+        ::setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_signal);
+    }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+private:
+    void (*m_signal)(int);
+    rlimit m_before = {};
+};
+
 /// What is waited for during `operation`, and what `folder` shows meanwhile.
 template <typename Operation>
 Names waits(const fs::path& folder, Operation operation) {
@@ -104,17 +124,11 @@ TEST(Durability, ABatchThatFailsLeavesWhatWasThere) {
     makeFile(top / "large", std::string(5000, 'x'), 0644);
     FileBatch torn(top);
     torn.copy(top / "from", top / "second");
-    rlimit limit = {};
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &limit), 0);
-    const rlimit small = {1000, limit.rlim_max};
-    const auto inherited = std::signal(SIGXFSZ, SIG_IGN);
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
-    const int copying = failure([&] { torn.copy(top / "large", top / "torn"); });
-    const int finishing = failure([&] { torn.finish(); });
-    ::setrlimit(RLIMIT_FSIZE, &limit);
-    std::signal(SIGXFSZ, inherited);
-    EXPECT_EQ(copying, EFBIG);
-    EXPECT_EQ(finishing, EFBIG);
+    {
+        const FileSizeLimit limit(1000);
+        EXPECT_EQ(failure([&] { torn.copy(top / "large", top / "torn"); }), EFBIG);
+        EXPECT_EQ(failure([&] { torn.finish(); }), EFBIG);
+    }
     EXPECT_FALSE(kFiles.exists(top / "torn")) << "only a part of it was copied";
     EXPECT_EQ(kFiles.read(top / "second"), "new");
 }
@@ -142,6 +156,28 @@ TEST(Durability, ManyRoundsKeepWhatCameBeforeAFailure) {
     EXPECT_EQ(kFiles.entries(top).size(), static_cast<std::size_t>(kFails)) << "and no temporary";
     for (int i = 0; i < kFails; ++i)
         EXPECT_EQ(kFiles.read(top / std::to_string(i)), std::to_string(i));
+}
+
+TEST(Durability, NamesFromBeforeAFailureAreWaitedFor) {
+    const TemporaryFolder folder;
+    const fs::path& top = folder.path();
+    kFiles.createFolder(top / "to");
+    makeFile(top / "from", "new", 0644);
+    makeFile(top / "large", std::string(5000, 'x'), 0644);
+    FileBatch batch(top);
+    for (int i = 0; !kFiles.exists(top / "to/0") && i < 100 * 1024; ++i)
+        batch.copy(top / "from", top / "to" / std::to_string(i));
+    ASSERT_TRUE(kFiles.exists(top / "to/0")) << "the first have their names while others are copied";
+    const FileSizeLimit limit(1000);
+    const Names waited = waits(top / "to", [&] {
+        EXPECT_EQ(failure([&] {
+                      batch.copy(top / "large", top / "to/large");
+                      batch.finish();
+                  }),
+                  EFBIG);
+    });
+    ASSERT_FALSE(waited.empty());
+    EXPECT_TRUE(waited.back().ends_with(shown(top / "to"))) << "no name is given after the last wait";
 }
 
 TEST(Durability, RoundsClearUpBehindThemselves) {
