@@ -31,31 +31,20 @@ int pressAction(AtspiAction* actions) {
     return -1;
 }
 
-using Message = std::unique_ptr<DBusMessage, decltype(&dbus_message_unref)>;
-
 constexpr const char* kAccessible = "org.a11y.atspi.Accessible";
 
 /// Sends a question and doesn't wait for the answer; null if that isn't possible.
 DBusPendingCall* sent(const AtspiObject& object, const char* interface, const char* method,
                       const char* property) {
-    const Message question(dbus_message_new_method_call(object.app->bus_name, object.path, interface, method),
-                           &dbus_message_unref);
+    const std::unique_ptr<DBusMessage, decltype(&dbus_message_unref)> question(
+        dbus_message_new_method_call(object.app->bus_name, object.path, interface, method),
+        &dbus_message_unref);
     if (property != nullptr)
         dbus_message_append_args(question.get(), DBUS_TYPE_STRING, &kAccessible, DBUS_TYPE_STRING, &property,
                                  DBUS_TYPE_INVALID);
     DBusPendingCall* pending = nullptr;
     dbus_connection_send_with_reply(object.app->bus, question.get(), &pending, DBUS_TIMEOUT_USE_DEFAULT);
     return pending;
-}
-
-/// The answer; an error or null if the object is gone.
-Message received(DBusPendingCall* pending) {
-    if (pending == nullptr)
-        return {nullptr, &dbus_message_unref};
-    dbus_pending_call_block(pending);
-    Message reply(dbus_pending_call_steal_reply(pending), &dbus_message_unref);
-    dbus_pending_call_unref(pending);
-    return reply;
 }
 
 /// The elements of an answer, or of an array or structure in it.
@@ -89,21 +78,6 @@ private:
     DBusMessageIter m_iterator{};
     bool m_isThere = false;
 };
-
-gint64 readStates(const Seen&, DBusMessage* reply) {
-    Elements words = Elements(reply).inner();
-    const auto low = words.take<dbus_uint32_t>();
-    return static_cast<gint64>(words.take<dbus_uint32_t>()) << 32 | low;
-}
-
-AtspiRole readRole(const Seen&, DBusMessage* reply) {
-    return static_cast<AtspiRole>(Elements(reply).take<dbus_uint32_t>());
-}
-
-std::string readName(const Seen&, DBusMessage* reply) {
-    const auto* const name = Elements(reply).inner().take<const char*>();
-    return name == nullptr ? "" : name;
-}
 
 } // namespace
 
@@ -167,25 +141,30 @@ std::vector<Seen> Seen::children() const {
     return result;
 }
 
-template <typename Answer>
-std::vector<Answer> Seen::ask(const std::vector<Seen>& some, const char* interface, const char* method,
-                              const char* property, Answer (*read)(const Seen& seen, DBusMessage* reply)) {
+std::vector<Seen::Message> Seen::answers(const std::vector<Seen>& some, const char* interface,
+                                         const char* method, const char* property) {
     std::vector<DBusPendingCall*> questions;
     for (const Seen& each : some)
         questions.push_back(sent(each.m_object->parent, interface, method, property));
-    std::vector<Answer> answers;
-    for (std::size_t i = 0; i < some.size(); ++i)
-        answers.push_back(read(some[i], received(questions[i]).get()));
+    std::vector<Message> answers;
+    for (DBusPendingCall* const question : questions) {
+        answers.emplace_back(nullptr, &dbus_message_unref);
+        if (question == nullptr)
+            continue;
+        dbus_pending_call_block(question);
+        answers.back().reset(dbus_pending_call_steal_reply(question));
+        dbus_pending_call_unref(question);
+    }
     return answers;
 }
 
-std::vector<Seen> Seen::readChildren(const Seen& seen, DBusMessage* reply) {
+std::vector<Seen> Seen::childrenIn(const Message& answer) const {
     std::vector<Seen> children;
-    for (Elements list = Elements(reply).inner(); list.isThere(); list.next()) {
+    for (Elements list = Elements(answer.get()).inner(); list.isThere(); list.next()) {
         Elements reference = list.inner();
         reference.next(); // the application, which is the same
         auto* const child = static_cast<AtspiAccessible*>(g_object_new(ATSPI_TYPE_ACCESSIBLE, nullptr));
-        child->parent.app = static_cast<AtspiApplication*>(g_object_ref(seen.m_object->parent.app));
+        child->parent.app = static_cast<AtspiApplication*>(g_object_ref(m_object->parent.app));
         child->parent.path = g_strdup(reference.take<const char*>());
         children.emplace_back(child);
     }
@@ -202,10 +181,12 @@ std::vector<Seen> Seen::gathered(bool onlyShown) const {
             level = withStates(std::move(level));
         std::ranges::copy(level, found.begin() + static_cast<std::ptrdiff_t>(at));
         std::erase_if(level, std::not_fn(counts));
-        const auto children = ask(level, kAccessible, "GetChildren", nullptr, &Seen::readChildren);
-        auto next = children.begin();
+        const std::vector<Message> replies = answers(level, kAccessible, "GetChildren");
+        auto reply = replies.begin();
         for (const std::size_t end = found.size(); at < end; ++at) {
-            for (const Seen& child : counts(found[at]) ? *next++ : std::vector<Seen>{}) {
+            if (!counts(found[at]))
+                continue;
+            for (const Seen& child : found[at].childrenIn(*reply++)) {
                 below[at].push_back(found.size());
                 found.push_back(child);
                 below.emplace_back();
@@ -232,17 +213,28 @@ std::vector<Seen> Seen::shown() const {
 }
 
 std::vector<AtspiRole> Seen::rolesOf(const std::vector<Seen>& some) {
-    return ask(some, kAccessible, "GetRole", nullptr, &readRole);
+    std::vector<AtspiRole> roles;
+    for (const Message& answer : answers(some, kAccessible, "GetRole"))
+        roles.push_back(static_cast<AtspiRole>(Elements(answer.get()).take<dbus_uint32_t>()));
+    return roles;
 }
 
 std::vector<std::string> Seen::namesOf(const std::vector<Seen>& some) {
-    return ask(some, DBUS_INTERFACE_PROPERTIES, "Get", "Name", &readName);
+    std::vector<std::string> names;
+    for (const Message& answer : answers(some, DBUS_INTERFACE_PROPERTIES, "Get", "Name")) {
+        const auto* const name = Elements(answer.get()).inner().take<const char*>();
+        names.emplace_back(name == nullptr ? "" : name);
+    }
+    return names;
 }
 
 std::vector<Seen> Seen::withStates(std::vector<Seen> some) {
-    const std::vector<gint64> states = ask(some, kAccessible, "GetState", nullptr, &readStates);
-    for (std::size_t i = 0; i < some.size(); ++i)
-        some[i].m_states = states[i];
+    auto each = some.begin();
+    for (const Message& answer : answers(some, kAccessible, "GetState")) {
+        Elements words = Elements(answer.get()).inner();
+        const auto low = words.take<dbus_uint32_t>();
+        (each++)->m_states = static_cast<gint64>(words.take<dbus_uint32_t>()) << 32 | low;
+    }
     return some;
 }
 

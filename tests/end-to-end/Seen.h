@@ -43,12 +43,12 @@ public:
     friend std::ostream& operator<<(std::ostream& out, const Seen& seen);
 
 private:
-    /// Each object's answer to the same question.
-    template <typename Answer>
-    static std::vector<Answer> ask(const std::vector<Seen>& some, const char* interface, const char* method,
-                                   const char* property,
-                                   Answer (*read)(const Seen& seen, DBusMessage* reply));
-    static std::vector<Seen> readChildren(const Seen& seen, DBusMessage* reply);
+    using Message = std::unique_ptr<DBusMessage, decltype(&dbus_message_unref)>;
+
+    /// Each object's answer to the same question; an error or null if the object is gone.
+    static std::vector<Message> answers(const std::vector<Seen>& some, const char* interface,
+                                        const char* method, const char* property = nullptr);
+    std::vector<Seen> childrenIn(const Message& answer) const;
     std::vector<Seen> gathered(bool onlyShown) const;
     static std::vector<Seen> withStates(std::vector<Seen> some);
 

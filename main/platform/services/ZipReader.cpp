@@ -82,9 +82,8 @@ public:
         if (archive_entry_is_encrypted(entry) != 0)
             return Archives::Step::failure;
         const char* const target = archive_entry_symlink(entry);
-        const auto size =
-            static_cast<std::uint64_t>(target != nullptr ? static_cast<std::int64_t>(__builtin_strlen(target))
-                                                         : archive_entry_size(entry));
+        const std::uint64_t size = target != nullptr ? __builtin_strlen(target)
+                                                     : static_cast<std::uint64_t>(archive_entry_size(entry));
         const ArchivedEntry::Kind kind = kindOf(entry);
         m_fileSize = kind == ArchivedEntry::Kind::file ? std::optional(size) : std::nullopt;
         sink(context, {name, kind, size, target, static_cast<std::uint32_t>(archive_entry_perm(entry)),
