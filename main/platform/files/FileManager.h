@@ -129,7 +129,8 @@ public:
     void copy(const std::filesystem::path& from, const std::filesystem::path& to,
               Privacy privacy = Privacy::inherited) const;
     /// Moves, even across file systems: then the original is removed once the copy is on the disk. Fails if
-    /// anything is at `to`. What can't be moved stays where it was.
+    /// anything is at `to`. If it fails, `from` is still there, unless all that failed was waiting for its
+    /// removal.
     void move(const std::filesystem::path& from, const std::filesystem::path& to) const;
     /// If `to` is a complete copy of `from`, as a move to another file system leaves it when it is
     /// interrupted, removes `from`. Otherwise changes nothing and returns false.
