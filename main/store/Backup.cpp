@@ -73,8 +73,15 @@ public:
         : m_path(archive.parent_path() /
                  (std::string(FileManager::kTemporaryPrefix) + archive.filename().string())) {
         do { // another backup that held the lock has removed the folder
+            const bool isNew = !m_files.isPresent(m_path);
             m_files.createFolders(m_path, Privacy::ownerOnly);
-            lock(progress);
+            try {
+                m_lock.emplace(m_path, progress);
+            } catch (const fs::filesystem_error&) {
+                if (isNew) // otherwise it may be another backup's
+                    m_files.removeEmptyFolder(m_path);
+                throw;
+            }
         } while (!m_files.isPresent(m_path));
         for (const std::string& name : m_files.entries(m_path))
             m_files.removeTree(m_path / name);
@@ -91,15 +98,6 @@ public:
     const fs::path& path() const { return m_path; }
 
 private:
-    void lock(const Progress* progress) {
-        try {
-            m_lock.emplace(m_path, progress);
-        } catch (const fs::filesystem_error&) { // nobody else can have locked it either
-            m_files.removeEmptyFolder(m_path);
-            throw;
-        }
-    }
-
     FileManager m_files;
     fs::path m_path;
     std::optional<FolderLock> m_lock; ///< two backups must not write the same archive
@@ -266,7 +264,9 @@ BackupResult ProfileStore::backup(BackupScope scope, const fs::path& archive) {
     try {
         BackupContents contents(list, home());
         BackupProgress progress(m_progress, contents.bytes());
-        const auto look = [&](std::int32_t zip) { progress.look(zip); };
+        std::function<void(std::int32_t)> look;
+        if (m_progress != nullptr)
+            look = [&](std::int32_t zip) { progress.look(zip); };
         const int status = runZip(zipArguments(list, partial, work.path()), environment(), home(), look);
         requireSuccess(status == kZipSkippedFiles ? 0 : status);
         ArchiveReader reader(partial);
