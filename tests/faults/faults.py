@@ -174,7 +174,7 @@ def run_without_fault(operation, place):
         done = next(at for at, point in enumerate(calls) if "/.take-back" in point.line)
         calls = calls[done + 1:]
     expectation = checking.Expectation(before, checking.scan(home))
-    for step in zip_under_strace.STEPS if operation.archive and _worker["options"].apart else ():
+    for step in zip_under_strace.STEPS if operation.archive and _worker["options"].zip else ():
         place.restore("before")
         calls += tracing.calls_of_zip(command, home, step)
     return expectation, calls
@@ -252,7 +252,9 @@ def arguments():
     parser.add_argument("--only", metavar="OPERATION[:CALL:N:ERROR]")
     parser.add_argument("--in", dest="folder", default="/dev/shm" if os.access("/dev/shm", os.W_OK) else None)
     parser.add_argument("--jobs", type=int, default=os.cpu_count())
-    return parser.parse_args()
+    options = parser.parse_args()
+    options.zip = options.apart and not options.full
+    return options
 
 
 def main():
@@ -264,7 +266,7 @@ def main():
         options.only = None
     folder = tempfile.mkdtemp(prefix="selvane-faults-", dir=options.folder)
     try:
-        if options.apart:
+        if options.zip:
             zip_under_strace.install(folder)
         elif not options.full:
             print("faults: SKIPPED: the calls of zip, which need root", file=sys.stderr)

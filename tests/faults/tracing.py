@@ -51,7 +51,7 @@ READ_ERRORS |= _STARTING
 _OPENING = ("open", "openat", "creat")
 _BY_DESCRIPTOR = ("write", "pwrite64", "writev", "read", "pread64", "getdents64", "fstat", "close", "flock", "syncfs",
                   "fsync")
-_CALL = re.compile(r"(?:(\d+) +)?(\w+)\((.*)")
+_CALL = re.compile(r"(\w+)\((.*)")
 
 
 @dataclasses.dataclass(frozen=True)
@@ -136,7 +136,7 @@ def _placed(points):
     """The points, each with its place among those of its name and kind."""
     seen = {}
     for point in points:
-        kind = point.call, point.zip, point.reads
+        kind = point.call, point.reads
         yield dataclasses.replace(point, place=seen.get(kind, 0))
         seen[kind] = seen.get(kind, 0) + 1
 
@@ -159,14 +159,13 @@ _TRACED = "--trace=" + ",".join("?" + name for name in {**ERRORS, **READ_ERRORS}
 
 
 def _points(lines, home, setting="", step=""):
-    """The changing and reading calls of the first process in a log."""
+    """The changing and reading calls in a log."""
     counts, points = {}, []
-    first = _CALL.match(lines[0]).group(1)
     for line in lines:
         match = _CALL.match(line)
-        if not match or match.group(1) != first:
+        if not match:
             continue
-        call, arguments = match.group(2, 3)
+        call, arguments = match.groups()
         number = counts[call] = counts.get(call, 0) + 1
         if setting.startswith(call + ":"):
             continue
@@ -185,7 +184,7 @@ def _run_well(command, home, options=()):
 
 def calls(command, home, setting):
     """The changing and reading calls of Selvane itself, in one run."""
-    return _points(_run_well(command, home, ["-f", _TRACED, *_injections(setting)]).hits, home, setting)
+    return _points(_run_well(command, home, [_TRACED, *_injections(setting)]).hits, home, setting)
 
 
 def calls_of_zip(command, home, step):
