@@ -3,6 +3,7 @@
 
 #include "store/conversations/Conversations.h"
 
+#include <deque>
 #include <limits>
 #include <memory>
 #include <span>
@@ -48,7 +49,6 @@ public:
     }
 
 private:
-    std::vector<Conversation>& rows() { return m_list.conversations; }
     void requireWanted() const {
         if (m_store.progress() != nullptr)
             m_store.progress()->requireWanted();
@@ -69,8 +69,9 @@ private:
     std::vector<Account> m_accounts;
     std::vector<RecordFile> m_records;
     std::vector<std::unique_ptr<TranscriptIndex>> m_transcripts; ///< of each profile
-    std::vector<std::vector<std::size_t>> m_recordsOfRow;        ///< positions in `m_records`
-    std::unordered_map<std::string, std::size_t> m_rowOfTranscript;
+    std::deque<Conversation> m_rows;                             ///< not in order yet; none of them moves
+    std::vector<std::size_t> m_rowOfRecord;                      ///< of each that could be read
+    std::unordered_map<std::string_view, std::size_t> m_rowOfTranscript; ///< by ids that the rows hold
     std::vector<Reading> m_readings;
 };
 
@@ -87,31 +88,32 @@ void Listing::listTranscripts() {
 
 /// One row for each session, however many accounts have it.
 void Listing::joinRecords() {
-    std::unordered_map<std::string_view, std::size_t> rowOfRecord;
+    std::unordered_map<std::string_view, std::size_t> rowOfSession;
+    rowOfSession.reserve(m_records.size());
+    m_rowOfRecord.resize(m_records.size());
     for (std::size_t number = 0; number < m_records.size(); ++number) {
         if (!m_records[number].record)
             continue;
-        const SessionRecord& record = *m_records[number].record;
-        const auto [entry, isNew] = rowOfRecord.emplace(record.sessionId, rows().size());
+        SessionRecord& record = *m_records[number].record;
+        const auto [entry, isNew] = rowOfSession.try_emplace(record.sessionId, m_rows.size());
         if (isNew) {
-            rows().emplace_back();
-            rows().back().recordID = record.sessionId;
-            rows().back().origin = ConversationOrigin::app;
-            m_recordsOfRow.emplace_back();
+            m_rows.emplace_back();
+            m_rows.back().recordID = record.sessionId;
+            m_rows.back().origin = ConversationOrigin::app;
         }
-        Conversation& row = rows()[entry->second];
-        m_recordsOfRow[entry->second].push_back(number);
+        Conversation& row = m_rows[entry->second];
+        m_rowOfRecord[number] = entry->second;
         std::optional<double> activity;
         if (record.lastActivityAt)
             activity = *record.lastActivityAt / 1000.0;
         const bool isLatest = isNew || activity.value_or(kNever) > row.lastActivity.value_or(kNever);
-        std::vector<std::string> ids = record.priorCliSessionIds;
+        std::vector<std::string> ids = std::move(record.priorCliSessionIds);
         if (record.cliSessionId)
-            ids.insert(ids.begin(), *record.cliSessionId);
+            ids.insert(ids.begin(), std::move(*record.cliSessionId));
         if (isLatest) {
-            row.title = record.title.value_or("");
             row.hasGivenTitle = record.title.has_value();
-            row.cwd = record.cwd.value_or("");
+            row.title = std::move(record.title).value_or("");
+            row.cwd = std::move(record.cwd).value_or("");
             row.lastActivity = activity;
             std::swap(ids, row.cliSessionIDs);
         }
@@ -121,13 +123,13 @@ void Listing::joinRecords() {
         }
     }
     // A session may have been continued as two, which then share its transcript as an earlier one.
-    for (std::size_t row = 0; row < rows().size(); ++row) {
-        if (!rows()[row].cliSessionIDs.empty())
-            m_rowOfTranscript.emplace(rows()[row].cliSessionIDs.front(), row);
+    for (std::size_t row = 0; row < m_rows.size(); ++row) {
+        if (!m_rows[row].cliSessionIDs.empty())
+            m_rowOfTranscript.try_emplace(m_rows[row].cliSessionIDs.front(), row);
     }
-    for (std::size_t row = 0; row < rows().size(); ++row) {
-        for (const std::string& id : rows()[row].cliSessionIDs)
-            m_rowOfTranscript.emplace(id, row);
+    for (std::size_t row = 0; row < m_rows.size(); ++row) {
+        for (std::size_t earlier = 1; earlier < m_rows[row].cliSessionIDs.size(); ++earlier)
+            m_rowOfTranscript.try_emplace(m_rows[row].cliSessionIDs[earlier], row);
     }
 }
 
@@ -143,38 +145,39 @@ std::size_t Listing::placeOf(Conversation& row, std::size_t profile) {
 void Listing::placeTranscripts() {
     for (std::size_t profile = 0; profile < m_transcripts.size(); ++profile) {
         m_transcripts[profile]->forEach([&](const std::string& id, const fs::path& folder) {
-            const auto [known, isNew] = m_rowOfTranscript.emplace(id, rows().size());
-            if (isNew)
-                rows().emplace_back().cliSessionIDs = {id};
-            Conversation& row = rows()[known->second];
+            auto known = m_rowOfTranscript.find(id);
+            if (known == m_rowOfTranscript.end()) {
+                m_rows.emplace_back().cliSessionIDs = {id};
+                known = m_rowOfTranscript.emplace(m_rows.back().cliSessionIDs[0], m_rows.size() - 1).first;
+            }
+            Conversation& row = m_rows[known->second];
             row.places[placeOf(row, profile)].transcripts.push_back(folder.native() + "/" + id + ".jsonl");
         });
     }
 }
 
 void Listing::placeRecords() {
-    for (std::size_t number = 0; number < m_recordsOfRow.size(); ++number) {
-        Conversation& row = rows()[number];
-        for (const std::size_t index : m_recordsOfRow[number]) {
-            const RecordFile& file = m_records[index];
-            std::vector<std::size_t> users = m_accounts[file.account].profiles;
-            const std::size_t owner = users.front();
-            std::erase_if(users, [&](std::size_t profile) {
-                return std::ranges::find(row.places, profile, &ConversationPlace::profile) ==
-                       row.places.end();
-            });
-            if (users.empty()) // none of them has a transcript
-                users = {owner};
-            for (const std::size_t profile : users) {
-                ConversationPlace& place = row.places[placeOf(row, profile)];
-                if (!place.record.empty()) // that of the organisation used last counts
-                    continue;
-                place.record = file.path;
-                place.isArchived = file.record->isArchived;
-                place.isInOtherOrganisation = file.isInOtherOrganisation;
-                if (file.record->lastActivityAt)
-                    place.lastActivity = *file.record->lastActivityAt / 1000.0;
-            }
+    for (std::size_t number = 0; number < m_records.size(); ++number) {
+        const RecordFile& file = m_records[number];
+        if (!file.record)
+            continue;
+        Conversation& row = m_rows[m_rowOfRecord[number]];
+        std::vector<std::size_t> users = m_accounts[file.account].profiles;
+        const std::size_t owner = users.front();
+        std::erase_if(users, [&](std::size_t profile) {
+            return std::ranges::find(row.places, profile, &ConversationPlace::profile) == row.places.end();
+        });
+        if (users.empty()) // none of them has a transcript
+            users = {owner};
+        for (const std::size_t profile : users) {
+            ConversationPlace& place = row.places[placeOf(row, profile)];
+            if (!place.record.empty()) // that of the organisation used last counts
+                continue;
+            place.record = file.path;
+            place.isArchived = file.record->isArchived;
+            place.isInOtherOrganisation = file.isInOtherOrganisation;
+            if (file.record->lastActivityAt)
+                place.lastActivity = *file.record->lastActivityAt / 1000.0;
         }
     }
 }
@@ -184,15 +187,15 @@ void Listing::forgetWhatIsPlaced() {
     const auto free = [](auto& container) { std::remove_reference_t<decltype(container)>().swap(container); };
     free(m_records);
     free(m_transcripts);
-    free(m_recordsOfRow);
+    free(m_rowOfRecord);
     free(m_rowOfTranscript);
 }
 
 /// Of transcripts with a record, only the sizes are needed.
 void Listing::readTranscripts() {
-    for (std::size_t row = 0; row < rows().size(); ++row) {
-        for (std::size_t place = 0; place < rows()[row].places.size(); ++place) {
-            if (!rows()[row].places[place].transcripts.empty())
+    for (std::size_t row = 0; row < m_rows.size(); ++row) {
+        for (std::size_t place = 0; place < m_rows[row].places.size(); ++place) {
+            if (!m_rows[row].places[place].transcripts.empty())
                 m_readings.push_back({row, place, {}});
         }
     }
@@ -200,7 +203,7 @@ void Listing::readTranscripts() {
         return [this, ends = std::make_shared<TranscriptEnds>()](std::size_t number) {
             requireWanted();
             Reading& reading = m_readings[number];
-            Conversation& row = rows()[reading.row];
+            Conversation& row = m_rows[reading.row];
             ConversationPlace& place = row.places[reading.place];
             const auto rank = [&](const std::string& path) { // the latest session's first
                 const std::string id = fs::path(path).stem();
@@ -238,7 +241,7 @@ void Listing::completeTerminal(Conversation& row, const TranscriptSummary& lates
 void Listing::complete() {
     const auto activity = [](const auto& of) { return of.lastActivity.value_or(kNever); };
     for (const Reading& reading : m_readings) {
-        Conversation& row = rows()[reading.row];
+        Conversation& row = m_rows[reading.row];
         const bool isLatest = activity(row.places[reading.place]) > activity(row);
         if (isLatest)
             row.lastActivity = row.places[reading.place].lastActivity;
@@ -250,7 +253,7 @@ void Listing::complete() {
             return b.transcripts.empty();
         return activity(a) != activity(b) ? activity(a) > activity(b) : a.profile < b.profile;
     };
-    for (Conversation& row : rows()) {
+    for (Conversation& row : m_rows) {
         std::ranges::sort(row.places, isFurther);
         if (text::trimmed(row.title).empty()) {
             row.title = "Senza titolo";
@@ -259,17 +262,17 @@ void Listing::complete() {
     }
     // Not the conversations themselves, which are large.
     std::vector<std::pair<double, std::size_t>> order;
-    for (std::size_t row = 0; row < rows().size(); ++row)
-        order.emplace_back(activity(rows()[row]), row);
+    for (std::size_t row = 0; row < m_rows.size(); ++row)
+        order.emplace_back(activity(m_rows[row]), row);
     std::ranges::sort(order, [&](const auto& a, const auto& b) {
         return a.first != b.first ? a.first > b.first
-                                  : rows()[a.second].cliSessionIDs < rows()[b.second].cliSessionIDs;
+                                  : m_rows[a.second].cliSessionIDs < m_rows[b.second].cliSessionIDs;
     });
     std::vector<Conversation> sorted;
-    sorted.reserve(rows().size());
+    sorted.reserve(m_rows.size());
     for (const auto& [time, row] : order)
-        sorted.push_back(std::move(rows()[row]));
-    rows() = std::move(sorted);
+        sorted.push_back(std::move(m_rows[row]));
+    m_list.conversations = std::move(sorted);
 }
 
 } // namespace
