@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Selvane developers
 # SPDX-License-Identifier: MIT
 """What script/bench runs: compare.py BINARIES WORK-FOLDER [--rounds N] [--no-growth] [--write FILE]
-[--fresh COMMAND] [LINE...]"""
+[--fresh COMMAND] [LINE...]; COMMAND makes WORK-FOLDER/fresh an empty file system."""
 
 import argparse
 import contextlib
@@ -10,6 +10,7 @@ import itertools
 import os
 import re
 import shlex
+import shutil
 import statistics
 import subprocess
 import sys
@@ -59,6 +60,7 @@ class Group:
     growth_fill: Callable = None  # for growth; none without it
     growth_unit: str = ""  # if it is a different one
     around: Callable = field(default=lambda size: contextlib.nullcontext())
+    removes: bool = False  # many files, each time
 
 
 class Failure(Exception):
@@ -67,7 +69,8 @@ class Failure(Exception):
 
 class Runner:
     def __init__(self, work_folder):
-        self.asides = (f"{work_folder}/a{number}" for number in itertools.count())
+        self.aside = work_folder
+        self.asides = itertools.count()
         self.errors = f"{work_folder}/errors"
         self.report = f"{work_folder}/memory"
         self.environment = {"PATH": "/usr/bin:/bin", "LC_ALL": "C.UTF-8"}
@@ -77,10 +80,11 @@ class Runner:
         that would be measured too. Also waits for pending writes, which would slow the next run down."""
         for path in paths:
             if os.path.lexists(path):
-                os.rename(path, next(self.asides))
+                os.rename(path, f"{self.aside}/a{next(self.asides)}")
         os.sync()
 
     def enter(self, home):
+        self.aside = os.path.dirname(home)
         self.environment["HOME"] = home
         self.environment["XDG_RUNTIME_DIR"] = home
         os.chdir(home)
@@ -318,7 +322,7 @@ def groups(programs):
         Group(lambda home, size: homes.linked_files(home, size, size * 53_687), 20_000, "files of 54 KB, linked", [
             Line("separate", "`set-mode skills=separate`", "`cp -aL`, then `sync -f`", 0.65, programs.separate,
                  programs.copy_through_links, rounds=5, grows=False),
-        ]),
+        ], removes=True),
         Group(lambda home, size: homes.sessions(home, size, 60_000, 1000), 5000, "records of 60 KB", [
             Line("sessions", "`sessions`", "`cat` of the records", 1.5,
                  command("sessions", "default"), programs.cat(".config/Claude", "local_*.json"), rounds=15,
@@ -333,9 +337,9 @@ def groups(programs):
            growth_unit="sessions of 6 KB, transcripts of 16 KB"),
         Group(homes.conversations, 20_000, "conversations, transcripts of 54 KB", [
             Line("conversations", "the list of conversations", "`cat` of the records and transcripts", 1.0,
-                 programs.conversations, programs.cat_conversations, rounds=9),
+                 programs.conversations, programs.cat_conversations, rounds=9, other_grows=True),
             Line("text-search", "a search in 1 GB of transcripts", "`grep -rF`", 1.0, programs.text_search,
-                 programs.grep, rounds=9),
+                 programs.grep, rounds=9, other_grows=True),
         ], growth_fill=lambda home, size: homes.conversations(home, size, 4000),
            growth_unit="conversations, transcripts of 4 KB"),
         Group(lambda home, size: homes.bare(home), 1500, "processes", [
@@ -356,33 +360,49 @@ class Bench:
         self.options = options
         self.runner = Runner(options.folder)
         self.groups = groups(Programs(options.binaries, self.runner))
-        self.homes = itertools.count()
+        self.folders = []
         self.results, self.growth, self.memory = [], [], []
 
     def run(self):
         for group in self.groups:
             group.lines = [line for line in group.lines if not self.options.line or line.key in self.options.line]
-            if not group.lines:
-                continue
             group.size = max(round(group.size * self.options.scale), 1)
-            with self.home(group, group.fill, group.size) as home:
+        self.groups = [group for group in self.groups if group.lines]
+        for group in self.groups:
+            folder = self.new_disk() if group.removes else self.new_folder()
+            with self.home(group, group.fill, group.size, folder) as home:
                 for line in group.lines:
                     self.compare(group, line, home)
+        if self.options.fresh:  # what is removed slows the disk down, but not a new file system
+            for folder in self.folders:
+                shutil.rmtree(folder)
+        for group in self.groups:
             if self.options.growth and group.growth_fill:
                 self.grow(group)
 
+    def new_folder(self):
+        self.folders.append(f"{self.options.folder}/h{len(self.folders)}")
+        os.mkdir(self.folders[-1])
+        return self.folders[-1]
+
+    def new_disk(self):
+        """A new file system, if there are any. It lies in a file, which takes processor time as well, from programs
+        that use all processors most of all."""
+        if not self.options.fresh:
+            return self.new_folder()
+        subprocess.run(shlex.split(self.options.fresh), check=True)
+        return f"{self.options.folder}/fresh"
+
     @contextlib.contextmanager
-    def home(self, group, fill, size):
-        if self.options.fresh:
-            os.chdir("/")  # out of the last one
-            subprocess.run(shlex.split(self.options.fresh), check=True)
-        home = f"{self.options.folder}/h{next(self.homes)}"
+    def home(self, group, fill, size, folder):
+        home = f"{folder}/home"
         os.mkdir(home)
         fill(home, size)
         os.sync()
         self.runner.enter(home)
         with group.around(size):
             yield home
+        os.chdir("/")
 
     def compare(self, group, line, home):
         works = [line.ours(home), line.other(home)]
@@ -405,7 +425,7 @@ class Bench:
         costs = {line.key: ([], []) for line in lines}
         for factor in FACTORS:
             size = group.size * factor
-            with self.home(group, group.growth_fill, size) as home:
+            with self.home(group, group.growth_fill, size, self.new_disk()) as home:
                 for line in lines:
                     work = line.ours(home)
                     peak = self.runner.peak_memory(work)
@@ -540,7 +560,7 @@ def main():
     parser.add_argument("--scale", type=float, default=1.0)
     parser.add_argument("--no-growth", dest="growth", action="store_false")
     parser.add_argument("--write")
-    parser.add_argument("--fresh")  # a command that makes the folder an empty file system
+    parser.add_argument("--fresh")
     parser.add_argument("line", nargs="*")
     options = parser.parse_intermixed_args()
     bench = Bench(options)
