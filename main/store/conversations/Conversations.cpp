@@ -70,7 +70,7 @@ private:
     std::vector<RecordFile> m_records;
     std::vector<std::unique_ptr<TranscriptIndex>> m_transcripts; ///< of each profile
     std::deque<Conversation> m_rows;                             ///< not in order yet; none of them moves
-    std::vector<std::size_t> m_rowOfRecord;                      ///< of each that could be read
+    std::vector<std::size_t> m_rowOfRecord;                      ///< of each in `m_records` that was read
     std::unordered_map<std::string_view, std::size_t> m_rowOfTranscript; ///< by ids that the rows hold
     std::vector<Reading> m_readings;
 };
