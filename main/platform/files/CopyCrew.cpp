@@ -190,8 +190,7 @@ CopyFailure CopyCrew::copyFile(const FileToCopy& file, ContentCopier& contents) 
     using Side = CopyFailure::Side;
     if (m_progress != nullptr && m_progress->isCancelled())
         return {ECANCELED, Side::from};
-    // O_NONBLOCK: a file may have become a FIFO since it was listed.
-    const Descriptor from(::openat(file.source, file.from, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    const Descriptor from = openOriginal(file.source, file.from);
     struct stat status = {};
     if (!from || ::fstat(from.get(), &status) != 0)
         return {errno, Side::from};

@@ -11,10 +11,15 @@
 #include <optional>
 #include <sys/stat.h>
 
+#include "platform/files/Descriptor.h"
 #include "platform/files/FileManager.h"
 
 /// What the file manager needs from the system beyond POSIX.
 namespace selvane::files {
+
+/// Opens a file to copy it: without following a link, waiting for a FIFO or, where the system allows that,
+/// counting as a reader. Returns nothing, with errno, on failure.
+Descriptor openOriginal(int folder, const char* name);
 
 /// Copies the user's extended attributes and the access lists from one open file to another. Returns the bits
 /// of `mode` that still mean at `to` what they mean at `from`, or nothing, with errno, on failure. A file

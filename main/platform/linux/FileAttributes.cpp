@@ -51,6 +51,14 @@ int copyAttribute(int from, int to, const char* name) {
 
 } // namespace
 
+Descriptor openOriginal(int folder, const char* name) {
+    constexpr int kFlags = O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
+    Descriptor file(::openat(folder, name, kFlags | O_NOATIME));
+    if (!file && errno == EPERM) // it is somebody else's
+        file = Descriptor(::openat(folder, name, kFlags));
+    return file;
+}
+
 std::optional<mode_t> copyAttributes(int from, int to, mode_t mode, Privacy privacy) {
     if (privacy == Privacy::ownerOnly)
         mode &= S_IRWXU; // this also limits an access list: its entries get at most the group's bits

@@ -56,6 +56,10 @@ int makeSocket(int folder, const char* name) {
 
 } // namespace
 
+Descriptor openOriginal(int folder, const char* name) {
+    return Descriptor(::openat(folder, name, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+}
+
 std::optional<mode_t> copyAttributes(int from, int to, mode_t mode, Privacy privacy) {
     if (::fcopyfile(from, to, nullptr, COPYFILE_XATTR) != 0 && !isUnsupported(errno))
         return std::nullopt;
