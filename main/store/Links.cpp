@@ -22,20 +22,15 @@ std::string reportLine(Component component, const std::string& item) {
     return std::string(title(component)) + ": " + item;
 }
 
-struct SharedItem {
-    std::string name;
-    std::string target; ///< what the link leads to, below the source's folder
-};
-
-/// The links in `own` to something below `origin`, the source's folder of the same component.
-std::vector<SharedItem> sharedItems(const ItemListing& own, std::string_view origin) {
-    std::vector<SharedItem> shared;
+/// Calls `use` with the name and the text of each link in `own` to something below `origin`, the source's
+/// folder of the same component.
+template <typename Use>
+void forEachShared(const ItemListing& own, std::string_view origin, Use use) {
     for (const FolderEntry& entry : own.entries) {
         const auto target = entry.isLink ? own.folder->linkTarget(entry.name) : std::nullopt;
         if (target && target->starts_with(origin))
-            shared.push_back({entry.name, target->substr(origin.size())});
+            use(entry.name, *target);
     }
-    return shared;
 }
 
 /// The dangling links among those into `origin`, which `offered` lists.
@@ -47,10 +42,10 @@ std::vector<std::string> brokenLinks(const ItemListing& own, const ItemListing& 
             there.insert(entry.name);
     }
     std::vector<std::string> broken;
-    for (const auto& [name, target] : sharedItems(own, origin)) {
-        if (!there.contains(target) && !own.folder->isPresent(name))
+    forEachShared(own, origin, [&](const std::string& name, std::string_view target) {
+        if (!there.contains(target.substr(origin.size())) && !own.folder->isPresent(name))
             broken.push_back(name);
-    }
+    });
     return broken;
 }
 
@@ -73,14 +68,6 @@ std::vector<std::string> missingItems(const ItemListing& own, const ItemListing&
             missing.push_back(entry.name);
     }
     return missing;
-}
-
-/// What a link to `target` leads to in the end; nothing if it dangles.
-std::optional<fs::path> contentOf(const fs::path& link, const std::string& target) {
-    const FileManager files;
-    if (files.isRegularFile(target)) // by far most, and nothing else needs to be resolved for them
-        return target;
-    return files.isPresent(link) ? std::optional(files.resolved(link)) : std::nullopt;
 }
 
 void record(ShareMode mode, Component component, Profile& profile) {
@@ -179,23 +166,22 @@ void ProfileStore::setCollectionMode(ShareMode mode, Component component, Profil
     FileBatch batch(profile.configDir, m_progress, changes());
     const std::string origin = source.url(component).native() + "/";
     const ItemListing own(component, profile.url(component));
-    const auto shared = sharedItems(own, origin);
-    if (mode == ShareMode::separate) {
-        for (const auto& [name, target] : shared)
-            announce(origin + target);
-    }
-    for (const auto& [name, target] : shared) {
+    if (mode == ShareMode::separate && m_progress != nullptr)
+        forEachShared(own, origin, [&](const std::string&, const std::string& target) { announce(target); });
+    forEachShared(own, origin, [&](const std::string& name, const std::string& target) {
         const fs::path link = profile.url(component) / name;
         if (mode == ShareMode::none) {
             if (own.folder->removeLink(name) && m_reversal != nullptr)
-                m_reversal->files.add(link, files::LinkText{origin + target}, files::Nothing{});
-        } else if (const auto content = contentOf(link, origin + target)) {
-            batch.copyOverLink(*content, link);
+                m_reversal->files.add(link, files::LinkText{target}, files::Nothing{});
+        } else if (m_files.isRegularFile(target)) { // by far most, and nothing needs to be resolved for them
+            batch.copyFileOverLink(target, link);
+        } else if (m_files.isPresent(link)) {
+            batch.copyOverLink(m_files.resolved(link), link);
         } else if (!isReachable(source)) { // or there is nothing to copy, and it may lead somewhere again
             throw fs::filesystem_error("look up", source.configDir,
                                        std::make_error_code(std::errc::no_such_file_or_directory));
         }
-    }
+    });
     if (mode == ShareMode::separate && profile.mode(component) == ShareMode::none)
         copyMissing(component, profile, source, batch);
     batch.finish();

@@ -59,15 +59,24 @@ void FileBatch::copyOverLink(const std::filesystem::path& from, const std::files
     copyAs(Replaces::link, from, link, Privacy::inherited);
 }
 
+void FileBatch::copyFileOverLink(const std::filesystem::path& from, const std::filesystem::path& link) {
+    copyAs(Replaces::link, from, true, link, Privacy::inherited);
+}
+
 void FileBatch::copyAs(Replaces kind, const std::filesystem::path& from, const std::filesystem::path& to,
                        Privacy privacy) {
     struct stat status = {};
     const bool isKnown = ::lstat(from.c_str(), &status) == 0;
     if (isKnown && S_ISDIR(status.st_mode))
         files::requireOutside("copy", from, to);
+    copyAs(kind, from, isKnown && S_ISREG(status.st_mode), to, privacy);
+}
+
+void FileBatch::copyAs(Replaces kind, const std::filesystem::path& from, bool isFile,
+                       const std::filesystem::path& to, Privacy privacy) {
     const std::filesystem::path temporary = addNew(to, kind);
     try {
-        if (isKnown && S_ISREG(status.st_mode))
+        if (isFile)
             m_copier.copyFile(from, temporary, to, privacy);
         else
             m_copier.copy(from, temporary, to, privacy);
@@ -133,11 +142,25 @@ FileBatch::Entry& FileBatch::add(const std::filesystem::path& target, Replaces k
 std::filesystem::path FileBatch::addNew(const std::filesystem::path& target, Replaces kind) {
     Entry& entry = add(target, kind);
     Folder& folder = *entry.folder;
-    // Each round has a folder of its own: its files get their names while those of the next are made.
-    std::filesystem::path& temporary = folder.isElsewhere ? folder.temporary : m_open->temporary;
-    if (temporary.empty())
-        temporary = makeTemporary(folder.isElsewhere ? folder.path : m_folder, target);
+    if (folder.isElsewhere && folder.temporary.empty())
+        folder.temporary = makeTemporary(folder.path, target);
+    const std::filesystem::path& temporary = folder.isElsewhere ? folder.temporary : partOfRound(target);
     return entry.temporary = temporary / std::to_string(m_count);
+}
+
+/// Each round has a folder of its own: its files get their names while those of the next are made. It is
+/// divided, because looking up one name among many takes longer.
+const std::filesystem::path& FileBatch::partOfRound(const std::filesystem::path& target) {
+    Round& round = *m_open;
+    if (round.temporary.empty())
+        round.part = round.temporary = makeTemporary(m_folder, target);
+    if (++round.inPart > Round::kMostInPart) {
+        round.part = round.temporary / ("part-" + std::to_string(m_count));
+        round.inPart = 1;
+        if (::mkdir(round.part.c_str(), S_IRWXU) != 0)
+            fail("create", target, errno);
+    }
+    return round.part;
 }
 
 FileBatch::Folder& FileBatch::folderAt(const std::filesystem::path& path) {

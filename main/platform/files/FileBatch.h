@@ -48,6 +48,8 @@ public:
               Privacy privacy = Privacy::inherited);
     /// The same in the place of the symbolic link at `link`. `finish` fails if it is no longer a link.
     void copyOverLink(const std::filesystem::path& from, const std::filesystem::path& link);
+    /// The same for what is certainly a file; fails if it isn't one by then.
+    void copyFileOverLink(const std::filesystem::path& from, const std::filesystem::path& link);
     /// Writes what `make` returns, which may be called in another thread. Replaces what is at `file`, unless
     /// it is a folder. The new file has the mode 0600 if `ownerOnly`, else 0644 less the creation mask.
     /// `finish` throws what `make` throws.
@@ -76,9 +78,12 @@ private:
 
     void copyAs(files::Replaces kind, const std::filesystem::path& from, const std::filesystem::path& to,
                 Privacy privacy);
+    void copyAs(files::Replaces kind, const std::filesystem::path& from, bool isFile,
+                const std::filesystem::path& to, Privacy privacy);
     Entry& add(const std::filesystem::path& target, files::Replaces kind);
     /// The same; returns where to make what will be at `target`.
     std::filesystem::path addNew(const std::filesystem::path& target, files::Replaces kind);
+    const std::filesystem::path& partOfRound(const std::filesystem::path& target);
     Folder& folderAt(const std::filesystem::path& path);
     std::filesystem::path makeTemporary(const std::filesystem::path& in, const std::filesystem::path& target);
     void writeNew(const std::filesystem::path& temporary, const std::filesystem::path& target,

@@ -18,9 +18,12 @@ namespace selvane {
 struct FileBatch::Round {
     /// So many entries at most. Waiting for so many costs little beside writing them.
     static constexpr std::size_t kMost = 1024;
+    static constexpr std::size_t kMostInPart = 64;
 
     std::vector<Entry> entries;
     std::filesystem::path temporary; ///< the folder that they are made in
+    std::filesystem::path part;      ///< what gets the next of them: that folder, or one inside it
+    std::size_t inPart = 0;
     std::atomic<bool> isCopied = false;
     std::shared_ptr<void> copying; ///< kept by all that is still to be copied; sets that when nobody is left
 
