@@ -15,8 +15,10 @@ constexpr int kFilesWithoutThreads = 64;
 /// So many files wait at most if each can keep two folders open, and if it can't.
 constexpr std::size_t kMostInFolders = 32;
 constexpr std::size_t kMostWaiting = 1024;
-/// The caller included; one of them mostly waits for the disk. More don't pay: they only wait for each other.
+/// The caller included. More don't pay: they only wait for each other.
 constexpr unsigned kMostThreads = 4;
+/// So many of them wait for the disk when it is busy: one for what is written, one to begin to write more.
+constexpr unsigned kWaiting = 2;
 
 } // namespace
 
@@ -56,7 +58,7 @@ bool CopyCrew::takesFiles() {
         return true;
     if (++m_files <= kFilesWithoutThreads)
         return false;
-    const unsigned threads = std::clamp(std::thread::hardware_concurrency() + 1, 2U, kMostThreads);
+    const unsigned threads = std::clamp(std::thread::hardware_concurrency() + kWaiting, 2U, kMostThreads);
     try {
         while (m_threads.size() + 1 < threads)
             m_threads.emplace_back([this] { work(); });

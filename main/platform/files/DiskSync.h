@@ -60,9 +60,9 @@ int syncAllWith(const std::filesystem::path& folder);
 int syncOne(int file);
 /// Whether `startWriting` and `syncTogether` can take its place in the file system of an open file.
 bool canSyncTogether(int file);
-/// Lets the system write an open file. Returns 0 or the error.
+/// Lets the system write an open file, now or at the latest in `syncTogether`. Returns 0 or the error.
 int startWriting(int file);
-/// Waits for every file of the same file system whose writing was started. Returns 0 or the error.
+/// Waits for every file of the same file system that the system was let write. Returns 0 or the error.
 int syncTogether(int file);
 
 } // namespace selvane::files
